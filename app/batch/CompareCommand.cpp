@@ -1,0 +1,89 @@
+#include "app/batch/CompareCommand.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <iostream>
+#include <memory>
+#include <unistd.h>
+#include <utility>
+
+#include "app/batch/CsvCompare.h"
+#include "app/batch/JsonCompare.h"
+
+namespace Ledgrove {
+
+namespace {
+
+/// A file descriptor to read from, closed at the end unless it is standard input's.
+class InputFile {
+public:
+    explicit InputFile(const std::string& name)
+        : m_descriptor(name == "-" ? STDIN_FILENO : ::open(name.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    ~InputFile() {
+        if (m_descriptor > STDIN_FILENO)
+            ::close(m_descriptor);
+    }
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    int Descriptor() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+void ReportUnreadable(const std::string& name, const std::string& reason) {
+    std::cerr << "ledgrove-cli: " << (name == "-" ? "standard input" : name) << " cannot be read (" << reason
+              << "). Name a file with the homes to compare.\n";
+}
+
+std::unique_ptr<ComparisonReader> MakeReader(CompareFormat format, Comparison& comparison) {
+    switch (format) {
+    case CompareFormat::JsonLines:
+        return std::make_unique<JsonLinesReader>(comparison);
+    case CompareFormat::Csv:
+        return std::make_unique<CsvReader>(comparison);
+    case CompareFormat::Json:
+        return std::make_unique<JsonReader>(comparison, JsonReader::Result::Json);
+    case CompareFormat::Text:
+        break;
+    }
+    return std::make_unique<JsonReader>(comparison, JsonReader::Result::Table);
+}
+
+int ReadFile(const std::string& name, ComparisonReader& reader, OutputBuffer& output) {
+    const InputFile file(name);
+    if (file.Descriptor() < 0) {
+        ReportUnreadable(name, std::strerror(errno));
+        return CannotRun;
+    }
+    LineReader lines(file.Descriptor(), [&output] { output.Flush(); });
+    const bool allWell = reader.Read(lines, output);
+    if (!lines.Failure().empty()) {
+        ReportUnreadable(name, lines.Failure());
+        return CannotRun;
+    }
+    return allWell ? AllWell : SomeRefused;
+}
+
+} // namespace
+
+int RunCompare(const CompareRequest& request, Session start) {
+    Comparison comparison(std::move(start));
+    OutputBuffer output(STDOUT_FILENO);
+    int status = AllWell;
+    for (const std::string& name : request.Files.empty() ? std::vector<std::string>{"-"} : request.Files) {
+        const auto reader = MakeReader(request.Format, comparison);
+        status = std::max(status, ReadFile(name, *reader, output));
+    }
+    output.Flush();
+    if (!output.Failure().empty()) {
+        std::cerr << "ledgrove-cli: the results could not be written (" << output.Failure()
+                  << "). Free some space or choose another place for them.\n";
+        return CannotRun;
+    }
+    return status;
+}
+
+} // namespace Ledgrove

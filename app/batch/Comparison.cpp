@@ -1,0 +1,119 @@
+#include "app/batch/Comparison.h"
+
+#include <utility>
+
+#include "engine/Recalculate.h"
+#include "ui/DataCheck.h"
+#include "ui/Entry.h"
+#include "ui/MainScreenRules.h"
+
+namespace Ledgrove {
+
+namespace {
+
+Refusal Refuse(std::string_view control, const InputValue& value, std::string message) {
+    return {0, std::string(control), value.Text, std::move(message)};
+}
+
+Refusal UnknownItem(std::string_view control, const InputValue& value, const PickList& list) {
+    std::string message = "This is not in the list. Choose one of ";
+    for (const PickItem& item : list.Items) {
+        if (&item != &list.Items.front())
+            message += ", ";
+        message.append("\"").append(item.Text).append("\"");
+    }
+    return Refuse(control, value, message + ".");
+}
+
+std::optional<Refusal> EnterDownPayment(Session& session, const InputValue& value) {
+    if (!value.Present)
+        return std::nullopt;
+    if (value.Text != "0" && value.Text != "1")
+        return Refuse("optDownPayment", value, "This must be 0 (percent down) or 1 (fixed amount).");
+    Module1::SetDownPayment(session, value.Text == "1" ? 1 : 0);
+    return std::nullopt;
+}
+
+std::optional<Refusal> EnterField(Session& session, const EntryRule& rule, const InputValue& value) {
+    if (!value.Present)
+        return std::nullopt;
+    if (value.Kind == InputKind::Boolean)
+        return Refuse(rule.Name, value, "You must enter a number here.");
+    const std::string_view typed = value.Text.empty() ? "0" : std::string_view(value.Text);
+    if (auto complaint = Module1::FieldComplaint(typed, rule.Format); !complaint.empty())
+        return Refuse(rule.Name, value, std::move(complaint));
+    Module1::SetFieldText(session, session.Screen.*rule.Member, Module1::FormatFieldText(typed, rule.Format));
+    return std::nullopt;
+}
+
+std::optional<Refusal> EnterTaxes(MainScreen& screen, const InputValue& value) {
+    if (!value.Present)
+        return std::nullopt;
+    if (value.Text != "true" && value.Text != "false")
+        return Refuse("chkDoTax0", value, "This must be true or false.");
+    screen.chkDoTax0 = value.Text == "true";
+    return std::nullopt;
+}
+
+} // namespace
+
+Comparison::Comparison(Session start)
+    : m_start(std::move(start))
+    , m_state(m_start) {}
+
+void Comparison::Reset() {
+    // The tables stay as they are: no comparison changes them.
+    m_state.Screen = m_start.Screen;
+    m_state.Scenario = m_start.Scenario;
+    m_state.StdCase = m_start.StdCase;
+    m_state.GMHCase = m_start.GMHCase;
+    m_host.Clear();
+}
+
+std::optional<Refusal> Comparison::EnterFields(const InputRecord& inputs) {
+    for (const EntryRule& rule : MainEntryRules()) {
+        // The down payment option stands before its two fields.
+        if (rule.Member == &MainScreen::ecPctDown)
+            if (auto refusal = EnterDownPayment(m_state, inputs.At("optDownPayment")))
+                return refusal;
+        if (auto refusal = EnterField(m_state, rule, inputs.At(rule.Name)))
+            return refusal;
+    }
+    Module1::ConvertPercentDown(m_state);
+    return std::nullopt;
+}
+
+std::optional<Refusal> Comparison::PickOptions(const InputRecord& inputs) {
+    MainScreen& screen = m_state.Screen;
+    const InputValue& base = inputs.At("cboStdMortOption");
+    if (base.Present && !Module1::SetBaseOption(screen, base.Text))
+        return UnknownItem("cboStdMortOption", base, screen.cboStdMortOption);
+    const InputValue& labelled = inputs.At("cboGMHMortOption");
+    if (labelled.Present) {
+        if (!Module1::SetLabelledOption(m_state, labelled.Text))
+            return UnknownItem("cboGMHMortOption", labelled, screen.cboGMHMortOption);
+        if (const auto message = Module1::OptionMessage(labelled.Text))
+            m_host.ShowMessage(*message);
+    }
+    const InputValue& term = inputs.At("cboMortTerm");
+    if (term.Present && !Module1::SetTerm(m_state, term.Text))
+        return UnknownItem("cboMortTerm", term, screen.cboMortTerm);
+    return std::nullopt;
+}
+
+std::optional<Refusal> Comparison::Run(const InputRecord& inputs) {
+    Reset();
+    if (auto refusal = EnterFields(inputs))
+        return refusal;
+    if (auto refusal = PickOptions(inputs))
+        return refusal;
+    if (auto refusal = EnterTaxes(m_state.Screen, inputs.At("chkDoTax0")))
+        return refusal;
+    m_state.Scenario.EEMNoticeFlag = true;
+    Module1::Recalculate(m_state, m_host);
+    Module1::RefreshFeatureCaptions(m_state);
+    m_dataCheck = Module1::DataCheckText(m_state.Screen);
+    return std::nullopt;
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,212 @@
+#include "app/batch/CsvCompare.h"
+
+#include <csv.h>
+
+#include "engine/NumberText.h"
+
+namespace Ledgrove {
+
+namespace {
+
+struct ResultColumn {
+    std::string_view Name;
+    float (*Value)(const Session&);
+};
+
+#define LEDGROVE_COLUMN(record, name)                                                                        \
+    {                                                                                                        \
+#record "." #name, [](const Session& session) { return session.record.name; }                        \
+    }
+
+constexpr ResultColumn resultColumns[] = {
+    LEDGROVE_COLUMN(StdCase, DownPayment),
+    LEDGROVE_COLUMN(StdCase, LoanAmount),
+    LEDGROVE_COLUMN(StdCase, MortPayment),
+    LEDGROVE_COLUMN(StdCase, PITI),
+    LEDGROVE_COLUMN(StdCase, PITIU),
+    LEDGROVE_COLUMN(StdCase, MaxPayment),
+    LEDGROVE_COLUMN(StdCase, MaxLoan),
+    LEDGROVE_COLUMN(GMHCase, DownPayment),
+    LEDGROVE_COLUMN(GMHCase, LoanAmount),
+    LEDGROVE_COLUMN(GMHCase, MortPayment),
+    LEDGROVE_COLUMN(GMHCase, PITI),
+    LEDGROVE_COLUMN(GMHCase, PITIU),
+    LEDGROVE_COLUMN(GMHCase, MaxPayment),
+    LEDGROVE_COLUMN(GMHCase, MaxLoan),
+    LEDGROVE_COLUMN(GMHCase, PVSavings),
+    LEDGROVE_COLUMN(Scenario, MortgageSavings),
+    LEDGROVE_COLUMN(Scenario, UtilitySavings),
+    LEDGROVE_COLUMN(Scenario, ShownTaxSavings),
+    LEDGROVE_COLUMN(Scenario, NetMonthlyCashFlow),
+    LEDGROVE_COLUMN(Scenario, ExtraCashToday),
+    LEDGROVE_COLUMN(Scenario, PVNetCashFlow),
+    LEDGROVE_COLUMN(Scenario, SavingsAfter7Years),
+    LEDGROVE_COLUMN(Scenario, SavingsAfterYearsInHome),
+    LEDGROVE_COLUMN(Scenario, SavingsAfter30Years),
+};
+
+#undef LEDGROVE_COLUMN
+
+// Texts that follow the figures.
+constexpr std::string_view lblStdQualColumn = "lblStdQual";
+constexpr std::string_view lblGMHQualColumn = "lblGMHQual";
+constexpr std::string_view errorColumn = "error";
+constexpr std::size_t columnsBehindInputs = std::size(resultColumns) + 3;
+
+bool LooksLikeFormula(std::string_view cell) {
+    return !cell.empty() && std::string_view("=+-@\t\r").find(cell.front()) != std::string_view::npos &&
+           !Module1::ReadNumber(cell);
+}
+
+void AppendHeading(std::string& out, const std::vector<std::string>& heading) {
+    for (const std::string& name : heading) {
+        AppendCsvCell(out, name);
+        out += ',';
+    }
+    for (const ResultColumn& column : resultColumns)
+        out.append(column.Name).append(",");
+    out.append(lblStdQualColumn)
+        .append(",")
+        .append(lblGMHQualColumn)
+        .append(",")
+        .append(errorColumn)
+        .append("\n");
+}
+
+void AppendResults(std::string& out, const Session& session) {
+    for (const ResultColumn& column : resultColumns) {
+        out += Module1::FormatPicture(column.Value(session), "0.00");
+        out += ',';
+    }
+    out.append(session.Screen.lblStdQual.Text).append(",").append(session.Screen.lblGMHQual.Text).append(",");
+}
+
+/// Empty results and the reason in the last column.
+void AppendRefusal(std::string& out, const Refusal& refusal) {
+    out.append(columnsBehindInputs - 1, ',');
+    const std::string control = refusal.Control.empty() ? "" : refusal.Control + ": ";
+    AppendCsvCell(out, "Line " + std::to_string(refusal.Line) + ": " + control + refusal.Message);
+}
+
+std::string CapitalOff(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return lower;
+}
+
+} // namespace
+
+void AppendCsvCell(std::string& out, std::string_view cell) {
+    const std::string defused = LooksLikeFormula(cell) ? "'" + std::string(cell) : std::string(cell);
+    if (defused.find_first_of(",\"\r\n") == std::string::npos) {
+        out += defused;
+        return;
+    }
+    out += '"';
+    for (const char c : defused) {
+        if (c == '"')
+            out += '"';
+        out += c;
+    }
+    out += '"';
+}
+
+std::optional<Refusal> CsvReader::Compare() {
+    m_inputs.Clear();
+    if (m_row.size() > m_heading.size())
+        return Refusal{m_rowLine, "", "", "The row has more cells than the heading row."};
+    for (std::size_t column = 0; column < m_row.size(); ++column) {
+        InputValue* value = m_inputs.Find(m_heading[column]);
+        if (!value)
+            return AtLine(UnknownInput(m_heading[column], m_row[column]));
+        if (m_row[column].empty())
+            continue;
+        value->Present = true;
+        value->Kind = InputKind::Text;
+        // Spreadsheets write TRUE and FALSE.
+        value->Text = m_heading[column] == "chkDoTax0" ? CapitalOff(m_row[column]) : m_row[column];
+    }
+    auto refusal = m_comparison.Run(m_inputs);
+    return refusal ? AtLine(*std::move(refusal)) : refusal;
+}
+
+Refusal CsvReader::AtLine(Refusal refusal) const {
+    refusal.Line = m_rowLine;
+    return refusal;
+}
+
+void CsvReader::TakeRow(OutputBuffer& output) {
+    std::string& out = output.Text();
+    if (!m_headingRead) {
+        m_headingRead = true;
+        m_heading = std::move(m_row);
+        AppendHeading(out, m_heading);
+    } else {
+        const auto refusal = Compare();
+        m_row.resize(std::max(m_row.size(), m_heading.size()));
+        for (const std::string& cell : m_row) {
+            AppendCsvCell(out, cell);
+            out += ',';
+        }
+        if (refusal)
+            AppendRefusal(out, *refusal);
+        else
+            AppendResults(out, m_comparison.State());
+        m_allWell = m_allWell && !refusal;
+        out += '\n';
+    }
+    m_row.clear();
+    output.Commit();
+}
+
+void CsvReader::TakeLongRow(OutputBuffer& output) {
+    output.Text().append(m_heading.size(), ',');
+    AppendRefusal(output.Text(),
+                  {m_rowLine, "", "",
+                   "The row is longer than 1 MiB. Close its quotes and run the list again from here."});
+    output.Text() += '\n';
+    m_allWell = false;
+}
+
+bool CsvReader::Read(LineReader& lines, OutputBuffer& output) {
+    struct Parsing {
+        CsvReader& Reader;
+        OutputBuffer& Output;
+        std::size_t Held = 0; ///< bytes of the row being read, over all its lines
+    } parsing{*this, output};
+    const auto takeCell = [](void* text, std::size_t size, void* data) {
+        static_cast<Parsing*>(data)->Reader.m_row.emplace_back(static_cast<const char*>(text), size);
+    };
+    const auto takeRow = [](int, void* data) {
+        auto* const parsed = static_cast<Parsing*>(data);
+        parsed->Reader.TakeRow(parsed->Output);
+        parsed->Held = 0;
+    };
+
+    csv_parser parser;
+    csv_init(&parser, 0);
+    bool rowTooLong = false;
+    while (const auto line = lines.Next()) {
+        if (parsing.Held == 0) {
+            m_rowLine = line->Number;
+            if (line->Text.find_first_not_of(" \t") == std::string_view::npos)
+                continue;
+        }
+        parsing.Held += line->Text.size() + 1;
+        // A quote that is never closed would swallow the rest of the file.
+        rowTooLong = line->TooLong || parsing.Held > LongestLine;
+        if (rowTooLong || !output.Failure().empty())
+            break;
+        const std::string text = std::string(line->Text) + "\n";
+        csv_parse(&parser, text.data(), text.size(), takeCell, takeRow, &parsing);
+    }
+    if (rowTooLong)
+        TakeLongRow(output);
+    else
+        csv_fini(&parser, takeCell, takeRow, &parsing);
+    csv_free(&parser);
+    return m_allWell;
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,38 @@
+#include "app/batch/OutputBuffer.h"
+
+#include <cerrno>
+#include <cstring>
+#include <string_view>
+#include <unistd.h>
+
+namespace Ledgrove {
+
+namespace {
+
+constexpr std::size_t pieceSize = 256 * 1024;
+
+} // namespace
+
+OutputBuffer::OutputBuffer(int descriptor)
+    : m_descriptor(descriptor) {
+    m_text.reserve(pieceSize + 16 * 1024);
+}
+
+void OutputBuffer::Commit() {
+    if (m_text.size() >= pieceSize)
+        Flush();
+}
+
+void OutputBuffer::Flush() {
+    std::string_view left = m_text;
+    while (!left.empty() && m_failure.empty()) {
+        const ssize_t written = ::write(m_descriptor, left.data(), left.size());
+        if (written >= 0)
+            left.remove_prefix(static_cast<std::size_t>(written));
+        else if (errno != EINTR)
+            m_failure = std::strerror(errno);
+    }
+    m_text.clear();
+}
+
+} // namespace Ledgrove

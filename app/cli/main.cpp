@@ -1,0 +1,92 @@
+#include <filesystem>
+#include <iostream>
+#include <map>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "app/batch/CompareCommand.h"
+#include "app/batch/SettingsCommand.h"
+#include "ui/StartUp.h"
+
+namespace {
+
+using namespace Ledgrove;
+
+std::filesystem::path ExecutableFolder() {
+    std::error_code fault;
+    const auto executable = std::filesystem::read_symlink("/proc/self/exe", fault);
+    return fault ? std::filesystem::current_path() : executable.parent_path();
+}
+
+int Compare(const std::filesystem::path& folder, const CompareRequest& request) {
+    Session session;
+    CollectingHost host;
+    if (const auto fault = Module1::LoadMainScreen(session, host, folder)) {
+        std::cerr << "ledgrove-cli: " << Sentence(*fault) << '\n';
+        return CannotRun;
+    }
+    return RunCompare(request, std::move(session));
+}
+
+CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request) {
+    const std::map<std::string, CompareFormat> formats{{"text", CompareFormat::Text},
+                                                       {"json", CompareFormat::Json},
+                                                       {"jsonl", CompareFormat::JsonLines},
+                                                       {"csv", CompareFormat::Csv}};
+    auto* compare =
+        app.add_subcommand("compare", "Compare a base home with an energy-efficiency-labelled home");
+    compare->add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)");
+    compare
+        ->add_option("--format", request.Format,
+                     "text: one JSON object in, a table out; json: one object in and out; "
+                     "jsonl: one object a line; csv: a price list with a heading row")
+        ->transform(CLI::Transformer(formats))
+        ->type_name("text|json|jsonl|csv");
+    compare->add_option("FILE", request.Files, "Inputs; none or \"-\" is standard input");
+    return compare;
+}
+
+struct SettingsActions {
+    CLI::App* Get;
+    CLI::App* Set;
+    CLI::App* Houses;
+};
+
+SettingsActions AddSettings(CLI::App& app, std::string& folder, std::string& key, std::string& value) {
+    auto* settings = app.add_subcommand("settings", "Read and change Ledgrove.ini");
+    settings->add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)");
+    settings->require_subcommand(1);
+    auto* get = settings->add_subcommand("get", "Print the value of a key");
+    get->add_option("KEY", key)->required();
+    auto* set = settings->add_subcommand("set", "Change the value of a key");
+    set->add_option("KEY", key)->required();
+    set->add_option("VALUE", value)->required();
+    return {get, set, settings->add_subcommand("houses", "List the saved house scenarios")};
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
+    app.set_version_flag("--version", "ledgrove-cli " LEDGROVE_VERSION);
+    app.require_subcommand(1);
+    std::string folder = ExecutableFolder().string();
+    std::string key;
+    std::string value;
+    CompareRequest request;
+    const CLI::App* compare = AddCompare(app, folder, request);
+    const SettingsActions settings = AddSettings(app, folder, key, value);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& fault) {
+        return app.exit(fault) == 0 ? AllWell : CannotRun;
+    }
+    if (*compare)
+        return Compare(folder, request);
+    if (*settings.Get)
+        return PrintSetting(folder, key);
+    if (*settings.Set)
+        return ChangeSetting(folder, key, value);
+    return PrintHouses(folder);
+}

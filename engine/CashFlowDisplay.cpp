@@ -1,0 +1,108 @@
+#include "engine/CashFlow.h"
+#include "engine/NumberText.h"
+
+namespace Ledgrove::Module1 {
+
+namespace {
+
+float YearOf(double monthly) {
+    return static_cast<float>(monthly * 12);
+}
+
+void ShowAmount(Label& label, float amount) {
+    MoneyText(amount, label.Text);
+    label.Colour = amount < 0 ? TextColour::Red : TextColour::Normal;
+}
+
+struct CashFlowLine {
+    Label &Caption, &Monthly, &Annual;
+    const char *WhenSaved, *WhenPaid; ///< the caption for v >= 0 and for v < 0
+};
+
+void ShowLine(const CashFlowLine& line, float value) {
+    line.Caption.Text = value < 0 ? line.WhenPaid : line.WhenSaved;
+    ShowAmount(line.Monthly, value);
+    ShowAmount(line.Annual, YearOf(static_cast<double>(value)));
+}
+
+float Sum(float a, float b) {
+    return static_cast<float>(static_cast<double>(a) + static_cast<double>(b));
+}
+
+void ShowCashFlowPanel(MainScreen& screen, const Scenario& scenario) {
+    const float tax = scenario.ShownTaxSavings;
+    ShowLine({screen.lbladditionalmortgagetext, screen.lblAddMortMo, screen.lblAddMortYr, "Mortgage Savings",
+              "Additional Mortgage"},
+             scenario.MortgageSavings);
+    ShowLine({screen.lblutilitysavingstext, screen.lblUtilSavMo, screen.lblUtilSavYr, "Utility Savings",
+              "Additional Utilities"},
+             scenario.UtilitySavings);
+    ShowLine(
+        {screen.lbltaxsavingstext, screen.lblTaxSavMo, screen.lblTaxSavYr, "Tax Savings", "Additional Taxes"},
+        tax);
+
+    const double net = static_cast<double>(tax) + static_cast<double>(scenario.UtilitySavings) +
+                       static_cast<double>(scenario.MortgageSavings);
+    screen.lblnetcashflowtext.Text = "Net Monthly Cash Flow";
+    ShowAmount(screen.lblNetCashMo, static_cast<float>(net));
+    ShowAmount(screen.lblNetCashYr, YearOf(net));
+}
+
+void ShowMoreHomePanel(MainScreen& screen, const Session& session, bool withTaxes) {
+    const Scenario& scenario = session.Scenario;
+    const float monthly = withTaxes ? scenario.NetMonthlyCashFlow : scenario.NetBeforeTax;
+    const float today = withTaxes ? scenario.PVNetCashFlow : scenario.PVNetBeforeTax;
+    // The same monthly housing budget for both homes, on purpose.
+    MoneyText(session.StdCase.PITIU, screen.lblMonthlyHCStd.Text);
+    MoneyText(session.StdCase.PITIU, screen.lblMonthlyHCGM.Text);
+    MoneyText(session.StdCase.Cost, screen.lblHouseValueStd.Text);
+    MoneyText(monthly, screen.lblNetCashMoTx.Text);
+    MoneyText(today, screen.lblExtrasTx.Text);
+    MoneyText(Sum(today, session.GMHCase.Cost), screen.lblHouseValueGM.Text);
+    std::string& sentence = screen.Label6.Text;
+    sentence = screen.lblNetCashMoTx.Text;
+    sentence += " more per month";
+    sentence += " = ";
+    sentence += screen.lblExtrasTx.Text;
+    sentence += " more today";
+}
+
+void ShowSummaryPanel(MainScreen& screen, const Session& session, bool withTaxes) {
+    const Scenario& scenario = session.Scenario;
+    const float tax = scenario.ShownTaxSavings;
+    screen.lblTaxSavmo2Text.Text = tax < 0 ? "Additional Taxes" : "Tax Savings";
+    ShowAmount(screen.lbltaxsavmo2, tax);
+    screen.lblTaxSavmo2Text.Visible = screen.lbltaxsavmo2.Visible = withTaxes;
+
+    // The labelled home's payment is shown after its tax savings, so that the two payments differ by the cash
+    // flow.
+    MoneyText(session.StdCase.PITIU, screen.lblStdPITIU.Text);
+    MoneyText(Sum(session.GMHCase.PITIU, -tax), screen.lblGMHPITIU.Text);
+    MoneyText(withTaxes ? scenario.NetMonthlyCashFlow : scenario.NetBeforeTax, screen.lblNetCashMo2.Text);
+
+    MoneyText(scenario.SavingsAfterYearsInHome, screen.lblExpYrPre.Text);
+    // Its colour follows the savings after 7 years, whatever the years in the home, on purpose.
+    screen.lblExpYrPre.Colour = scenario.SavingsAfter7Years < 0 ? TextColour::Red : TextColour::Normal;
+    MoneyText(scenario.SavingsAfter30Years, screen.lbl30YrPre.Text);
+    screen.lblTerm.Text = "30 Years";
+    screen.lblYrsIn.Text = " Expected Savings After:   ";
+    screen.lblYrsIn.Text += FormatPicture(static_cast<double>(session.Assumptions.YearsInHome), "#0");
+    screen.lblYrsIn.Text += " Years";
+
+    const bool fannieMae = screen.cboGMHMortOption.Text() == "Fannie Mae EEM";
+    screen.lblPV.Text = fannieMae ? "* PV of Savings" : "PV of Savings";
+    screen.lblPVNote.Text = "* Fannie Mae refers to this as the Energy Savings Value";
+    screen.lblPVNote.Visible = fannieMae;
+    ShowAmount(screen.lblPVofSavings, session.GMHCase.PVSavings);
+}
+
+} // namespace
+
+void ShowCashFlowResults(Session& session) {
+    MainScreen& screen = session.Screen;
+    ShowCashFlowPanel(screen, session.Scenario);
+    ShowMoreHomePanel(screen, session, screen.chkDoTax0);
+    ShowSummaryPanel(screen, session, screen.chkDoTax0);
+}
+
+} // namespace Ledgrove::Module1

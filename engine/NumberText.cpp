@@ -1,0 +1,301 @@
+#include "engine/NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace Ledgrove::Module1 {
+
+namespace {
+
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    while (!text.empty() && IsBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+/// Takes "$" and one sign, in either order, off the front of `text`; true when the sign is a minus.
+bool TakeSignAndCurrency(std::string_view& text) {
+    bool negative = false;
+    bool signSeen = false;
+    bool currencySeen = false;
+    while (!text.empty()) {
+        const char c = text.front();
+        if ((c == '+' || c == '-') && !signSeen) {
+            signSeen = true;
+            negative = c == '-';
+        } else if (c == '$' && !currencySeen) {
+            currencySeen = true;
+        } else {
+            break;
+        }
+        text.remove_prefix(1);
+    }
+    return negative;
+}
+
+/// Writes the digits and the point of `text`, without grouping commas, to `digits`; false when it is no
+/// number.
+bool CollectDigits(std::string_view text, std::string& digits) {
+    bool pointSeen = false;
+    bool digitSeen = false;
+    digits.reserve(text.size());
+    for (const char c : text) {
+        if (IsDigit(c)) {
+            digitSeen = true;
+            digits.push_back(c);
+        } else if (c == '.' && !pointSeen) {
+            pointSeen = true;
+            digits.push_back(c);
+        } else if (c != ',' || pointSeen || !digitSeen) {
+            return false;
+        }
+    }
+    return digitSeen;
+}
+
+/// A positive decimal number: its significant digits and the place of the point, counted from the first
+/// digit.
+struct Decimal {
+    std::array<char, 24> Digits{};
+    int Count = 0;
+    int PointAfter = 0;
+
+    bool IsZero() const {
+        return std::all_of(Digits.begin(), Digits.begin() + Count, [](char c) { return c == '0'; });
+    }
+    char At(int index) const {
+        return index >= 0 && index < Count ? Digits[static_cast<std::size_t>(index)] : '0';
+    }
+};
+
+/// Reads what to_chars wrote in scientific form, "d.ddde+xx".
+Decimal FromScientific(const char* first, const char* last) {
+    Decimal decimal;
+    for (; first != last && *first != 'e'; ++first)
+        if (*first != '.')
+            decimal.Digits[static_cast<std::size_t>(decimal.Count++)] = *first;
+    int exponent = 0;
+    const char* exponentStart = first + 1;
+    if (exponentStart < last && *exponentStart == '+')
+        ++exponentStart;
+    std::from_chars(exponentStart, last, exponent);
+    decimal.PointAfter = exponent + 1;
+    return decimal;
+}
+
+Decimal AtSignificantDigits(double magnitude, int digits) {
+    std::array<char, 40> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
+                                   std::chars_format::scientific, digits - 1);
+    return FromScientific(text.data(), end.ptr);
+}
+
+Decimal AtShortest(float magnitude) {
+    std::array<char, 40> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific);
+    return FromScientific(text.data(), end.ptr);
+}
+
+/// Rounds to `places` digits after the point, halves away from zero.
+void RoundToPlaces(Decimal& decimal, int places) {
+    const int kept = decimal.PointAfter + places;
+    if (kept >= decimal.Count)
+        return;
+    const bool up = decimal.At(kept) >= '5';
+    decimal.Count = std::max(kept, 0);
+    if (!up)
+        return;
+    int index = decimal.Count - 1;
+    while (index >= 0 && decimal.At(index) == '9')
+        decimal.Digits[static_cast<std::size_t>(index--)] = '0';
+    if (index >= 0) {
+        ++decimal.Digits[static_cast<std::size_t>(index)];
+        return;
+    }
+    // The carry ran off the front ("999.5" to "1000"), or nothing was kept (".5" to "1"): a one goes before
+    // it all.
+    std::copy_backward(decimal.Digits.begin(), decimal.Digits.begin() + decimal.Count,
+                       decimal.Digits.begin() + decimal.Count + 1);
+    decimal.Digits[0] = '1';
+    ++decimal.Count;
+    ++decimal.PointAfter;
+}
+
+struct Picture {
+    std::string_view Literal; ///< what stands before the digits, "$" or nothing
+    int RequiredWhole = 0;
+    int RequiredPlaces = 0;
+    int Places = 0;
+    bool Grouped = false;
+};
+
+Picture ReadPicture(std::string_view text) {
+    Picture picture;
+    std::size_t start = 0;
+    while (start < text.size() && text[start] != '#' && text[start] != '0' && text[start] != '.')
+        ++start;
+    picture.Literal = text.substr(0, start);
+    bool afterPoint = false;
+    for (const char c : text.substr(start)) {
+        if (c == '.')
+            afterPoint = true;
+        else if (c == ',')
+            picture.Grouped = true;
+        else if (afterPoint)
+            ++picture.Places;
+        if (c == '0')
+            ++(afterPoint ? picture.RequiredPlaces : picture.RequiredWhole);
+    }
+    return picture;
+}
+
+std::string WriteDecimal(Decimal decimal, bool negative, std::string_view pictureText) {
+    const Picture picture = ReadPicture(pictureText);
+    RoundToPlaces(decimal, picture.Places);
+    const bool zero = decimal.IsZero();
+    std::string text;
+    if (negative && !zero)
+        text += '-';
+    text += picture.Literal;
+
+    const int whole = std::max(zero ? 0 : decimal.PointAfter, picture.RequiredWhole);
+    for (int left = whole; left > 0; --left) {
+        text += zero ? '0' : decimal.At(decimal.PointAfter - left);
+        if (picture.Grouped && left > 1 && left % 3 == 1)
+            text += ',';
+    }
+    if (picture.Places == 0)
+        return text;
+    text += '.';
+    for (int place = 0; place < picture.Places; ++place)
+        text += zero ? '0' : decimal.At(decimal.PointAfter + place);
+    for (int optional = picture.Places - picture.RequiredPlaces; optional > 0 && text.back() == '0';
+         --optional)
+        text.pop_back();
+    return text;
+}
+
+std::string WritePlain(const Decimal& decimal, bool negative) {
+    std::string text;
+    if (negative)
+        text += '-';
+    for (int index = std::min(decimal.PointAfter - 1, 0); index < decimal.PointAfter; ++index)
+        text += decimal.At(index);
+    int last = decimal.Count;
+    while (last > decimal.PointAfter && decimal.At(last - 1) == '0')
+        --last;
+    if (last > decimal.PointAfter) {
+        text += '.';
+        for (int index = decimal.PointAfter; index < last; ++index)
+            text += decimal.At(index);
+    }
+    return text;
+}
+
+} // namespace
+
+std::optional<double> ReadNumber(std::string_view text) {
+    text = TrimBlanks(text);
+    const bool negative = TakeSignAndCurrency(text);
+    std::string digits;
+    if (!CollectDigits(text, digits))
+        return std::nullopt;
+    double value = 0;
+    const auto read =
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
+    if (read.ec == std::errc::result_out_of_range) {
+        // Too long a fraction is still a number, namely 0; too long a whole part is none.
+        const std::size_t wholeDigits = std::min(digits.find('.'), digits.size());
+        if (digits.find_first_not_of('0') < wholeDigits)
+            return std::nullopt;
+        value = 0;
+    }
+    if (!std::isfinite(static_cast<float>(value)))
+        return std::nullopt;
+    return negative ? -value : value;
+}
+
+std::string StripPercent(std::string_view text) {
+    std::string stripped(text);
+    std::erase(stripped, '%');
+    return stripped;
+}
+
+float ParseFieldValue(std::string_view text, double divisor) {
+    const auto number = text.find('%') == text.npos ? ReadNumber(text) : ReadNumber(StripPercent(text));
+    return number ? static_cast<float>(*number / divisor) : 0.0F;
+}
+
+std::string PlainText(float value) {
+    if (value == 0.0F)
+        return "0";
+    return WritePlain(AtSignificantDigits(std::fabs(static_cast<double>(value)), 7), value < 0);
+}
+
+std::string ShortestText(float value) {
+    if (value == 0.0F)
+        return "0";
+    return WritePlain(AtShortest(std::fabs(value)), value < 0);
+}
+
+std::string FormatPicture(double value, std::string_view picture) {
+    if (!std::isfinite(value))
+        return {};
+    return WriteDecimal(AtSignificantDigits(std::fabs(value), 15), value < 0, picture);
+}
+
+std::string FormatPicture(float value, std::string_view picture) {
+    // From here on a single is a whole number, and the zeros of its shortest text would not be its own
+    // digits.
+    constexpr float wholeFrom = 16777216.0F;
+    if (!(std::fabs(value) < wholeFrom))
+        return FormatPicture(static_cast<double>(value), picture);
+    return WriteDecimal(AtShortest(std::fabs(value)), value < 0, picture);
+}
+
+std::string MoneyText(float amount) {
+    std::string text;
+    MoneyText(amount, text);
+    return text;
+}
+
+void MoneyText(float amount, std::string& text) {
+    // Below 2^22 a single holds every half dollar, so adding one half in double rounds exactly as the decimal
+    // text would. Every result label passes here at each recalculation; the general way costs five times as
+    // much.
+    constexpr float halvesAreExact = 4194304.0F;
+    if (!std::isfinite(amount)) {
+        text = "FormatError";
+    } else if (std::fabs(amount) < halvesAreExact) {
+        auto dollars = static_cast<int>(std::fabs(static_cast<double>(amount)) + 0.5);
+        std::array<char, 16> buffer{};
+        char* const end = buffer.data() + buffer.size();
+        char* first = end;
+        const bool negative = amount < 0 && dollars > 0;
+        for (int written = 0; dollars > 0 || written == 0; ++written, dollars /= 10) {
+            if (written > 0 && written % 3 == 0)
+                *--first = ',';
+            *--first = static_cast<char>('0' + dollars % 10);
+        }
+        *--first = '$';
+        if (negative)
+            *--first = '-';
+        text.assign(first, end);
+    } else {
+        text = FormatPicture(amount, "$##,###,##0");
+    }
+}
+
+} // namespace Ledgrove::Module1

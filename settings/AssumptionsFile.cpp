@@ -1,0 +1,92 @@
+#include "settings/AssumptionsFile.h"
+
+#include "engine/NumberText.h"
+#include "settings/LineSyntax.h"
+#include "settings/Rewrite.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace Ledgrove::Module1 {
+namespace {
+
+struct SingleKey {
+    std::string_view Name;
+    float AssumptionSet::*Value;
+};
+
+constexpr std::array<SingleKey, 7> singleKeys = {{{Key::RealEstateTax, &AssumptionSet::RealEstateTaxPct},
+                                                  {Key::Insurance, &AssumptionSet::InsurancePct},
+                                                  {Key::PVTerm, &AssumptionSet::PVTerm},
+                                                  {Key::PMIMult1, &AssumptionSet::PMIMult1},
+                                                  {Key::PMIMult2, &AssumptionSet::PMIMult2},
+                                                  {Key::PMIMult3, &AssumptionSet::PMIMult3},
+                                                  {Key::PMIMult4, &AssumptionSet::PMIMult4}}};
+
+enum class LineResult { Read, NotANumber };
+
+template <typename Number>
+LineResult Store(std::optional<Number> number, Number& target) {
+    if (!number)
+        return LineResult::NotANumber;
+    target = *number;
+    return LineResult::Read;
+}
+
+LineResult ReadPVRate(std::string_view value, float& rate) {
+    if (!ReadNumber(StripPercent(value)))
+        return LineResult::NotANumber;
+    rate = ParseFieldValue(value, 100);
+    return LineResult::Read;
+}
+
+LineResult ReadLine(std::string_view line, AssumptionSet& assumptions) {
+    for (const SingleKey& key : singleKeys) {
+        if (BelongsTo(line, key.Name))
+            return Store(ToSingle(ValueOf(line, key.Name)), assumptions.*key.Value);
+    }
+    if (BelongsTo(line, Key::PVRate))
+        return ReadPVRate(ValueOf(line, Key::PVRate), assumptions.PVRate);
+    if (BelongsTo(line, Key::PVFlag))
+        assumptions.UsePVVars = ValueOf(line, Key::PVFlag) == "TRUE";
+    if (BelongsTo(line, Key::YearsInHome))
+        return Store(ToInteger(ValueOf(line, Key::YearsInHome)), assumptions.YearsInHome);
+    return LineResult::Read;
+}
+
+} // namespace
+
+std::optional<SettingsFault> LoadAssumptions(const SettingsFile& file, AssumptionSet& assumptions) {
+    const Outcome<FileLines> lines = file.ReadLines(SettingsFile::WhenMissing::CreateEmpty);
+    if (!lines)
+        return lines.Fault();
+    ReadAssumptions(*lines, assumptions);
+    return std::nullopt;
+}
+
+std::optional<std::size_t> ReadAssumptions(const FileLines& lines, AssumptionSet& assumptions) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (ReadLine(lines[i].Text, assumptions) == LineResult::NotANumber)
+            return i;
+    }
+    return std::nullopt;
+}
+
+std::optional<SettingsFault> WriteAssumpsToFile(const SettingsFile& file, const AssumptionTexts& texts) {
+    RewriteRule flag = ReplaceOnly(Key::PVFlag, texts.UsePVVars ? "TRUE" : "FALSE");
+    flag.AppendedWhenUnseen = {SettingLine(Key::PVFlag, "FALSE")};
+    RewritePlan plan;
+    plan.Rules = {ReplaceOrAppend(Key::RealEstateTax, StripPercent(texts.RealEstateTaxPct)),
+                  ReplaceOrAppend(Key::Insurance, StripPercent(texts.InsurancePct)),
+                  ReplaceOrAppend(Key::PVRate, StripPercent(texts.PVRate)),
+                  ReplaceOrAppend(Key::PVTerm, texts.PVTerm),
+                  std::move(flag),
+                  ReplaceOrAppend(Key::YearsInHome, texts.YearsInHome),
+                  ReplaceOrAppend(Key::PMIMult1, texts.PMIMult[0]),
+                  ReplaceOrAppend(Key::PMIMult2, texts.PMIMult[1]),
+                  ReplaceOrAppend(Key::PMIMult3, texts.PMIMult[2]),
+                  ReplaceOrAppend(Key::PMIMult4, texts.PMIMult[3])};
+    return Rewrite(file, plan);
+}
+
+} // namespace Ledgrove::Module1

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "engine/TypeDeclarations.h"
+#include "settings/SettingsFile.h"
+
+#include <optional>
+
+// The saved house scenarios in the settings file: `HOMELIST` lines of a name and four amounts.
+namespace Ledgrove::Module1 {
+
+/// Appends one house per `HOMELIST` line, in file order. An amount that is not a number is a fault that names
+/// its line; a list read so far must not be saved, since saving replaces every line.
+std::optional<SettingsFault> LoadHomeList(const SettingsFile& file, HouseList& houses);
+
+/// Drops every `HOMELIST` line, appends one per house with whole amounts, and marks the dialog closed. A name
+/// must not contain a comma.
+std::optional<SettingsFault> WriteHomeList(const SettingsFile& file, const HouseList& houses);
+
+} // namespace Ledgrove::Module1

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "engine/TypeDeclarations.h"
+#include "settings/SettingsFile.h"
+
+#include <optional>
+
+// The qualifying ratios per loan type in the settings file: `LOANTYPE` lines of nine fields.
+namespace Ledgrove::Module1 {
+
+/// Fills the list with one record per `LOANTYPE` line, in file order. A number or ratio that does not convert
+/// is a fault that names its line; the list then holds the lines up to that one. Other faults leave the list
+/// empty.
+std::optional<SettingsFault> LoadLoanTypes(const SettingsFile& file, LoanTypeList& loanTypes);
+
+/// Drops every `LOANTYPE` line and appends one per record. An empty list is written as one line of an empty
+/// record, so the file always has a line of the key.
+std::optional<SettingsFault> WriteLoanTypes(const SettingsFile& file, const LoanTypeList& loanTypes);
+
+} // namespace Ledgrove::Module1

@@ -1,0 +1,63 @@
+#include "settings/SettingsFault.h"
+
+#include <algorithm>
+
+namespace Ledgrove {
+namespace {
+
+std::string Quoted(const std::string& text) {
+    return '"' + text + '"';
+}
+
+/// A text as a sentence can carry it: no control characters, and an end even for a line of a megabyte.
+std::string Excerpt(std::string text) {
+    constexpr std::size_t longest = 80;
+    if (text.size() > longest) {
+        std::size_t end = longest;
+        while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+            --end;
+        text = text.substr(0, end) + "...";
+    }
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; },
+        '?');
+    return Quoted(text);
+}
+
+std::string InterruptedSave(const SettingsFault& fault, const std::string& path) {
+    const std::string remedy = "Your settings are in " + path + ". Rename that file to \"Ledgrove.ini\".";
+    if (fault.Reason.empty())
+        return "The last save was interrupted. " + remedy;
+    return "The saved settings could not be given their name (" + fault.Reason + "). " + remedy;
+}
+
+} // namespace
+
+std::string Sentence(const SettingsFault& fault) {
+    const std::string path = Quoted(fault.Path.string());
+    switch (fault.What) {
+    case SettingsFault::Kind::Missing:
+        return "The settings file " + path +
+               " is missing. Copy the \"Ledgrove.ini\" that came with the program into that folder.";
+    case SettingsFault::Kind::InterruptedSave:
+        return InterruptedSave(fault, path);
+    case SettingsFault::Kind::Unreadable:
+        return "The settings file " + path + " cannot be read (" + fault.Reason +
+               "). Check that it is an ordinary file and that you may read it.";
+    case SettingsFault::Kind::Unwritable:
+        return "The settings were not saved: " + path + " cannot be written (" + fault.Reason +
+               "). Check that you may write to that folder and that its disk has room, then save again.";
+    case SettingsFault::Kind::BadLine:
+        return "Line " + std::to_string(fault.Line) + " of the settings file " + path + " cannot be used (" +
+               fault.Reason + "): " + Excerpt(fault.Text) + ". Correct that line.";
+    case SettingsFault::Kind::MissingKey:
+        return "The settings file " + path + " has no line for " + Excerpt(fault.Text) +
+               ". Check the spelling (keys are upper case), or add the line: key, \"=\", value.";
+    case SettingsFault::Kind::RefusedText:
+        return "The settings were not saved to " + path + ": " + Excerpt(fault.Text) + " holds " +
+               fault.Reason + ". Remove it, then save again.";
+    }
+    return {};
+}
+
+} // namespace Ledgrove

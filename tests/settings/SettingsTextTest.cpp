@@ -1,0 +1,140 @@
+#include "settings/SettingsText.h"
+
+#include "settings/HeaderSettings.h"
+
+#include "TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+namespace Ledgrove {
+namespace {
+
+using testing::HasSubstr;
+
+class SettingsTextTest : public SettingsTest {
+protected:
+    std::string Get(std::string_view key) const {
+        const auto text = SettingText(File(), key);
+        return text ? *text : "fault: " + Sentence(text.Fault());
+    }
+};
+
+TEST_F(SettingsTextTest, GivesTextsAsTheirReadersDo) {
+    Given("BUILDERNAME= Caf\xE9 \r\nFEATURE1= x \r\nLOGOOPTION= 1.9\r\nHELPFILE= A.HLP\r\nLOGOFILE= b.bmp "
+          "\r\n");
+    EXPECT_EQ(Get("BUILDERNAME"), "Caf\xC3\xA9");
+    EXPECT_EQ(Get("FEATURE1"), " x ");
+    EXPECT_EQ(Get("FEATURE2"), " ");
+    EXPECT_EQ(Get("LOGOOPTION"), "1");
+    EXPECT_EQ(Get("HELPFILE"), "A.HLP");
+    EXPECT_EQ(Get("LOGOFILE"), "b.bmp");
+}
+
+TEST_F(SettingsTextTest, GivesDefaultsForMissingKeys) {
+    Given("");
+    EXPECT_EQ(Get("BUILDERNAME"), "Partner Name");
+    EXPECT_EQ(Get("LOGOFILE"), "");
+    EXPECT_EQ(Get("ASSUMPTION1"), "0");
+    EXPECT_EQ(Get("PVSAVINGS_RATE"), "0");
+    EXPECT_EQ(Get("PVSAVINGS_FLAG"), "FALSE");
+    EXPECT_EQ(Get("YEARS_IN_HOME"), "0");
+    EXPECT_EQ(Get("TAXCAT"), "");
+}
+
+TEST_F(SettingsTextTest, GivesNumbersPlainAndInTheFilesUnit) {
+    Given("ASSUMPTION1= 0.90\r\nPVSAVINGS_RATE=6.24%\r\nPVSAVINGS_TERM=030\r\nYEARS_IN_HOME=7.5\r\n"
+          "PMI_MULT1=.0087\r\nPVSAVINGS_FLAG=TRUE\r\n");
+    EXPECT_EQ(Get("ASSUMPTION1"), "0.9");
+    EXPECT_EQ(Get("PVSAVINGS_RATE"), "6.24");
+    EXPECT_EQ(Get("PVSAVINGS_TERM"), "30");
+    EXPECT_EQ(Get("YEARS_IN_HOME"), "8");
+    EXPECT_EQ(Get("PMI_MULT1"), "0.0087");
+    EXPECT_EQ(Get("PVSAVINGS_FLAG"), "TRUE");
+}
+
+TEST_F(SettingsTextTest, WhatIsGottenCanBeSet) {
+    Given("PVSAVINGS_RATE=6.24%\r\n");
+    ASSERT_EQ(Module1::WriteSetting(File(), "PVSAVINGS_RATE", Get("PVSAVINGS_RATE")), std::nullopt);
+    EXPECT_EQ(Bytes(), "PVSAVINGS_RATE=6.24\r\n");
+    EXPECT_EQ(Get("PVSAVINGS_RATE"), "6.24");
+}
+
+TEST_F(SettingsTextTest, AListKeyGivesAllItsLinesInOrder) {
+    Given("HOMELIST=B,1,2,3,4\r\nX=1\r\nHOMELIST=\xC0,5,6,7,8\r\nTAXCAT=100,10\r\nTAXCAT=bad\r\n");
+    EXPECT_EQ(Get("HOMELIST"), "B,1,2,3,4\n\xC3\x80,5,6,7,8");
+    EXPECT_EQ(Get("TAXCAT"), "100,10\nbad");
+}
+
+TEST_F(SettingsTextTest, AnUnknownKeyGivesItsLastLine) {
+    Given("OTHER=1\r\nHOMESELECTIONDIALOG=OPEN\r\nOTHER= 2 \r\nK\xC9Y=3\r\n");
+    EXPECT_EQ(Get("OTHER"), " 2 ");
+    EXPECT_EQ(Get("HOMESELECTIONDIALOG"), "OPEN");
+    EXPECT_EQ(Get("K\xC3\x89Y"), "3");
+    for (const char* key : {"NONE", "\xE2\x86\x92", ""})
+        EXPECT_THAT(Get(key), HasSubstr("has no line for")) << key;
+}
+
+TEST_F(SettingsTextTest, AValueThatIsNoNumberIsASentenceThatNamesTheLine) {
+    Given("X=1\r\nASSUMPTION2=abc\r\nPMI_MULT1=0.0087\r\nLOGOOPTION=x\r\n");
+    EXPECT_THAT(Get("ASSUMPTION2"), HasSubstr("Line 2 of the settings file"));
+    EXPECT_THAT(Get("LOGOOPTION"), HasSubstr("Line 4 of the settings file"));
+    // The reader never gets to this one, so its value is not the line's.
+    EXPECT_THAT(Get("PMI_MULT1"), HasSubstr("Line 2 of the settings file"));
+    EXPECT_EQ(Get("PMI_MULT2"), "0");
+}
+
+TEST_F(SettingsTextTest, AMissingLogoOptionIsASentence) {
+    Given("X=1\r\n");
+    EXPECT_THAT(Get("LOGOOPTION"), HasSubstr("has no line for \"LOGOOPTION\""));
+}
+
+TEST_F(SettingsTextTest, NoKeyCreatesAMissingFile) {
+    for (const char* key : {"FEATURE1", "ASSUMPTION1", "TAXCAT", "BUILDERNAME", "OTHER"}) {
+        EXPECT_THAT(Get(key), HasSubstr("is missing")) << key;
+        EXPECT_FALSE(Exists(File().Path())) << key;
+    }
+}
+
+TEST(CheckSetRequest, AcceptsWhatWriteSettingCanKeep) {
+    EXPECT_EQ(CheckSetRequest("BUILDERNAME", "Caf\xC3\xA9 = \xE2\x82\xAC"), std::nullopt);
+    EXPECT_EQ(CheckSetRequest("FEATURE1", ""), std::nullopt);
+    EXPECT_EQ(CheckSetRequest("HOMESELECTIONDIALOG", "OPEN"), std::nullopt);
+    EXPECT_EQ(CheckSetRequest("MYKEY", "x"), std::nullopt);
+}
+
+struct BadRequest {
+    const char* Key;
+    const char* Value;
+    const char* Says;
+};
+
+class CheckSetRequestRefusal : public testing::TestWithParam<BadRequest> {};
+
+TEST_P(CheckSetRequestRefusal, IsASentenceThatNamesTheTrouble) {
+    const auto sentence = CheckSetRequest(GetParam().Key, GetParam().Value);
+    ASSERT_TRUE(sentence);
+    EXPECT_THAT(*sentence, HasSubstr(GetParam().Says));
+    EXPECT_EQ(sentence->back(), '.');
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Requests, CheckSetRequestRefusal,
+    testing::Values(BadRequest{"", "x", "The key is empty"},
+                    BadRequest{"A\nB", "x", "The key holds a line break"},
+                    BadRequest{"BUILDERNAME", "a\r", "The value holds a line break"},
+                    BadRequest{"BUILDERNAME", "a\xE2\x86\x92",
+                               "The value holds the character \"\xE2\x86\x92\" (U+2192)"},
+                    BadRequest{"\xE2\x86\x92", "a", "The key holds the character \"\xE2\x86\x92\" (U+2192)"},
+                    BadRequest{"BUILDERNAME", "\xFF", "The value holds the byte FF"},
+                    BadRequest{"A=B", "x", "\"A=B\" holds \"=\""},
+                    BadRequest{"TAXCAT", "1,1", "\"TAXCAT\" has one line for each item"},
+                    BadRequest{"LOANTYPE", "x", "\"LOANTYPE\" has one line for each item"},
+                    BadRequest{"HOMELIST", "x", "\"HOMELIST\" has one line for each item"},
+                    BadRequest{"FEATURE", "x", "\"FEATURE\" is only the beginning of \"FEATURE1\""},
+                    BadRequest{"P", "x", "\"P\" is only the beginning of"},
+                    BadRequest{"TAX", "x", "\"TAX\" is only the beginning of \"TAXCAT\""},
+                    BadRequest{"FEATURE12", "x", "\"FEATURE12\" begins with \"FEATURE1\""},
+                    BadRequest{"LOANTYPES", "x", "\"LOANTYPES\" begins with \"LOANTYPE\""}));
+
+} // namespace
+} // namespace Ledgrove

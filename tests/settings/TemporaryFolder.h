@@ -1,0 +1,60 @@
+#pragma once
+
+#include "settings/SettingsFile.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+namespace Ledgrove {
+
+inline std::optional<std::string> ReadBytes(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream)
+        return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+inline void WriteBytes(const std::filesystem::path& path, std::string_view bytes) {
+    std::ofstream stream(path, std::ios::binary | std::ios::trunc);
+    stream << bytes;
+}
+
+/// A test with a program folder of its own, gone when the test ends.
+class SettingsTest : public testing::Test {
+protected:
+    SettingsTest()
+        : m_folder(MakeFolder())
+        , m_file(m_folder) {}
+    ~SettingsTest() override {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_folder, ignored);
+    }
+
+    const std::filesystem::path& Folder() const { return m_folder; }
+    const SettingsFile& File() const { return m_file; }
+
+    void Given(std::string_view bytes) const { WriteBytes(m_file.Path(), bytes); }
+    /// The settings file's bytes; "(missing)" where it is not there.
+    std::string Bytes() const { return ReadBytes(m_file.Path()).value_or("(missing)"); }
+    bool Exists(const std::filesystem::path& path) const {
+        return std::filesystem::exists(std::filesystem::symlink_status(path));
+    }
+
+private:
+    static std::filesystem::path MakeFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "ledgrove-settings-XXXXXX").string();
+        return mkdtemp(name.data()) == nullptr ? std::filesystem::path() : std::filesystem::path(name);
+    }
+
+    std::filesystem::path m_folder;
+    SettingsFile m_file;
+};
+
+} // namespace Ledgrove

@@ -1,0 +1,109 @@
+#include "ui/Entry.h"
+
+#include "engine/NumberText.h"
+#include "engine/Recalculate.h"
+
+namespace Ledgrove::Module1 {
+
+namespace {
+
+void FormatEntry(Session& session, Field& field, FormatType type) {
+    FormatField(session, field, type);
+    if (&field == &session.Screen.ecPctDown)
+        ConvertPercentDown(session);
+}
+
+} // namespace
+
+std::string FieldComplaint(std::string_view text, FormatType type) {
+    if (text.empty() || type == "String")
+        return {};
+    const auto number = ReadNumber(StripPercent(text));
+    if (!number)
+        return "You must enter a number here.";
+    return *number < 0 ? "You must enter a positive number here." : "";
+}
+
+void SetFieldText(Session& session, Field& field, std::string_view text) {
+    if (field.Text == text)
+        return;
+    field.Text = text;
+    if (field.SetsEEMNotice)
+        session.Scenario.EEMNoticeFlag = true;
+    if (&field == &session.Screen.ecPctDown)
+        session.Screen.PctDownConverted = false;
+}
+
+bool ValidateField(EntryContext& context, Field& field, FormatType type, Complaint complaint) {
+    const std::string movingTo = context.Focus.FocusedControl();
+    if (movingTo.starts_with("bCancel") || movingTo.starts_with("bExit"))
+        return true;
+    if (field.Text.empty())
+        SetFieldText(context.State, field, "0");
+    const std::string message = FieldComplaint(field.Text, type);
+    if (message.empty())
+        return true;
+    context.Focus.ReturnFocusTo(field);
+    if (complaint == Complaint::Shown)
+        context.Outside.ShowMessage({ApplicationTitle, message, MessageIcon::Information});
+    context.Focus.SelectFieldText();
+    return false;
+}
+
+void FormatField(Session& session, Field& field, FormatType type) {
+    SetFieldText(session, field, FormatFieldText(field.Text, type));
+}
+
+EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, FormatType type) {
+    if (key != KeyCode::Enter && key != KeyCode::Tab)
+        return EntryOutcome::Accepted;
+    if (!ValidateField(context, field, type))
+        return EntryOutcome::Refused;
+    FormatEntry(context.State, field, type);
+    CheckCustomHouse(context.State);
+    Recalculate(context.State, context.Outside);
+    if (key == KeyCode::Enter)
+        context.Focus.NextField();
+    return EntryOutcome::Accepted;
+}
+
+EntryOutcome LeaveField(EntryContext& context, Field& field, FormatType type, AfterEdit after) {
+    if (!ValidateField(context, field, type))
+        return EntryOutcome::Refused;
+    FormatEntry(context.State, field, type);
+    if (after != AfterEdit::Nothing)
+        Recalculate(context.State, context.Outside);
+    if (after == AfterEdit::RecalculateAndCheckHouse)
+        CheckCustomHouse(context.State);
+    return EntryOutcome::Accepted;
+}
+
+void CheckCustomHouse(Session& session) {
+    const MainScreen& screen = session.Screen;
+    const House& chosen = session.ChosenHouse;
+    const bool asChosen = ParseFieldValue(screen.ecStdHome.Text, 1) == chosen.StdCost &&
+                          ParseFieldValue(screen.ecGMHHome.Text, 1) == chosen.GMHCost &&
+                          ParseFieldValue(screen.ecStdUtil.Text, 1) == chosen.StdUtil &&
+                          ParseFieldValue(screen.ecGMHUtil.Text, 1) == chosen.GMHUtil;
+    if (!asChosen)
+        session.Screen.lblHomeName.Text = "Custom";
+}
+
+void ConvertPercentDown(Session& session) {
+    MainScreen& screen = session.Screen;
+    const double amount = ParseFieldValue(screen.ecPctDown.Text, 1);
+    const double basePrice = ParseFieldValue(screen.ecStdHome.Text, 1);
+    if (amount <= 100 || basePrice == 0 || screen.PctDownConverted)
+        return;
+    SetFieldText(session, screen.ecPctDown, FormatPicture(amount / basePrice * 100, "#0.00") + "%");
+    screen.PctDownConverted = true;
+}
+
+bool TakePercentDownPoint(Session& session, char key) {
+    if (key != '.' || !session.Screen.ecPctDown.Text.empty())
+        return false;
+    SetFieldText(session, session.Screen.ecPctDown, "4846");
+    return true;
+}
+
+} // namespace Ledgrove::Module1

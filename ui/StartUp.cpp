@@ -1,0 +1,71 @@
+#include "ui/StartUp.h"
+
+#include "engine/Recalculate.h"
+#include "settings/AssumptionsFile.h"
+#include "settings/HeaderSettings.h"
+#include "settings/LoanTypesFile.h"
+#include "settings/TaxScheduleFile.h"
+#include "ui/MainScreenRules.h"
+
+namespace Ledgrove::Module1 {
+
+namespace {
+
+std::optional<SettingsFault> LoadTables(Session& session, const SettingsFile& file) {
+    if (auto fault = LoadLoanTypes(file, session.LoanTypes))
+        return fault;
+    if (auto fault = LoadTaxCats(file, session.TaxBrackets))
+        return fault;
+    return LoadAssumptions(file, session.Assumptions);
+}
+
+void SetScreenDefaults(Session& session, Host& host) {
+    MainScreen& screen = session.Screen;
+    screen.lblHomeName.Text = "Custom";
+    screen.cboMortTerm.Items = TermItems();
+    screen.cboStdMortOption.Items = BaseOptionItems();
+    SetTerm(session, "30 years");
+    for (Field* rate : {&screen.ecRate, &screen.ecGMHRate, &screen.ecStdRate})
+        SetFieldText(session, *rate, "6.5");
+    // The base home's rate stays as it is until it is first left, on purpose.
+    FormatField(session, screen.ecRate, "IntRate");
+    FormatField(session, screen.ecGMHRate, "IntRate");
+    SetDownPayment(session, 0);
+    ClickBaseOption(session, host, "Conventional");
+}
+
+std::optional<SettingsFault> LoadHeader(Session& session, const SettingsFile& file) {
+    if (auto fault = GetFeatures(file, session.Features))
+        return fault;
+    const auto keep = [](std::string& target,
+                         const Outcome<std::string>& read) -> std::optional<SettingsFault> {
+        if (!read)
+            return read.Fault();
+        target = *read;
+        return std::nullopt;
+    };
+    if (auto fault = keep(session.HelpFile, GetHelpFile(file)))
+        return fault;
+    if (auto fault = keep(session.LogoFile, GetLogoFile(file)))
+        return fault;
+    return keep(session.BuilderName, GetBuilderName(file));
+}
+
+} // namespace
+
+std::optional<SettingsFault> LoadMainScreen(Session& session, Host& host,
+                                            const std::filesystem::path& folder) {
+    const SettingsFile file(folder);
+    session = Session{};
+    session.Folder = folder;
+    if (auto fault = LoadTables(session, file))
+        return fault;
+    SetScreenDefaults(session, host);
+    if (auto fault = LoadHeader(session, file))
+        return fault;
+    RefreshFeatureCaptions(session);
+    host.RunPendingEvents();
+    return std::nullopt;
+}
+
+} // namespace Ledgrove::Module1
