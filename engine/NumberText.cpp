@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 namespace Ledgrove::Module1 {
 
@@ -44,24 +45,57 @@ bool TakeSignAndCurrency(std::string_view& text) {
     return negative;
 }
 
-/// Writes the digits and the point of `text`, without grouping commas, to `digits`; false when it is no
-/// number.
-bool CollectDigits(std::string_view text, std::string& digits) {
+/// Digits with at most one point, and commas only between the first digit and the point.
+struct Digits {
+    bool Valid = false;
+    int Count = 0;                 ///< of digits, leading zeros included
+    int Places = 0;                ///< digits after the point
+    std::uint64_t Value = 0;       ///< of the digits without the point, while they fit
+    static constexpr int Fit = 15; ///< up to so many digits both Value and 10^Places are exact doubles
+};
+
+Digits ScanDigits(std::string_view text) {
+    Digits digits;
     bool pointSeen = false;
-    bool digitSeen = false;
-    digits.reserve(text.size());
     for (const char c : text) {
         if (IsDigit(c)) {
-            digitSeen = true;
-            digits.push_back(c);
+            if (++digits.Count <= Digits::Fit)
+                digits.Value = digits.Value * 10 + static_cast<std::uint64_t>(c - '0');
+            digits.Places += pointSeen ? 1 : 0;
         } else if (c == '.' && !pointSeen) {
             pointSeen = true;
-            digits.push_back(c);
-        } else if (c != ',' || pointSeen || !digitSeen) {
-            return false;
+        } else if (c != ',' || pointSeen || digits.Count == 0) {
+            return digits;
         }
     }
-    return digitSeen;
+    digits.Valid = digits.Count > 0;
+    return digits;
+}
+
+/// The value of many digits; empty when the whole part is too long for any number.
+std::optional<double> ReadLongNumber(std::string_view text) {
+    std::string digits(text);
+    std::erase(digits, ',');
+    double value = 0;
+    const auto read =
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
+    if (read.ec != std::errc::result_out_of_range)
+        return value;
+    // Too long a fraction is still a number, namely 0.
+    digits.erase(std::min(digits.find('.'), digits.size()));
+    return digits.find_first_not_of('0') == digits.npos ? std::optional(0.0) : std::nullopt;
+}
+
+std::optional<double> ReadUnsigned(std::string_view text) {
+    const Digits digits = ScanDigits(text);
+    if (!digits.Valid)
+        return std::nullopt;
+    if (digits.Count > Digits::Fit)
+        return ReadLongNumber(text);
+    // One division of exact numbers rounds once, so this is the nearest double, as from_chars would give.
+    constexpr double tens[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                               1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    return static_cast<double>(digits.Value) / tens[digits.Places];
 }
 
 /// A positive decimal number: its significant digits and the place of the point, counted from the first
@@ -106,6 +140,26 @@ Decimal AtShortest(float magnitude) {
     const auto end =
         std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific);
     return FromScientific(text.data(), end.ptr);
+}
+
+/// The magnitude rounded to `places`, where the rounding is clear without its decimal digits: not near a
+/// half, and small enough for the digits to be exact. Empty otherwise.
+std::optional<Decimal> RoundedClearly(double magnitude, int places) {
+    constexpr double tens[] = {1, 10, 100, 1000};
+    if (places >= static_cast<int>(std::size(tens)) || magnitude > 1e9)
+        return std::nullopt;
+    const double scaled = magnitude * tens[places];
+    const double whole = std::floor(scaled);
+    const double fraction = scaled - whole;
+    if (std::fabs(fraction - 0.5) < 1e-3)
+        return std::nullopt;
+    Decimal decimal;
+    char* const first = decimal.Digits.data();
+    const auto end = std::to_chars(first, first + decimal.Digits.size(),
+                                   static_cast<std::int64_t>(whole) + (fraction > 0.5 ? 1 : 0));
+    decimal.Count = static_cast<int>(end.ptr - first);
+    decimal.PointAfter = decimal.Count - places;
+    return decimal;
 }
 
 /// Rounds to `places` digits after the point, halves away from zero.
@@ -161,8 +215,7 @@ Picture ReadPicture(std::string_view text) {
     return picture;
 }
 
-std::string WriteDecimal(Decimal decimal, bool negative, std::string_view pictureText) {
-    const Picture picture = ReadPicture(pictureText);
+std::string WriteDecimal(Decimal decimal, bool negative, const Picture& picture) {
     RoundToPlaces(decimal, picture.Places);
     const bool zero = decimal.IsZero();
     std::string text;
@@ -209,22 +262,10 @@ std::string WritePlain(const Decimal& decimal, bool negative) {
 std::optional<double> ReadNumber(std::string_view text) {
     text = TrimBlanks(text);
     const bool negative = TakeSignAndCurrency(text);
-    std::string digits;
-    if (!CollectDigits(text, digits))
+    const auto value = ReadUnsigned(text);
+    if (!value || !std::isfinite(static_cast<float>(*value)))
         return std::nullopt;
-    double value = 0;
-    const auto read =
-        std::from_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
-    if (read.ec == std::errc::result_out_of_range) {
-        // Too long a fraction is still a number, namely 0; too long a whole part is none.
-        const std::size_t wholeDigits = std::min(digits.find('.'), digits.size());
-        if (digits.find_first_not_of('0') < wholeDigits)
-            return std::nullopt;
-        value = 0;
-    }
-    if (!std::isfinite(static_cast<float>(value)))
-        return std::nullopt;
-    return negative ? -value : value;
+    return negative ? -*value : *value;
 }
 
 std::string StripPercent(std::string_view text) {
@@ -253,7 +294,10 @@ std::string ShortestText(float value) {
 std::string FormatPicture(double value, std::string_view picture) {
     if (!std::isfinite(value))
         return {};
-    return WriteDecimal(AtSignificantDigits(std::fabs(value), 15), value < 0, picture);
+    const Picture parts = ReadPicture(picture);
+    const double magnitude = std::fabs(value);
+    const auto decimal = RoundedClearly(magnitude, parts.Places);
+    return WriteDecimal(decimal ? *decimal : AtSignificantDigits(magnitude, 15), value < 0, parts);
 }
 
 std::string FormatPicture(float value, std::string_view picture) {
@@ -262,7 +306,7 @@ std::string FormatPicture(float value, std::string_view picture) {
     constexpr float wholeFrom = 16777216.0F;
     if (!(std::fabs(value) < wholeFrom))
         return FormatPicture(static_cast<double>(value), picture);
-    return WriteDecimal(AtShortest(std::fabs(value)), value < 0, picture);
+    return WriteDecimal(AtShortest(std::fabs(value)), value < 0, ReadPicture(picture));
 }
 
 std::string MoneyText(float amount) {

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "app/batch/JsonInput.h"
-#include "app/batch/JsonText.h"
 #include "app/batch/TextTable.h"
 
 namespace Ledgrove {
@@ -47,7 +46,7 @@ bool JsonLinesReader::Read(LineReader& lines, OutputBuffer& output) {
             allWell = false;
             AppendRefusalJson(output.Text(), *refusal);
         } else {
-            AppendResultJson(output.Text(), m_comparison);
+            m_results.Append(output.Text(), m_comparison);
         }
         output.Text() += '\n';
         output.Commit();
@@ -70,11 +69,13 @@ std::optional<Refusal> JsonReader::Compare(LineReader& lines) {
 
 bool JsonReader::Read(LineReader& lines, OutputBuffer& output) {
     const auto refusal = Compare(lines);
+    if (!lines.Failure().empty())
+        return false;
     std::string& out = output.Text();
     if (m_result == Result::Table) {
         out += refusal ? RefusalText(*refusal) : ResultTable(m_comparison);
     } else {
-        refusal ? AppendRefusalJson(out, *refusal) : AppendResultJson(out, m_comparison);
+        refusal ? AppendRefusalJson(out, *refusal) : ResultJson().Append(out, m_comparison);
         out += '\n';
     }
     output.Commit();

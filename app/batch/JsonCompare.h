@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/batch/CompareCommand.h"
+#include "app/batch/JsonText.h"
 
 namespace Ledgrove {
 
@@ -16,6 +17,7 @@ private:
 
     Comparison& m_comparison;
     InputRecord m_inputs;
+    ResultJson m_results;
 };
 
 /// One object, over as many lines as it likes; the result is an object too, or a table for people.

@@ -1,6 +1,6 @@
 #include <filesystem>
 #include <iostream>
-#include <map>
+#include <optional>
 #include <string>
 
 #include <CLI/CLI.hpp>
@@ -29,19 +29,31 @@ int Compare(const std::filesystem::path& folder, const CompareRequest& request) 
     return RunCompare(request, std::move(session));
 }
 
+std::optional<CompareFormat> ReadFormat(const std::string& name) {
+    if (name == "text")
+        return CompareFormat::Text;
+    if (name == "json")
+        return CompareFormat::Json;
+    if (name == "jsonl")
+        return CompareFormat::JsonLines;
+    if (name == "csv")
+        return CompareFormat::Csv;
+    return std::nullopt;
+}
+
 CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request) {
-    const std::map<std::string, CompareFormat> formats{{"text", CompareFormat::Text},
-                                                       {"json", CompareFormat::Json},
-                                                       {"jsonl", CompareFormat::JsonLines},
-                                                       {"csv", CompareFormat::Csv}};
     auto* compare =
         app.add_subcommand("compare", "Compare a base home with an energy-efficiency-labelled home");
     compare->add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)");
     compare
-        ->add_option("--format", request.Format,
-                     "text: one JSON object in, a table out; json: one object in and out; "
-                     "jsonl: one object a line; csv: a price list with a heading row")
-        ->transform(CLI::Transformer(formats))
+        ->add_option_function<std::string>(
+            "--format", [&request](const std::string& name) { request.Format = *ReadFormat(name); },
+            "text: one JSON object in, a table out; json: one object in and out; jsonl: one object a line; "
+            "csv: a price list with a heading row")
+        ->check([](const std::string& name) {
+            return ReadFormat(name) ? std::string()
+                                    : "There is no such format. Choose text, json, jsonl or csv.";
+        })
         ->type_name("text|json|jsonl|csv");
     compare->add_option("FILE", request.Files, "Inputs; none or \"-\" is standard input");
     return compare;
@@ -62,7 +74,11 @@ SettingsActions AddSettings(CLI::App& app, std::string& folder, std::string& key
     auto* set = settings->add_subcommand("set", "Change the value of a key");
     set->add_option("KEY", key)->required();
     set->add_option("VALUE", value)->required();
-    return {get, set, settings->add_subcommand("houses", "List the saved house scenarios")};
+    auto* houses = settings->add_subcommand("houses", "List the saved house scenarios");
+    // --folder may stand before or behind the verb.
+    for (CLI::App* verb : {get, set, houses})
+        verb->fallthrough();
+    return {get, set, houses};
 }
 
 } // namespace
