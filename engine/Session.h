@@ -8,6 +8,12 @@
 
 namespace Ledgrove {
 
+/// The report header as the print options dialog holds it for the run.
+struct ReportHeader {
+    std::string BuilderName;
+    std::string LogoFile = "Full Path To Logo File"; ///< full path; as here while none was ever named
+};
+
 /// The whole state of the program in one value.
 struct Session {
     HomeCase StdCase;
@@ -19,8 +25,7 @@ struct Session {
     FeatureTexts Features;
     std::filesystem::path Folder; ///< the program's folder, where its settings, help and pictures lie
     std::string HelpFile;         ///< file name, "" for none
-    std::string LogoFile;         ///< full path, "" for none
-    std::string BuilderName;
+    ReportHeader Header;
     House ChosenHouse; ///< the house scenario last copied to the screen; its amounts tell when a house is
                        ///< "Custom"
     MainScreen Screen;

@@ -37,18 +37,20 @@ void SetScreenDefaults(Session& session, Host& host) {
 std::optional<SettingsFault> LoadHeader(Session& session, const SettingsFile& file) {
     if (auto fault = GetFeatures(file, session.Features))
         return fault;
-    const auto keep = [](std::string& target,
-                         const Outcome<std::string>& read) -> std::optional<SettingsFault> {
-        if (!read)
-            return read.Fault();
-        target = *read;
-        return std::nullopt;
-    };
-    if (auto fault = keep(session.HelpFile, GetHelpFile(file)))
-        return fault;
-    if (auto fault = keep(session.LogoFile, GetLogoFile(file)))
-        return fault;
-    return keep(session.BuilderName, GetBuilderName(file));
+    const auto helpFile = GetHelpFile(file);
+    if (!helpFile)
+        return helpFile.Fault();
+    session.HelpFile = *helpFile;
+    const auto logoFile = GetLogoFile(file);
+    if (!logoFile)
+        return logoFile.Fault();
+    if (!logoFile->empty())
+        session.Header.LogoFile = *logoFile;
+    const auto builderName = GetBuilderName(file);
+    if (!builderName)
+        return builderName.Fault();
+    session.Header.BuilderName = *builderName;
+    return std::nullopt;
 }
 
 } // namespace

@@ -9,7 +9,7 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr std::size_t pieceSize = 64 * 1024;
+constexpr std::size_t pieceSize = std::size_t{64} * 1024;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace

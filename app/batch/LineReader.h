@@ -9,7 +9,7 @@
 namespace Ledgrove {
 
 /// The longest line that is read; longer ones are refused, so that memory stays constant whatever comes in.
-inline constexpr std::size_t LongestLine = 1024 * 1024;
+inline constexpr std::size_t LongestLine = std::size_t{1024} * 1024;
 
 struct InputLine {
     std::string_view Text;  ///< without its line end; valid until the next line is read

@@ -9,13 +9,13 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr std::size_t pieceSize = 256 * 1024;
+constexpr std::size_t pieceSize = std::size_t{256} * 1024;
 
 } // namespace
 
 OutputBuffer::OutputBuffer(int descriptor)
     : m_descriptor(descriptor) {
-    m_text.reserve(pieceSize + 16 * 1024);
+    m_text.reserve(pieceSize + std::size_t{16} * 1024);
 }
 
 void OutputBuffer::Commit() {

@@ -1,0 +1,83 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QMessageBox>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+
+#include "ui/StartUp.h"
+#include "ui/windows/QtHost.h"
+#include "ui/windows/frmMain.h"
+
+namespace {
+
+enum ExitStatus { Fine = 0, NoSettings = 1, CannotStart = 2 };
+
+bool HasDisplay(int argc, char* argv[]) {
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return true;
+    }
+    for (int i = 1; i < argc; ++i) {
+        for (const std::string_view option : {"-platform", "--platform", "-display", "--display"}) {
+            if (argv[i] == option)
+                return true;
+        }
+    }
+    return false;
+}
+
+int Refuse(const QString& sentence) {
+    std::fprintf(stderr, "%s\n", qPrintable(sentence));
+    return CannotStart;
+}
+
+int ShowWindow(const std::filesystem::path& folder) {
+    Ledgrove::Session session;
+    Ledgrove::QtHost host;
+    if (const auto fault = Ledgrove::Module1::LoadMainScreen(session, host, folder)) {
+        QMessageBox box(QMessageBox::Critical, Ledgrove::ApplicationTitle,
+                        QString::fromStdString(Ledgrove::Sentence(*fault)));
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+        return NoSettings;
+    }
+    Ledgrove::frmMain window(session, host);
+    QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
+    window.show();
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QCoreApplication::setApplicationName("ledgrove");
+    QCoreApplication::setApplicationVersion(LEDGROVE_VERSION);
+
+    const bool hasDisplay = HasDisplay(argc, argv);
+    const std::unique_ptr<QCoreApplication> application(hasDisplay ? new QApplication(argc, argv)
+                                                                   : new QCoreApplication(argc, argv));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Compares the mortgages of two homes.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption folderOption("folder",
+                                          "The folder where Ledgrove.ini lies; the program's own by default.",
+                                          "DIR", QCoreApplication::applicationDirPath());
+    parser.addOption(folderOption);
+    if (!parser.parse(QCoreApplication::arguments()))
+        return Refuse(parser.errorText() + " See ledgrove --help.");
+    if (parser.isSet("help"))
+        parser.showHelp();
+    if (parser.isSet("version"))
+        parser.showVersion();
+    if (!parser.positionalArguments().isEmpty())
+        return Refuse("Ledgrove opens no file: " + parser.positionalArguments().first() +
+                      ". See ledgrove --help.");
+    if (!hasDisplay)
+        return Refuse(
+            "Ledgrove needs a display, and there is none. ledgrove-cli compares homes without one.");
+    return ShowWindow(std::filesystem::absolute(parser.value(folderOption).toStdString()));
+}

@@ -1,0 +1,254 @@
+"""A desktop of the tests' own: an X display with a window manager, a session bus with the accessibility registry, and the
+program in it, driven by real keys and clicks and read as a screen reader reads it."""
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+
+PATIENCE = 15  # seconds until something that should appear counts as missing
+SCREEN = "1366x768x24"
+
+
+class Gone(Exception):
+    """What was waited for did not come."""
+
+
+def wait_for(condition, what):
+    """The first true value of `condition`; accessibility calls may fail while a window is being built."""
+    deadline = time.monotonic() + PATIENCE
+    failure = None
+    while time.monotonic() < deadline:
+        try:
+            value = condition()
+            if value:
+                return value
+        except Exception as error:  # noqa: BLE001 - the bus reports vanished objects in many ways
+            failure = error
+        time.sleep(0.02)
+    raise Gone(f"{what}" + (f" ({failure})" if failure else ""))
+
+
+class Desktop:
+    """Everything is started by this object and ended by it, by process id."""
+
+    def __init__(self, screen=SCREEN):
+        self.home = Path(tempfile.mkdtemp())
+        self.processes = []
+        runtime = self.home / "runtime"
+        runtime.mkdir(mode=0o700)
+        self.environment = {key: value for key, value in os.environ.items()
+                            if not key.startswith(("XDG_", "GTK_", "QT_", "DBUS_", "AT_SPI_"))}
+        self.environment |= {"HOME": str(self.home), "XDG_RUNTIME_DIR": str(runtime),
+                             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb", "LANG": "C.UTF-8"}
+        try:
+            self._start_display(screen)
+            self._start_bus()
+            self.start("openbox", "--sm-disable")
+            wait_for(self._managed, "a window manager")
+        except BaseException:
+            self.close()
+            raise
+
+    def _start_display(self, screen):
+        reader, writer = os.pipe()
+        self.start("Xvfb", "-displayfd", str(writer), "-screen", "0", screen, "-dpi", "96", "-nolisten", "tcp",
+                   "-noreset", pass_fds=(writer,))
+        os.close(writer)
+        with os.fdopen(reader) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise Gone("the X display")
+        self.environment["DISPLAY"] = f":{number}"
+
+    def _start_bus(self):
+        address = f"unix:path={self.home}/bus"
+        self.start("dbus-daemon", "--session", "--nofork", f"--address={address}")
+        wait_for((self.home / "bus").exists, "the session bus")
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        self.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = address
+        os.environ["DISPLAY"] = self.environment["DISPLAY"]
+        wait_for(lambda: subprocess.run(
+            ["dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
+             "org.a11y.Bus.GetAddress"], env=self.environment, capture_output=True).returncode == 0,
+            "the accessibility bus")
+
+    def _managed(self):
+        run = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment, capture_output=True)
+        return b"window id" in run.stdout
+
+    def start(self, *command, **options):
+        process = subprocess.Popen([str(part) for part in command], env=self.environment, stdin=subprocess.DEVNULL,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
+        self.processes.append(process)
+        return process
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, check=True,
+                              capture_output=True, text=True, timeout=PATIENCE).stdout
+
+    def key(self, *names):
+        self.xdotool("key", "--clearmodifiers", *names)
+
+    def type(self, text):
+        self.xdotool("type", "--clearmodifiers", "--delay", "2", "--", text)
+
+    def click(self, x, y):
+        self.xdotool("mousemove", x, y)
+        self.xdotool("click", 1)
+
+    def screenshot(self, path):
+        from PIL import ImageGrab
+        ImageGrab.grab(xdisplay=self.environment["DISPLAY"]).save(path)
+
+    def close(self):
+        for process in reversed(self.processes):
+            process.send_signal(signal.SIGTERM)
+            try:
+                process.wait(5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        shutil.rmtree(self.home, ignore_errors=True)
+
+
+class Program:
+    """One run of the program on a folder of its own."""
+
+    def __init__(self, desktop, program, folder):
+        self.desktop = desktop
+        self.process = desktop.start(program, "--folder", folder)
+        self.root = None
+
+    def find_root(self):
+        from gi.repository import Atspi
+        self.root = wait_for(lambda: self._application(Atspi), "the program on the accessibility bus")
+        return self
+
+    def _application(self, atspi):
+        tree = atspi.get_desktop(0)
+        tree.clear_cache()
+        for index in range(tree.get_child_count()):
+            child = tree.get_child_at_index(index)
+            if child and child.get_process_id() == self.process.pid:
+                return child
+        return None
+
+    # Finding. Names are read afresh each time: the figures change.
+
+    def all(self, start=None):
+        from gi.repository import Atspi
+        stack = [start or self.root]
+        while stack:
+            node = stack.pop()
+            if node is None:
+                continue
+            yield node
+            # The items of a closed pick list are children too, and there are many.
+            if node.get_role() not in (Atspi.Role.COMBO_BOX,) or start is not None:
+                stack.extend(node.get_child_at_index(i) for i in range(node.get_child_count()))
+
+    @staticmethod
+    def showing(node):
+        from gi.repository import Atspi
+        return node.get_state_set().contains(Atspi.StateType.SHOWING)
+
+    def find(self, role, name=None, description=None, missing_ok=False):
+        def search():
+            for node in self.all():
+                if node.get_role_name() in (role if isinstance(role, tuple) else (role,)) and self.showing(node) \
+                        and (name is None or node.get_name() == name) \
+                        and (description is None or node.get_description() == description):
+                    return node
+            return None
+        if missing_ok:
+            return search()
+        return wait_for(search, f"{role} {name or description}")
+
+    def centre(self, node):
+        from gi.repository import Atspi
+        box = node.get_extents(Atspi.CoordType.SCREEN)
+        return box.x + box.width // 2, box.y + box.height // 2
+
+    def click(self, node):
+        self.desktop.click(*self.centre(node))
+
+    # Reading and typing
+
+    def field(self, name):
+        return self.find("text", name)
+
+    def text(self, name):
+        from gi.repository import Atspi
+        node = self.field(name)
+        return Atspi.Text.get_text(node, 0, -1)
+
+    def selection(self, name):
+        from gi.repository import Atspi
+        node = self.field(name)
+        if Atspi.Text.get_n_selections(node) == 0:
+            return ""
+        chosen = Atspi.Text.get_selection(node, 0)
+        return Atspi.Text.get_text(node, chosen.start_offset, chosen.end_offset)
+
+    def result(self, description):
+        """The text of the result label described so."""
+        return self.find("label", description=description).get_name()
+
+    def focused(self):
+        """The control with the focus; the tab in front always says it has it, and windows do too."""
+        from gi.repository import Atspi
+        for node in self.all():
+            states = node.get_state_set()
+            if states.contains(Atspi.StateType.FOCUSED) and node.get_role_name() not in ("frame", "dialog", "page tab"):
+                return node
+        return None
+
+    def wait_focus(self, name):
+        def has():
+            node = self.focused()
+            return node and name in (node.get_name(), node.get_description())
+        wait_for(has, f"the focus on {name}; it is on {self._focus_name()}")
+
+    def _focus_name(self):
+        node = self.focused()
+        return node and (node.get_name(), node.get_description())
+
+    def wait_text(self, name, text):
+        wait_for(lambda: self.text(name) == text, f"{name} showing {text}, it shows {self.text(name)}")
+
+    def wait_result(self, description, text):
+        wait_for(lambda: self.result(description) == text, f"{description} showing {text}")
+
+    def box(self):
+        """The message box that is open, with its text."""
+        node = self.find(("alert", "alert message"))
+        texts = [child.get_name() for child in self.all(node) if child.get_role_name() == "label"]
+        return node, "\n".join(text for text in texts if text)
+
+    def no_box(self):
+        """Waits until no message box is open; a program that has ended shows none."""
+        wait_for(lambda: self.process.poll() is not None
+                 or self.find(("alert", "alert message"), missing_ok=True) is None, "the message box closed")
+
+    def answer(self, button="OK"):
+        """Presses a button of the open message box and waits until it is gone; gives title and text."""
+        node, text = self.box()
+        title = node.get_name()
+        press = wait_for(lambda: next((child for child in self.all(node) if child.get_role_name() == "push button"
+                                       and child.get_name().replace("&", "") == button), None), f"button {button}")
+        time.sleep(0.05)
+        self.click(press)
+        self.no_box()
+        return title, text
+
+    def close(self):
+        self.process.terminate()
+        self.process.wait(PATIENCE)

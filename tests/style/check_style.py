@@ -1,0 +1,51 @@
+#!/usr/bin/env python3
+"""What every source file must keep to: the formatter's shape, a readable length, and its own floor's libraries."""
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+FLOORS = ("engine", "settings", "ui", "reports", "app")
+LONGEST = 400
+
+
+def sources():
+    folders = [ROOT / name for name in (*FLOORS, "tests", "bench")]
+    return sorted(path for folder in folders if folder.is_dir() for path in folder.rglob("*")
+                  if path.suffix in (".h", ".cpp"))
+
+
+def format_faults(paths):
+    run = subprocess.run(["clang-format", "--dry-run", "-Werror", *paths], capture_output=True, text=True)
+    return sorted({line.split(":")[0] + ": clang-format -i would change it" for line in run.stderr.splitlines()
+                   if "code should be clang-formatted" in line})
+
+
+def include_faults(path):
+    """A core includes no toolkit, and no file includes a higher floor."""
+    place = path.relative_to(ROOT).parts
+    if place[0] not in FLOORS:
+        return
+    higher = FLOORS[FLOORS.index(place[0]) + 1:]
+    for include in re.findall(r'^#include ["<]([^">]+)', path.read_text(), re.M):
+        if "windows" not in place and place[:2] != ("app", "ledgrove") and re.match(r"Q[A-Z]|Qt", include):
+            yield f"{path}: includes {include}; only windows/ may"
+        if include.split("/")[0] in higher:
+            yield f"{path}: includes {include} from a higher floor"
+
+
+def main():
+    paths = sources()
+    faults = format_faults(paths)
+    for path in paths:
+        faults += include_faults(path)
+        length = path.read_text().count("\n")
+        if length > LONGEST:
+            faults.append(f"{path}: {length} lines; look for the seam")
+    print("\n".join(faults))
+    print(f"{len(paths)} files, {len(faults)} faults")
+    return 1 if faults or not paths else 0
+
+
+sys.exit(main())

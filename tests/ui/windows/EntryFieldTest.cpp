@@ -1,0 +1,325 @@
+#include "ui/windows/EntryField.h"
+
+#include <QComboBox>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "WindowTest.h"
+#include "ui/windows/FormFocus.h"
+#include "ui/windows/FormGuard.h"
+
+using namespace Ledgrove;
+using Module1::AfterEdit;
+
+namespace {
+
+const std::string notANumber = "You must enter a number here.";
+
+/// Two fields of a record, buttons and a pick list in one column.
+struct Form {
+    explicit Form(Host& host)
+        : Context{State, host, Focus} {
+        auto* layout = new QVBoxLayout(&Window);
+        for (EntryField* field : {First, Second})
+            layout->addWidget(field);
+        for (QPushButton* button : {Other, Cancel, Exit})
+            layout->addWidget(button);
+        layout->addWidget(List);
+        Other->setObjectName("bOther");
+        Cancel->setObjectName("bCancelDialog");
+        Exit->setObjectName("bExitForm");
+        First->setObjectName("first");
+        Second->setObjectName("second");
+        List->addItems({"one", "two"});
+        Bind(*First, State.Screen.ecIncome);
+        Bind(*Second, State.Screen.ecMonthlyDebt);
+        QObject::connect(Other, &QPushButton::clicked, [this] { ++OtherClicks; });
+        new FormGuard(Window);
+        Window.show();
+        if (!QTest::qWaitForWindowActive(&Window))
+            qFatal("the form does not become active");
+        First->setFocus();
+    }
+
+    void Bind(EntryField& widget, Field& field) {
+        const auto refresh = [&widget, &field] {
+            if (const QString text = QString::fromStdString(field.Text); widget.text() != text)
+                widget.setText(text);
+        };
+        widget.Bind(field,
+                    StandardEntryEvents(Context, field, {"Dollar", "Dollar", AfterEdit::Nothing}, refresh));
+    }
+
+    QWidget Window;
+    Session State;
+    FormFocus Focus{Window};
+    EntryContext Context;
+    EntryField *First = new EntryField, *Second = new EntryField;
+    QPushButton *Other = new QPushButton("&Other"), *Cancel = new QPushButton("Cancel"),
+                *Exit = new QPushButton("Exit");
+    QComboBox* List = new QComboBox;
+    int OtherClicks = 0;
+};
+
+} // namespace
+
+class EntryFieldTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void typingWritesTheRecordAtOnce();
+    void enterFormatsAndMovesOn();
+    void tabCommitsAndMovesOn();
+    void shiftTabCommitsByLeaving();
+    void refusedTabStaysWithOneMessage();
+    void refusedEnterStaysWithOneMessage();
+    void emptyFieldBecomesZeroWhenLeft();
+    void leavingForCancelOrExitNeverComplains_data();
+    void leavingForCancelOrExitNeverComplains();
+    void pressThatLeftARefusedFieldDoesNotAct();
+    void pressThatLeftARefusedFieldOpensNoList();
+    void pressAfterTheMessageBoxDoesNotAct();
+    void nextPressActsAgain();
+    void refusalTouchesNoOtherField();
+    void mnemonicOfAButtonActsOnlyAfterCommit();
+    void wheelTurnsNoListWithoutFocus();
+    void clickAndFocusSelectAll();
+    void draggedSelectionStays();
+    void textSetFromOutsideIsAChange();
+    void anotherWindowInFrontCommitsNothing();
+};
+
+void EntryFieldTest::typingWritesTheRecordAtOnce() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    QCOMPARE(form.State.Screen.ecIncome.Text, std::string("abc"));
+    QVERIFY(host.Messages.empty());
+}
+
+void EntryFieldTest::enterFormatsAndMovesOn() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "72000");
+    QTest::keyClick(form.First, Qt::Key_Return);
+    QCOMPARE(form.First->text(), "$72,000");
+    QVERIFY(form.Second->hasFocus());
+}
+
+void EntryFieldTest::tabCommitsAndMovesOn() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "350");
+    QTest::keyClick(form.First, Qt::Key_Tab);
+    QCOMPARE(form.First->text(), "$350");
+    QVERIFY(form.Second->hasFocus());
+}
+
+void EntryFieldTest::shiftTabCommitsByLeaving() {
+    RecordingHost host;
+    Form form(host);
+    form.Second->setFocus();
+    QTest::keyClicks(form.Second, "350");
+    QTest::keyClick(form.Second, Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(form.Second->text(), "$350");
+    QVERIFY(form.First->hasFocus());
+}
+
+void EntryFieldTest::refusedTabStaysWithOneMessage() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    QTest::keyClick(form.First, Qt::Key_Tab);
+    QCOMPARE(host.TakeTexts(), std::vector{notANumber});
+    QVERIFY(form.First->hasFocus());
+    QCOMPARE(form.First->selectedText(), "abc");
+}
+
+void EntryFieldTest::refusedEnterStaysWithOneMessage() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "-5");
+    QTest::keyClick(form.First, Qt::Key_Enter, Qt::KeypadModifier);
+    QCOMPARE(host.TakeTexts(), std::vector<std::string>{"You must enter a positive number here."});
+    QVERIFY(form.First->hasFocus());
+    QCOMPARE(form.First->selectedText(), "-5");
+}
+
+void EntryFieldTest::emptyFieldBecomesZeroWhenLeft() {
+    RecordingHost host;
+    Form form(host);
+    ClickAt(*form.Second);
+    QCOMPARE(form.First->text(), "$0");
+    QVERIFY(host.Messages.empty());
+}
+
+void EntryFieldTest::leavingForCancelOrExitNeverComplains_data() {
+    QTest::addColumn<QString>("button");
+    QTest::addRow("Cancel") << "bCancelDialog";
+    QTest::addRow("Exit") << "bExitForm";
+}
+
+void EntryFieldTest::leavingForCancelOrExitNeverComplains() {
+    QFETCH(QString, button);
+    RecordingHost host;
+    Form form(host);
+    auto* target = form.Window.findChild<QPushButton*>(button);
+    QSignalSpy clicked(target, &QPushButton::clicked);
+    QTest::keyClicks(form.First, "-5");
+    ClickAt(*target);
+    QVERIFY(host.Messages.empty());
+    QCOMPARE(clicked.count(), 1);
+    QVERIFY(target->hasFocus());
+}
+
+void EntryFieldTest::pressThatLeftARefusedFieldDoesNotAct() {
+    RecordingHost host;
+    Form form(host);
+    QSignalSpy pressed(form.Other, &QPushButton::pressed);
+    QTest::keyClicks(form.First, "abc");
+    ClickAt(*form.Other);
+    QCOMPARE(host.TakeTexts(), std::vector{notANumber});
+    QVERIFY(form.First->hasFocus());
+    QCOMPARE(form.OtherClicks, 0);
+    QCOMPARE(pressed.count(), 0);
+    QVERIFY(!form.Other->isDown());
+}
+
+void EntryFieldTest::pressThatLeftARefusedFieldOpensNoList() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    ClickAt(*form.List);
+    QCOMPARE(host.TakeTexts(), std::vector{notANumber});
+    QVERIFY(form.First->hasFocus());
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void EntryFieldTest::pressAfterTheMessageBoxDoesNotAct() {
+    QtHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    int boxes = 0;
+    QTimer answer;
+    connect(&answer, &QTimer::timeout, this, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            ++boxes;
+            box->accept();
+        }
+    });
+    answer.start(10);
+    ClickAt(*form.Other);
+    QCOMPARE(boxes, 1);
+    // Without a window manager nobody brings the form back to the front.
+    form.Window.activateWindow();
+    QTRY_VERIFY(form.First->hasFocus());
+    QCOMPARE(form.First->selectedText(), "abc");
+    QCOMPARE(form.OtherClicks, 0);
+    QVERIFY(!form.Other->isDown());
+}
+
+void EntryFieldTest::nextPressActsAgain() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    ClickAt(*form.Other);
+    form.First->selectAll();
+    QTest::keyClicks(form.First, "5");
+    ClickAt(*form.Other);
+    QCOMPARE(form.OtherClicks, 1);
+    QCOMPARE(host.TakeTexts(), std::vector{notANumber});
+}
+
+void EntryFieldTest::refusalTouchesNoOtherField() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    ClickAt(*form.Second);
+    QCOMPARE(form.Second->text(), "");
+    QVERIFY(form.First->hasFocus());
+}
+
+void EntryFieldTest::mnemonicOfAButtonActsOnlyAfterCommit() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    QTest::keyClick(form.Window.windowHandle(), Qt::Key_O, Qt::AltModifier);
+    QTest::qWait(150); // a button that a mnemonic presses clicks 100 ms later
+    QCOMPARE(form.OtherClicks, 0);
+    QCOMPARE(host.TakeTexts(), std::vector{notANumber});
+
+    QTest::keyClicks(form.First, "5");
+    QTest::keyClick(form.Window.windowHandle(), Qt::Key_O, Qt::AltModifier);
+    QTRY_COMPARE(form.OtherClicks, 1);
+    QCOMPARE(form.First->text(), "$5");
+}
+
+void EntryFieldTest::wheelTurnsNoListWithoutFocus() {
+    RecordingHost host;
+    Form form(host);
+    const QPointF middle = form.List->rect().center();
+    const auto turn = [&] {
+        QWheelEvent event(middle, form.List->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(form.List, &event);
+    };
+    form.List->setFocusPolicy(Qt::StrongFocus);
+    turn();
+    QCOMPARE(form.List->currentIndex(), 0);
+    form.List->setFocus();
+    turn();
+    QCOMPARE(form.List->currentIndex(), 1);
+}
+
+void EntryFieldTest::clickAndFocusSelectAll() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "123");
+    QTest::keyClick(form.First, Qt::Key_Return);
+    ClickAt(*form.First);
+    QCOMPARE(form.First->selectedText(), "$123");
+    form.First->deselect();
+    ClickAt(*form.First);
+    QCOMPARE(form.First->selectedText(), "$123");
+}
+
+void EntryFieldTest::draggedSelectionStays() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "123456");
+    // From the start of the text over its first digits.
+    const int y = form.First->height() / 2;
+    const int digits = form.First->fontMetrics().horizontalAdvance("123");
+    QTest::mousePress(form.First, Qt::LeftButton, {}, {2, y});
+    const QPointF end(2 + digits, y);
+    QMouseEvent move(QEvent::MouseMove, end, form.First->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(form.First, &move);
+    QTest::mouseRelease(form.First, Qt::LeftButton, {}, end.toPoint());
+    QVERIFY(form.First->hasSelectedText());
+    QVERIFY(form.First->selectedText().size() < 6);
+}
+
+void EntryFieldTest::textSetFromOutsideIsAChange() {
+    RecordingHost host;
+    Form form(host);
+    form.First->setText("99");
+    QCOMPARE(form.State.Screen.ecIncome.Text, std::string("99"));
+}
+
+void EntryFieldTest::anotherWindowInFrontCommitsNothing() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "abc");
+    QWidget another;
+    another.show();
+    another.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&another));
+    QVERIFY(host.Messages.empty());
+    QCOMPARE(form.First->text(), "abc");
+}
+
+QTEST_MAIN(EntryFieldTest)
+#include "EntryFieldTest.moc"

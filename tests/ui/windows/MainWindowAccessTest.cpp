@@ -1,0 +1,175 @@
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMap>
+#include <QTabBar>
+
+#include "WindowTest.h"
+#include "ui/MainScreenRules.h"
+#include "ui/windows/ResultPanels.h"
+
+using namespace Ledgrove;
+
+namespace {
+
+QChar MnemonicOf(const QString& text) {
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != '&')
+            continue;
+        if (text[i + 1] != '&')
+            return text[i + 1].toUpper();
+        ++i;
+    }
+    return {};
+}
+
+/// Every text of the window in which "&" marks a mnemonic.
+QStringList MnemonicTexts(const OpenWindow& open) {
+    QStringList texts;
+    for (const QLabel* label : open.Window->findChildren<QLabel*>()) {
+        if (label->buddy())
+            texts += label->text();
+    }
+    for (const QAbstractButton* button : open.Window->findChildren<QAbstractButton*>())
+        texts += button->text();
+    const QTabBar* bar = open.Find<ResultPanels>("SSTab1").tabBar();
+    for (int i = 0; i < bar->count(); ++i)
+        texts += bar->tabText(i);
+    return texts;
+}
+
+QString SpokenName(QWidget& widget) {
+    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+}
+
+} // namespace
+
+class MainWindowAccessTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void noMnemonicIsGivenTwice();
+    void mnemonicsReachTheirControls();
+    void everyCaptionIsItsFieldsBuddy();
+    void fieldsAreNamedCaptionAndColumn();
+    void pickListsAreDescribedAndSayTheirChoice();
+    void resultsAreDescribedAndSayTheirText();
+    void descriptionFollowsTheCaption();
+    void tabOrderFollowsTheEye();
+};
+
+void MainWindowAccessTest::noMnemonicIsGivenTwice() {
+    OpenWindow open;
+    QMap<QChar, QString> owners;
+    for (const QString& text : MnemonicTexts(open)) {
+        const QChar letter = MnemonicOf(text);
+        if (letter.isNull())
+            continue;
+        QVERIFY2(!owners.contains(letter), qPrintable(text + " and " + owners[letter]));
+        owners[letter] = text;
+    }
+    // Eight captions of fields, two options, the check box, five tabs, five buttons.
+    QCOMPARE(owners.size(), 21);
+}
+
+void MainWindowAccessTest::mnemonicsReachTheirControls() {
+    OpenWindow open;
+    open.Press(Qt::Key_S, Qt::AltModifier);
+    QCOMPARE(open.Focused(), "ecStdHome");
+    open.Press(Qt::Key_N, Qt::AltModifier);
+    QCOMPARE(open.Focused(), "cboStdMortOption");
+    open.Press(Qt::Key_C, Qt::AltModifier);
+    QCOMPARE(open.State.Screen.SSTab1, 1);
+}
+
+void MainWindowAccessTest::everyCaptionIsItsFieldsBuddy() {
+    OpenWindow open;
+    const std::pair<const char*, const char*> captions[] = {
+        {"Annual Income", "ecIncome"},   {"Monthly Debt", "ecMonthlyDebt"},
+        {"Sticker Price:", "ecStdHome"}, {"Annual Utility Cost:", "ecStdUtil"},
+        {"Interest Rate:", "ecStdRate"}, {"Mortgage Stretch:", "ecStdStr"},
+        {"Term:", "cboMortTerm"},        {"Mortgage Option:", "cboStdMortOption"}};
+    QMap<QString, QString> buddies;
+    for (const QLabel* label : open.Window->findChildren<QLabel*>()) {
+        if (label->buddy())
+            buddies[label->text().remove('&')] = label->buddy()->objectName();
+    }
+    for (const auto& [caption, field] : captions)
+        QCOMPARE(buddies.value(caption), field);
+    QCOMPARE(buddies.size(), qsizetype(std::size(captions)));
+}
+
+void MainWindowAccessTest::fieldsAreNamedCaptionAndColumn() {
+    OpenWindow open;
+    const std::pair<const char*, const char*> names[] = {{"ecIncome", "Annual Income"},
+                                                         {"ecStdHome", "Sticker Price, Base Home"},
+                                                         {"ecGMHHome", "Sticker Price, GREENMARK Home"},
+                                                         {"ecGMHStr", "Mortgage Stretch, GREENMARK Home"},
+                                                         {"ecGMHTerm", "Term, GREENMARK Home"}};
+    for (const auto& [field, name] : names)
+        QCOMPARE(SpokenName(open.Find(field)), name);
+    QSet<QString> all;
+    for (const EntryRule& rule : MainEntryRules()) {
+        all += SpokenName(open.Find(rule.Name.data()));
+        QCOMPARE(open.Find(rule.Name.data()).accessibleDescription(), rule.Name.data());
+    }
+    QCOMPARE(std::size_t(all.size()), MainEntryRules().size());
+}
+
+void MainWindowAccessTest::pickListsAreDescribedAndSayTheirChoice() {
+    OpenWindow open;
+    QCOMPARE(open.Find("cboMortTerm").accessibleDescription(), "Term, Base Home");
+    QCOMPARE(open.Find("cboGMHMortOption").accessibleDescription(), "Mortgage Option, GREENMARK Home");
+    for (const auto& entry : PickListTable()) {
+        auto& list = open.Find<QComboBox>(entry.Name.data());
+        QVERIFY(list.accessibleName().isEmpty());
+        QCOMPARE(SpokenName(list), list.currentText());
+    }
+}
+
+void MainWindowAccessTest::resultsAreDescribedAndSayTheirText() {
+    OpenWindow open;
+    QCOMPARE(open.Find("lblStdMaxHome").accessibleDescription(), "Maximum Loan Value, Base Home");
+    QCOMPARE(open.Find("lblGMHQual").accessibleDescription(), "Buyer Qualifies?, GREENMARK Home");
+    QCOMPARE(open.Find("lblNetCashYr").accessibleDescription(), "Net Monthly Cash Flow, Yearly");
+    open.State.Screen.lblStdMaxHome.Text = "$242,484";
+    open.Window->Refresh();
+    QCOMPARE(SpokenName(open.Find("lblStdMaxHome")), "$242,484");
+    for (const auto& entry : LabelTable())
+        QVERIFY2(open.Find(entry.Name.data()).accessibleName().isEmpty(), entry.Name.data());
+}
+
+void MainWindowAccessTest::descriptionFollowsTheCaption() {
+    OpenWindow open;
+    QCOMPARE(open.Find("lblAddMortMo").accessibleDescription(), "Mortgage Savings, Monthly");
+    open.State.Screen.lbladditionalmortgagetext.Text = "Additional Mortgage";
+    open.Window->Refresh();
+    QCOMPARE(open.Find("lblAddMortMo").accessibleDescription(), "Additional Mortgage, Monthly");
+}
+
+void MainWindowAccessTest::tabOrderFollowsTheEye() {
+    OpenWindow open;
+    // The disabled buttons and the option that is not chosen are passed over.
+    const QStringList expected = {
+        "ecIncome",         "ecMonthlyDebt",    "optDownPayment0", "ecPctDown", "ecFixedDown",
+        "chkDoTax0",        "ecStdHome",        "ecGMHHome",       "ecStdUtil", "ecGMHUtil",
+        "ecStdRate",        "ecGMHRate",        "ecStdStr",        "ecGMHStr",  "cboMortTerm",
+        "cboStdMortOption", "cboGMHMortOption", "bDisclaimer",     "bHelp"};
+    open.Find("ecIncome").setFocus();
+    QStringList walked;
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        walked += open.Focused();
+        open.Press(Qt::Key_Tab);
+    }
+    QCOMPARE(walked, expected);
+    QCOMPARE(QApplication::focusWidget(), open.Find<ResultPanels>("SSTab1").tabBar());
+    open.Press(Qt::Key_Tab);
+    QCOMPARE(open.Focused(), "ecIncome");
+    open.Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), open.Find<ResultPanels>("SSTab1").tabBar());
+}
+
+QTEST_MAIN(MainWindowAccessTest)
+#include "MainWindowAccessTest.moc"

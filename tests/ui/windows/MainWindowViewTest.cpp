@@ -1,0 +1,249 @@
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+
+#include "WindowTest.h"
+#include "ui/MainScreenRules.h"
+#include "ui/windows/Labels.h"
+#include "ui/windows/ResultPanels.h"
+
+using namespace Ledgrove;
+
+namespace {
+
+QString Name(std::string_view name) {
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+} // namespace
+
+class MainWindowViewTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyLabelOfTheRecordIsShownOnce();
+    void everyInputOfTheRecordIsShownOnce();
+    void refreshShowsWhatTheRecordHolds();
+    void refreshKeepsTheCursorOfAnUnchangedField();
+    void refreshIsNotTyping();
+    void redIsReadableOnLightAndDark();
+    void hiddenTaxLabelsKeepTheLayout();
+    void panelsKeepTheirPlaceWhenFiguresGrow();
+    void tooLongFigureShowsNoPartOfItsDigits();
+    void captionsOfTabsAndButtons();
+    void footnoteShowsOneAmpersand();
+    void welcomeShowsTheSteps();
+    void buttonsOfMissingDialogsAreDisabledWithATip();
+    void actionsEnableTheirButtons();
+    void printRunsTheDataCheckFirst();
+    void tipsTellThePaymentsApart();
+    void windowFitsASmallScreen();
+    void closingTellsTheProgram();
+};
+
+void MainWindowViewTest::everyLabelOfTheRecordIsShownOnce() {
+    OpenWindow open;
+    for (const auto& entry : LabelTable())
+        QVERIFY2(open.Window->findChildren<QLabel*>(Name(entry.Name)).size() == 1, entry.Name.data());
+}
+
+void MainWindowViewTest::everyInputOfTheRecordIsShownOnce() {
+    OpenWindow open;
+    for (const EntryRule& rule : MainEntryRules())
+        QVERIFY2(open.Window->findChildren<QLineEdit*>(Name(rule.Name)).size() == 1, rule.Name.data());
+    for (const auto& entry : PickListTable())
+        QVERIFY2(open.Window->findChildren<QWidget*>(Name(entry.Name)).size() == 1, entry.Name.data());
+    QVERIFY(open.Find<QLineEdit>("ecGMHTerm").isReadOnly());
+    QVERIFY(!open.Window->findChild<QWidget*>("ecRate"));
+    QVERIFY(!open.Window->findChild<QWidget*>("ecSaveRate"));
+}
+
+void MainWindowViewTest::refreshShowsWhatTheRecordHolds() {
+    OpenWindow open;
+    MainScreen& screen = open.State.Screen;
+    for (const auto& entry : LabelTable())
+        (screen.*entry.Member).Text = "text of " + std::string(entry.Name);
+    for (const EntryRule& rule : MainEntryRules())
+        (screen.*rule.Member).Text = "field " + std::string(rule.Name);
+    screen.chkDoTax0 = false;
+    screen.optDownPayment = 1;
+    screen.lblPVNote.Visible = true;
+    open.Window->Refresh();
+    for (const auto& entry : LabelTable())
+        QCOMPARE(open.LabelText(entry.Name.data()), "text of " + Name(entry.Name));
+    for (const EntryRule& rule : MainEntryRules())
+        QCOMPARE(open.FieldText(rule.Name.data()), "field " + Name(rule.Name));
+    QVERIFY(!open.Find<QCheckBox>("chkDoTax0").isChecked());
+    QVERIFY(!open.Find("lblPVNote").isHidden());
+    screen.lblPVNote.Visible = false;
+    open.Window->Refresh();
+    QVERIFY(open.Find("lblPVNote").isHidden());
+}
+
+void MainWindowViewTest::refreshKeepsTheCursorOfAnUnchangedField() {
+    OpenWindow open;
+    open.Type("ecIncome", "72000");
+    auto& field = open.Find<QLineEdit>("ecIncome");
+    field.setCursorPosition(2);
+    open.Window->Refresh();
+    QCOMPARE(field.cursorPosition(), 2);
+}
+
+void MainWindowViewTest::refreshIsNotTyping() {
+    OpenWindow open;
+    open.State.Scenario.EEMNoticeFlag = false;
+    open.State.Screen.ecStdHome.Text = "5";
+    open.Window->Refresh();
+    QCOMPARE(open.FieldText("ecStdHome"), "5");
+    QVERIFY(!open.State.Scenario.EEMNoticeFlag);
+}
+
+void MainWindowViewTest::redIsReadableOnLightAndDark() {
+    OpenWindow open;
+    open.State.Screen.lblNetCashMo.Colour = TextColour::Red;
+    const auto colourOn = [&](const QColor& background) {
+        QPalette palette = open.Window->palette();
+        palette.setColor(QPalette::Window, background);
+        open.Window->setPalette(palette);
+        return open.Find("lblNetCashMo").palette().color(QPalette::WindowText);
+    };
+    const QColor onLight = colourOn(Qt::white);
+    const QColor onDark = colourOn(QColor(40, 40, 40));
+    QVERIFY(onLight.red() > 2 * onLight.green());
+    QVERIFY(onDark.red() > onDark.green());
+    QVERIFY(onLight.lightness() < 128);
+    QVERIFY(onDark.lightness() > 150);
+}
+
+void MainWindowViewTest::hiddenTaxLabelsKeepTheLayout() {
+    OpenWindow open;
+    open.Find<ResultPanels>("SSTab1").setCurrentIndex(4);
+    QCoreApplication::processEvents();
+    auto& below = open.Find("lblStdPITIU");
+    const QPoint before = below.mapTo(open.Window.get(), QPoint());
+    ClickAt(open.Find("chkDoTax0"));
+    QCoreApplication::processEvents();
+    QVERIFY(open.Find("lbltaxsavmo2").isHidden());
+    QVERIFY(open.Find("lblTaxSavmo2Text").isHidden());
+    QVERIFY(!open.Find("lblTaxSavMo").isHidden());
+    QCOMPARE(below.mapTo(open.Window.get(), QPoint()), before);
+}
+
+void MainWindowViewTest::panelsKeepTheirPlaceWhenFiguresGrow() {
+    OpenWindow open;
+    open.Find<ResultPanels>("SSTab1").setCurrentIndex(4);
+    QCoreApplication::processEvents();
+    const QRect before = open.Find("lblGMHHome").geometry();
+    const QSize window = open.Window->size();
+    open.State.Screen.lblStdHome.Text = "$123,456,789";
+    open.State.Screen.lblGMHHome.Text = std::string(60, '9');
+    open.Window->Refresh();
+    QCoreApplication::processEvents();
+    QCOMPARE(open.Find("lblGMHHome").geometry(), before);
+    QCOMPARE(open.Window->size(), window);
+}
+
+void MainWindowViewTest::tooLongFigureShowsNoPartOfItsDigits() {
+    // Of a figure that does not fit, the first digits and dots are shown, as of any such figure: two that
+    // differ only behind look alike.
+    QLabel caption("Sticker Price");
+    ResultLabel shorter("lblStdHome", caption, "Base Home");
+    ResultLabel longer("lblStdHome", caption, "Base Home");
+    const QSize size = shorter.sizeHint();
+    shorter.resize(size);
+    longer.resize(size);
+    shorter.setText("$" + QString(60, '9'));
+    longer.setText("$" + QString(80, '9'));
+    QCOMPARE(shorter.grab().toImage(), longer.grab().toImage());
+    QCOMPARE(longer.text(), "$" + QString(80, '9'));
+}
+
+void MainWindowViewTest::captionsOfTabsAndButtons() {
+    OpenWindow open;
+    const QTabBar* bar = open.Find<ResultPanels>("SSTab1").tabBar();
+    QCOMPARE(bar->count(), TabCount);
+    for (int i = 0; i < TabCount; ++i)
+        QCOMPARE(bar->tabText(i).remove('&'), TabPages[static_cast<std::size_t>(i)].Caption);
+    const std::pair<const char*, const char*> captions[] = {
+        {"bHouses", "House Scenarios"}, {"Command1", "Financial Assumptions"}, {"bSysOpt", "Options"},
+        {"bPrint", "Print Reports"},    {"bDisclaimer", "Disclaimer"},         {"bHelp", "Help"}};
+    for (const auto& [button, caption] : captions)
+        QCOMPARE(open.Find<QPushButton>(button).text().remove('&'), caption);
+}
+
+void MainWindowViewTest::footnoteShowsOneAmpersand() {
+    OpenWindow open;
+    QCOMPARE(open.LabelText("lblSummaryFootnote"),
+             "*Ledgrove only provides estimates & does not account for LTV - check with your bank");
+}
+
+void MainWindowViewTest::welcomeShowsTheSteps() {
+    OpenWindow open;
+    QCOMPARE(open.LabelText("lblStep4Des"),
+             "Review/Edit Financial Assumptions and Options to match user preferences.");
+    QCOMPARE(open.LabelText("lblStep5Des"), "View results by selecting tabs above.");
+    QVERIFY(open.LabelText("lblStep5Des2").startsWith("Select Print Reports.  Add"));
+}
+
+void MainWindowViewTest::buttonsOfMissingDialogsAreDisabledWithATip() {
+    OpenWindow open;
+    for (const char* button : {"bHouses", "Command1", "bSysOpt", "bPrint"}) {
+        QVERIFY(!open.Find(button).isEnabled());
+        QCOMPARE(open.Find(button).toolTip(), "Comes with a later version");
+    }
+    QVERIFY(open.Find("bDisclaimer").isEnabled());
+    QVERIFY(open.Find("bHelp").isEnabled());
+    QCOMPARE(open.Find("bFinancing").focusPolicy(), Qt::NoFocus);
+}
+
+void MainWindowViewTest::actionsEnableTheirButtons() {
+    Session session;
+    RecordingHost host;
+    FillAsAtStart(session, host);
+    MainActions actions;
+    actions.Houses = [&] { session.Screen.lblHomeName.Text = "The Alder"; };
+    frmMain window(session, host, actions);
+    auto* button = window.findChild<QPushButton*>("bHouses");
+    QVERIFY(button->isEnabled());
+    button->click();
+    QCOMPARE(window.findChild<QLabel*>("lblHomeName")->text(), "The Alder");
+}
+
+void MainWindowViewTest::printRunsTheDataCheckFirst() {
+    Session session;
+    RecordingHost host;
+    FillAsAtStart(session, host);
+    std::size_t messagesBefore = 0;
+    MainActions actions;
+    actions.Print = [&] { messagesBefore = host.Messages.size(); };
+    frmMain window(session, host, actions);
+    window.findChild<QPushButton*>("bPrint")->click();
+    QCOMPARE(messagesBefore, std::size_t(1));
+    QCOMPARE(host.Messages.front().Title, std::string("Ledgrove Data Check"));
+}
+
+void MainWindowViewTest::tipsTellThePaymentsApart() {
+    OpenWindow open;
+    for (const char* label : {"lblStdPITI", "lblGMHPITI"})
+        QCOMPARE(open.Find(label).toolTip(), "Principal, interest, taxes, insurance and PMI per month");
+    for (const char* label : {"lblStdMortPayment", "lblGMHMortPayment"})
+        QCOMPARE(open.Find(label).toolTip(), "Principal and interest per month");
+}
+
+void MainWindowViewTest::windowFitsASmallScreen() {
+    OpenWindow open;
+    QVERIFY(open.Window->minimumSizeHint().width() <= 1366);
+    QVERIFY(open.Window->minimumSizeHint().height() <= 740);
+}
+
+void MainWindowViewTest::closingTellsTheProgram() {
+    OpenWindow open;
+    QSignalSpy closed(open.Window.get(), &frmMain::Closed);
+    open.Window->close();
+    QCOMPARE(closed.count(), 1);
+}
+
+QTEST_MAIN(MainWindowViewTest)
+#include "MainWindowViewTest.moc"

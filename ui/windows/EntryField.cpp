@@ -1,0 +1,119 @@
+#include "ui/windows/EntryField.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <utility>
+
+#include "ui/windows/FormGuard.h"
+
+namespace Ledgrove {
+
+using Module1::EntryOutcome;
+
+namespace {
+
+/// The field stays the form's current one: another window, a menu or a pick list's popup is in front for now.
+bool KeepsCurrentField(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+bool IsPlain(const QKeyEvent& event) {
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+} // namespace
+
+EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const EntryTypes& types,
+                                std::function<void()> refresh) {
+    EntryEvents events;
+    events.Click = [&context] { context.Focus.SelectFieldText(); };
+    events.GotFocus = events.Click;
+    events.KeyPress = [&context, &field, type = types.OnKeyPress, refresh](KeyCode key) {
+        const EntryOutcome outcome = Module1::HandleEntryKey(context, field, key, type);
+        refresh();
+        return outcome;
+    };
+    events.LostFocus = [&context, &field, types, refresh] {
+        const EntryOutcome outcome = Module1::LeaveField(context, field, types.OnLostFocus, types.After);
+        refresh();
+        return outcome;
+    };
+    events.Change = [&context, &field](const std::string& text) {
+        Module1::SetFieldText(context.State, field, text);
+    };
+    return events;
+}
+
+EntryField::EntryField(QWidget* parent)
+    : QLineEdit(parent) {
+    // textChanged, not textEdited: assistive technologies set the text without a key.
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (m_events.Change)
+            m_events.Change(text.toStdString());
+    });
+}
+
+void EntryField::Bind(const Field& field, EntryEvents events) {
+    m_field = &field;
+    m_events = std::move(events);
+}
+
+bool EntryField::Commit(KeyCode key) {
+    return !m_events.KeyPress || m_events.KeyPress(key) == EntryOutcome::Accepted;
+}
+
+bool EntryField::event(QEvent* event) {
+    // The toolkit moves the focus on Tab before keyPressEvent would see the key.
+    if (event->type() == QEvent::KeyPress) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_Tab && IsPlain(key) && !Commit(KeyCode::Tab)) {
+            event->accept();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void EntryField::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && m_events.KeyPress) {
+        Commit(KeyCode::Enter);
+        event->accept();
+        return;
+    }
+    const QString typed = event->text();
+    if (m_events.Character && typed.size() == 1 && m_events.Character(typed.front().toLatin1())) {
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void EntryField::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    const bool dragged = hasSelectedText();
+    if (event->button() == Qt::LeftButton && hasFocus() && !dragged && m_events.Click)
+        m_events.Click();
+}
+
+void EntryField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    m_entered = true;
+    if (!KeepsCurrentField(event->reason()) && m_events.GotFocus)
+        m_events.GotFocus();
+}
+
+void EntryField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (KeepsCurrentField(event->reason()))
+        return;
+    // While a refusal takes the focus back, the field that was moved to loses a focus it never got.
+    if (!std::exchange(m_entered, false) || !m_events.LostFocus)
+        return;
+    if (m_events.LostFocus() == EntryOutcome::Refused && event->reason() == Qt::MouseFocusReason)
+        SwallowPendingPress();
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QLineEdit>
+#include <functional>
+#include <string>
+
+#include "ui/Entry.h"
+
+namespace Ledgrove {
+
+/// What the events of an edit field do. An empty function leaves its event to the field.
+struct EntryEvents {
+    std::function<void()> Click;
+    std::function<void()> GotFocus;
+    std::function<Module1::EntryOutcome(KeyCode)> KeyPress;
+    std::function<Module1::EntryOutcome()> LostFocus;
+    std::function<void(const std::string&)> Change;
+    std::function<bool(char)> Character; ///< sees a typed character before the field; true takes it
+};
+
+/// How the field of a form is entered. The formats may differ between key press and lost focus.
+struct EntryTypes {
+    Module1::FormatType OnKeyPress;
+    Module1::FormatType OnLostFocus;
+    Module1::AfterEdit After;
+};
+
+/// The events as most fields connect them. `refresh` shows the record again after each; it and the two
+/// references must outlive the field.
+EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const EntryTypes& types,
+                                std::function<void()> refresh);
+
+/// The edit field of every form: turns the toolkit's events into the five of the entry rules. Any text may be
+/// typed; what is wrong with it is said when the field is committed or left.
+class EntryField : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit EntryField(QWidget* parent = nullptr);
+
+    /// Connects the field of the record that this one shows. `field` must outlive the widget.
+    void Bind(const Field& field, EntryEvents events);
+    bool Shows(const Field& field) const { return m_field == &field; }
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool Commit(KeyCode key);
+
+    const Field* m_field = nullptr;
+    EntryEvents m_events;
+    bool m_entered = false;
+};
+
+} // namespace Ledgrove

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+
+namespace Ledgrove {
+
+/// A label that a recalculation writes, right-aligned. It keeps one width whatever its figure, and its place
+/// while it is hidden; a figure that is too long ends in dots instead of showing some of its digits.
+class ResultLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    /// `caption` and `column` say what the figure is; the caption's words may change.
+    ResultLabel(const char* control, const QLabel& caption, QString column, QWidget* parent = nullptr);
+
+    /// Brings the description up to date with the caption.
+    void Describe();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const QLabel& m_caption;
+    QString m_column;
+};
+
+/// A label for fixed words.
+QLabel* TextLabel(const QString& text, QWidget* parent = nullptr);
+
+/// A label whose words a recalculation writes; it keeps its place while it is hidden.
+QLabel* CaptionLabel(const char* control, QWidget* parent = nullptr);
+
+void MakeBold(QWidget& widget);
+
+} // namespace Ledgrove

@@ -1,0 +1,203 @@
+#include "ui/windows/MainInputs.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "ui/windows/EntryField.h"
+#include "ui/windows/Identify.h"
+#include "ui/windows/Labels.h"
+#include "ui/windows/Pictures.h"
+
+namespace Ledgrove {
+
+namespace {
+
+constexpr const char* baseHome = "Base Home";
+constexpr const char* labelledHome = "GREENMARK Home";
+
+EntryField* MakeField(const char* control, const QString& humanName) {
+    auto* field = new EntryField;
+    Identify(*field, control, humanName);
+    field->setAlignment(Qt::AlignRight);
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance("$888,888,888") + 20);
+    return field;
+}
+
+QComboBox* MakePickList(const char* control, const QString& description) {
+    auto* list = new QComboBox;
+    IdentifyByDescription(*list, control, description);
+    list->setFocusPolicy(Qt::StrongFocus);
+    // The labelled home's items change with the base option; the list keeps the width of its longest text.
+    list->setMinimumContentsLength(15);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    return list;
+}
+
+/// The term of the other home, shown again.
+QLineEdit* MakeMirror(const char* control, const QString& humanName) {
+    auto* mirror = new QLineEdit;
+    Identify(*mirror, control, humanName);
+    mirror->setReadOnly(true);
+    mirror->setFocusPolicy(Qt::NoFocus);
+    mirror->setFrame(false);
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::transparent);
+    mirror->setPalette(palette);
+    return mirror;
+}
+
+QLabel* MakeCaption(const QString& text, QWidget* field) {
+    QLabel* caption = TextLabel(text);
+    caption->setBuddy(field);
+    return caption;
+}
+
+QLabel* MakeHead(const char* text) {
+    QLabel* head = TextLabel(text);
+    head->setAlignment(Qt::AlignCenter);
+    MakeBold(*head);
+    return head;
+}
+
+QPushButton* MakeButton(const char* control, const QString& caption) {
+    auto* button = new QPushButton(caption);
+    Identify(*button, control, QString(caption).remove('&'));
+    return button;
+}
+
+QGridLayout* MakeGrid(QWidget* parent) {
+    auto* grid = new QGridLayout(parent);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(6);
+    return grid;
+}
+
+struct HomeRow {
+    const char* Caption;
+    const char* Human;
+    const char* Base;
+    const char* Labelled;
+};
+
+constexpr std::array<HomeRow, 4> fieldRows{
+    {{"&Sticker Price:", "Sticker Price", "ecStdHome", "ecGMHHome"},
+     {"Annual &Utility Cost:", "Annual Utility Cost", "ecStdUtil", "ecGMHUtil"},
+     {"Interest &Rate:", "Interest Rate", "ecStdRate", "ecGMHRate"},
+     {"Mort&gage Stretch:", "Mortgage Stretch", "ecStdStr", "ecGMHStr"}}};
+
+QString HumanName(const char* caption, const char* column) {
+    return QString(caption) + ", " + column;
+}
+
+void AddHomeRow(QGridLayout& grid, const char* caption, QWidget* base, QWidget* labelled) {
+    const int row = grid.rowCount();
+    grid.addWidget(MakeCaption(caption, base), row, 0);
+    grid.addWidget(base, row, 1);
+    grid.addWidget(labelled, row, 2);
+}
+
+void AddDownPayment(QGridLayout& grid, QWidget* parent) {
+    auto* options = new QButtonGroup(parent);
+    options->setObjectName("optDownPayment");
+    auto* percent = new QRadioButton("% &Down");
+    Identify(*percent, "optDownPayment0", "% Down");
+    auto* fixed = new QRadioButton("or Fix&ed $");
+    Identify(*fixed, "optDownPayment1", "or Fixed $");
+    options->addButton(percent, 0);
+    options->addButton(fixed, 1);
+    percent->setChecked(true);
+    const int row = grid.rowCount();
+    grid.addWidget(percent, row, 0);
+    grid.addWidget(MakeField("ecPctDown", "% Down, Down Payment"), row, 1);
+    grid.addWidget(fixed, row + 1, 0);
+    grid.addWidget(MakeField("ecFixedDown", "or Fixed $, Down Payment"), row + 1, 1);
+}
+
+/// The house scenario's button and name above the columns, and the columns' heads.
+void AddHomeHeads(QGridLayout& grid) {
+    QPushButton* houses = MakeButton("bHouses", "&House Scenarios");
+    houses->setIcon(HousePicture(16));
+    QLabel* name = CaptionLabel("lblHomeName");
+    name->setAccessibleDescription("House Scenarios");
+    grid.addWidget(houses, 0, 0);
+    grid.addWidget(name, 0, 1, 1, 2);
+    grid.addWidget(MakeHead(baseHome), 1, 1);
+    grid.addWidget(MakeHead(labelledHome), 1, 2);
+}
+
+} // namespace
+
+MainInputs::MainInputs(QWidget* parent)
+    : QWidget(parent) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(12);
+    row->addWidget(MakeBuyer(), 2);
+    row->addWidget(MakeHomes(), 3);
+    row->addWidget(MakeButtons());
+}
+
+QWidget* MainInputs::MakeBuyer() {
+    auto* group = new QGroupBox("Buyer");
+    QGridLayout* grid = MakeGrid(group);
+    EntryField* income = MakeField("ecIncome", "Annual Income");
+    grid->addWidget(MakeCaption("Annual &Income", income), 0, 0);
+    grid->addWidget(income, 0, 1);
+    EntryField* debt = MakeField("ecMonthlyDebt", "Monthly Debt");
+    grid->addWidget(MakeCaption("Monthly De&bt", debt), 1, 0);
+    grid->addWidget(debt, 1, 1);
+    AddDownPayment(*grid, group);
+    auto* taxes = new QCheckBox("Include Ta&xes in");
+    Identify(*taxes, "chkDoTax0", "Include Taxes in");
+    grid->addWidget(taxes, grid->rowCount(), 0, 1, 2);
+    grid->setRowStretch(grid->rowCount(), 1);
+    grid->setColumnStretch(1, 1);
+    return group;
+}
+
+QWidget* MainInputs::MakeHomes() {
+    auto* group = new QGroupBox("Homes");
+    QGridLayout* grid = MakeGrid(group);
+    AddHomeHeads(*grid);
+    for (const HomeRow& row : fieldRows)
+        AddHomeRow(*grid, row.Caption, MakeField(row.Base, HumanName(row.Human, baseHome)),
+                   MakeField(row.Labelled, HumanName(row.Human, labelledHome)));
+    AddHomeRow(*grid, "&Term:", MakePickList("cboMortTerm", HumanName("Term", baseHome)),
+               MakeMirror("ecGMHTerm", HumanName("Term", labelledHome)));
+    AddHomeRow(*grid,
+               "Mortgage Optio&n:", MakePickList("cboStdMortOption", HumanName("Mortgage Option", baseHome)),
+               MakePickList("cboGMHMortOption", HumanName("Mortgage Option", labelledHome)));
+    grid->setRowStretch(grid->rowCount(), 1);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
+    return group;
+}
+
+QWidget* MainInputs::MakeButtons() {
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* financing = new QLabel;
+    Identify(*financing, "bFinancing", "Financing");
+    financing->setPixmap(FinancingPicture(64));
+    financing->setAlignment(Qt::AlignCenter);
+    layout->addWidget(financing);
+    layout->addStretch();
+    layout->addWidget(MakeButton("Command1", "&Financial Assumptions"));
+    layout->addWidget(MakeButton("bSysOpt", "&Options"));
+    layout->addWidget(MakeButton("bPrint", "&Print Reports"));
+    layout->addWidget(MakeButton("bDisclaimer", "Disc&laimer"));
+    layout->addWidget(MakeButton("bHelp", "Help"));
+    return column;
+}
+
+} // namespace Ledgrove

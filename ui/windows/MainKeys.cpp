@@ -1,0 +1,44 @@
+#include "ui/windows/MainKeys.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+namespace Ledgrove {
+
+MainKeys::MainKeys(QWidget& window, EntryFocus& focus, std::function<void()> help)
+    : QObject(&window)
+    , m_window(window)
+    , m_focus(focus)
+    , m_help(std::move(help)) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool MainKeys::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    // An open pick list or menu is a window of its own and keeps its keys.
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || widget->window() != &m_window)
+        return false;
+    return Take(static_cast<QKeyEvent&>(*event));
+}
+
+bool MainKeys::Take(const QKeyEvent& key) {
+    if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+        return false;
+    switch (key.key()) {
+    case Qt::Key_Down:
+        m_focus.NextField();
+        return true;
+    case Qt::Key_Up:
+        m_focus.PreviousField();
+        return true;
+    case Qt::Key_F1:
+        m_help();
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace Ledgrove

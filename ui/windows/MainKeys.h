@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QKeyEvent>
+#include <QObject>
+#include <QWidget>
+#include <functional>
+
+#include "ui/Entry.h"
+
+namespace Ledgrove {
+
+/// The keys that a window sees before its controls: Down and Up move between them, F1 opens the help.
+class MainKeys : public QObject {
+    Q_OBJECT
+
+public:
+    MainKeys(QWidget& window, EntryFocus& focus, std::function<void()> help);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool Take(const QKeyEvent& key);
+
+    QWidget& m_window;
+    EntryFocus& m_focus;
+    std::function<void()> m_help;
+};
+
+} // namespace Ledgrove

@@ -1,0 +1,236 @@
+#include "ui/windows/ResultPanels.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include "ui/MainScreenRules.h"
+#include "ui/windows/Labels.h"
+#include "ui/windows/ResultTable.h"
+
+namespace Ledgrove {
+
+namespace {
+
+constexpr const char* paymentTip = "Principal, interest, taxes, insurance and PMI per month";
+constexpr const char* mortgageTip = "Principal and interest per month";
+
+QString Words(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QLabel* MakeHeading(const char* text) {
+    QLabel* heading = TextLabel(text);
+    QFont font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.3);
+    font.setBold(true);
+    heading->setFont(font);
+    return heading;
+}
+
+QLabel* MakeWrapped(const QString& text) {
+    QLabel* label = TextLabel(text);
+    label->setWordWrap(true);
+    return label;
+}
+
+/// One figure amid words. `caption` and `column` describe it.
+ResultLabel* MakeFigure(const char* control, const QLabel& caption, const char* column) {
+    auto* figure = new ResultLabel(control, caption, column);
+    MakeBold(*figure);
+    return figure;
+}
+
+void AddStep(QGridLayout& grid, int number, const QString& text, const QString& control) {
+    QLabel* digit = TextLabel(QString("%1.").arg(number));
+    MakeBold(*digit);
+    QLabel* step = MakeWrapped(text);
+    step->setObjectName(control);
+    const int row = grid.rowCount();
+    grid.addWidget(digit, row, 0, Qt::AlignTop);
+    grid.addWidget(step, row, 1);
+}
+
+QWidget* MakeWelcome() {
+    auto* panel = new QWidget;
+    auto* grid = new QGridLayout(panel);
+    grid->setVerticalSpacing(10);
+    grid->setHorizontalSpacing(10);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(MakeHeading("Ledgrove Instructions"), 0, 0, 1, 2);
+    const auto steps = Module1::WelcomeSteps();
+    for (int i = 0; i < Module1::WelcomeStepCount; ++i)
+        AddStep(*grid, i + 1, Words(steps[static_cast<std::size_t>(i)]), QString("lblStep%1Des").arg(i + 1));
+    QLabel* second = MakeWrapped(Words(Module1::WelcomePrintStep()));
+    second->setObjectName("lblStep5Des2");
+    grid->addWidget(second, grid->rowCount(), 1);
+    grid->setRowStretch(grid->rowCount(), 1);
+    return panel;
+}
+
+/// Panels keep to the left and the top; what the window has more stays free.
+QVBoxLayout* MakeColumn(QWidget* panel) {
+    auto* outer = new QHBoxLayout(panel);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(12);
+    outer->addLayout(column);
+    outer->addStretch();
+    return column;
+}
+
+QWidget* MakeCashFlow() {
+    auto* panel = new QWidget;
+    QVBoxLayout* column = MakeColumn(panel);
+    auto* table = new ResultTable({"Monthly", "Yearly"});
+    table->AddRow({CaptionLabel("lbladditionalmortgagetext"), {"lblAddMortMo", "lblAddMortYr"}});
+    table->AddRow({CaptionLabel("lblutilitysavingstext"), {"lblUtilSavMo", "lblUtilSavYr"}});
+    table->AddRow({CaptionLabel("lbltaxsavingstext"), {"lblTaxSavMo", "lblTaxSavYr"}});
+    table->AddRow({CaptionLabel("lblnetcashflowtext"), {"lblNetCashMo", "lblNetCashYr"}, RowWeight::Total});
+    column->addWidget(table);
+    column->addStretch();
+    return panel;
+}
+
+/// "A Monthly Net Cash Flow of $x more per month means $y more today", one figure under the other.
+QLayout* MakeCashFlowSentence() {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    QLabel* start = TextLabel("A Monthly Net Cash Flow of");
+    QLabel* today = TextLabel("more today");
+    grid->addWidget(start, 0, 0);
+    grid->addWidget(MakeFigure("lblNetCashMoTx", *start, "more per month"), 0, 1);
+    grid->addWidget(TextLabel("more per month means"), 0, 2);
+    grid->addWidget(MakeFigure("lblExtrasTx", *start, "more today"), 1, 1);
+    grid->addWidget(today, 1, 2);
+    return grid;
+}
+
+ResultTable* MakeHouseValues() {
+    auto* table = new ResultTable({"Base Home", "GREENMARK Home"});
+    table->AddRow({TextLabel("Monthly Housing Cost"), {"lblMonthlyHCStd", "lblMonthlyHCGM"}});
+    table->AddRow({TextLabel("House Value"), {"lblHouseValueStd", "lblHouseValueGM"}});
+    return table;
+}
+
+QLabel* MakeSentence(const char* control, const QString& description) {
+    QLabel* sentence = CaptionLabel(control);
+    sentence->setAccessibleDescription(description);
+    sentence->setWordWrap(true);
+    return sentence;
+}
+
+QWidget* MakeMoreHome() {
+    auto* panel = new QWidget;
+    QVBoxLayout* column = MakeColumn(panel);
+    column->addWidget(MakeHeading("Buy More Home"));
+    column->addLayout(MakeCashFlowSentence());
+    QLabel* sum = MakeSentence("Label6", "Buy More Home, more per month and more today");
+    MakeBold(*sum);
+    column->addWidget(sum);
+    column->addWidget(MakeHouseValues());
+    column->addWidget(TextLabel("For the same monthly cost, consider these options!"));
+    column->addWidget(MakeSentence("lblfeature1", "Additional features, first"));
+    column->addWidget(MakeSentence("lblfeature2", "Additional features, second"));
+    column->addStretch();
+    return panel;
+}
+
+void SetTips(const QWidget& panel, std::initializer_list<const char*> figures, const char* tip) {
+    for (const char* figure : figures)
+        panel.findChild<QLabel*>(figure)->setToolTip(tip);
+}
+
+QWidget* MakeAffordability() {
+    auto* panel = new QWidget;
+    QVBoxLayout* column = MakeColumn(panel);
+    auto* table = new ResultTable({"Base Home", "GREENMARK Home"});
+    table->AddRow({TextLabel("Mortgage Amount"), {"lblStdMort", "lblGMHMort"}});
+    table->AddRow({TextLabel("Down Payment"), {"lblstddown2", "lblgmhdown2"}});
+    table->AddRow({TextLabel("Mortgage Payment"), {"lblStdMortPayment", "lblGMHMortPayment"}});
+    table->AddRow({TextLabel("Maximum Loan Value"), {"lblStdMaxHome", "lblGMHMaxHome"}});
+    table->AddRow({TextLabel("Maximum Payment"), {"lblStdInc", "lblGMHInc"}});
+    table->AddRow({TextLabel("Buyer Qualifies?"), {"lblStdQual", "lblGMHQual"}, RowWeight::Total});
+    column->addWidget(table);
+    column->addStretch();
+    SetTips(*panel, {"lblStdMortPayment", "lblGMHMortPayment"}, mortgageTip);
+    return panel;
+}
+
+ResultTable* MakeSummaryHomes() {
+    auto* table = new ResultTable({"Base Home", "GREENMARK Home"});
+    table->AddRow({TextLabel("Sticker Price"), {"lblStdHome", "lblGMHHome"}});
+    table->AddRow({TextLabel("Down Payment"), {"lblStdDown", "lblgmhDown"}});
+    table->AddRow({TextLabel("Mortgage Amount"), {"lblStdMortgage", "lblgmhMortgage"}});
+    table->AddRow({TextLabel("Mortgage Payment"), {"lblStdPITI", "lblGMHPITI"}});
+    table->AddRow({TextLabel("Monthly Utility Bills"), {"lblStdUtilMo", "lblGMHUtilMo"}});
+    table->AddRow({CaptionLabel("lblTaxSavmo2Text"), {nullptr, "lbltaxsavmo2"}});
+    table->AddRow({TextLabel("Net Monthly Payment"), {"lblStdPITIU", "lblGMHPITIU"}, RowWeight::Total});
+    return table;
+}
+
+ResultTable* MakeSummarySavings() {
+    auto* table = new ResultTable({"GREENMARK Home"});
+    QLabel* years = CaptionLabel("lblYrsIn");
+    QLabel* term = CaptionLabel("lblTerm");
+    // "30 Years" goes on with the words above it.
+    years->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    term->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    table->AddRow({TextLabel("Net Monthly Cash Flow"), {"lblNetCashMo2"}});
+    table->AddRow({years, {"lblExpYrPre"}});
+    table->AddRow({term, {"lbl30YrPre"}});
+    table->AddRow({CaptionLabel("lblPV"), {"lblPVofSavings"}});
+    return table;
+}
+
+QWidget* MakeSummary() {
+    auto* panel = new QWidget;
+    auto* grid = new QGridLayout(panel);
+    grid->setHorizontalSpacing(48);
+    grid->addWidget(MakeSummaryHomes(), 0, 0, 2, 1);
+    grid->addWidget(MakeSummarySavings(), 0, 1);
+    QLabel* note = CaptionLabel("lblPVNote");
+    note->setAccessibleDescription("PV of Savings, note");
+    grid->addWidget(note, 1, 1, Qt::AlignTop);
+    // The words write the ampersand as captions do, twice; a label without a buddy would show both.
+    const QString words =
+        "*Ledgrove only provides estimates && does not account for LTV - check with your bank";
+    QLabel* footnote = TextLabel(QString(words).replace("&&", "&"));
+    footnote->setObjectName("lblSummaryFootnote");
+    footnote->setContentsMargins(0, 8, 0, 0);
+    grid->addWidget(footnote, 2, 0, 1, 2);
+    grid->setColumnStretch(2, 1);
+    grid->setRowStretch(3, 1);
+    SetTips(*panel, {"lblStdPITI", "lblGMHPITI"}, paymentTip);
+    return panel;
+}
+
+/// Panels come and go inside their tab's page, which keeps the room.
+QWidget* MakePage(QWidget* panel) {
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(panel);
+    QSizePolicy policy = panel->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    panel->setSizePolicy(policy);
+    return page;
+}
+
+} // namespace
+
+ResultPanels::ResultPanels(QWidget* parent)
+    : QTabWidget(parent) {
+    setObjectName("SSTab1");
+    // A click on a tab takes the focus, so that the field being left is committed before its results are
+    // shown.
+    tabBar()->setFocusPolicy(Qt::StrongFocus);
+    const char* mnemonics[TabCount] = {"&Welcome", "&Cash Flow", "&More Home", "&Affordability", "Summar&y"};
+    QWidget* panels[TabCount] = {MakeWelcome(), MakeCashFlow(), MakeMoreHome(), MakeAffordability(),
+                                 MakeSummary()};
+    for (int i = 0; i < TabCount; ++i) {
+        panels[i]->setObjectName(QString("DetlFrame%1").arg(i));
+        addTab(MakePage(panels[i]), mnemonics[i]);
+    }
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,173 @@
+#include "ui/windows/frmMain.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/DataCheck.h"
+#include "ui/MainScreenRules.h"
+#include "ui/windows/Binding.h"
+#include "ui/windows/EntryField.h"
+#include "ui/windows/FormGuard.h"
+#include "ui/windows/HelpWindow.h"
+#include "ui/windows/MainInputs.h"
+#include "ui/windows/MainKeys.h"
+#include "ui/windows/Pictures.h"
+#include "ui/windows/ResultPanels.h"
+
+namespace Ledgrove {
+
+frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* parent)
+    : QMainWindow(parent)
+    , m_session(session)
+    , m_host(outside, [this] { Refresh(); })
+    , m_focus(*this)
+    , m_context{session, m_host, m_focus}
+    , m_actions(std::move(actions)) {
+    setObjectName("frmMain");
+    setWindowTitle(ApplicationTitle);
+    setWindowIcon(HousePicture(64));
+    BuildControls();
+    ConnectFields();
+    ConnectPickLists();
+    ConnectOptions();
+    ConnectTabs();
+    ConnectButtons();
+    new FormGuard(*this);
+    new MainKeys(*this, m_focus, [this] { OpenHelp(); });
+    m_binding = std::make_unique<MainBinding>(m_session.Screen, *this);
+    Refresh();
+    CentreOnScreen();
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::Refresh() {
+    m_binding->Refresh();
+}
+
+void frmMain::BuildControls() {
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setSpacing(12);
+    layout->addWidget(new MainInputs);
+    layout->addWidget(new ResultPanels, 1);
+    setCentralWidget(content);
+}
+
+void frmMain::ConnectFields() {
+    MainScreen& screen = m_session.Screen;
+    for (const EntryRule& rule : MainEntryRules()) {
+        const QString name = QString::fromUtf8(rule.Name.data(), static_cast<qsizetype>(rule.Name.size()));
+        Field& field = screen.*rule.Member;
+        EntryEvents events = StandardEntryEvents(m_context, field, {rule.Format, rule.Format, rule.After},
+                                                 [this] { Refresh(); });
+        if (rule.Member == &MainScreen::ecPctDown)
+            events.Character = [this](char key) {
+                const bool taken = Module1::TakePercentDownPoint(m_session, key);
+                Refresh();
+                return taken;
+            };
+        findChild<EntryField*>(name)->Bind(field, std::move(events));
+    }
+}
+
+void frmMain::ConnectPickLists() {
+    using Click = void (*)(Session&, Host&, std::string_view);
+    const std::pair<const char*, Click> clicks[] = {{"cboMortTerm", Module1::ClickTerm},
+                                                    {"cboStdMortOption", Module1::ClickBaseOption},
+                                                    {"cboGMHMortOption", Module1::ClickLabelledOption}};
+    for (const auto& [name, click] : clicks) {
+        auto* list = findChild<QComboBox*>(name);
+        // Choosing the item that is chosen already is a click, too.
+        connect(list, &QComboBox::activated, this, [this, list, act = click] {
+            act(m_session, m_host, list->currentText().toStdString());
+            Refresh();
+        });
+    }
+}
+
+void frmMain::ConnectOptions() {
+    connect(findChild<QButtonGroup*>("optDownPayment"), &QButtonGroup::idClicked, this, [this](int option) {
+        Module1::ClickDownPayment(m_session, m_host, option);
+        Refresh();
+    });
+    connect(findChild<QCheckBox*>("chkDoTax0"), &QCheckBox::clicked, this, [this](bool checked) {
+        Module1::ClickTaxes(m_session, m_host, checked);
+        Refresh();
+    });
+}
+
+void frmMain::ConnectTabs() {
+    connect(findChild<ResultPanels*>(), &QTabWidget::currentChanged, this, [this](int tab) {
+        Module1::ClickTab(m_session, m_host, tab);
+        Refresh();
+    });
+}
+
+void frmMain::ConnectButtons() {
+    connect(findChild<QPushButton*>("bDisclaimer"), &QPushButton::clicked, this,
+            [this] { m_host.ShowMessage(Module1::DisclaimerMessage()); });
+    connect(findChild<QPushButton*>("bHelp"), &QPushButton::clicked, this, [this] { OpenHelp(); });
+    ConnectAction("bHouses", m_actions.Houses);
+    ConnectAction("Command1", m_actions.Assumptions);
+    ConnectAction("bSysOpt", m_actions.Options);
+    if (m_actions.Print)
+        ConnectAction("bPrint", [this] { PrintReports(); });
+    else
+        ConnectAction("bPrint", {});
+}
+
+void frmMain::ConnectAction(const char* button, std::function<void()> action) {
+    auto* widget = findChild<QPushButton*>(button);
+    if (!action) {
+        widget->setEnabled(false);
+        widget->setToolTip("Comes with a later version");
+        return;
+    }
+    connect(widget, &QPushButton::clicked, this, [this, act = std::move(action)] {
+        act();
+        Refresh();
+    });
+}
+
+void frmMain::PrintReports() {
+    Module1::RunDataCheck(m_session.Screen, m_host);
+    m_actions.Print();
+}
+
+void frmMain::OpenHelp() {
+    if (const auto complaint = HelpComplaint(m_session.Folder, m_session.HelpFile)) {
+        m_host.ShowMessage({ApplicationTitle, *complaint, MessageIcon::Exclamation});
+        return;
+    }
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    const int context = TabPages[static_cast<std::size_t>(m_session.Screen.SSTab1)].HelpContext;
+    m_help->ShowTopic(HelpFilePath(m_session.Folder, m_session.HelpFile), context);
+}
+
+void frmMain::CentreOnScreen() {
+    resize(sizeHint());
+    const QRect whole = screen()->geometry();
+    move(whole.left() + (whole.width() - width()) / 2, whole.top() + (whole.height() - height()) / 2);
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // A dark palette wants another red.
+    if (event->type() == QEvent::PaletteChange && m_binding)
+        Refresh();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    QMainWindow::closeEvent(event);
+    emit Closed();
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+#include "ui/windows/FormFocus.h"
+#include "ui/windows/QtHost.h"
+
+class QPushButton;
+
+namespace Ledgrove {
+
+class HelpWindow;
+class MainBinding;
+
+/// The dialogs that the main window opens. An empty one leaves its button disabled.
+struct MainActions {
+    std::function<void()> Houses;
+    std::function<void()> Assumptions;
+    std::function<void()> Options;
+    std::function<void()> Print;
+};
+
+/// The main window: a view of the session's screen record. Events go to the rules, and what the rules wrote
+/// is shown again.
+class frmMain : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// Shows the screen as it stands; loading it is done before. `session` and `outside` must outlive the
+    /// window.
+    frmMain(Session& session, Host& outside, MainActions actions = {}, QWidget* parent = nullptr);
+    ~frmMain() override;
+
+    /// Shows the record again after it was changed elsewhere.
+    void Refresh();
+
+signals:
+    void Closed();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildControls();
+    void ConnectFields();
+    void ConnectPickLists();
+    void ConnectOptions();
+    void ConnectTabs();
+    void ConnectButtons();
+    void ConnectAction(const char* button, std::function<void()> action);
+    void CentreOnScreen();
+    void OpenHelp();
+    void PrintReports();
+
+    Session& m_session;
+    RefreshingHost m_host;
+    FormFocus m_focus;
+    EntryContext m_context;
+    MainActions m_actions;
+    std::unique_ptr<MainBinding> m_binding;
+    HelpWindow* m_help = nullptr;
+};
+
+} // namespace Ledgrove
