@@ -1,7 +1,7 @@
 #include "engine/LoanRules.h"
 
 #include <cmath>
-#include <cstdlib>
+#include <limits>
 
 #include "engine/Arithmetic.h"
 #include "engine/FinancialFunctions.h"
@@ -106,10 +106,13 @@ void ComputePayment(const Session& session, HomeCase& home, Arithmetic& arithmet
     home.PITIU = arithmetic.Single(static_cast<double>(home.PITI) + static_cast<double>(home.UtilMonthly));
 }
 
-/// Cents first, halves to even, then whole dollars, halves away from zero.
+/// Cents first, halves to even, then whole dollars, halves away from zero. Beyond single precision not
+/// finite.
 double WholeDollars(double amount) {
     const double cents = std::nearbyint(amount * 100) / 100;
-    return std::isfinite(cents) ? ReadNumber(FormatPicture(cents, "#")).value_or(0) : cents;
+    constexpr double overflow = std::numeric_limits<double>::infinity();
+    // "#0" is the picture "#" with a text for zero.
+    return ReadNumber(FormatPicture(cents, "#0")).value_or(overflow);
 }
 
 void ComputeIncomeNeeded(const Scenario& scenario, HomeCase& home, HomeCode code, Arithmetic& arithmetic) {

@@ -11,6 +11,7 @@ namespace Ledgrove {
 /// The report header as the print options dialog holds it for the run.
 struct ReportHeader {
     std::string BuilderName;
+    std::string HomeBuyer;                           ///< kept for the run only
     std::string LogoFile = "Full Path To Logo File"; ///< full path; as here while none was ever named
 };
 

@@ -26,12 +26,6 @@ namespace {
 
 constexpr std::string_view dollars = "$###,##0";
 
-int IndexOf(const HouseList& houses, std::string_view name) {
-    const auto found =
-        std::find_if(houses.begin(), houses.end(), [&](const House& house) { return house.Name == name; });
-    return found == houses.end() ? -1 : static_cast<int>(found - houses.begin());
-}
-
 House& SelectedHouse(HouseScenarios& dialog) {
     return dialog.Houses[static_cast<std::size_t>(dialog.Selected)];
 }
@@ -56,6 +50,12 @@ float HouseValue(const House& house, std::string_view key) {
     return 0;
 }
 
+int FindHouse(const HouseList& houses, std::string_view name) {
+    const auto found =
+        std::find_if(houses.begin(), houses.end(), [&](const House& house) { return house.Name == name; });
+    return found == houses.end() ? -1 : static_cast<int>(found - houses.begin());
+}
+
 std::optional<SettingsFault> OpenHouseScenarios(HouseScenarios& dialog, const Session& session, Host& host) {
     const SettingsFile file(session.Folder);
     dialog = HouseScenarios{};
@@ -63,7 +63,7 @@ std::optional<SettingsFault> OpenHouseScenarios(HouseScenarios& dialog, const Se
         return fault;
     if (const auto fault = WriteSetting(file, "HOMESELECTIONDIALOG", "OPEN"))
         host.ShowMessage({ApplicationTitle, Sentence(*fault), MessageIcon::Exclamation});
-    const int current = IndexOf(dialog.Houses, session.Screen.lblHomeName.Text);
+    const int current = FindHouse(dialog.Houses, session.Screen.lblHomeName.Text);
     SelectHouse(dialog, current < 0 ? 0 : current);
     return std::nullopt;
 }
@@ -89,7 +89,7 @@ std::string HouseNameComplaint(const HouseList& houses, std::string_view name) {
         return "A name cannot contain " + bad->Name +
                ", which the settings file's character set (Windows-1252) does "
                "not have.";
-    if (IndexOf(houses, name) >= 0)
+    if (FindHouse(houses, name) >= 0)
         return "This Home Name Has Already Been Entered.";
     return {};
 }

@@ -38,6 +38,9 @@ namespace Ledgrove::Module1 {
 /// A house's amount by its key; 0 for another key.
 float HouseValue(const House& house, std::string_view key);
 
+/// The index of the house of exactly this name, -1 when there is none.
+int FindHouse(const HouseList& houses, std::string_view name);
+
 /// Loads the saved list, marks the dialog open in the settings file and selects the main screen's house by
 /// exact name, else the first. A list that cannot be read must not be shown, since closing the dialog saves
 /// it. A mark that cannot be written is told through `host` and stops nothing.

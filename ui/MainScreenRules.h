@@ -18,7 +18,7 @@ struct EntryRule {
     Module1::AfterEdit After;
 };
 
-/// The main screen's edit fields in tab order; the first `InputFieldCount` are the buyer's inputs.
+/// The main screen's edit fields in tab order.
 std::span<const EntryRule> MainEntryRules();
 
 struct TabPage {

@@ -10,6 +10,8 @@
 
 #include "app/batch/CsvCompare.h"
 #include "app/batch/JsonCompare.h"
+#include "settings/HouseListFile.h"
+#include "ui/HouseScenarios.h"
 
 namespace Ledgrove {
 
@@ -68,6 +70,19 @@ int ReadFile(const std::string& name, ComparisonReader& reader, OutputBuffer& ou
 }
 
 } // namespace
+
+std::string StartWithHouse(Session& session, std::string_view name) {
+    const SettingsFile file(session.Folder);
+    HouseScenarios scenarios;
+    if (const auto fault = Module1::LoadHomeList(file, scenarios.Houses))
+        return Sentence(*fault);
+    Module1::SelectHouse(scenarios, Module1::FindHouse(scenarios.Houses, name));
+    if (!scenarios.HasSelection())
+        return "There is no house named \"" + std::string(name) + "\" in \"" + file.Path().string() +
+               "\". \"ledgrove-cli settings houses\" lists the saved houses.";
+    Module1::ChooseHouse(scenarios, session);
+    return {};
+}
 
 int RunCompare(const CompareRequest& request, Session start) {
     Comparison comparison(std::move(start));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/batch/Comparison.h"
@@ -13,6 +14,7 @@ enum class CompareFormat { Text, Json, JsonLines, Csv };
 
 struct CompareRequest {
     CompareFormat Format = CompareFormat::Text;
+    std::string House;              ///< name of a saved house scenario to start with, "" for none
     std::vector<std::string> Files; ///< "-" is standard input; none at all too
 };
 
@@ -25,6 +27,10 @@ public:
     virtual ~ComparisonReader() = default;
     virtual bool Read(LineReader& lines, OutputBuffer& output) = 0;
 };
+
+/// Puts the saved house scenario of this name into the four house fields that every comparison starts with.
+/// Gives a sentence when the list cannot be read or has no such house, else "".
+std::string StartWithHouse(Session& session, std::string_view name);
 
 /// Runs the comparisons of every file and writes the results to standard output; a sentence on standard error
 /// for a file that cannot be read. Gives the exit status.

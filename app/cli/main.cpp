@@ -26,6 +26,12 @@ int Compare(const std::filesystem::path& folder, const CompareRequest& request) 
         std::cerr << "ledgrove-cli: " << Sentence(*fault) << '\n';
         return CannotRun;
     }
+    if (!request.House.empty()) {
+        if (const std::string sentence = StartWithHouse(session, request.House); !sentence.empty()) {
+            std::cerr << "ledgrove-cli: " << sentence << '\n';
+            return CannotRun;
+        }
+    }
     return RunCompare(request, std::move(session));
 }
 
@@ -55,6 +61,8 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
                                     : "There is no such format. Choose text, json, jsonl or csv.";
         })
         ->type_name("text|json|jsonl|csv");
+    compare->add_option("--house", request.House,
+                        "A saved house scenario whose four amounts the inputs start with");
     compare->add_option("FILE", request.Files, "Inputs; none or \"-\" is standard input");
     return compare;
 }

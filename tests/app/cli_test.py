@@ -255,6 +255,23 @@ class CompareCsv(CliTest):
         self.assertIn("Close its quotes", rows[0]["error"])
 
 
+class CompareHouse(CliTest):
+    def with_house(self, name, inputs, status=0):
+        return self.run_cli("compare", "--folder", self.folder, "--format", "json", "--house", name,
+                            given=json.dumps(inputs), status=status)
+
+    def test_a_saved_house_fills_the_four_fields(self):
+        self.settings.write_bytes(self.settings.read_bytes() + "HOMELIST=Café 7,150000,1800,157500,900\r\n".encode("cp1252"))
+        fields = json.loads(self.with_house("Café 7", {"ecGMHUtil": "850"}).stdout)["fields"]
+        self.assertEqual([fields[name] for name in ("ecStdHome", "ecStdUtil", "ecGMHHome", "ecGMHUtil")],
+                         ["$150,000", "$1,800", "$157,500", "$850"])
+
+    def test_an_unknown_house_is_named(self):
+        sentence = self.with_house("Lot 8", {}, status=2).stderr.decode()
+        self.assertIn('"Lot 8"', sentence)
+        self.assertIn("settings houses", sentence)
+
+
 class CompareText(CliTest):
     def test_the_table_shows_the_figures_that_have_no_label(self):
         text = self.compare("text", json.dumps(SAMPLE)).decode()

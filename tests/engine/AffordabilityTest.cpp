@@ -183,16 +183,16 @@ TEST_P(EEMAllowance, IsFivePercentOfTheBasePriceWithinItsLimits) {
 
 INSTANTIATE_TEST_SUITE_P(
     Prices, EEMAllowance,
-    testing::Values(AllowanceRow{"FHA", "FHA EEM", 0, 4000}, AllowanceRow{"FHA", "FHA EEM", 60000, 4000},
-                    AllowanceRow{"FHA", "FHA EEM", 80000, 4000}, AllowanceRow{"FHA", "FHA EEM", 80020, 4001},
-                    AllowanceRow{"FHA", "FHA EEM", 100000, 5000},
-                    AllowanceRow{"FHA", "FHA EEM", 159980, 7999},
-                    AllowanceRow{"FHA", "FHA EEM", 160000, 8000},
-                    AllowanceRow{"FHA", "FHA EEM", 200000, 8000}, AllowanceRow{"VA", "VA EEM", 0, 3000},
-                    AllowanceRow{"VA", "VA EEM", 60020, 3001}, AllowanceRow{"VA", "VA EEM", 100000, 5000},
-                    AllowanceRow{"VA", "VA EEM", 119980, 5999}, AllowanceRow{"VA", "VA EEM", 120000, 6000},
-                    AllowanceRow{"VA", "VA EEM", 150000, 6000}, AllowanceRow{"FHA", "FHA", 100000, 0},
-                    AllowanceRow{"Conventional", "Fannie Mae EEM", 100000, 0}));
+    testing::Values(
+        AllowanceRow{"FHA", "FHA EEM", 0, 4000}, AllowanceRow{"FHA", "FHA EEM", 60000, 4000},
+        AllowanceRow{"FHA", "FHA EEM", 80000, 4000}, AllowanceRow{"FHA", "FHA EEM", 80020, 4001},
+        AllowanceRow{"FHA", "FHA EEM", 100000, 5000}, AllowanceRow{"FHA", "FHA EEM", 159980, 7999},
+        AllowanceRow{"FHA", "FHA EEM", 160000, 8000}, AllowanceRow{"FHA", "FHA EEM", 160020, 8000},
+        AllowanceRow{"FHA", "FHA EEM", 200000, 8000}, AllowanceRow{"VA", "VA EEM", 0, 3000},
+        AllowanceRow{"VA", "VA EEM", 60020, 3001}, AllowanceRow{"VA", "VA EEM", 100000, 5000},
+        AllowanceRow{"VA", "VA EEM", 119980, 5999}, AllowanceRow{"VA", "VA EEM", 120000, 6000},
+        AllowanceRow{"VA", "VA EEM", 120020, 6000}, AllowanceRow{"VA", "VA EEM", 150000, 6000},
+        AllowanceRow{"FHA", "FHA", 100000, 0}, AllowanceRow{"Conventional", "Fannie Mae EEM", 100000, 0}));
 
 TEST_F(Affordability, AnotherOptionKeepsTheLastAllowance) {
     ChooseOptions(m_session, "FHA", "FHA EEM");

@@ -94,6 +94,16 @@ TEST_F(LoanFault, ASumBeyondSinglePrecision) {
     ExpectBothZeroed();
 }
 
+TEST_F(LoanFault, AnIncomeNeededBeyondSinglePrecision) {
+    // A payment of about 7e35 a month needs 7e35 / 0.001 x 12 = 8e39 a year by the front ratio.
+    m_session.StdCase.Cost = m_session.GMHCase.Cost = 1e38F;
+    for (LoanType& loanType : m_session.LoanTypes)
+        loanType.FrontRatio = 0.001F;
+    m_session.Scenario.UtilitySavings = 0;
+    Compute(HomeCode::Std);
+    ExpectZeroed(m_session.StdCase);
+}
+
 TEST_F(LoanFault, ATermOfZero) {
     m_session.Screen.xMortTerm = 0;
     ExpectBothZeroed();

@@ -1,0 +1,334 @@
+#include "tests/ui/EntryDesk.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+namespace Ledgrove::Module1 {
+
+namespace {
+
+using namespace Ledgrove::Testing;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* notANumber = "You must enter a number here.";
+constexpr const char* notPositive = "You must enter a positive number here.";
+
+struct ComplaintRow {
+    const char *Type, *Text, *Complaint;
+};
+
+class Complaints : public testing::TestWithParam<ComplaintRow> {};
+
+TEST_P(Complaints, TellWhatIsWrong) {
+    EXPECT_EQ(FieldComplaint(GetParam().Text, GetParam().Type), GetParam().Complaint);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Complaints,
+    testing::Values(ComplaintRow{"Dollar", "0", ""}, ComplaintRow{"Dollar", "$150,000", ""},
+                    ComplaintRow{"Dollar", "", ""}, ComplaintRow{"Dollar", "-0", ""},
+                    ComplaintRow{"Dollar", "-0.01", notPositive}, ComplaintRow{"Dollar", "-5", notPositive},
+                    ComplaintRow{"Dollar", "-$5", notPositive}, ComplaintRow{"Dollar", "abc", notANumber},
+                    ComplaintRow{"Dollar", " ", notANumber}, ComplaintRow{"Dollar", "%", notANumber},
+                    ComplaintRow{"Dollar", "1e5", notANumber}, ComplaintRow{"Dollar", "1.2.3", notANumber},
+                    ComplaintRow{"Dollar", "350000000000000000000000000000000000000", notANumber},
+                    ComplaintRow{"IntRate", "6.5%", ""}, ComplaintRow{"Percent", "%5%", ""},
+                    ComplaintRow{"Whole", "12%", ""}, ComplaintRow{"Whole", "x", notANumber},
+                    ComplaintRow{"SmallPercent", "0.25", ""}, ComplaintRow{"SmallPercent", "x", notANumber},
+                    ComplaintRow{"SmallPercent", "-1", notPositive}, ComplaintRow{"String", "abc", ""},
+                    ComplaintRow{"String", "-5", ""}, ComplaintRow{"string", "abc", notANumber}));
+
+class Validation : public EntryDesk {
+protected:
+    bool Validate(Field& field, FormatType type, Complaint complaint = Complaint::Shown) {
+        return ValidateField(m_context, field, type, complaint);
+    }
+};
+
+TEST_F(Validation, AcceptsANumberWithoutTouchingTheFocus) {
+    Screen().ecIncome.Text = "80000";
+    EXPECT_TRUE(Validate(Screen().ecIncome, "Dollar"));
+    EXPECT_EQ(Screen().ecIncome.Text, "80000");
+    EXPECT_THAT(m_log, IsEmpty());
+}
+
+TEST_F(Validation, TurnsAnEmptyFieldIntoZero) {
+    Screen().ecIncome.Text.clear();
+    EXPECT_TRUE(Validate(Screen().ecIncome, "Dollar"));
+    EXPECT_EQ(Screen().ecIncome.Text, "0");
+    Screen().ecIncome.Text.clear();
+    EXPECT_TRUE(Validate(Screen().ecIncome, "String"));
+    EXPECT_EQ(Screen().ecIncome.Text, "0");
+}
+
+TEST_F(Validation, ReturnsTheFocusComplainsAndSelects) {
+    Screen().ecIncome.Text = "lots";
+    EXPECT_FALSE(Validate(Screen().ecIncome, "Dollar"));
+    EXPECT_THAT(m_log, ElementsAre("focus ecIncome", "message You must enter a number here.", "select"));
+    EXPECT_EQ(Screen().ecIncome.Text, "lots");
+
+    ForgetLog();
+    Screen().ecGMHUtil.Text = "-5";
+    EXPECT_FALSE(Validate(Screen().ecGMHUtil, "Dollar"));
+    EXPECT_THAT(m_log,
+                ElementsAre("focus ecGMHUtil", "message You must enter a positive number here.", "select"));
+}
+
+TEST_F(Validation, ComplainsInAMessageBoxOfTheProgram) {
+    Screen().ecIncome.Text = "lots";
+    Validate(Screen().ecIncome, "Dollar");
+    ASSERT_EQ(m_host.Messages.size(), 1U);
+    EXPECT_EQ(m_host.Messages[0].Title, "Ledgrove");
+    EXPECT_EQ(m_host.Messages[0].Icon, MessageIcon::Information);
+    EXPECT_EQ(m_host.Messages[0].Buttons, MessageButtons::Ok);
+}
+
+TEST_F(Validation, QuietlyReturnsTheFocusAllTheSame) {
+    Screen().ecIncome.Text = "lots";
+    EXPECT_FALSE(Validate(Screen().ecIncome, "Dollar", Complaint::Quiet));
+    EXPECT_THAT(m_log, ElementsAre("focus ecIncome", "select"));
+}
+
+TEST_F(Validation, NeverHoldsBackFromACancelOrExitButton) {
+    for (const char* name : {"bCancel", "bCancelEdit", "bExit", "bExitNow"}) {
+        m_focus.Focused = name;
+        for (const char* text : {"-5", "abc", ""}) {
+            Screen().ecIncome.Text = text;
+            EXPECT_TRUE(Validate(Screen().ecIncome, "Dollar")) << name;
+            EXPECT_EQ(Screen().ecIncome.Text, text);
+        }
+    }
+    EXPECT_THAT(m_log, IsEmpty());
+}
+
+TEST_F(Validation, HoldsBackFromEveryOtherControl) {
+    Screen().ecIncome.Text = "-5";
+    for (const char* name : {"", "ecIncome", "bOK", "bCance", "bcancel", "cmdCancel", "bExi", "BExit"}) {
+        m_focus.Focused = name;
+        EXPECT_FALSE(Validate(Screen().ecIncome, "Dollar")) << name;
+    }
+}
+
+using Formatting = EntryDesk;
+
+TEST_F(Formatting, RewritesTheFieldInItsDisplayFormat) {
+    Screen().ecIncome.Text = "80000";
+    FormatField(m_session, Screen().ecIncome, "Dollar");
+    EXPECT_EQ(Screen().ecIncome.Text, "$80,000");
+}
+
+TEST_F(Formatting, KeepsASmallPercentAsTyped) {
+    Field multiplier;
+    multiplier.Text = "0.25";
+    EXPECT_EQ(LeaveField(m_context, multiplier, "SmallPercent", AfterEdit::Nothing), EntryOutcome::Accepted);
+    EXPECT_EQ(multiplier.Text, "0.25");
+}
+
+TEST_F(Formatting, ShowsAWholeNumberWithPercentAsZero) {
+    Field years;
+    years.Text = "12%";
+    EXPECT_EQ(LeaveField(m_context, years, "Whole", AfterEdit::Nothing), EntryOutcome::Accepted);
+    EXPECT_EQ(years.Text, "0");
+    EXPECT_THAT(m_log, IsEmpty());
+}
+
+class EntryKeys : public EntryDesk {
+protected:
+    EntryOutcome Press(KeyCode key, Field& field, FormatType type = "Dollar") {
+        return HandleEntryKey(m_context, field, key, type);
+    }
+};
+
+TEST_F(EntryKeys, EnterCommitsAndMovesOn) {
+    Screen().ecGMHHome.Text = "207000";
+    m_session.Scenario.EEMNoticeFlag = false;
+    EXPECT_EQ(Press(KeyCode::Enter, Screen().ecGMHHome), EntryOutcome::Accepted);
+    EXPECT_EQ(Screen().ecGMHHome.Text, "$207,000");
+    EXPECT_EQ(m_session.GMHCase.Cost, 207000);
+    EXPECT_EQ(Screen().lblGMHHome.Text, "$207,000");
+    EXPECT_THAT(m_log, ElementsAre("recalculated", "next"));
+}
+
+TEST_F(EntryKeys, TabCommitsAndLeavesTheMovingToTheKeyItself) {
+    Screen().ecIncome.Text = "80000";
+    Press(KeyCode::Tab, Screen().ecIncome);
+    EXPECT_EQ(Screen().ecIncome.Text, "$80,000");
+    EXPECT_EQ(m_session.Scenario.AnnualIncome, 80000);
+    EXPECT_THAT(m_log, ElementsAre("recalculated"));
+}
+
+TEST_F(EntryKeys, AnyOtherKeyDoesNothing) {
+    for (const int code : {0, 8, 10, 27, 32, 46, 48}) {
+        Screen().ecIncome.Text = "lots";
+        EXPECT_EQ(Press(static_cast<KeyCode>(code), Screen().ecIncome), EntryOutcome::Accepted) << code;
+        EXPECT_EQ(Screen().ecIncome.Text, "lots") << code;
+    }
+    EXPECT_THAT(m_log, IsEmpty());
+}
+
+TEST_F(EntryKeys, ARefusalStoresAndRecalculatesNothing) {
+    Screen().ecIncome.Text = "-5";
+    EXPECT_EQ(Press(KeyCode::Enter, Screen().ecIncome), EntryOutcome::Refused);
+    EXPECT_EQ(Screen().ecIncome.Text, "-5");
+    EXPECT_EQ(m_session.Scenario.AnnualIncome, 0);
+    EXPECT_THAT(m_log,
+                ElementsAre("focus ecIncome", "message You must enter a positive number here.", "select"));
+}
+
+TEST_F(EntryKeys, TheHouseIsCheckedBeforeTheRecalculation) {
+    m_session.ChosenHouse = {"The Alder", 200000, 2400, 206000, 1700};
+    Screen().lblHomeName.Text = "The Alder";
+    Screen().ecStdUtil.Text = "2500";
+    std::string nameWhenRecalculated;
+    m_host.OnPendingEvents = [&] { nameWhenRecalculated = Screen().lblHomeName.Text; };
+    Press(KeyCode::Enter, Screen().ecStdUtil);
+    EXPECT_EQ(nameWhenRecalculated, "Custom");
+}
+
+TEST_F(EntryKeys, ADialogsFieldRecalculatesTheMainScreenToo) {
+    Field ratio;
+    ratio.Text = "28";
+    Press(KeyCode::Enter, ratio, "WholePercent");
+    EXPECT_EQ(ratio.Text, "28.00%");
+    EXPECT_THAT(m_log, ElementsAre("recalculated", "next"));
+}
+
+TEST_F(EntryKeys, TheNoticeOfAnEditComesOnce) {
+    SetFieldText(m_session, Screen().ecGMHHome, "220000"); // an upgrade of 20,000 for savings worth 9,229
+    Press(KeyCode::Enter, Screen().ecGMHHome);
+    EXPECT_EQ(m_host.Messages.size(), 1U);
+    LeaveField(m_context, Screen().ecGMHHome, "Dollar", AfterEdit::RecalculateAndCheckHouse);
+    EXPECT_EQ(m_host.Messages.size(), 1U);
+    SetFieldText(m_session, Screen().ecIncome, "90000");
+    Press(KeyCode::Enter, Screen().ecIncome);
+    EXPECT_EQ(m_host.Messages.size(), 1U);
+}
+
+using LostFocus = EntryDesk;
+
+TEST_F(LostFocus, ValidatesFormatsAndRecalculates) {
+    Screen().ecIncome.Text = "80000";
+    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate),
+              EntryOutcome::Accepted);
+    EXPECT_EQ(Screen().ecIncome.Text, "$80,000");
+    EXPECT_EQ(m_session.Scenario.AnnualIncome, 80000);
+    EXPECT_THAT(m_log, ElementsAre("recalculated"));
+}
+
+TEST_F(LostFocus, AnEmptyFieldShowsItsZero) {
+    Screen().ecIncome.Text.clear();
+    LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate);
+    EXPECT_EQ(Screen().ecIncome.Text, "$0");
+}
+
+TEST_F(LostFocus, OfARefusedTextChangesNothing) {
+    Screen().ecIncome.Text = "abc";
+    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate),
+              EntryOutcome::Refused);
+    EXPECT_EQ(Screen().ecIncome.Text, "abc");
+    EXPECT_THAT(m_log, ElementsAre("focus ecIncome", "message You must enter a number here.", "select"));
+}
+
+TEST_F(LostFocus, TowardsCancelNeverComplains) {
+    m_focus.Focused = "bCancel";
+    Screen().ecIncome.Text = "-5";
+    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Nothing), EntryOutcome::Accepted);
+    EXPECT_THAT(m_log, IsEmpty());
+}
+
+TEST_F(LostFocus, MayHaveNothingToFollow) {
+    Field price;
+    price.Text = "5000";
+    LeaveField(m_context, price, "Dollar", AfterEdit::Nothing);
+    EXPECT_EQ(price.Text, "$5,000");
+    EXPECT_THAT(m_log, IsEmpty());
+}
+
+TEST_F(LostFocus, TheHouseIsCheckedAfterTheRecalculation) {
+    m_session.ChosenHouse = {"The Alder", 200000, 2400, 206000, 1700};
+    Screen().lblHomeName.Text = "The Alder";
+    Screen().ecStdUtil.Text = "2500";
+    std::string nameWhenRecalculated;
+    m_host.OnPendingEvents = [&] { nameWhenRecalculated = Screen().lblHomeName.Text; };
+    LeaveField(m_context, Screen().ecStdUtil, "Dollar", AfterEdit::RecalculateAndCheckHouse);
+    EXPECT_EQ(nameWhenRecalculated, "The Alder");
+    EXPECT_EQ(Screen().lblHomeName.Text, "Custom");
+}
+
+TEST_F(LostFocus, OfOtherFieldsDoesNotLookAtTheHouse) {
+    m_session.ChosenHouse = {"The Alder", 1, 2, 3, 4};
+    Screen().lblHomeName.Text = "The Alder";
+    LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate);
+    EXPECT_EQ(Screen().lblHomeName.Text, "The Alder");
+}
+
+using FieldText = EntryDesk;
+
+TEST_F(FieldText, AChangeOfTheMarkedFieldsAloneSetsTheNoticeFlag) {
+    const std::set<std::string_view> marked = {"ecStdHome", "ecGMHHome", "ecStdUtil", "ecGMHUtil",
+                                               "ecGMHRate"};
+    for (const auto& entry : FieldTable()) {
+        m_session.Scenario.EEMNoticeFlag = false;
+        SetFieldText(m_session, Screen().*entry.Member, "7");
+        EXPECT_EQ(m_session.Scenario.EEMNoticeFlag, marked.contains(entry.Name)) << entry.Name;
+    }
+}
+
+TEST_F(FieldText, TheTextThatTheFieldHoldsIsNoChange) {
+    SetFieldText(m_session, Screen().ecGMHHome, "$206,000");
+    FormatField(m_session, Screen().ecGMHHome, "Dollar");
+    EXPECT_FALSE(m_session.Scenario.EEMNoticeFlag);
+}
+
+TEST_F(FieldText, FormattingAndTheZeroOfAnEmptyFieldAreChanges) {
+    Screen().ecGMHHome.Text = "206000";
+    FormatField(m_session, Screen().ecGMHHome, "Dollar");
+    EXPECT_TRUE(m_session.Scenario.EEMNoticeFlag);
+    m_session.Scenario.EEMNoticeFlag = false;
+    Screen().ecGMHUtil.Text.clear();
+    ValidateField(m_context, Screen().ecGMHUtil, "Dollar");
+    EXPECT_TRUE(m_session.Scenario.EEMNoticeFlag);
+}
+
+TEST_F(FieldText, NoChangeEverClearsTheFlag) {
+    m_session.Scenario.EEMNoticeFlag = true;
+    SetFieldText(m_session, Screen().ecIncome, "7");
+    EXPECT_TRUE(m_session.Scenario.EEMNoticeFlag);
+}
+
+class CustomHouse : public EntryDesk {
+protected:
+    CustomHouse() {
+        m_session.ChosenHouse = {"The Alder", 200000, 2400, 206000, 1700};
+        Screen().lblHomeName.Text = "The Alder";
+    }
+};
+
+TEST_F(CustomHouse, KeepsItsNameWhileAllFourAmountsAreItsOwn) {
+    Screen().ecGMHUtil.Text = "1700.00";
+    Screen().ecIncome.Text = "1";
+    CheckCustomHouse(m_session);
+    EXPECT_EQ(Screen().lblHomeName.Text, "The Alder");
+}
+
+TEST_F(CustomHouse, LosesItsNameWithAnyOfThem) {
+    for (Field MainScreen::*member :
+         {&MainScreen::ecStdHome, &MainScreen::ecGMHHome, &MainScreen::ecStdUtil, &MainScreen::ecGMHUtil}) {
+        Session session = m_session;
+        (session.Screen.*member).Text = "1";
+        CheckCustomHouse(session);
+        EXPECT_EQ(session.Screen.lblHomeName.Text, "Custom");
+    }
+}
+
+TEST_F(CustomHouse, DoesNotGetItsNameBack) {
+    Screen().lblHomeName.Text = "Custom";
+    CheckCustomHouse(m_session);
+    EXPECT_EQ(Screen().lblHomeName.Text, "Custom");
+}
+
+} // namespace
+
+} // namespace Ledgrove::Module1
