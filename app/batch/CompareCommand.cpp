@@ -1,14 +1,13 @@
 #include "app/batch/CompareCommand.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <unistd.h>
 #include <utility>
 
 #include "app/batch/CsvCompare.h"
+#include "app/batch/InputFile.h"
 #include "app/batch/JsonCompare.h"
 #include "settings/HouseListFile.h"
 #include "ui/HouseScenarios.h"
@@ -17,27 +16,8 @@ namespace Ledgrove {
 
 namespace {
 
-/// A file descriptor to read from, closed at the end unless it is standard input's.
-class InputFile {
-public:
-    explicit InputFile(const std::string& name)
-        : m_descriptor(name == "-" ? STDIN_FILENO : ::open(name.c_str(), O_RDONLY | O_CLOEXEC)) {}
-    ~InputFile() {
-        if (m_descriptor > STDIN_FILENO)
-            ::close(m_descriptor);
-    }
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
-
-    int Descriptor() const { return m_descriptor; }
-
-private:
-    int m_descriptor;
-};
-
 void ReportUnreadable(const std::string& name, const std::string& reason) {
-    std::cerr << "ledgrove-cli: " << (name == "-" ? "standard input" : name) << " cannot be read (" << reason
-              << "). Name a file with the homes to compare.\n";
+    std::cerr << "ledgrove-cli: " << UnreadableInput(name, reason) << '\n';
 }
 
 std::unique_ptr<ComparisonReader> MakeReader(CompareFormat format, Comparison& comparison) {
@@ -57,7 +37,7 @@ std::unique_ptr<ComparisonReader> MakeReader(CompareFormat format, Comparison& c
 int ReadFile(const std::string& name, ComparisonReader& reader, OutputBuffer& output) {
     const InputFile file(name);
     if (file.Descriptor() < 0) {
-        ReportUnreadable(name, std::strerror(errno));
+        ReportUnreadable(name, file.Failure());
         return CannotRun;
     }
     LineReader lines(file.Descriptor(), [&output] { output.Flush(); });

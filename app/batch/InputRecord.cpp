@@ -30,4 +30,8 @@ Refusal UnknownInput(std::string_view name, std::string_view value) {
     return {0, std::string(name), std::string(value), message + "."};
 }
 
+Refusal InputTooLong(std::size_t line) {
+    return {line, "", "", "The input is longer than 1 MiB. Write each comparison as one short JSON object."};
+}
+
 } // namespace Ledgrove

@@ -50,4 +50,7 @@ struct Refusal {
 /// The refusal of a name that is no input.
 Refusal UnknownInput(std::string_view name, std::string_view value);
 
+/// The refusal of an input beyond all measure.
+Refusal InputTooLong(std::size_t line);
+
 } // namespace Ledgrove

@@ -31,8 +31,6 @@ public:
     bool Read(LineReader& lines, OutputBuffer& output) override;
 
 private:
-    std::optional<Refusal> Compare(LineReader& lines);
-
     Comparison& m_comparison;
     Result m_result;
 };

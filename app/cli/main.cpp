@@ -1,11 +1,16 @@
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <iostream>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <unistd.h>
 
 #include <CLI/CLI.hpp>
 
 #include "app/batch/CompareCommand.h"
+#include "app/batch/ProgramFolder.h"
 #include "app/batch/SettingsCommand.h"
 #include "ui/StartUp.h"
 
@@ -13,10 +18,13 @@ namespace {
 
 using namespace Ledgrove;
 
-std::filesystem::path ExecutableFolder() {
-    std::error_code fault;
-    const auto executable = std::filesystem::read_symlink("/proc/self/exe", fault);
-    return fault ? std::filesystem::current_path() : executable.parent_path();
+/// Composing the report needs the toolkit: the program beside this one does it.
+int HandOverReport(char** argv) {
+    const std::string program = (ProgramFolder() / "ledgrove-report").string();
+    ::execv(program.c_str(), argv);
+    std::cerr << "ledgrove-cli: \"" << program << "\" cannot be started (" << std::strerror(errno)
+              << "). Reports need that program beside ledgrove-cli.\n";
+    return CannotRun;
 }
 
 int Compare(const std::filesystem::path& folder, const CompareRequest& request) {
@@ -95,7 +103,11 @@ int main(int argc, char** argv) {
     CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
     app.set_version_flag("--version", "ledgrove-cli " LEDGROVE_VERSION);
     app.require_subcommand(1);
-    std::string folder = ExecutableFolder().string();
+    // Its arguments are the other program's to read.
+    if (argc > 1 && std::string_view(argv[1]) == "report")
+        return HandOverReport(argv + 1);
+    app.add_subcommand("report", "Write the report of a comparison as PDF (ledgrove-cli report --help)");
+    std::string folder = ProgramFolder().string();
     std::string key;
     std::string value;
     CompareRequest request;

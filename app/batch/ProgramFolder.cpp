@@ -1,0 +1,11 @@
+#include "app/batch/ProgramFolder.h"
+
+namespace Ledgrove {
+
+std::filesystem::path ProgramFolder() {
+    std::error_code fault;
+    const auto executable = std::filesystem::read_symlink("/proc/self/exe", fault);
+    return fault ? std::filesystem::current_path() : executable.parent_path();
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,148 @@
+// What `ledgrove-cli report` hands over to: composing and painting need the toolkit, which ledgrove-cli does
+// without.
+
+#include <iostream>
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <QGuiApplication>
+
+#include "app/batch/CompareCommand.h"
+#include "app/batch/ObjectInput.h"
+#include "app/batch/ProgramFolder.h"
+#include "reports/windows/ReportFile.h"
+#include "settings/HeaderSettings.h"
+#include "ui/StartUp.h"
+
+namespace {
+
+using namespace Ledgrove;
+
+struct Arguments {
+    std::string Folder = ProgramFolder().string();
+    std::string Output;
+    ReportSections Sections;
+    PageOrientation Orientation = PageOrientation::Portrait;
+    std::optional<int> LogoOption; ///< as in the settings file where not given
+    std::optional<std::string> Builder;
+    std::string Buyer;
+    std::string Input = "-";
+};
+
+int Complain(const std::string& sentence, ExitStatus status) {
+    std::cerr << "ledgrove-cli: " << sentence << '\n';
+    return status;
+}
+
+/// "" and the sections when every name is known, else a sentence.
+std::string ReadSections(const std::string& names, ReportSections& sections) {
+    sections = {};
+    std::istringstream list(names);
+    for (std::string name; std::getline(list, name, ',');) {
+        if (name == "all")
+            sections = {true, true, true, true, true};
+        else if (name == "cashflow")
+            sections.CashFlow = true;
+        else if (name == "morehome")
+            sections.MoreHome = true;
+        else if (name == "affordability")
+            sections.Affordability = true;
+        else if (name == "summary")
+            sections.Summary = true;
+        else if (name == "assumptions")
+            sections.FinancialAssumptions = true;
+        else if (name != "none")
+            return "There is no section \"" + name +
+                   "\". Choose from cashflow, morehome, affordability, summary, assumptions, or all, or "
+                   "none.";
+    }
+    return {};
+}
+
+std::string ReadOrientation(const std::string& name, PageOrientation& orientation) {
+    if (name != "portrait" && name != "landscape")
+        return "The orientation is portrait or landscape.";
+    orientation = name == "landscape" ? PageOrientation::Landscape : PageOrientation::Portrait;
+    return {};
+}
+
+std::string ReadLogo(const std::string& name, std::optional<int>& option) {
+    constexpr std::string_view names[] = {"none", "generic", "user"};
+    for (int index = 0; index < 3; ++index)
+        if (name == names[index])
+            option = index;
+    return option ? "" : "The logo is none, generic or user.";
+}
+
+void AddOptions(CLI::App& app, Arguments& arguments) {
+    arguments.Sections = {true, true, true, true, true};
+    app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
+    app.add_option("--output", arguments.Output, "The PDF to write")->required();
+    app.add_option("--sections", "cashflow,morehome,affordability,summary,assumptions, all (default) or none")
+        ->each([&arguments](const std::string& names) {
+            if (const std::string fault = ReadSections(names, arguments.Sections); !fault.empty())
+                throw CLI::ValidationError("--sections", fault);
+        });
+    app.add_option("--orientation", "portrait (default) or landscape")
+        ->each([&arguments](const std::string& name) {
+            if (const std::string fault = ReadOrientation(name, arguments.Orientation); !fault.empty())
+                throw CLI::ValidationError("--orientation", fault);
+        });
+    app.add_option("--logo", "none, generic or user (default: as in Ledgrove.ini)")
+        ->each([&arguments](const std::string& name) {
+            if (const std::string fault = ReadLogo(name, arguments.LogoOption); !fault.empty())
+                throw CLI::ValidationError("--logo", fault);
+        });
+    app.add_option("--builder", arguments.Builder, "Who prepared it (default: as in Ledgrove.ini)");
+    app.add_option("--buyer", arguments.Buyer, "Whom it was prepared for");
+    app.add_option("FILE", arguments.Input,
+                   "The comparison, as for \"compare --format json\"; none or \"-\": stdin");
+}
+
+int Report(const Arguments& arguments) {
+    Session session;
+    CollectingHost host;
+    if (const auto fault = Module1::LoadMainScreen(session, host, arguments.Folder))
+        return Complain(Sentence(*fault), CannotRun);
+    session.Header.HomeBuyer = arguments.Buyer;
+    if (arguments.Builder)
+        session.Header.BuilderName = *arguments.Builder;
+
+    Comparison comparison(session);
+    const ObjectInput input = RunObjectFile(arguments.Input, comparison);
+    if (!input.Unreadable.empty())
+        return Complain(input.Unreadable, CannotRun);
+    if (input.Refused)
+        return Complain(input.Refused->Message + " (line " + std::to_string(input.Refused->Line) + ", " +
+                            input.Refused->Control + " \"" + input.Refused->Value + "\")",
+                        SomeRefused);
+
+    session = comparison.State();
+    const auto saved = Module1::GetLogoOption(SettingsFile(session.Folder));
+    const int logo = arguments.LogoOption.value_or(saved ? *saved : 0);
+    const QString fault = WriteReportFile(
+        session, {arguments.Sections, arguments.Orientation, logo, QString::fromStdString(arguments.Output)});
+    return fault.isEmpty() ? AllWell : Complain(fault.toStdString(), CannotRun);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // No display is needed, and none is asked even where there is one.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The toolkit's remarks about a desktop that is not there are nothing to a script; faults come as
+    // sentences of ours.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const QGuiApplication application(argc, argv);
+    CLI::App app("Writes the report of a comparison as PDF.", "ledgrove-cli report");
+    Arguments arguments;
+    AddOptions(app, arguments);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& fault) {
+        return app.exit(fault) == 0 ? AllWell : CannotRun;
+    }
+    return Report(arguments);
+}

@@ -1,0 +1,70 @@
+#include "reports/TextWrap.h"
+
+#include <algorithm>
+
+namespace Ledgrove {
+
+namespace {
+
+bool StartsCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+}
+
+/// The longest beginning, in whole characters, that fits; at least one character. Found by halving, so that a
+/// word of a megabyte is not measured character by character.
+std::size_t FittingLength(std::string_view text, Twips width, const TextStyle& style,
+                          const TextMeasure& measure) {
+    // No character is narrower than a twip, so more than `width` characters of up to 4 bytes cannot fit.
+    std::size_t tooLong = std::min(text.size(), static_cast<std::size_t>(std::max(width, 1)) * 4) + 1;
+    std::size_t fits = 0;
+    while (tooLong - fits > 1) {
+        const std::size_t middle = fits + (tooLong - fits) / 2;
+        (measure.Width(text.substr(0, middle), style) <= width ? fits : tooLong) = middle;
+    }
+    while (fits > 0 && fits < text.size() && !StartsCharacter(text[fits]))
+        --fits;
+    if (fits == 0)
+        for (fits = 1; fits < text.size() && !StartsCharacter(text[fits]);)
+            ++fits;
+    return fits;
+}
+
+/// Where a line that may hold `fits` bytes of `text` ends: behind the last word that is whole.
+std::size_t LineEnd(std::string_view text, std::size_t fits) {
+    if (fits >= text.size() || text[fits] == ' ')
+        return fits;
+    const std::size_t blank = text.rfind(' ', fits);
+    return blank == std::string_view::npos || text.find_first_not_of(' ') > blank ? fits : blank;
+}
+
+void WrapParagraph(std::string_view text, Twips width, const TextStyle& style, const TextMeasure& measure,
+                   std::vector<std::string>& lines) {
+    do {
+        const std::size_t end = LineEnd(text, FittingLength(text, width, style, measure));
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+        const std::size_t next = text.find_first_not_of(' ');
+        text.remove_prefix(next == std::string_view::npos ? text.size() : next);
+    } while (!text.empty());
+}
+
+} // namespace
+
+std::vector<std::string> WrapText(std::string_view text, Twips width, const TextStyle& style,
+                                  const TextMeasure& measure) {
+    std::vector<std::string> lines;
+    for (;;) {
+        const std::size_t end = text.find_first_of("\r\n");
+        const std::string_view paragraph = text.substr(0, end);
+        if (measure.Width(paragraph, style) <= width)
+            lines.emplace_back(paragraph);
+        else
+            WrapParagraph(paragraph, width, style, measure, lines);
+        if (end == std::string_view::npos)
+            return lines;
+        const bool pair = text.substr(end, 2) == "\r\n";
+        text.remove_prefix(end + (pair ? 2 : 1));
+    }
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,102 @@
+#include "reports/windows/PagePainter.h"
+
+#include <QPainter>
+#include <cmath>
+
+namespace Ledgrove {
+
+namespace {
+
+QString Shown(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QColor ColourOf(PrintColour colour) {
+    return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
+            static_cast<int>(colour >> 16U & 0xFFU)};
+}
+
+QRectF RectOf(const PrintBox& box) {
+    return {QPointF(box.X1, box.Y1), QPointF(box.X2, box.Y2)};
+}
+
+/// Draws each kind of thing that stands on a page.
+class ItemPainter {
+public:
+    ItemPainter(QPainter& painter, PictureStore& pictures)
+        : m_painter(painter)
+        , m_pictures(pictures) {}
+
+    void operator()(const TextRun& run) {
+        m_painter.setFont(PrintFont(run.Style));
+        m_painter.setPen(ColourOf(run.Style.Colour));
+        m_painter.drawText(QPointF(run.X, run.Baseline), Shown(run.Text));
+    }
+
+    void operator()(const FilledRectangle& rectangle) {
+        m_painter.fillRect(RectOf(rectangle.Box), ColourOf(rectangle.Colour));
+    }
+
+    void operator()(const RuledLine& line) {
+        m_painter.setPen(QPen(ColourOf(line.Colour), line.Thickness));
+        m_painter.drawLine(QPointF(line.Ends.X1, line.Ends.Y1), QPointF(line.Ends.X2, line.Ends.Y2));
+    }
+
+    void operator()(const PlacedPicture& picture) {
+        const QImage& image = m_pictures.Load(picture.File);
+        if (image.isNull())
+            return;
+        const QRectF box = RectOf(picture.Box);
+        QRectF target({}, QSizeF(image.size()).scaled(box.size(), Qt::KeepAspectRatio));
+        target.moveCenter(box.center());
+        m_painter.drawImage(target, image);
+    }
+
+private:
+    QPainter& m_painter;
+    PictureStore& m_pictures;
+};
+
+} // namespace
+
+QFont PrintFont(const TextStyle& style) {
+    constexpr int twipsPerPoint = TwipsPerInch / 72;
+    QFont font(QString::fromStdString(style.FontName));
+    font.setPixelSize(style.FontSize * twipsPerPoint);
+    font.setBold(style.Bold);
+    font.setItalic(style.Italic);
+    font.setUnderline(style.Underline);
+    // The same widths on every device, whatever its resolution.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+const QFontMetricsF& FontMeasure::Metrics(const TextStyle& style) const {
+    const Key key{style.FontName, style.FontSize, style.Bold, style.Italic};
+    auto found = m_metrics.find(key);
+    if (found == m_metrics.end())
+        found = m_metrics.emplace(key, QFontMetricsF(PrintFont(style))).first;
+    return found->second;
+}
+
+Twips FontMeasure::Width(std::string_view text, const TextStyle& style) const {
+    return static_cast<Twips>(std::ceil(Metrics(style).horizontalAdvance(Shown(text))));
+}
+
+Twips FontMeasure::Ascent(const TextStyle& style) const {
+    return static_cast<Twips>(std::ceil(Metrics(style).ascent()));
+}
+
+Twips FontMeasure::LineHeight(const TextStyle& style) const {
+    return static_cast<Twips>(std::ceil(Metrics(style).lineSpacing()));
+}
+
+void PaintPage(QPainter& painter, const PrintPage& page, PictureStore& pictures) {
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+    ItemPainter paint(painter, pictures);
+    for (const PrintItem& item : page)
+        std::visit(paint, item);
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "reports/PrintItems.h"
+#include "reports/windows/Pictures.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <map>
+#include <tuple>
+
+class QPainter;
+
+namespace Ledgrove {
+
+/// The font of a style in a coordinate system of twips.
+QFont PrintFont(const TextStyle& style);
+
+/// Measures text as PaintPage draws it. Needs a QGuiApplication.
+class FontMeasure : public TextMeasure {
+public:
+    Twips Width(std::string_view text, const TextStyle& style) const override;
+    Twips Ascent(const TextStyle& style) const override;
+    Twips LineHeight(const TextStyle& style) const override;
+
+private:
+    using Key = std::tuple<std::string, int, bool, bool>;
+
+    const QFontMetricsF& Metrics(const TextStyle& style) const;
+
+    mutable std::map<Key, QFontMetricsF> m_metrics; ///< a font is looked up once
+};
+
+/// Paints one page, the only way that preview, printer and PDF have. The painter's units are twips and its
+/// origin is the corner of the paper.
+void PaintPage(QPainter& painter, const PrintPage& page, PictureStore& pictures);
+
+} // namespace Ledgrove

@@ -1,0 +1,66 @@
+#include "reports/windows/PdfOutput.h"
+
+#include "reports/windows/PagePainter.h"
+
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+namespace Ledgrove {
+
+namespace {
+
+QPageLayout LayoutOf(const PageGeometry& geometry) {
+    const QSizeF points(geometry.PageWidth * 72.0 / TwipsPerInch, geometry.PageHeight * 72.0 / TwipsPerInch);
+    return {QPageSize(points, QPageSize::Point, QString(), QPageSize::ExactMatch), QPageLayout::Portrait,
+            QMarginsF()};
+}
+
+QString Unwritable(const QSaveFile& file) {
+    return QString("The report was not written: \"%1\" cannot be written (%2). Choose another place for it.")
+        .arg(file.fileName(), file.errorString());
+}
+
+} // namespace
+
+PrintOutcome PrintPages(QPagedPaintDevice& device, int dotsPerInch, const PrintDocument& document,
+                        const PageProgress& progress) {
+    PictureStore pictures;
+    QPainter painter;
+    if (!painter.begin(&device))
+        return PrintOutcome::Failed;
+    const double scale = static_cast<double>(dotsPerInch) / TwipsPerInch;
+    for (std::size_t number = 1; number <= document.PageCount(); ++number) {
+        if (progress && !progress(number))
+            return PrintOutcome::Stopped;
+        if (number > 1 && !device.newPage())
+            return PrintOutcome::Failed;
+        painter.resetTransform();
+        painter.scale(scale, scale);
+        PaintPage(painter, document.Page(number), pictures);
+    }
+    return painter.end() ? PrintOutcome::Done : PrintOutcome::Failed;
+}
+
+QString WritePdf(const PrintDocument& document, const QString& name, const PageProgress& progress) {
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly))
+        return Unwritable(file);
+    PrintOutcome outcome = PrintOutcome::Failed;
+    {
+        QPdfWriter writer(&file);
+        writer.setTitle(QString::fromStdString(document.Title));
+        writer.setCreator("Ledgrove");
+        writer.setResolution(TwipsPerInch);
+        writer.setPageLayout(LayoutOf(document.Geometry));
+        outcome = PrintPages(writer, TwipsPerInch, document, progress);
+    }
+    if (outcome == PrintOutcome::Stopped) {
+        file.cancelWriting();
+        return {};
+    }
+    return outcome == PrintOutcome::Done && file.commit() ? QString() : Unwritable(file);
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,260 @@
+#include "reports/PrintDocument.h"
+
+#include "tests/reports/FixedMeasure.h"
+
+#include <gmock/gmock.h>
+
+namespace Ledgrove {
+namespace {
+
+using namespace Testing;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A letter page with ten-point text: characters 100 twips wide, lines 200 high.
+class PrintDocumentTest : public testing::Test {
+protected:
+    PrintDocumentTest() { m_document.FontSize = 10; }
+
+    std::vector<TextRun> Runs(std::size_t page = 1) const { return ItemsOf<TextRun>(m_document.Page(page)); }
+
+    FixedMeasure m_measure;
+    PrintDocument m_document{m_measure};
+};
+
+TEST_F(PrintDocumentTest, StartsWithThePenAtTheTopLeftMarginCorner) {
+    m_document.Start();
+    EXPECT_EQ(m_document.CurrentX, 720);
+    EXPECT_EQ(m_document.CurrentY, 720);
+    EXPECT_EQ(m_document.PageCount(), 1U);
+}
+
+TEST_F(PrintDocumentTest, IsWrittenOnOnlyWhileItIsOpen) {
+    EXPECT_FALSE(m_document.Text("a"));
+    EXPECT_FALSE(m_document.Paragraph("a"));
+    EXPECT_FALSE(m_document.NewPage());
+    EXPECT_FALSE(m_document.DrawRectangle({0, 0, 1, 1}));
+    EXPECT_FALSE(m_document.AddTable("100;", "", "a"));
+    EXPECT_FALSE(m_document.Picture("a.bmp", {}));
+    EXPECT_FALSE(m_document.End());
+    m_document.Start();
+    EXPECT_TRUE(m_document.Text("a"));
+    EXPECT_TRUE(m_document.End());
+    EXPECT_FALSE(m_document.Text("b"));
+    EXPECT_EQ(TextsOf(m_document.Page(1)), std::vector<std::string>{"a"});
+    m_document.Start();
+    EXPECT_THAT(m_document.Page(1), IsEmpty());
+}
+
+TEST_F(PrintDocumentTest, TextStaysOnItsLineAndMovesThePenRight) {
+    m_document.Start();
+    m_document.Text("abc");
+    EXPECT_EQ(m_document.CurrentX, 1020);
+    EXPECT_EQ(m_document.CurrentY, 720);
+    m_document.FontBold = true;
+    m_document.Text("de");
+    EXPECT_EQ(Runs()[1].X, 1020);
+    EXPECT_EQ(Runs()[1].Y, Runs()[0].Y);
+    EXPECT_TRUE(Runs()[1].Style.Bold);
+    EXPECT_FALSE(Runs()[0].Style.Bold);
+    EXPECT_EQ(Runs()[0].Baseline, 720 + 150);
+}
+
+TEST_F(PrintDocumentTest, AParagraphEndsTheLine) {
+    m_document.Start();
+    m_document.Text("abc");
+    m_document.Paragraph(" ");
+    EXPECT_EQ(m_document.CurrentX, 720);
+    EXPECT_EQ(m_document.CurrentY, 920);
+    m_document.Paragraph("");
+    EXPECT_EQ(m_document.CurrentY, 1120);
+    m_document.Paragraph("next");
+    EXPECT_EQ(Runs()[1].Y, 1120);
+    EXPECT_EQ(m_document.CurrentY, 1320);
+}
+
+TEST_F(PrintDocumentTest, CentredTextStandsBetweenTheMargins) {
+    m_document.TextAlign = 1;
+    m_document.Start();
+    m_document.Paragraph("abcd");
+    EXPECT_EQ(Runs()[0].X, 6120 - 200); // the paper's middle less half the width
+    m_document.Text("ab");
+    m_document.Text("cd");
+    EXPECT_EQ(Runs()[1].X, 5920);
+    EXPECT_EQ(Runs()[2].X, 6120);
+}
+
+TEST_F(PrintDocumentTest, TextTooWideForTheLineIsWrapped) {
+    m_document.Start();
+    // 108 characters fit between the margins of 10,800 twips
+    m_document.Paragraph(std::string(100, 'a') + " " + std::string(20, 'b'));
+    ASSERT_EQ(Runs().size(), 2U);
+    EXPECT_EQ(Runs()[1].Text, std::string(20, 'b'));
+    EXPECT_EQ(Runs()[1].Y, 920);
+    EXPECT_EQ(m_document.CurrentY, 1120);
+}
+
+TEST_F(PrintDocumentTest, TextKeepsClearOfThePicturesBesideIt) {
+    m_document.TextAlign = 1;
+    m_document.Start();
+    m_document.Picture("left.png", {720, 720, 2628, 2340});
+    m_document.Paragraph(std::string(90, 'a'));
+    for (const TextRun& run : Runs()) {
+        EXPECT_GE(run.X, 2628);
+        EXPECT_LE(run.X + run.Width, 12240 - 2628);
+    }
+    EXPECT_EQ(Runs().size(), 2U);
+}
+
+TEST_F(PrintDocumentTest, TextThatDoesNotFitThePageGoesToTheNext) {
+    m_document.Start();
+    m_document.CurrentY = 15840 - 720 - 200;
+    m_document.Paragraph("last");
+    m_document.Paragraph("next");
+    EXPECT_EQ(m_document.PageCount(), 2U);
+    EXPECT_EQ(Runs(2)[0].Y, 720);
+}
+
+TEST_F(PrintDocumentTest, RectanglesAndPicturesDoNotMoveThePen) {
+    m_document.Start();
+    m_document.BrushColor = PrintGrey;
+    m_document.DrawRectangle({1, 2, 3, 4});
+    m_document.Picture("a.png", {5, 6, 7, 8});
+    EXPECT_EQ(m_document.CurrentX, 720);
+    EXPECT_EQ(m_document.CurrentY, 720);
+    const auto rectangle = ItemsOf<FilledRectangle>(m_document.Page(1)).at(0);
+    EXPECT_EQ(rectangle.Colour, 0xC0C0C0U);
+    EXPECT_EQ(rectangle.Box, (PrintBox{1, 2, 3, 4}));
+    EXPECT_EQ(ItemsOf<PlacedPicture>(m_document.Page(1)).at(0).File, "a.png");
+}
+
+TEST_F(PrintDocumentTest, TheFooterHasThreePartsAndThePageNumber) {
+    m_document.Footer = "Printed on 11/20/2026||Page %d";
+    m_document.FooterFont.FontSize = 8;
+    m_document.Start();
+    m_document.NewPage();
+    m_document.End();
+    const auto runs = Runs(2);
+    ASSERT_EQ(runs.size(), 2U);
+    EXPECT_EQ(runs[0].Text, "Printed on 11/20/2026");
+    EXPECT_EQ(runs[0].X, 720);
+    EXPECT_EQ(runs[1].Text, "Page 2");
+    EXPECT_EQ(runs[1].X + runs[1].Width, 12240 - 720);
+    EXPECT_GE(runs[0].Y, 15840 - 720);
+    EXPECT_EQ(runs[0].Style.FontSize, 8);
+}
+
+TEST_F(PrintDocumentTest, LandscapeTurnsThePaper) {
+    const PageGeometry turned = Oriented({}, PageOrientation::Landscape);
+    EXPECT_EQ(turned.PageWidth, 15840);
+    EXPECT_EQ(turned.PageHeight, 12240);
+    EXPECT_EQ(turned.MarginLeft, 720);
+}
+
+/// Tables of ten-point text: a row of one line is 200 twips and its padding high.
+class PrintTableTest : public PrintDocumentTest {
+protected:
+    PrintTableTest() { m_document.Start(); }
+
+    Twips RowHeight() {
+        const Twips before = m_document.CurrentY;
+        m_document.AddTable("1000;", "", "x");
+        const Twips height = m_document.CurrentY - before;
+        m_document.Start();
+        return height;
+    }
+};
+
+TEST_F(PrintTableTest, CellsFollowTheColumnMarks) {
+    m_document.AddTable("1000|>2000|^1000;", "", "ab|cd|ef");
+    const auto runs = Runs();
+    EXPECT_EQ(runs[0].X, 720 + 60);
+    EXPECT_EQ(runs[1].X + runs[1].Width, 720 + 3000 - 60);
+    EXPECT_EQ(runs[2].X, 720 + 3000 + 500 - 100);
+    EXPECT_EQ(runs[0].Y, runs[2].Y);
+}
+
+TEST_F(PrintTableTest, TheHeaderIsTheFirstRowAndMayBeShaded) {
+    const Twips row = RowHeight();
+    m_document.AddTable("^7560;", "Title", "", PrintGrey);
+    EXPECT_EQ(m_document.CurrentY, 720 + row); // a title bar of one row
+    const auto shade = ItemsOf<FilledRectangle>(m_document.Page(1)).at(0);
+    EXPECT_EQ(shade.Colour, PrintGrey);
+    EXPECT_EQ(shade.Box, (PrintBox{720, 720, 720 + 7560, 720 + row}));
+    m_document.AddTable("7560;", "Head", "a;b;;", PrintGrey);
+    EXPECT_EQ(m_document.CurrentY, 720 + 5 * row);
+    EXPECT_EQ(ItemsOf<FilledRectangle>(m_document.Page(1)).size(), 2U); // the header row alone
+}
+
+TEST_F(PrintTableTest, AFormatWithoutItsSemicolonIsReadTheSameWay) {
+    m_document.AddTable("3060|>2000|2500", "", "a|b|c");
+    const auto open = Runs();
+    m_document.Start();
+    m_document.AddTable("3060|>2000|2500;", "", "a|b|c");
+    const auto closed = Runs();
+    for (std::size_t cell = 0; cell < 3; ++cell)
+        EXPECT_EQ(open[cell].X, closed[cell].X);
+}
+
+TEST_F(PrintTableTest, APenSetBackWritesOverWhatIsThere) {
+    m_document.AddTable("1000|1000;", "", "label|");
+    const Twips below = m_document.CurrentY;
+    m_document.CurrentY = 720;
+    m_document.AddTable("1000|1000;", "", "|value");
+    EXPECT_EQ(m_document.CurrentY, below);
+    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("label", "value"));
+    EXPECT_EQ(Runs()[0].Y, Runs()[1].Y);
+}
+
+TEST_F(PrintTableTest, LongTextWrapsInsideItsColumn) {
+    const Twips row = RowHeight();
+    m_document.AddTable("720|1000;", "", "aaa bbb|c"); // six characters fit into 720 less the padding
+    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("aaa", "bbb", "c"));
+    EXPECT_EQ(m_document.CurrentY, 720 + row + 200);
+}
+
+TEST_F(PrintTableTest, ACaptionRunsOverIntoTheFreePartOfItsNeighbour) {
+    m_document.AddTable("1440|>3780|>2340;", "", " Expected Savings After:   7 Years|$1,399;");
+    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre(" Expected Savings After:   7 Years", "$1,399"));
+    const auto runs = Runs();
+    EXPECT_LE(runs[0].X + runs[0].Width, runs[1].X);
+}
+
+TEST_F(PrintTableTest, ARowThatDoesNotFitMovesToTheNextPage) {
+    const Twips row = RowHeight();
+    m_document.CurrentY = 15840 - 720 - row;
+    m_document.AddTable("1000;", "", "a;b");
+    EXPECT_EQ(m_document.PageCount(), 2U);
+    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("a"));
+    EXPECT_THAT(TextsOf(m_document.Page(2)), ElementsAre("b"));
+}
+
+TEST_F(PrintTableTest, ARowHigherThanAnyPageGoesOverSeveral) {
+    std::string words;
+    for (int word = 0; word < 400; ++word)
+        words += "abcdef ";
+    m_document.AddTable("720;", "", words); // one word a line: 400 lines of 200 twips
+    EXPECT_GT(m_document.PageCount(), 5U);
+    std::size_t written = 0;
+    for (std::size_t page = 1; page <= m_document.PageCount(); ++page)
+        written += Runs(page).size();
+    EXPECT_EQ(written, 400U);
+}
+
+TEST_F(PrintTableTest, AFrameIsDrawnOnlyWithBorderFour) {
+    m_document.TableBorder = 0;
+    m_document.AddTable("1000;", "", "a;b");
+    EXPECT_THAT(ItemsOf<RuledLine>(m_document.Page(1)), IsEmpty());
+    m_document.TableBorder = 4;
+    const Twips top = m_document.CurrentY;
+    m_document.AddTable("1000;", "", "a;b");
+    const auto lines = ItemsOf<RuledLine>(m_document.Page(1));
+    // over each row a rule, at each side of each row a line, and one below
+    ASSERT_EQ(lines.size(), 7U);
+    EXPECT_EQ(lines.front().Ends.Y1, top);
+    EXPECT_EQ(lines.back().Ends.Y1, m_document.CurrentY);
+    EXPECT_NE(lines[3].Colour, lines[0].Colour); // the rule between rows is light
+}
+
+} // namespace
+} // namespace Ledgrove

@@ -1,0 +1,50 @@
+#include "reports/TextWrap.h"
+
+#include "tests/reports/FixedMeasure.h"
+
+#include <gmock/gmock.h>
+
+namespace Ledgrove {
+namespace {
+
+using testing::ElementsAre;
+
+/// Ten-point characters are 100 twips wide.
+std::vector<std::string> Wrap(std::string_view text, int characters) {
+    TextStyle style;
+    style.FontSize = 10;
+    return WrapText(text, characters * 100, style, Testing::FixedMeasure());
+}
+
+TEST(WrapText, BreaksAtBlanksAndDropsThem) {
+    EXPECT_THAT(Wrap("one two three", 7), ElementsAre("one two", "three"));
+    EXPECT_THAT(Wrap("one two three", 8), ElementsAre("one two", "three"));
+    EXPECT_THAT(Wrap("one  two", 4), ElementsAre("one ", "two"));
+}
+
+TEST(WrapText, WhatFitsStaysAsItIs) {
+    EXPECT_THAT(Wrap(" Expected Savings After:   7 Years", 40),
+                ElementsAre(" Expected Savings After:   7 Years"));
+    EXPECT_THAT(Wrap("", 4), ElementsAre(""));
+}
+
+TEST(WrapText, AWordThatIsTooWideAloneIsBroken) {
+    EXPECT_THAT(Wrap("abcdefgh", 3), ElementsAre("abc", "def", "gh"));
+    EXPECT_THAT(Wrap("a bcdefgh", 3), ElementsAre("a", "bcd", "efg", "h"));
+}
+
+TEST(WrapText, NeverBreaksWithinACharacter) {
+    EXPECT_THAT(Wrap("\xC3\xA9\xC3\xA9\xC3\xA9", 2), ElementsAre("\xC3\xA9\xC3\xA9", "\xC3\xA9"));
+    EXPECT_THAT(Wrap("\xC3\xA9\xC3\xA9", 0), ElementsAre("\xC3\xA9", "\xC3\xA9"));
+}
+
+TEST(WrapText, ALineBreakEndsALine) {
+    EXPECT_THAT(Wrap("a\r\nb\rc\nd", 10), ElementsAre("a", "b", "c", "d"));
+}
+
+TEST(WrapText, AMegabyteWithoutBlanksIsBrokenInReasonableTime) {
+    EXPECT_EQ(Wrap(std::string(1'000'000, 'x'), 100).size(), 10000U);
+}
+
+} // namespace
+} // namespace Ledgrove
