@@ -28,6 +28,7 @@ void FillTaxRows(AssumptionsScreen& dialog, const TaxSchedule& schedule) {
         if (row + 1 < schedule.size())
             dialog.ecHighEnd[row].Text = FormatPicture(bracket.HighEnd, "$###,##0");
         dialog.ecRate[row].Text = FormatPicture(bracket.Rate, "#0.00") + "%";
+        dialog.LastTaxRow = row;
     }
 }
 

@@ -18,6 +18,7 @@ inline constexpr std::size_t RatioRowCount = 7;
 
 struct AssumptionsScreen {
     std::array<Field, TaxRowCount> ecLowEnd, ecHighEnd, ecRate;
+    std::size_t LastTaxRow = TaxRowCount - 1; ///< the row of the last bracket, whose high end is "or greater"
     Field ecRealEstateTaxPct, ecInsurancePct;
     Field ecPV_Rate, ecPV_Term;
     bool optUsePVVars = false; ///< true: "These variables", false: "Mortgage rate and term"

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "ui/StartUp.h"
+#include "ui/windows/Dialogs.h"
 #include "ui/windows/QtHost.h"
 #include "ui/windows/frmMain.h"
 
@@ -43,7 +44,7 @@ int ShowWindow(const std::filesystem::path& folder) {
         box.exec();
         return NoSettings;
     }
-    Ledgrove::frmMain window(session, host);
+    Ledgrove::frmMain window(session, host, Ledgrove::DialogActions(session, host));
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
     window.show();
     return QCoreApplication::exec();

@@ -126,6 +126,7 @@ class Program:
         self.desktop = desktop
         self.process = desktop.start(program, "--folder", folder)
         self.root = None
+        self.title = None
 
     def find_root(self):
         from gi.repository import Atspi
@@ -146,14 +147,31 @@ class Program:
     def all(self, start=None):
         from gi.repository import Atspi
         stack = [start or self.root]
+        top = stack[0]
         while stack:
             node = stack.pop()
             if node is None:
                 continue
             yield node
             # The items of a closed pick list are children too, and there are many.
-            if node.get_role() not in (Atspi.Role.COMBO_BOX,) or start is not None:
-                stack.extend(node.get_child_at_index(i) for i in range(node.get_child_count()))
+            if node.get_role() != Atspi.Role.COMBO_BOX or node == top:
+                stack.extend(node.get_child_at_index(i) for i in reversed(range(node.get_child_count())))
+
+    def window(self, title=None):
+        """From now on controls are looked for in the dialog of this title, or anywhere again."""
+        self.title = title
+        if title:
+            wait_for(self.front, f"the window {title}")
+
+    def front(self):
+        """The dialog that was named, None for the whole program; message boxes are always looked for everywhere."""
+        if self.title is None:
+            return None
+        for index in range(self.root.get_child_count()):
+            child = self.root.get_child_at_index(index)
+            if child and child.get_role_name() == "dialog" and child.get_name() == self.title and self.showing(child):
+                return child
+        raise Gone(f"no window {self.title}")
 
     @staticmethod
     def showing(node):
@@ -161,8 +179,9 @@ class Program:
         return node.get_state_set().contains(Atspi.StateType.SHOWING)
 
     def find(self, role, name=None, description=None, missing_ok=False):
+        """A control that is showing, in the window in front where one was named by `window`."""
         def search():
-            for node in self.all():
+            for node in self.all(self.front()):
                 if node.get_role_name() in (role if isinstance(role, tuple) else (role,)) and self.showing(node) \
                         and (name is None or node.get_name() == name) \
                         and (description is None or node.get_description() == description):
@@ -205,9 +224,9 @@ class Program:
     def focused(self):
         """The control with the focus; the tab in front always says it has it, and windows do too."""
         from gi.repository import Atspi
-        for node in self.all():
+        for node in self.all(self.front()):
             states = node.get_state_set()
-            if states.contains(Atspi.StateType.FOCUSED) and node.get_role_name() not in ("frame", "dialog", "page tab"):
+            if states.contains(Atspi.StateType.FOCUSED) and node.get_role_name() not in ("frame", "dialog", "page tab", "list item"):
                 return node
         return None
 
@@ -227,16 +246,20 @@ class Program:
     def wait_result(self, description, text):
         wait_for(lambda: self.result(description) == text, f"{description} showing {text}")
 
+    def open_box(self):
+        return next((node for node in self.all() if node.get_role_name() in ("alert", "alert message")
+                     and self.showing(node)), None)
+
     def box(self):
         """The message box that is open, with its text."""
-        node = self.find(("alert", "alert message"))
+        node = wait_for(self.open_box, "a message box")
         texts = [child.get_name() for child in self.all(node) if child.get_role_name() == "label"]
         return node, "\n".join(text for text in texts if text)
 
     def no_box(self):
         """Waits until no message box is open; a program that has ended shows none."""
         wait_for(lambda: self.process.poll() is not None
-                 or self.find(("alert", "alert message"), missing_ok=True) is None, "the message box closed")
+                 or self.open_box() is None, "the message box closed")
 
     def answer(self, button="OK"):
         """Presses a button of the open message box and waits until it is gone; gives title and text."""

@@ -65,6 +65,18 @@ TEST_F(AssumptionsScreenTest, TwoBracketsShowLowEndsOneDollarAbove) {
     EXPECT_EQ(m_dialog.ecHighEnd[1].Text, "");
     EXPECT_EQ(m_dialog.ecRate[1].Text, "28.00%");
     EXPECT_EQ(m_dialog.ecLowEnd[2].Text, "");
+    EXPECT_EQ(m_dialog.LastTaxRow, 1U);
+}
+
+TEST_F(AssumptionsScreenTest, TheLastOfMoreBracketsThanRowsIsTheLastRow) {
+    std::string settings = "LOANTYPE=1,C,,0.28,0.36,,,,FALSE\r\n";
+    for (int bracket = 1; bracket <= 8; ++bracket)
+        settings += "TAXCAT=" + std::to_string(bracket * 10000) + ",10\r\n";
+    Start(settings);
+    EXPECT_EQ(m_dialog.LastTaxRow, 5U);
+    EXPECT_EQ(m_dialog.ecHighEnd[5].Text, "$60,000");
+    ASSERT_FALSE(Confirm());
+    EXPECT_THAT(Bytes(), HasSubstr("TAXCAT=60000,10.00\r\nTAXCAT=70000,10\r\n"));
 }
 
 TEST_F(AssumptionsScreenTest, MissingAssumptionsShowZeros) {

@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <algorithm>
 
+#include "ui/windows/EntryField.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/TextColours.h"
 
@@ -84,11 +85,7 @@ void MainBinding::RefreshColour(Bound<Member, Widget>& bound) {
 
 void MainBinding::RefreshFields() {
     for (auto& bound : m_fields) {
-        const QString text = Shown(bound.Shown->Text);
-        if (bound.Control->text() != text) {
-            const QSignalBlocker nothingTyped(bound.Control);
-            bound.Control->setText(text);
-        }
+        ShowText(*bound.Control, bound.Shown->Text);
         RefreshColour(bound);
     }
 }

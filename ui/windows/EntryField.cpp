@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <utility>
 
 #include "ui/windows/FormGuard.h"
@@ -46,6 +47,14 @@ EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const Entry
     return events;
 }
 
+void ShowText(QLineEdit& edit, const std::string& text) {
+    const QString shown = QString::fromStdString(text);
+    if (edit.text() == shown)
+        return;
+    const QSignalBlocker nothingTyped(edit);
+    edit.setText(shown);
+}
+
 EntryField::EntryField(QWidget* parent)
     : QLineEdit(parent) {
     // textChanged, not textEdited: assistive technologies set the text without a key.
@@ -58,6 +67,11 @@ EntryField::EntryField(QWidget* parent)
 void EntryField::Bind(const Field& field, EntryEvents events) {
     m_field = &field;
     m_events = std::move(events);
+}
+
+void EntryField::Refresh() {
+    if (m_field)
+        ShowText(*this, m_field->Text);
 }
 
 bool EntryField::Commit(KeyCode key) {

@@ -30,6 +30,9 @@ struct EntryTypes {
 EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const EntryTypes& types,
                                 std::function<void()> refresh);
 
+/// Shows `text` where it differs. Showing is not typing.
+void ShowText(QLineEdit& edit, const std::string& text);
+
 /// The edit field of every form: turns the toolkit's events into the five of the entry rules. Any text may be
 /// typed; what is wrong with it is said when the field is committed or left.
 class EntryField : public QLineEdit {
@@ -41,6 +44,9 @@ public:
     /// Connects the field of the record that this one shows. `field` must outlive the widget.
     void Bind(const Field& field, EntryEvents events);
     bool Shows(const Field& field) const { return m_field == &field; }
+
+    /// Shows the bound field's text as it is now.
+    void Refresh();
 
 protected:
     bool event(QEvent* event) override;

@@ -21,9 +21,9 @@ HelpWindow::HelpWindow(QWidget* parent)
     resize(720, 560);
 }
 
-void HelpWindow::ShowTopic(const QString& path, int context) {
+void HelpWindow::ShowTopic(const QString& path, const QString& anchor) {
     QUrl topic = QUrl::fromLocalFile(path);
-    topic.setFragment(QString("ctx%1").arg(context));
+    topic.setFragment(anchor);
     m_browser->setSource(topic, QTextDocument::HtmlResource);
     show();
     raise();
@@ -52,6 +52,16 @@ std::optional<std::string> HelpComplaint(const std::filesystem::path& folder, co
                ". Put it there, or name another one behind HELPFILE= in Ledgrove.ini.";
     return "The help file " + quoted + " in " + place +
            " cannot be read: " + file.errorString().toStdString() + ".";
+}
+
+void Help::Open(const QString& anchor) {
+    if (const auto complaint = HelpComplaint(m_session.Folder, m_session.HelpFile)) {
+        m_outside.ShowMessage({ApplicationTitle, *complaint, MessageIcon::Exclamation});
+        return;
+    }
+    if (!m_window)
+        m_window = new HelpWindow(&m_owner);
+    m_window->ShowTopic(HelpFilePath(m_session.Folder, m_session.HelpFile), anchor);
 }
 
 } // namespace Ledgrove

@@ -10,12 +10,6 @@ namespace {
 
 constexpr const char* widestUsualFigure = "-$888,888,888";
 
-void KeepPlaceWhileHidden(QWidget& widget) {
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
-
 } // namespace
 
 ResultLabel::ResultLabel(const char* control, const QLabel& caption, QString column, QWidget* parent)
@@ -67,6 +61,12 @@ void MakeBold(QWidget& widget) {
     QFont font = widget.font();
     font.setBold(true);
     widget.setFont(font);
+}
+
+void KeepPlaceWhileHidden(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
 }
 
 } // namespace Ledgrove

@@ -36,4 +36,7 @@ QLabel* CaptionLabel(const char* control, QWidget* parent = nullptr);
 
 void MakeBold(QWidget& widget);
 
+/// The layout around the widget stays as it is while the widget is hidden.
+void KeepPlaceWhileHidden(QWidget& widget);
+
 } // namespace Ledgrove

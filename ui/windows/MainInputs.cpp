@@ -13,6 +13,7 @@
 #include <array>
 
 #include "ui/windows/EntryField.h"
+#include "ui/windows/FormParts.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/Pictures.h"
@@ -24,14 +25,6 @@ namespace {
 constexpr const char* baseHome = "Base Home";
 constexpr const char* labelledHome = "GREENMARK Home";
 
-EntryField* MakeField(const char* control, const QString& humanName) {
-    auto* field = new EntryField;
-    Identify(*field, control, humanName);
-    field->setAlignment(Qt::AlignRight);
-    field->setMinimumWidth(field->fontMetrics().horizontalAdvance("$888,888,888") + 20);
-    return field;
-}
-
 QComboBox* MakePickList(const char* control, const QString& description) {
     auto* list = new QComboBox;
     IdentifyByDescription(*list, control, description);
@@ -40,45 +33,6 @@ QComboBox* MakePickList(const char* control, const QString& description) {
     list->setMinimumContentsLength(15);
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     return list;
-}
-
-/// The term of the other home, shown again.
-QLineEdit* MakeMirror(const char* control, const QString& humanName) {
-    auto* mirror = new QLineEdit;
-    Identify(*mirror, control, humanName);
-    mirror->setReadOnly(true);
-    mirror->setFocusPolicy(Qt::NoFocus);
-    mirror->setFrame(false);
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::transparent);
-    mirror->setPalette(palette);
-    return mirror;
-}
-
-QLabel* MakeCaption(const QString& text, QWidget* field) {
-    QLabel* caption = TextLabel(text);
-    caption->setBuddy(field);
-    return caption;
-}
-
-QLabel* MakeHead(const char* text) {
-    QLabel* head = TextLabel(text);
-    head->setAlignment(Qt::AlignCenter);
-    MakeBold(*head);
-    return head;
-}
-
-QPushButton* MakeButton(const char* control, const QString& caption) {
-    auto* button = new QPushButton(caption);
-    Identify(*button, control, QString(caption).remove('&'));
-    return button;
-}
-
-QGridLayout* MakeGrid(QWidget* parent) {
-    auto* grid = new QGridLayout(parent);
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(6);
-    return grid;
 }
 
 struct HomeRow {
@@ -172,7 +126,7 @@ QWidget* MainInputs::MakeHomes() {
         AddHomeRow(*grid, row.Caption, MakeField(row.Base, HumanName(row.Human, baseHome)),
                    MakeField(row.Labelled, HumanName(row.Human, labelledHome)));
     AddHomeRow(*grid, "&Term:", MakePickList("cboMortTerm", HumanName("Term", baseHome)),
-               MakeMirror("ecGMHTerm", HumanName("Term", labelledHome)));
+               MakeDisplay("ecGMHTerm", HumanName("Term", labelledHome)));
     AddHomeRow(*grid,
                "Mortgage Optio&n:", MakePickList("cboStdMortOption", HumanName("Mortgage Option", baseHome)),
                MakePickList("cboGMHMortOption", HumanName("Mortgage Option", labelledHome)));

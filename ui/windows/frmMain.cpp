@@ -5,16 +5,16 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "engine/Recalculate.h"
 #include "ui/DataCheck.h"
 #include "ui/MainScreenRules.h"
 #include "ui/windows/Binding.h"
 #include "ui/windows/EntryField.h"
 #include "ui/windows/FormGuard.h"
-#include "ui/windows/HelpWindow.h"
+#include "ui/windows/FormParts.h"
 #include "ui/windows/MainInputs.h"
 #include "ui/windows/MainKeys.h"
 #include "ui/windows/Pictures.h"
@@ -28,7 +28,8 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     , m_host(outside, [this] { Refresh(); })
     , m_focus(*this)
     , m_context{session, m_host, m_focus}
-    , m_actions(std::move(actions)) {
+    , m_actions(std::move(actions))
+    , m_help(*this, session, m_host) {
     setObjectName("frmMain");
     setWindowTitle(ApplicationTitle);
     setWindowIcon(HousePicture(64));
@@ -42,7 +43,7 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     new MainKeys(*this, m_focus, [this] { OpenHelp(); });
     m_binding = std::make_unique<MainBinding>(m_session.Screen, *this);
     Refresh();
-    CentreOnScreen();
+    CentreOnScreen(*this);
 }
 
 frmMain::~frmMain() = default;
@@ -114,7 +115,10 @@ void frmMain::ConnectButtons() {
     connect(findChild<QPushButton*>("bDisclaimer"), &QPushButton::clicked, this,
             [this] { m_host.ShowMessage(Module1::DisclaimerMessage()); });
     connect(findChild<QPushButton*>("bHelp"), &QPushButton::clicked, this, [this] { OpenHelp(); });
-    ConnectAction("bHouses", m_actions.Houses);
+    if (m_actions.Houses)
+        ConnectAction("bHouses", [this] { OpenHouses(); });
+    else
+        ConnectAction("bHouses", {});
     ConnectAction("Command1", m_actions.Assumptions);
     ConnectAction("bSysOpt", m_actions.Options);
     if (m_actions.Print)
@@ -136,26 +140,19 @@ void frmMain::ConnectAction(const char* button, std::function<void()> action) {
     });
 }
 
+void frmMain::OpenHouses() {
+    m_actions.Houses();
+    Module1::Recalculate(m_session, m_host);
+}
+
 void frmMain::PrintReports() {
     Module1::RunDataCheck(m_session.Screen, m_host);
     m_actions.Print();
 }
 
 void frmMain::OpenHelp() {
-    if (const auto complaint = HelpComplaint(m_session.Folder, m_session.HelpFile)) {
-        m_host.ShowMessage({ApplicationTitle, *complaint, MessageIcon::Exclamation});
-        return;
-    }
-    if (!m_help)
-        m_help = new HelpWindow(this);
     const int context = TabPages[static_cast<std::size_t>(m_session.Screen.SSTab1)].HelpContext;
-    m_help->ShowTopic(HelpFilePath(m_session.Folder, m_session.HelpFile), context);
-}
-
-void frmMain::CentreOnScreen() {
-    resize(sizeHint());
-    const QRect whole = screen()->geometry();
-    move(whole.left() + (whole.width() - width()) / 2, whole.top() + (whole.height() - height()) / 2);
+    m_help.Open(QString("ctx%1").arg(context));
 }
 
 void frmMain::changeEvent(QEvent* event) {

@@ -5,13 +5,13 @@
 #include <memory>
 
 #include "ui/windows/FormFocus.h"
+#include "ui/windows/HelpWindow.h"
 #include "ui/windows/QtHost.h"
 
 class QPushButton;
 
 namespace Ledgrove {
 
-class HelpWindow;
 class MainBinding;
 
 /// The dialogs that the main window opens. An empty one leaves its button disabled.
@@ -51,8 +51,8 @@ private:
     void ConnectTabs();
     void ConnectButtons();
     void ConnectAction(const char* button, std::function<void()> action);
-    void CentreOnScreen();
     void OpenHelp();
+    void OpenHouses();
     void PrintReports();
 
     Session& m_session;
@@ -61,7 +61,7 @@ private:
     EntryContext m_context;
     MainActions m_actions;
     std::unique_ptr<MainBinding> m_binding;
-    HelpWindow* m_help = nullptr;
+    Help m_help;
 };
 
 } // namespace Ledgrove

@@ -1,5 +1,3 @@
-#include <QAbstractButton>
-#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,34 +12,13 @@ using namespace Ledgrove;
 
 namespace {
 
-QChar MnemonicOf(const QString& text) {
-    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != '&')
-            continue;
-        if (text[i + 1] != '&')
-            return text[i + 1].toUpper();
-        ++i;
-    }
-    return {};
-}
-
 /// Every text of the window in which "&" marks a mnemonic.
-QStringList MnemonicTexts(const OpenWindow& open) {
-    QStringList texts;
-    for (const QLabel* label : open.Window->findChildren<QLabel*>()) {
-        if (label->buddy())
-            texts += label->text();
-    }
-    for (const QAbstractButton* button : open.Window->findChildren<QAbstractButton*>())
-        texts += button->text();
+QStringList MnemonicTextsAndTabs(const OpenWindow& open) {
+    QStringList texts = MnemonicTexts(*open.Window);
     const QTabBar* bar = open.Find<ResultPanels>("SSTab1").tabBar();
     for (int i = 0; i < bar->count(); ++i)
         texts += bar->tabText(i);
     return texts;
-}
-
-QString SpokenName(QWidget& widget) {
-    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
 }
 
 } // namespace
@@ -63,7 +40,7 @@ private slots:
 void MainWindowAccessTest::noMnemonicIsGivenTwice() {
     OpenWindow open;
     QMap<QChar, QString> owners;
-    for (const QString& text : MnemonicTexts(open)) {
+    for (const QString& text : MnemonicTextsAndTabs(open)) {
         const QChar letter = MnemonicOf(text);
         if (letter.isNull())
             continue;
@@ -157,13 +134,7 @@ void MainWindowAccessTest::tabOrderFollowsTheEye() {
         "chkDoTax0",        "ecStdHome",        "ecGMHHome",       "ecStdUtil", "ecGMHUtil",
         "ecStdRate",        "ecGMHRate",        "ecStdStr",        "ecGMHStr",  "cboMortTerm",
         "cboStdMortOption", "cboGMHMortOption", "bDisclaimer",     "bHelp"};
-    open.Find("ecIncome").setFocus();
-    QStringList walked;
-    for (qsizetype i = 0; i < expected.size(); ++i) {
-        walked += open.Focused();
-        open.Press(Qt::Key_Tab);
-    }
-    QCOMPARE(walked, expected);
+    QCOMPARE(open.TabWalk("ecIncome", expected.size()), expected);
     QCOMPARE(QApplication::focusWidget(), open.Find<ResultPanels>("SSTab1").tabBar());
     open.Press(Qt::Key_Tab);
     QCOMPARE(open.Focused(), "ecIncome");

@@ -1,5 +1,7 @@
 #include "WindowTest.h"
 
+#include <QAbstractButton>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,25 +48,26 @@ void FillAsAtStart(Session& session, Host& host) {
 OpenWindow::OpenWindow() {
     FillAsAtStart(State, Outside);
     Window = std::make_unique<frmMain>(State, Outside);
+    Form = Window.get();
     Window->show();
     if (!QTest::qWaitForWindowActive(Window.get()))
         qFatal("the window does not become active");
 }
 
-QString OpenWindow::FieldText(const char* name) const {
+QString FormDriver::FieldText(const QString& name) const {
     return Find<QLineEdit>(name).text();
 }
 
-QString OpenWindow::LabelText(const char* name) const {
+QString FormDriver::LabelText(const QString& name) const {
     return Find<QLabel>(name).text();
 }
 
-QString OpenWindow::Focused() const {
+QString FormDriver::Focused() const {
     const QWidget* focused = QApplication::focusWidget();
     return focused ? focused->objectName() : QString();
 }
 
-void OpenWindow::Type(const char* field, const QString& text) const {
+void FormDriver::Type(const QString& field, const QString& text) const {
     auto& edit = Find<QLineEdit>(field);
     edit.setFocus(Qt::OtherFocusReason);
     edit.selectAll();
@@ -74,8 +77,18 @@ void OpenWindow::Type(const char* field, const QString& text) const {
         QTest::keyClicks(&edit, text);
 }
 
-void OpenWindow::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
-    QTest::keyClick(Window->windowHandle(), key, modifiers);
+void FormDriver::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+    QTest::keyClick(Form->windowHandle(), key, modifiers);
+}
+
+QStringList FormDriver::TabWalk(const QString& first, qsizetype count) const {
+    Find(first).setFocus();
+    QStringList walked;
+    while (walked.size() < count) {
+        walked += Focused();
+        Press(Qt::Key_Tab);
+    }
+    return walked;
 }
 
 void OpenWindow::Choose(const char* list, const QString& text) const {
@@ -84,6 +97,32 @@ void OpenWindow::Choose(const char* list, const QString& text) const {
     QVERIFY2(index >= 0, qPrintable(text));
     combo.setCurrentIndex(index);
     emit combo.activated(index);
+}
+
+QStringList MnemonicTexts(const QWidget& form) {
+    QStringList texts;
+    for (const QLabel* label : form.findChildren<QLabel*>()) {
+        if (label->buddy())
+            texts += label->text();
+    }
+    for (const QAbstractButton* button : form.findChildren<QAbstractButton*>())
+        texts += button->text();
+    return texts;
+}
+
+QChar MnemonicOf(const QString& text) {
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != '&')
+            continue;
+        if (text[i + 1] != '&')
+            return text[i + 1].toUpper();
+        ++i;
+    }
+    return {};
+}
+
+QString SpokenName(QWidget& widget) {
+    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
 }
 
 void ClickAt(QWidget& widget) {

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <QtTest>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,18 +13,19 @@
 // What the window tests share.
 namespace Ledgrove {
 
-/// Keeps the messages instead of showing them.
+/// Keeps the messages instead of showing them, and answers all alike.
 class RecordingHost : public Host {
 public:
     MessageAnswer ShowMessage(const Message& message) override {
         Messages.push_back(message);
-        return MessageAnswer::Ok;
+        return Answer;
     }
     void RunPendingEvents() override {}
 
     /// The texts since the last call.
     std::vector<std::string> TakeTexts();
 
+    MessageAnswer Answer = MessageAnswer::Ok;
     std::vector<Message> Messages;
 };
 
@@ -31,28 +33,46 @@ public:
 /// other assumptions 0.
 void FillAsAtStart(Session& session, Host& host);
 
-/// The main window in front, on a fresh session.
-struct OpenWindow {
-    OpenWindow();
-
+/// Finds, types and reads as a user of the form does.
+struct FormDriver {
     template <typename Widget = QWidget>
-    Widget& Find(const char* name) const {
-        auto* found = Window->findChild<Widget*>(name);
-        Q_ASSERT(found);
+    Widget& Find(const QString& name) const {
+        auto* found = Form->findChild<Widget*>(name);
+        if (!found)
+            qFatal("there is no %s", qPrintable(name));
         return *found;
     }
-    QString FieldText(const char* name) const;
-    QString LabelText(const char* name) const;
+    QString FieldText(const QString& name) const;
+    QString LabelText(const QString& name) const;
     QString Focused() const;
     /// Selects all of the field and types over it.
-    void Type(const char* field, const QString& text) const;
+    void Type(const QString& field, const QString& text) const;
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    /// The controls that Tab walks through, from `first` on, `count` of them.
+    QStringList TabWalk(const QString& first, qsizetype count) const;
+
+    QWidget* Form = nullptr;
+};
+
+/// The main window in front, on a fresh session.
+struct OpenWindow : FormDriver {
+    OpenWindow();
+
     void Choose(const char* list, const QString& text) const;
 
     Session State;
     RecordingHost Outside;
     std::unique_ptr<frmMain> Window;
 };
+
+/// Every text of the form's captions and buttons in which "&" marks a mnemonic.
+QStringList MnemonicTexts(const QWidget& form);
+
+/// The letter that "&" marks; null without one.
+QChar MnemonicOf(const QString& text);
+
+/// What a screen reader calls the control.
+QString SpokenName(QWidget& widget);
 
 /// A press and a release in the middle of the widget, as the window system delivers them.
 void ClickAt(QWidget& widget);

@@ -1,0 +1,98 @@
+#include "ui/windows/EntryDialog.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <tuple>
+#include <utility>
+
+#include "ui/windows/FormGuard.h"
+#include "ui/windows/FormParts.h"
+
+namespace Ledgrove {
+
+EntryDialog::EntryDialog(const DialogIdentity& identity, Session& session, Host& outside, QWidget* parent)
+    : QDialog(parent)
+    , m_host(outside, [this] { Refresh(); })
+    , m_focus(*this)
+    , m_context{session, m_host, m_focus}
+    , m_help(*this, session, m_host)
+    , m_helpAnchor(identity.HelpAnchor) {
+    setObjectName(identity.Name);
+    setWindowTitle(identity.Title);
+    setModal(true);
+    new FormGuard(*this);
+}
+
+void EntryDialog::Refresh() {
+    for (EntryField* field : findChildren<EntryField*>())
+        field->Refresh();
+}
+
+void EntryDialog::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_F1:
+        return m_help.Open(m_helpAnchor);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return PressFocusedButton();
+    default:
+        QDialog::keyPressEvent(event);
+    }
+}
+
+QLayout* EntryDialog::MakeButtonRow() {
+    const std::tuple<const char*, const char*, void (EntryDialog::*)()> buttons[] = {
+        {"bOK", "&OK", &EntryDialog::accept},
+        {"bCancel", "&Cancel", &EntryDialog::reject},
+        {"bHelp", "&Help", &EntryDialog::SendHelpKey}};
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    row->addStretch();
+    for (const auto& [name, caption, action] : buttons) {
+        QPushButton* button = MakeButton(name, caption);
+        OnClick(*button, [this, act = action] { (this->*act)(); });
+        row->addWidget(button);
+    }
+    return row;
+}
+
+void EntryDialog::OnClick(QPushButton& button, std::function<void()> action) {
+    connect(&button, &QPushButton::clicked, this, std::move(action));
+}
+
+void EntryDialog::BindField(const QString& control, Field& field, const EntryTypes& types) {
+    BindField(control, field, StandardEvents(field, types));
+}
+
+void EntryDialog::BindField(const QString& control, Field& field, EntryEvents events) {
+    findChild<EntryField*>(control)->Bind(field, std::move(events));
+}
+
+EntryEvents EntryDialog::StandardEvents(Field& field, const EntryTypes& types) {
+    return StandardEntryEvents(m_context, field, types, [this] { Refresh(); });
+}
+
+void EntryDialog::Present() {
+    Refresh();
+    m_focus.NextField();
+    CentreOnScreen(*this);
+}
+
+bool EntryDialog::Succeeded(const std::optional<SettingsFault>& fault) {
+    if (fault)
+        m_host.ShowMessage({ApplicationTitle, Sentence(*fault), MessageIcon::Exclamation});
+    return !fault;
+}
+
+void EntryDialog::PressFocusedButton() {
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget()))
+        button->click();
+}
+
+void EntryDialog::SendHelpKey() {
+    QCoreApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <optional>
+
+#include "settings/SettingsFault.h"
+#include "ui/windows/EntryField.h"
+#include "ui/windows/FormFocus.h"
+#include "ui/windows/HelpWindow.h"
+#include "ui/windows/QtHost.h"
+
+class QLayout;
+class QPushButton;
+
+namespace Ledgrove {
+
+struct DialogIdentity {
+    const char* Name; ///< object name
+    const char* Title;
+    const char* HelpAnchor;
+};
+
+/// A modal form of entry fields with OK, Cancel and Help: a view of a record. OK accepts; Cancel, Escape and
+/// the window's close button reject.
+class EntryDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// Shows the record again after a rule wrote it.
+    virtual void Refresh();
+
+protected:
+    /// `session` and `outside` must outlive the dialog.
+    EntryDialog(const DialogIdentity& identity, Session& session, Host& outside, QWidget* parent);
+
+    void keyPressEvent(QKeyEvent* event) override;
+
+    /// The row of `bOK`, `bCancel` and `bHelp`, connected.
+    QLayout* MakeButtonRow();
+    void OnClick(QPushButton& button, std::function<void()> action);
+
+    /// The control of this name shows `field` and connects its events as most fields do.
+    void BindField(const QString& control, Field& field, const EntryTypes& types);
+    void BindField(const QString& control, Field& field, EntryEvents events);
+    EntryEvents StandardEvents(Field& field, const EntryTypes& types);
+
+    /// The last call of a constructor, when all is built and bound.
+    void Present();
+
+    /// True without a fault. A fault is told; the dialog that asks stays open as it is.
+    bool Succeeded(const std::optional<SettingsFault>& fault);
+
+    Session& State() { return m_context.State; }
+    Host& Outside() { return m_host; }
+    EntryContext& Context() { return m_context; }
+
+private:
+    void PressFocusedButton();
+    void SendHelpKey();
+
+    RefreshingHost m_host;
+    FormFocus m_focus;
+    EntryContext m_context;
+    Help m_help;
+    QString m_helpAnchor;
+};
+
+} // namespace Ledgrove

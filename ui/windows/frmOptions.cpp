@@ -1,0 +1,64 @@
+#include "ui/windows/frmOptions.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "ui/windows/FormParts.h"
+
+namespace Ledgrove {
+
+namespace {
+
+void AddFeature(QGridLayout& grid, const char* control, const QString& caption, const QString& humanName) {
+    EntryField* field = MakeField(control, humanName);
+    field->setAlignment(Qt::AlignLeft);
+    field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 48);
+    const int row = grid.rowCount();
+    grid.addWidget(MakeCaption(caption, field), row, 0);
+    grid.addWidget(field, row, 1);
+}
+
+} // namespace
+
+frmOptions::frmOptions(OptionsScreen& record, Session& session, Host& outside, QWidget* parent)
+    : EntryDialog({"frmOptions", "Options", "ctxOptions"}, session, outside, parent)
+    , m_record(record) {
+    BuildControls();
+    BindFields();
+    Present();
+}
+
+void frmOptions::accept() {
+    if (Succeeded(Module1::ConfirmOptions(m_record, State())))
+        EntryDialog::accept();
+}
+
+void frmOptions::BuildControls() {
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    auto* group = new QGroupBox(" Additional Features ");
+    QGridLayout* grid = MakeGrid(group);
+    AddFeature(*grid, "ecFeat1", "Option &1:", "Option 1");
+    AddFeature(*grid, "ecFeat2", "Option &2:", "Option 2");
+    layout->addWidget(group);
+    layout->addStretch();
+    layout->addLayout(MakeButtonRow());
+}
+
+void frmOptions::BindFields() {
+    for (const auto& [name, field] :
+         {std::pair{"ecFeat1", &m_record.ecFeat1}, {"ecFeat2", &m_record.ecFeat2}}) {
+        EntryEvents events = StandardEvents(*field, {"String", "String", Module1::AfterEdit::Nothing});
+        // Any text may stay; what cannot be saved is told when it is saved.
+        events.LostFocus = {};
+        // Tab only moves: committing would make the "0" of an empty number field out of an option left empty.
+        events.KeyPress = [enter = events.KeyPress](KeyCode key) {
+            return key == KeyCode::Enter ? enter(key) : Module1::EntryOutcome::Accepted;
+        };
+        BindField(name, *field, std::move(events));
+    }
+}
+
+} // namespace Ledgrove

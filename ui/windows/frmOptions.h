@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ui/OptionsScreen.h"
+#include "ui/windows/EntryDialog.h"
+
+namespace Ledgrove {
+
+/// The two additional features of the More Home tab.
+class frmOptions : public EntryDialog {
+    Q_OBJECT
+
+public:
+    /// Shows the filled record, which must outlive the dialog as `session` and `outside` must.
+    frmOptions(OptionsScreen& record, Session& session, Host& outside, QWidget* parent = nullptr);
+
+    void accept() override;
+
+private:
+    void BuildControls();
+    void BindFields();
+
+    OptionsScreen& m_record;
+};
+
+} // namespace Ledgrove
