@@ -1,7 +1,6 @@
 // From Enter in a field to every label of the window updated and painted, in milliseconds.
 
-#include "app/batch/Comparison.h"
-#include "ui/StartUp.h"
+#include "bench/Sample.h"
 #include "ui/windows/frmMain.h"
 
 #include <QApplication>
@@ -17,12 +16,8 @@ using namespace Ledgrove;
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    Session session;
+    Session session = Bench::SampleSession();
     CollectingHost host;
-    if (const auto fault = Module1::LoadMainScreen(session, host, LEDGROVE_DATA_DIR)) {
-        std::fprintf(stderr, "%s\n", Sentence(*fault).c_str());
-        return 2;
-    }
     frmMain window(session, host);
     window.show();
     if (!QTest::qWaitForWindowExposed(&window))

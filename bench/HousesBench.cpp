@@ -1,0 +1,44 @@
+// The house scenario dialog with 10,000 saved houses, in milliseconds: opened until painted, and saved.
+
+#include "app/batch/Comparison.h"
+#include "bench/Sample.h"
+#include "settings/HouseListFile.h"
+#include "ui/HouseScenarios.h"
+#include "ui/windows/frmHomeSelection.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+using namespace Ledgrove;
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    QFile::copy(LEDGROVE_DATA_DIR "/Ledgrove.ini", folder.filePath("Ledgrove.ini"));
+    Session session = Bench::SampleSession();
+    session.Folder = folder.path().toStdString();
+    HouseList houses;
+    for (int lot = 1; lot <= 10000; ++lot)
+        houses.push_back({"Lot " + std::to_string(lot), 200000, 2400, 206000, 1700});
+    Module1::WriteHomeList(SettingsFile(session.Folder), houses);
+
+    CollectingHost host;
+    QElapsedTimer timer;
+    timer.start();
+    HouseScenarios record;
+    Module1::OpenHouseScenarios(record, session, host);
+    frmHomeSelection dialog(record, session, host, nullptr);
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        return 2;
+    dialog.repaint();
+    const double opened = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    timer.restart();
+    Module1::SaveHouseScenarios(record, session);
+    std::printf("%.1f %.1f\n", opened, static_cast<double>(timer.nsecsElapsed()) / 1e6);
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "reports/PrintDocument.h"
+#include "reports/windows/Pictures.h"
+
+#include <QAbstractScrollArea>
+#include <QPixmap>
+#include <QPoint>
+
+namespace Ledgrove {
+
+/// One page of a document as a sheet of paper, painted as it is printed. The sheet is dragged with the left
+/// button.
+class PageView : public QAbstractScrollArea {
+    Q_OBJECT
+
+public:
+    /// `document` must outlive the view.
+    explicit PageView(const PrintDocument& document, QWidget* parent = nullptr);
+
+    /// To be called when the document's pages were replaced, before one of them is shown.
+    void ForgetPages();
+    /// Page `number` (from 1) of the ended document.
+    void ShowPage(std::size_t number);
+    /// Percent of the paper's own size. What is in the middle of the view stays there.
+    void SetZoom(int percent);
+
+    QSize sizeHint() const override;
+
+signals:
+    /// One step larger (1) or smaller (-1) is asked for.
+    void ZoomStepped(int step);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    QSize SheetSize() const;
+    QRect SheetPlace() const;
+    void UpdateScrollBars();
+    const QPixmap& Sheet();
+
+    const PrintDocument& m_document;
+    PictureStore m_pictures;
+    std::size_t m_page = 0; ///< 0 while none is shown
+    int m_zoom = 100;
+    QPixmap m_sheet; ///< null until painted
+    QPoint m_dragged;
+};
+
+} // namespace Ledgrove

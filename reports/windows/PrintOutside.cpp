@@ -1,0 +1,50 @@
+#include "reports/windows/PrintOutside.h"
+
+#include <QStandardPaths>
+#include <QStringList>
+
+namespace Ledgrove {
+
+namespace {
+
+/// The words and the patterns of a filter, which are separated by a bar.
+constexpr const char* logoFilter = "Pictures (*.bmp,*.ico,*.rle,*.wmf) | *.bmp;*.ico;*.rle;*.wmf";
+
+/// The filter in the toolkit's own form.
+QString ToolkitFilter(const char* filter) {
+    const QStringList parts = QString(filter).split('|');
+    return parts[0].trimmed() + " (" + parts[1].trimmed().replace(';', ' ') + ")";
+}
+
+QString Chosen(QFileDialog& dialog) {
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
+std::unique_ptr<QFileDialog> LogoDialog(QWidget& parent) {
+    auto dialog = std::make_unique<QFileDialog>(&parent, "Builder Logo Selection");
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setDefaultSuffix(".BMP");
+    // The words say the patterns already.
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
+    dialog->setNameFilter(ToolkitFilter(logoFilter));
+    return dialog;
+}
+
+std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent) {
+    auto dialog = std::make_unique<QFileDialog>(&parent, "Print to PDF");
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix("pdf");
+    dialog->setNameFilter("PDF files (*.pdf)");
+    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog->selectFile("Summary Report.pdf");
+    return dialog;
+}
+
+PrintOutside RealOutside(PrintServer& server) {
+    return {server, [](QWidget& parent) { return Chosen(*LogoDialog(parent)); },
+            [](QWidget& parent) { return Chosen(*PdfDialog(parent)); }, [] { return QDate::currentDate(); }};
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "reports/windows/PagePainter.h"
+#include "reports/windows/PrintOutside.h"
+#include "ui/windows/EntryDialog.h"
+
+class QComboBox;
+class QLabel;
+
+namespace Ledgrove {
+
+class PreviewPane;
+
+struct PreviewParts {
+    /// Writes the report onto the open document; called for each composition.
+    std::function<void(PrintDocument&)> WriteReport;
+    const PrintOutside& Machine;
+};
+
+/// The report in a preview, from where it is printed. Its document lives as long as the window.
+class frmPrint : public EntryDialog {
+    Q_OBJECT
+
+public:
+    /// What `parts` refers to, `session` and `outside` must outlive the window.
+    frmPrint(PreviewParts parts, Session& session, Host& outside, QWidget* parent = nullptr);
+
+    const PrintDocument& Document() const { return m_document; }
+
+    /// Fills the pick lists, chooses a printer and composes the report. The constructor does it.
+    void Load();
+    void InitPicklists();
+    void LoadPrinters();
+    void InitvsPrinter();
+    /// Composes the report afresh.
+    void RefreshPrintView();
+
+    /// While tracing, each procedure tells its name in a message box. Loading ends it.
+    void SetTrace(bool on) { m_tracing = on; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void BuildControls();
+    QLayout* MakeHeader();
+    QLayout* MakeControlRow();
+    void Connect();
+
+    void ChangeZoom();
+    void StepZoom(int step);
+    void ChangePrinter();
+    void ChangeOrientation();
+    void ChangePage();
+    void MaximizeOrRestore();
+    void Print();
+    void RefuseCopies();
+
+    void ShowSize();
+    void ShowPageButton();
+    void ShowWindowButton();
+    void Trace(const char* step);
+    const PrinterDevice& Device() const { return m_devices[m_device]; }
+
+    PreviewParts m_parts;
+    FontMeasure m_measure;
+    PrintDocument m_document;
+    Field m_copies;
+    std::vector<PrinterDevice> m_devices;
+    std::size_t m_device = 0;
+    Paper m_paper;
+    PageOrientation m_orientation = PageOrientation::Portrait;
+    bool m_tracing = false;
+    bool m_loading = false;
+    bool m_previewMode = true;
+    QSize m_normalSize; ///< at load
+
+    PreviewPane* m_preview;
+    QComboBox* m_printers;
+    QComboBox* m_orientations;
+    QComboBox* m_zooms;
+    QLabel* m_size = nullptr;
+    QLabel* m_status = nullptr;
+    QPushButton* m_changePage = nullptr;
+    QPushButton* m_maximize = nullptr;
+    QPushButton* m_print = nullptr;
+};
+
+} // namespace Ledgrove

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "reports/modPrint.h"
+#include "reports/windows/PrintOutside.h"
+#include "ui/windows/EntryDialog.h"
+
+namespace Ledgrove {
+
+/// Which sections of the report to print; opens the report header's dialog and the preview.
+class frmReportSelection : public EntryDialog {
+    Q_OBJECT
+
+public:
+    /// `session`, `outside` and `machine` must outlive the dialog.
+    frmReportSelection(Session& session, Host& outside, const PrintOutside& machine,
+                       QWidget* parent = nullptr);
+
+    /// The boxes as they are ticked.
+    ReportSections Sections() const;
+
+private:
+    void BuildControls();
+    QWidget* MakeBoxes();
+    QLayout* MakeButtons();
+    void OpenHeaderOptions();
+    void Preview();
+
+    const PrintOutside& m_machine;
+};
+
+} // namespace Ledgrove

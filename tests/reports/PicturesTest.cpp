@@ -1,0 +1,160 @@
+#include "reports/windows/Pictures.h"
+
+#include "tests/reports/TestPictures.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace Ledgrove {
+namespace {
+
+using namespace Testing;
+
+// Two lines of four pixels, bottom line first: red, red, white, white over black.
+const QByteArray runs8 = QByteArray::fromHex("0400"   // four black
+                                             "0000"   // end of line
+                                             "0201"   // two red
+                                             "0202"   // two white
+                                             "0001"); // end of picture
+const QByteArray runs4 = QByteArray::fromHex("0400"
+                                             "0000"
+                                             "0211"
+                                             "0222"
+                                             "0001");
+
+TEST(ReadPicture, ReadsBmpOfEveryDepth) {
+    EXPECT_EQ(ReadPicture(MakePlainBmp(5, 3, 0x336699)).pixel(4, 2), qRgb(0x33, 0x66, 0x99));
+    const QImage indexed = ReadPicture(MakeBmp({4, 2, 8}, QByteArray::fromHex("0000000001010202")));
+    EXPECT_EQ(indexed.size(), QSize(4, 2));
+    EXPECT_EQ(indexed.pixel(0, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(indexed.pixel(3, 0), qRgb(255, 255, 255));
+    EXPECT_EQ(ReadPicture(MakeBmp({4, 1, 4}, QByteArray::fromHex("12000000"))).pixel(0, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(ReadPicture(MakeBmp({1, 1, 1}, QByteArray::fromHex("80000000"))).pixel(0, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(ReadPicture(MakeBmp({1, 1, 32}, QByteArray::fromHex("99663300"))).pixel(0, 0),
+              qRgb(0x33, 0x66, 0x99));
+}
+
+TEST(ReadPicture, ReadsRunLengthEncodedBmp) {
+    for (const QByteArray& bytes : {MakeBmp({4, 2, 8, 1}, runs8), MakeBmp({4, 2, 4, 2}, runs4)}) {
+        const QImage image = ReadPicture(bytes);
+        ASSERT_EQ(image.size(), QSize(4, 2));
+        EXPECT_EQ(image.pixel(0, 0), qRgb(255, 0, 0));
+        EXPECT_EQ(image.pixel(3, 0), qRgb(255, 255, 255));
+        EXPECT_EQ(image.pixel(0, 1), qRgb(0, 0, 0));
+    }
+}
+
+TEST(ReadPicture, PixelsThatTheRunsLeaveOutAreBackground) {
+    const QImage image = ReadPicture(MakeBmp({4, 2, 8, 1}, QByteArray::fromHex("0001")));
+    ASSERT_EQ(image.size(), QSize(4, 2));
+    for (int x = 0; x < 4; ++x)
+        EXPECT_EQ(image.pixel(x, 0), qRgb(0, 0, 0));
+}
+
+TEST(ReadPicture, TakesTheLargestImageOfAnIcon) {
+    const QImage image = ReadPicture(MakeIcon({16, 48, 32}));
+    ASSERT_EQ(image.size(), QSize(48, 48));
+    EXPECT_EQ(qRed(image.pixel(10, 10)), 48);
+}
+
+TEST(ReadPicture, ReadsMetafilesWithAndWithoutPlaceableHeader) {
+    for (const bool placeable : {true, false}) {
+        const QImage image = ReadPicture(MakeWmf(placeable));
+        ASSERT_FALSE(image.isNull()) << placeable;
+        EXPECT_EQ(image.pixel(image.width() / 2, image.height() / 2), qRgb(255, 0, 0)) << placeable;
+        EXPECT_LE(std::max(image.width(), image.height()), 1200);
+    }
+}
+
+class CutPicture : public testing::TestWithParam<QByteArray> {};
+
+TEST_P(CutPicture, GivesNoPictureOrAWholeImage) {
+    const QByteArray& whole = GetParam();
+    const QImage reference = ReadPicture(whole);
+    ASSERT_FALSE(reference.isNull());
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        const QImage image = ReadPicture(whole.left(length));
+        // What a file is cut of behind its last pixel may be missed; its pixels are then all right.
+        if (!image.isNull() && image.size() == reference.size()) {
+            EXPECT_EQ(image.convertToFormat(QImage::Format_RGB32),
+                      reference.convertToFormat(QImage::Format_RGB32))
+                << "cut at " << length << " of " << whole.size();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, CutPicture,
+                         testing::Values(MakePlainBmp(9, 7, 0x336699),
+                                         MakeBmp({4, 2, 8}, QByteArray::fromHex("0000000001010202")),
+                                         MakeBmp({4, 2, 8, 1}, runs8), MakeBmp({4, 2, 4, 2}, runs4),
+                                         MakeIcon({16})));
+
+TEST(ReadPicture, ACutBmpIsNone) {
+    const QByteArray whole = MakePlainBmp(100, 100, 0x336699);
+    EXPECT_TRUE(ReadPicture(whole.left(whole.size() - 1)).isNull());
+    EXPECT_TRUE(ReadPicture(whole.left(whole.size() / 2)).isNull());
+    const QByteArray runs = MakeBmp({4, 2, 8, 1}, runs8);
+    EXPECT_TRUE(ReadPicture(runs.left(runs.size() - 4)).isNull());
+}
+
+TEST(ReadPicture, ImpossibleSizesAreNone) {
+    for (const BmpShape& shape : {BmpShape{0, 5, 24}, BmpShape{-5, 5, 24}, BmpShape{60000, 60000, 24},
+                                  BmpShape{2000000000, 2000000000, 32}, BmpShape{5, 5, 0}, BmpShape{5, 5, 77},
+                                  BmpShape{60000, 60000, 8, 1}, BmpShape{4, 2, 24, 1}})
+        EXPECT_TRUE(ReadPicture(MakeBmp(shape, QByteArray(64, '\0'))).isNull())
+            << shape.Width << 'x' << shape.Height;
+    EXPECT_TRUE(
+        ReadPicture(MakeBmp({4, 2, 8, 1}, QByteArray::fromHex("FF000001"))).isNull()); // runs off the line
+}
+
+TEST(ReadPicture, AnythingElseIsNone) {
+    for (const char* text : {"", "B", "BM", "GIF89a", "plain text", "\xD7\xCD\xC6\x9A", "\x89PNG\r\n"})
+        EXPECT_TRUE(ReadPicture(text).isNull()) << text;
+}
+
+TEST(LoadPicture, TellsByContentWhateverTheNameSays) {
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("logo.wmf");
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(MakePlainBmp(3, 3, 0xFF0000));
+    file.close();
+    EXPECT_EQ(LoadPicture(name.toStdString()).size(), QSize(3, 3));
+}
+
+TEST(LoadPicture, WhatIsNoFileIsNone) {
+    const QTemporaryDir folder;
+    EXPECT_TRUE(LoadPicture(folder.filePath("none.bmp").toStdString()).isNull());
+    EXPECT_TRUE(LoadPicture(folder.path().toStdString()).isNull());
+    EXPECT_TRUE(LoadPicture("/dev/zero").isNull());
+    EXPECT_TRUE(LoadPicture("").isNull());
+}
+
+TEST(PictureStore, ReadsAFileOnce) {
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("logo.bmp");
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(MakePlainBmp(3, 3, 0xFF0000));
+    file.close();
+    PictureStore store;
+    EXPECT_FALSE(store.Load(name.toStdString()).isNull());
+    QFile::remove(name);
+    EXPECT_FALSE(store.Load(name.toStdString()).isNull());
+}
+
+TEST(ShippedPictures, AreThereAndLargeEnoughForPrint) {
+    const std::string data = LEDGROVE_SOURCE_DIR "/data/";
+    for (const char* name : {"GenericHouseLogo.bmp", "LedgroveEmblem.png"}) {
+        const QImage image = LoadPicture(data + name);
+        // the report's box is 1.325 by 1.125 inches
+        EXPECT_GE(image.width(), 397) << name;
+        EXPECT_GE(image.height(), 337) << name;
+    }
+}
+
+} // namespace
+} // namespace Ledgrove
