@@ -30,6 +30,9 @@ struct Session {
     House ChosenHouse; ///< the house scenario last copied to the screen; its amounts tell when a house is
                        ///< "Custom"
     MainScreen Screen;
+
+    /// The main screen's emblem, which the report shows too: a picture file beside the program.
+    std::filesystem::path EmblemFile() const { return Folder / "LedgroveEmblem.png"; }
 };
 
 } // namespace Ledgrove

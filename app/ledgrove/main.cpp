@@ -5,7 +5,9 @@
 #include <filesystem>
 #include <memory>
 #include <string_view>
+#include <utility>
 
+#include "reports/windows/PrintAction.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
 #include "ui/windows/QtHost.h"
@@ -44,7 +46,9 @@ int ShowWindow(const std::filesystem::path& folder) {
         box.exec();
         return NoSettings;
     }
-    Ledgrove::frmMain window(session, host, Ledgrove::DialogActions(session, host));
+    Ledgrove::MainActions actions = Ledgrove::DialogActions(session, host);
+    actions.Print = Ledgrove::PrintAction(session, host);
+    Ledgrove::frmMain window(session, host, std::move(actions));
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
     window.show();
     return QCoreApplication::exec();

@@ -31,7 +31,7 @@ QString WriteReportFile(Session& session, const ReportFileRequest& request) {
         return QString::fromStdString(Sentence(*fault));
     document.Start();
     modPrint::WriteReport(document,
-                          {session, assumptions, request.Sections, session.Folder / "LedgroveEmblem.png",
+                          {session, assumptions, request.Sections, session.EmblemFile(),
                            LogoPicture(session, request.LogoOption)});
     document.End();
     return WritePdf(document, request.File);

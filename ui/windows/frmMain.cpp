@@ -4,6 +4,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <utility>
@@ -34,6 +36,7 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     setWindowTitle(ApplicationTitle);
     setWindowIcon(HousePicture(64));
     BuildControls();
+    ShowEmblem();
     ConnectFields();
     ConnectPickLists();
     ConnectOptions();
@@ -59,6 +62,17 @@ void frmMain::BuildControls() {
     layout->addWidget(new MainInputs);
     layout->addWidget(new ResultPanels, 1);
     setCentralWidget(content);
+}
+
+void frmMain::ShowEmblem() {
+    constexpr int height = 72;
+    const QPixmap emblem(QString::fromStdString(m_session.EmblemFile().string()));
+    if (emblem.isNull())
+        return; // the drawn picture stays
+    const qreal density = devicePixelRatioF();
+    QPixmap shown = emblem.scaledToHeight(qRound(height * density), Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(density);
+    findChild<QLabel*>("bFinancing")->setPixmap(shown);
 }
 
 void frmMain::ConnectFields() {

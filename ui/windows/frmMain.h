@@ -45,6 +45,7 @@ protected:
 
 private:
     void BuildControls();
+    void ShowEmblem();
     void ConnectFields();
     void ConnectPickLists();
     void ConnectOptions();
