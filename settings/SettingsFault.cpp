@@ -45,7 +45,9 @@ std::string Sentence(const SettingsFault& fault) {
         return "The settings file " + path + " cannot be read (" + fault.Reason +
                "). Check that it is an ordinary file and that you may read it.";
     case SettingsFault::Kind::Unwritable:
-        return "The settings were not saved: " + path + " cannot be written (" + fault.Reason +
+        return "The settings were not saved to " +
+               Quoted((fault.Path.parent_path() / "Ledgrove.ini").string()) + ": " + path +
+               " cannot be written (" + fault.Reason +
                "). Check that you may write to that folder and that its disk has room, then save again.";
     case SettingsFault::Kind::BadLine:
         return "Line " + std::to_string(fault.Line) + " of the settings file " + path + " cannot be used (" +

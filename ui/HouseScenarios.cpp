@@ -78,7 +78,7 @@ void SelectHouse(HouseScenarios& dialog, int index) {
 }
 
 std::string HouseNameComplaint(const HouseList& houses, std::string_view name) {
-    if (name.empty())
+    if (name.find_first_not_of(' ') == name.npos)
         return "No Name Entered. Add Aborted";
     if (name.find(',') != name.npos)
         return "A name cannot contain a comma.";

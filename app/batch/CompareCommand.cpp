@@ -74,8 +74,7 @@ int RunCompare(const CompareRequest& request, Session start) {
     }
     output.Flush();
     if (!output.Failure().empty()) {
-        std::cerr << "ledgrove-cli: the results could not be written (" << output.Failure()
-                  << "). Free some space or choose another place for them.\n";
+        std::cerr << "ledgrove-cli: " << UnwrittenOutput("results", output.Failure()) << '\n';
         return CannotRun;
     }
     return status;

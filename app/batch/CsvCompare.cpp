@@ -114,6 +114,8 @@ void AppendCsvCell(std::string& out, std::string_view cell) {
 
 std::optional<Refusal> CsvReader::Compare() {
     m_inputs.Clear();
+    if (m_heading.size() == 1 && m_heading.front().find(';') != std::string::npos)
+        return Refusal{m_rowLine, "", "", "Separate the columns with commas, not with semicolons."};
     if (m_row.size() > m_heading.size())
         return Refusal{m_rowLine, "", "", "The row has more cells than the heading row."};
     for (std::size_t column = 0; column < m_row.size(); ++column) {

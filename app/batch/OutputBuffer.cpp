@@ -35,4 +35,9 @@ void OutputBuffer::Flush() {
     m_text.clear();
 }
 
+std::string UnwrittenOutput(const std::string& what, const std::string& reason) {
+    return "the " + what + " could not be written (" + reason +
+           "). Free some space or choose another place for them.";
+}
+
 } // namespace Ledgrove

@@ -28,4 +28,7 @@ private:
     std::string m_failure;
 };
 
+/// The sentence for output that could not be written; `what` names it in the plural.
+std::string UnwrittenOutput(const std::string& what, const std::string& reason);
+
 } // namespace Ledgrove

@@ -1,9 +1,11 @@
 #include "app/batch/SettingsCommand.h"
 
 #include <iostream>
+#include <unistd.h>
 
 #include "app/batch/CompareCommand.h"
 #include "app/batch/CsvCompare.h"
+#include "app/batch/OutputBuffer.h"
 #include "engine/NumberText.h"
 #include "settings/HeaderSettings.h"
 #include "settings/HouseListFile.h"
@@ -26,14 +28,22 @@ int Complain(const SettingsFault& fault) {
     return Complain(Sentence(fault), input ? SomeRefused : CannotRun);
 }
 
+/// A script must not take a full disk for an empty setting.
+int Print(const std::string& text) {
+    OutputBuffer output(STDOUT_FILENO);
+    output.Text() = text;
+    output.Flush();
+    return output.Failure().empty() ? AllWell
+                                    : Complain(UnwrittenOutput("settings", output.Failure()), CannotRun);
+}
+
 } // namespace
 
 int PrintSetting(const std::filesystem::path& folder, const std::string& key) {
     const auto value = SettingText(SettingsFile(folder), key);
     if (!value)
         return Complain(value.Fault());
-    std::cout << *value << '\n';
-    return AllWell;
+    return Print(*value + '\n');
 }
 
 int ChangeSetting(const std::filesystem::path& folder, const std::string& key, const std::string& value) {
@@ -55,8 +65,7 @@ int PrintHouses(const std::filesystem::path& folder) {
             out += "," + Module1::ShortestText(amount);
         out += '\n';
     }
-    std::cout << out;
-    return AllWell;
+    return Print(out);
 }
 
 } // namespace Ledgrove

@@ -12,6 +12,7 @@
 #include "app/batch/CompareCommand.h"
 #include "app/batch/ProgramFolder.h"
 #include "app/batch/SettingsCommand.h"
+#include "app/cli/CommandWords.h"
 #include "ui/StartUp.h"
 
 namespace {
@@ -114,7 +115,7 @@ int main(int argc, char** argv) {
     const CLI::App* compare = AddCompare(app, folder, request);
     const SettingsActions settings = AddSettings(app, folder, key, value);
     try {
-        app.parse(argc, argv);
+        app.parse(ParserWords(argc, argv));
     } catch (const CLI::ParseError& fault) {
         return app.exit(fault) == 0 ? AllWell : CannotRun;
     }

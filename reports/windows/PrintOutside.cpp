@@ -1,5 +1,6 @@
 #include "reports/windows/PrintOutside.h"
 
+#include <QDir>
 #include <QStandardPaths>
 #include <QStringList>
 
@@ -14,6 +15,11 @@ constexpr const char* logoFilter = "Pictures (*.bmp,*.ico,*.rle,*.wmf) | *.bmp;*
 QString ToolkitFilter(const char* filter) {
     const QStringList parts = QString(filter).split('|');
     return parts[0].trimmed() + " (" + parts[1].trimmed().replace(';', ' ') + ")";
+}
+
+QString UsersFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
 QString Chosen(QFileDialog& dialog) {
@@ -37,7 +43,7 @@ std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent) {
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix("pdf");
     dialog->setNameFilter("PDF files (*.pdf)");
-    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog->setDirectory(UsersFolder());
     dialog->selectFile("Summary Report.pdf");
     return dialog;
 }

@@ -1,9 +1,11 @@
 #include "reports/windows/Printers.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cups/cups.h>
+#include <cups/pwg.h>
+#include <iterator>
 #include <memory>
+#include <string_view>
 
 namespace Ledgrove {
 
@@ -56,6 +58,14 @@ std::string Option(const cups_dest_t& destination, const char* name) {
     return value ? value : "";
 }
 
+/// What the user has set up for a printer goes with each job, but for what the window asks: the pages are
+/// turned and sized already.
+bool IsDecidedHere(std::string_view option) {
+    constexpr std::string_view decided[] = {"PageSize", "media-col", "orientation-requested", "landscape",
+                                            "fit-to-page"};
+    return std::find(std::begin(decided), std::end(decided), option) != std::end(decided);
+}
+
 /// With the instance that a user may have set up on it, as lp writes it.
 std::string NameOf(const cups_dest_t& destination) {
     std::string name = destination.name;
@@ -87,12 +97,37 @@ Twips FromHundredthsOfMillimetre(int length) {
     return static_cast<Twips>(length * static_cast<double>(TwipsPerInch) / 2540 + 0.5);
 }
 
+/// A paper by any of the names that it goes by; nothing for a name that is not known.
+const pwg_media_t* MediaNamed(const std::string& name) {
+    if (name.empty())
+        return nullptr;
+    for (const auto find : {pwgMediaForPWG, pwgMediaForPPD, pwgMediaForLegacy}) {
+        if (const pwg_media_t* media = find(name.c_str()))
+            return media;
+    }
+    return nullptr;
+}
+
+std::string DefaultMediaName(cups_dest_t& destination, cups_dinfo_t& info) {
+    // The user's own choice for this printer comes before the printer's. cupsGetDestMediaDefault would give
+    // letter where the user made none.
+    for (const char* option : {"media", "PageSize"}) {
+        // A tray may stand behind the size, "A4,Upper".
+        const std::string chosen = Option(destination, option);
+        if (!chosen.empty())
+            return chosen.substr(0, chosen.find(','));
+    }
+    ipp_attribute_t* found = cupsFindDestDefault(CUPS_HTTP_DEFAULT, &destination, &info, "media");
+    const char* name = found ? ippGetString(found, 0, nullptr) : nullptr;
+    return name ? name : "";
+}
+
 std::optional<Paper> PaperOf(cups_dest_t& destination, cups_dinfo_t& info) {
-    cups_size_t size{};
-    if (!cupsGetDestMediaDefault(CUPS_HTTP_DEFAULT, &destination, &info, CUPS_MEDIA_FLAGS_DEFAULT, &size) ||
-        size.width <= 0 || size.length <= 0)
+    const pwg_media_t* media = MediaNamed(DefaultMediaName(destination, info));
+    if (!media || media->width <= 0 || media->length <= 0)
         return std::nullopt;
-    return Paper{size.media, FromHundredthsOfMillimetre(size.width), FromHundredthsOfMillimetre(size.length)};
+    return Paper{media->pwg, FromHundredthsOfMillimetre(media->width),
+                 FromHundredthsOfMillimetre(media->length)};
 }
 
 } // namespace
@@ -123,9 +158,11 @@ std::string CupsServer::Send(const PrintJob& job) {
     if (!destination)
         return cupsLastErrorString();
     JobOptions options;
-    // What the user has set up for this printer holds, but for what the window asks.
-    for (int i = 0; i < destination->num_options; ++i)
-        options.Add(destination->options[i].name, destination->options[i].value);
+    for (int i = 0; i < destination->num_options; ++i) {
+        const cups_option_t& option = destination->options[i];
+        if (!IsDecidedHere(option.name))
+            options.Add(option.name, option.value);
+    }
     options.Add("copies", std::to_string(job.Copies));
     options.Add("media", job.PaperName);
     // The pages have the paper's size; fitting them into the printable area would shrink them.

@@ -30,9 +30,8 @@ QString WriteReportFile(Session& session, const ReportFileRequest& request) {
     if (const auto fault = Module1::FillAssumptions(assumptions, session))
         return QString::fromStdString(Sentence(*fault));
     document.Start();
-    modPrint::WriteReport(document,
-                          {session, assumptions, request.Sections, session.EmblemFile(),
-                           LogoPicture(session, request.LogoOption)});
+    modPrint::WriteReport(document, {session, assumptions, request.Sections, session.EmblemFile(),
+                                     LogoPicture(session, request.LogoOption)});
     document.End();
     return WritePdf(document, request.File);
 }

@@ -33,6 +33,15 @@ void SetCaption(QPushButton& button, const QString& caption) {
     button.setAccessibleName(QString(caption).remove('&'));
 }
 
+/// Ctrl with plus or minus, whether or not the keyboard has "+" on a shifted key; 0 for other keys.
+int ZoomStepOf(const QKeyEvent& key) {
+    if (!(key.modifiers() & Qt::ControlModifier))
+        return 0;
+    if (key.key() == Qt::Key_Plus || key.key() == Qt::Key_Equal)
+        return 1;
+    return key.key() == Qt::Key_Minus ? -1 : 0;
+}
+
 } // namespace
 
 frmPrint::frmPrint(PreviewParts parts, Session& session, Host& outside, QWidget* parent)
@@ -217,11 +226,8 @@ void frmPrint::changeEvent(QEvent* event) {
 }
 
 void frmPrint::keyPressEvent(QKeyEvent* event) {
-    const bool control = event->modifiers() & Qt::ControlModifier;
-    if (event->matches(QKeySequence::ZoomIn) || (control && event->key() == Qt::Key_Equal))
-        return StepZoom(1);
-    if (event->matches(QKeySequence::ZoomOut))
-        return StepZoom(-1);
+    if (const int step = ZoomStepOf(*event))
+        return StepZoom(step);
     if (!m_preview->TakeKey(*event))
         EntryDialog::keyPressEvent(event);
 }

@@ -238,6 +238,10 @@ class CompareCsv(CliTest):
         self.assertEqual(rows[2]["error"], "")
         self.assertEqual(rows[2]["StdCase.LoanAmount"], "5.00")
 
+    def test_semicolons_between_columns_are_named(self):
+        rows = self.rows("ecIncome;ecStdHome\n5;5\n", status=1)
+        self.assertEqual(rows[0]["error"], "Line 2: Separate the columns with commas, not with semicolons.")
+
     def test_cells_that_a_spreadsheet_would_run_are_defused(self):
         output = self.compare("csv", 'ecIncome,=1+1\n"=cmd|\' /C calc\'!A0",@SUM(1)\n-5,+x\n', status=1).decode()
         for cell in next(csv.reader([output.splitlines()[0]])):
@@ -339,6 +343,12 @@ class UnusableCalls(CliTest):
                                  stdout=full, stderr=subprocess.PIPE, timeout=60)
         self.assertEqual(run.returncode, 2)
         self.assertIn(b"could not be written", run.stderr)
+        for verb in (["get", "FEATURE1"], ["houses"]):
+            with open("/dev/full", "wb") as full:
+                run = subprocess.run([PROGRAM, "settings", "--folder", self.folder, *verb], stdout=full,
+                                     stderr=subprocess.PIPE, timeout=60)
+            self.assertEqual(run.returncode, 2)
+            self.assertIn(b"could not be written", run.stderr)
 
     def test_help_and_version(self):
         self.assertIn(b"compare", self.run_cli("--help").stdout)
@@ -382,6 +392,20 @@ class Settings(CliTest):
         self.settings.write_bytes(b"A=1")
         self.settings_verb("set", "NEWKEY", "value")
         self.assertEqual(self.settings.read_bytes(), b"A=1\r\nNEWKEY=value\r\n")
+
+    def test_a_value_may_begin_with_a_dash(self):
+        for value in ("- two blanks", "-x", "--wide porch", "-5"):
+            self.settings_verb("set", "FEATURE1", value)
+            self.assertEqual(self.get("FEATURE1"), value)
+        self.run_cli("settings", "set", "FEATURE1", "-y", "--folder", self.folder)
+        self.assertEqual(self.get("FEATURE1"), "-y")
+        self.run_cli("settings", "set", "--folder", self.folder, "FEATURE1", "-z")
+        self.assertEqual(self.get("FEATURE1"), "-z")
+        self.settings_verb("set", "--", "FEATURE1", "-v")
+        self.assertEqual(self.get("FEATURE1"), "-v")
+        self.settings_verb("set", "FEATURE1", status=2)
+        self.settings_verb("set", "FEATURE1", "--folder", self.folder, status=2)
+        self.assertIn(b"KEY", self.settings_verb("set", "--help").stdout)
 
     def test_set_refuses_what_would_break_the_file(self):
         before = self.settings.read_bytes()

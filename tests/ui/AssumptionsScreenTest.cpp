@@ -1,5 +1,6 @@
 #include "ui/AssumptionsScreen.h"
 
+#include "engine/Recalculate.h"
 #include "settings/AssumptionsFile.h"
 #include "settings/LoanTypesFile.h"
 #include "tests/settings/TemporaryFolder.h"
@@ -86,6 +87,18 @@ TEST_F(AssumptionsScreenTest, MissingAssumptionsShowZeros) {
     EXPECT_EQ(m_dialog.ecPV_Term.Text, "0");
     EXPECT_EQ(m_dialog.ecYrsInHome.Text, "0");
     EXPECT_EQ(m_dialog.PMI_Multiplier[1].Text, "0");
+
+    m_session.Screen.ecStdHome.Text = "$100,000";
+    Recalculate(m_session, m_host); // nothing down
+    EXPECT_EQ(m_session.StdCase.LoanAmount, 100000);
+    EXPECT_EQ(m_session.StdCase.PMIMonthly, 0);
+    EXPECT_EQ(m_session.StdCase.TaxMonthly, 0);
+}
+
+TEST_F(AssumptionsScreenTest, ConfirmingWritesPercentagesWithTwoPlaces) {
+    Start("LOANTYPE=1,C,,0.28,0.36,,,,FALSE\r\nASSUMPTION1=1.5\r\n");
+    ASSERT_FALSE(Confirm());
+    EXPECT_THAT(Bytes(), HasSubstr("ASSUMPTION1=1.50\r\n"));
 }
 
 TEST_F(AssumptionsScreenTest, ARateWithPercentSignIsHeldAsAFraction) {

@@ -128,6 +128,7 @@ TEST_F(HouseScenariosTest, ATakenNameIsRefusedButNotInOtherCase) {
 
 TEST_F(HouseScenariosTest, NamesThatWouldBreakTheirLineAreRefused) {
     EXPECT_EQ(HouseNameComplaint({}, ""), "No Name Entered. Add Aborted");
+    EXPECT_EQ(HouseNameComplaint({}, "  "), "No Name Entered. Add Aborted");
     EXPECT_EQ(HouseNameComplaint({}, "Lot 7, east"), "A name cannot contain a comma.");
     EXPECT_EQ(HouseNameComplaint({}, "Lot\n7"), "A name cannot contain a line break.");
     EXPECT_EQ(HouseNameComplaint({}, "Lot\r7"), "A name cannot contain a line break.");

@@ -116,7 +116,9 @@ QGroupBox* MakeQualifierRatios(const AssumptionsScreen& record) {
             grid->addWidget(MakeColumnHead("&Front End Ratio", front), 0, 1);
             grid->addWidget(MakeColumnHead("&Back End Ratio", back), 0, 2);
         }
-        QLabel* loanType = TextLabel(name);
+        auto* loanType = new ElidedLabel;
+        loanType->setText(name);
+        loanType->setMaximumWidth(loanType->fontMetrics().averageCharWidth() * 32);
         loanType->setObjectName(RowControl("lblLoanType", i));
         const int row = static_cast<int>(i) + 1;
         grid->addWidget(loanType, row, 0);

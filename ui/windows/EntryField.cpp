@@ -126,8 +126,13 @@ void EntryField::focusOutEvent(QFocusEvent* event) {
     // While a refusal takes the focus back, the field that was moved to loses a focus it never got.
     if (!std::exchange(m_entered, false) || !m_events.LostFocus)
         return;
-    if (m_events.LostFocus() == EntryOutcome::Refused && event->reason() == Qt::MouseFocusReason)
-        SwallowPendingPress();
+    if (m_events.LostFocus() == EntryOutcome::Refused) {
+        if (event->reason() == Qt::MouseFocusReason)
+            SwallowPendingPress();
+        return;
+    }
+    // A text longer than the field shows its beginning: the end of a number would pass for a smaller one.
+    setCursorPosition(0);
 }
 
 } // namespace Ledgrove

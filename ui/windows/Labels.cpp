@@ -1,7 +1,9 @@
 #include "ui/windows/Labels.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 #include <utility>
 
 namespace Ledgrove {
@@ -12,12 +14,40 @@ constexpr const char* widestUsualFigure = "-$888,888,888";
 
 } // namespace
 
+ElidedLabel::ElidedLabel(QWidget* parent)
+    : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * 8, QLabel::minimumSizeHint().height()};
+}
+
+bool ElidedLabel::IsTooLong() const {
+    return fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+bool ElidedLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !IsTooLong())
+        return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* event) {
+    if (!IsTooLong())
+        return QLabel::paintEvent(event);
+    const QRect area = contentsRect();
+    QPainter painter(this);
+    style()->drawItemText(&painter, area, static_cast<int>(alignment()), palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideRight, area.width()), foregroundRole());
+}
+
 ResultLabel::ResultLabel(const char* control, const QLabel& caption, QString column, QWidget* parent)
-    : QLabel(parent)
+    : ElidedLabel(parent)
     , m_caption(caption)
     , m_column(std::move(column)) {
     setObjectName(control);
-    setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setTextInteractionFlags(Qt::NoTextInteraction);
     KeepPlaceWhileHidden(*this);
@@ -33,15 +63,6 @@ void ResultLabel::Describe() {
 QSize ResultLabel::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     return {metrics.horizontalAdvance(widestUsualFigure) + 2 * margin(), metrics.height()};
-}
-
-void ResultLabel::paintEvent(QPaintEvent* event) {
-    const QRect area = contentsRect();
-    if (fontMetrics().horizontalAdvance(text()) <= area.width())
-        return QLabel::paintEvent(event);
-    QPainter painter(this);
-    style()->drawItemText(&painter, area, static_cast<int>(alignment()), palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideRight, area.width()), foregroundRole());
 }
 
 QLabel* TextLabel(const QString& text, QWidget* parent) {

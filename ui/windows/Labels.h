@@ -5,9 +5,25 @@
 
 namespace Ledgrove {
 
+/// One line that never widens the layout around it: a text too long for its place ends in dots, and the tip
+/// shows the whole.
+class ElidedLabel : public QLabel {
+public:
+    explicit ElidedLabel(QWidget* parent = nullptr);
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool IsTooLong() const;
+};
+
 /// A label that a recalculation writes, right-aligned. It keeps one width whatever its figure, and its place
 /// while it is hidden; a figure that is too long ends in dots instead of showing some of its digits.
-class ResultLabel : public QLabel {
+class ResultLabel : public ElidedLabel {
     Q_OBJECT
 
 public:
@@ -19,9 +35,6 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     const QLabel& m_caption;

@@ -80,7 +80,9 @@ void AddDownPayment(QGridLayout& grid, QWidget* parent) {
 void AddHomeHeads(QGridLayout& grid) {
     QPushButton* houses = MakeButton("bHouses", "&House Scenarios");
     houses->setIcon(HousePicture(16));
-    QLabel* name = CaptionLabel("lblHomeName");
+    // A house may have a name of any length.
+    auto* name = new ElidedLabel;
+    name->setObjectName("lblHomeName");
     name->setAccessibleDescription("House Scenarios");
     grid.addWidget(houses, 0, 0);
     grid.addWidget(name, 0, 1, 1, 2);

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -117,6 +118,8 @@ QLabel* MakeSentence(const char* control, const QString& description) {
     QLabel* sentence = CaptionLabel(control);
     sentence->setAccessibleDescription(description);
     sentence->setWordWrap(true);
+    // Not as wide as its longest word, which may be the whole of it.
+    sentence->setMinimumWidth(1);
     return sentence;
 }
 
@@ -124,11 +127,13 @@ QWidget* MakeMoreHome() {
     auto* panel = new QWidget;
     QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(MakeHeading("Buy More Home"));
-    column->addLayout(MakeCashFlowSentence());
+    QLayout* cashFlow = MakeCashFlowSentence();
+    column->addLayout(cashFlow);
+    column->setAlignment(cashFlow, Qt::AlignLeft);
     QLabel* sum = MakeSentence("Label6", "Buy More Home, more per month and more today");
     MakeBold(*sum);
     column->addWidget(sum);
-    column->addWidget(MakeHouseValues());
+    column->addWidget(MakeHouseValues(), 0, Qt::AlignLeft);
     column->addWidget(TextLabel("For the same monthly cost, consider these options!"));
     column->addWidget(MakeSentence("lblfeature1", "Additional features, first"));
     column->addWidget(MakeSentence("lblfeature2", "Additional features, second"));
@@ -205,6 +210,20 @@ QWidget* MakeSummary() {
     return panel;
 }
 
+/// A feature's text may be of any length: what does not fit is scrolled to, and squeezes nothing else.
+QScrollArea* MakeScrolled(QWidget* page) {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setMinimumHeight(page->sizeHint().height());
+    area->setWidget(page);
+    // The tab's own background shows through.
+    page->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
+    return area;
+}
+
 /// Panels come and go inside their tab's page, which keeps the room.
 QWidget* MakePage(QWidget* panel) {
     auto* page = new QWidget;
@@ -225,11 +244,13 @@ ResultPanels::ResultPanels(QWidget* parent)
     // shown.
     tabBar()->setFocusPolicy(Qt::StrongFocus);
     const char* mnemonics[TabCount] = {"&Welcome", "&Cash Flow", "&More Home", "&Affordability", "Summar&y"};
+    constexpr int moreHome = 2;
     QWidget* panels[TabCount] = {MakeWelcome(), MakeCashFlow(), MakeMoreHome(), MakeAffordability(),
                                  MakeSummary()};
     for (int i = 0; i < TabCount; ++i) {
         panels[i]->setObjectName(QString("DetlFrame%1").arg(i));
-        addTab(MakePage(panels[i]), mnemonics[i]);
+        QWidget* page = MakePage(panels[i]);
+        addTab(i == moreHome ? MakeScrolled(page) : page, mnemonics[i]);
     }
 }
 

@@ -73,7 +73,7 @@ void frmHomeSelection::accept() {
 void frmHomeSelection::reject() {
     if (m_record.Editing)
         return CancelEdit();
-    if (Saved())
+    if (MayClose())
         EntryDialog::reject();
 }
 
@@ -81,9 +81,7 @@ void frmHomeSelection::closeEvent(QCloseEvent* event) {
     // Unlike Escape, the close button means the whole dialog.
     if (m_record.Editing)
         CancelEdit();
-    const auto fault = Module1::SaveHouseScenarios(m_record, State());
-    // The one way out where nothing can be saved, as in a read-only folder.
-    if (fault && !ClosesUnsaved(*fault))
+    if (!MayClose())
         return event->ignore();
     EntryDialog::reject();
 }
@@ -216,8 +214,11 @@ void frmHomeSelection::SwitchMode(ControlNames opening, ControlNames closing) {
         findChild<QWidget*>(name)->setEnabled(false);
 }
 
-bool frmHomeSelection::ClosesUnsaved(const SettingsFault& fault) {
-    return Outside().ShowMessage({ApplicationTitle, Sentence(fault) + "\r\rClose without saving?",
+/// Where nothing can be saved, as in a read-only folder, the user decides; the dialog must not hold him.
+bool frmHomeSelection::MayClose() {
+    const auto fault = Module1::SaveHouseScenarios(m_record, State());
+    return !fault ||
+           Outside().ShowMessage({ApplicationTitle, Sentence(*fault) + "\r\rClose without saving?",
                                   MessageIcon::Exclamation, MessageButtons::YesNo}) == MessageAnswer::Yes;
 }
 

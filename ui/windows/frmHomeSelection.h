@@ -47,7 +47,7 @@ private:
     void ShowMode();
     void SwitchMode(ControlNames opening, ControlNames closing);
     bool Saved();
-    bool ClosesUnsaved(const SettingsFault& fault);
+    bool MayClose();
 
     HouseScenarios& m_record;
     HouseListModel* m_houses;

@@ -126,6 +126,9 @@ void frmMain::ConnectTabs() {
 }
 
 void frmMain::ConnectButtons() {
+    // Enter presses the button with the focus, as in the dialogs.
+    for (QPushButton* button : findChildren<QPushButton*>())
+        button->setAutoDefault(true);
     connect(findChild<QPushButton*>("bDisclaimer"), &QPushButton::clicked, this,
             [this] { m_host.ShowMessage(Module1::DisclaimerMessage()); });
     connect(findChild<QPushButton*>("bHelp"), &QPushButton::clicked, this, [this] { OpenHelp(); });

@@ -51,6 +51,7 @@ private slots:
     void unwritableFolderKeepsTheDialogOpen();
     void activationShowsTheUpgradesValue();
     void dialogFitsASmallScreen();
+    void dialogFitsWithALongLoanTypeName();
 };
 
 void AssumptionsDialogTest::showsTheShippedAssumptions_data() {
@@ -360,6 +361,13 @@ void AssumptionsDialogTest::dialogFitsASmallScreen() {
     OpenAssumptions open;
     const QSize needed = open.Window->minimumSizeHint();
     QVERIFY2(needed.width() <= 1366 && needed.height() <= 700, qPrintable(QString::number(needed.height())));
+}
+
+void AssumptionsDialogTest::dialogFitsWithALongLoanTypeName() {
+    const std::string name(200, 'W');
+    OpenAssumptions open([&](SettingsDesk& desk) { desk.State.LoanTypes[2].Name = name; });
+    QVERIFY(open.Window->width() <= 1366);
+    QCOMPARE(open.LabelText("lblLoanType3"), QString::fromStdString(name));
 }
 
 QTEST_MAIN(AssumptionsDialogTest)

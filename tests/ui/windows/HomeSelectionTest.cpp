@@ -86,7 +86,8 @@ private slots:
     void otherWaysOutSaveAndCopyNothing();
     void unwritableFolderKeepsTheDialogOpen_data();
     void unwritableFolderKeepsTheDialogOpen();
-    void closeButtonIsTheWayOutOfAnUnwritableFolder();
+    void anUnwritableFolderIsNoTrap_data();
+    void anUnwritableFolderIsNoTrap();
 };
 
 void HomeSelectionTest::opensOnTheFirstHouseInViewMode() {
@@ -318,15 +319,30 @@ void HomeSelectionTest::unwritableFolderKeepsTheDialogOpen() {
     QCOMPARE(open.State.Screen.lblHomeName.Text, "Custom");
 }
 
-void HomeSelectionTest::closeButtonIsTheWayOutOfAnUnwritableFolder() {
+void HomeSelectionTest::anUnwritableFolderIsNoTrap_data() {
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"bCancel", "Escape", "close button"})
+        QTest::addRow("%s", way) << way;
+}
+
+void HomeSelectionTest::anUnwritableFolderIsNoTrap() {
+    QFETCH(QString, way);
     OpenHouses open;
+    const auto leave = [&open, &way] {
+        if (way == "bCancel")
+            ClickAt(open.Find(way));
+        else if (way == "Escape")
+            open.Press(Qt::Key_Escape);
+        else
+            open.Window->close();
+    };
     open.MakeUnwritable();
     open.Outside.Answer = MessageAnswer::No;
-    open.Window->close();
+    leave();
     QVERIFY(open.IsOpen());
     QVERIFY(open.Outside.Messages.front().Text.ends_with("Close without saving?"));
     open.Outside.Answer = MessageAnswer::Yes;
-    open.Window->close();
+    leave();
     QVERIFY(!open.IsOpen());
 }
 

@@ -32,6 +32,9 @@ private slots:
     void hiddenTaxLabelsKeepTheLayout();
     void panelsKeepTheirPlaceWhenFiguresGrow();
     void tooLongFigureShowsNoPartOfItsDigits();
+    void longHouseNameWidensNothing();
+    void longFeatureSqueezesNothing();
+    void enterPressesTheFocusedButton();
     void captionsOfTabsAndButtons();
     void footnoteShowsOneAmpersand();
     void welcomeShowsTheSteps();
@@ -158,6 +161,52 @@ void MainWindowViewTest::tooLongFigureShowsNoPartOfItsDigits() {
     longer.setText("$" + QString(80, '9'));
     QCOMPARE(shorter.grab().toImage(), longer.grab().toImage());
     QCOMPARE(longer.text(), "$" + QString(80, '9'));
+}
+
+void MainWindowViewTest::longHouseNameWidensNothing() {
+    OpenWindow open;
+    const QSize smallest = open.Window->minimumSizeHint();
+    const QSize size = open.Window->size();
+    const std::string name(200, 'W');
+    open.State.Screen.lblHomeName.Text = name;
+    open.Window->Refresh();
+    QCoreApplication::processEvents();
+    QCOMPARE(open.Window->minimumSizeHint(), smallest);
+    QCOMPARE(open.Window->size(), size);
+    QCOMPARE(open.LabelText("lblHomeName"), QString::fromStdString(name));
+}
+
+void MainWindowViewTest::longFeatureSqueezesNothing() {
+    OpenWindow open;
+    open.Find<ResultPanels>("SSTab1").setCurrentIndex(2);
+    const QSize size = open.Window->size();
+    auto& figure = open.Find<QLabel>("lblHouseValueStd");
+    QCoreApplication::processEvents();
+    const QRect place = figure.geometry();
+    QVERIFY(place.x() > 0);
+    QString words;
+    for (int i = 0; i < 60; ++i)
+        words += "Sun room ";
+    for (const QString& feature : {words, QString(300, 'W')}) {
+        open.State.Screen.lblfeature1.Text = feature.toStdString();
+        open.State.Screen.lblfeature2.Text = feature.toStdString();
+        open.Window->Refresh();
+        const auto& label = open.Find<QLabel>("lblfeature1");
+        QCoreApplication::processEvents();
+        QTRY_VERIFY(label.height() >= label.heightForWidth(label.width()));
+        QCOMPARE(figure.geometry(), place);
+        QCOMPARE(open.Window->size(), size);
+    }
+}
+
+void MainWindowViewTest::enterPressesTheFocusedButton() {
+    OpenWindow open;
+    auto& button = open.Find<QPushButton>("bDisclaimer");
+    QSignalSpy pressed(&button, &QPushButton::clicked);
+    button.setFocus();
+    open.Press(Qt::Key_Return);
+    open.Press(Qt::Key_Enter);
+    QCOMPARE(pressed.count(), 2);
 }
 
 void MainWindowViewTest::captionsOfTabsAndButtons() {

@@ -1,0 +1,89 @@
+#include "reports/PreviewState.h"
+
+#include <gtest/gtest.h>
+
+namespace Ledgrove {
+namespace {
+
+const Paper a4{"iso_a4_210x297mm", 11906, 16838}; // 210 mm x 297 mm at 1440 / 25.4 twips
+
+TEST(ZoomStep, GoesAlongTheListAndStaysAtItsEnds) {
+    EXPECT_STREQ(ZoomItems[ZoomAtActivation], "60");
+    EXPECT_EQ(ZoomStep(ZoomAtActivation, 1), 3);
+    EXPECT_EQ(ZoomStep(ZoomAtActivation, -1), 1);
+    EXPECT_EQ(ZoomStep(0, -1), 0);
+    EXPECT_EQ(ZoomStep(6, 1), 6);
+}
+
+TEST(PageButtonAt, IsHiddenForOnePage) {
+    EXPECT_FALSE(PageButtonAt(1, 1).Visible);
+    EXPECT_TRUE(PageButtonAt(1, 2).Visible);
+}
+
+TEST(PageButtonAt, LeadsToTheSecondPageFromTheFirstAndElseToTheFirst) {
+    EXPECT_STREQ(PageButtonAt(1, 3).Caption, "Page 2");
+    EXPECT_EQ(PageButtonAt(1, 3).Leads, 2U);
+    for (const std::size_t page : {2U, 3U}) {
+        EXPECT_STREQ(PageButtonAt(page, 3).Caption, "Page 1") << page;
+        EXPECT_EQ(PageButtonAt(page, 3).Leads, 1U) << page;
+    }
+}
+
+TEST(StatusText, PutsTwoBlanksBeforeTheResolution) {
+    EXPECT_EQ(StatusText({"Office", "ipp://printserver/office", "Laser 600"}, {600, {}}),
+              "DPI:  600\nPort: ipp://printserver/office\nDriver: Laser 600");
+}
+
+TEST(StatusText, SaysThatAResolutionIsNotKnown) {
+    EXPECT_EQ(StatusText({"Raw", "socket://lab", ""}, {}), "DPI: not known\nPort: socket://lab\nDriver: ");
+}
+
+TEST(PaperFor, IsThePrintersOwnOrLetter) {
+    EXPECT_EQ(PaperFor({600, a4}), a4);
+    EXPECT_EQ(PaperFor({}), Paper{});
+    EXPECT_EQ(Paper{}.Width, 12240);  // 8.5 x 1440
+    EXPECT_EQ(Paper{}.Height, 15840); // 11 x 1440
+}
+
+TEST(PaperFor, IsLetterWhereTheTablesDoNotFit) {
+    EXPECT_EQ(PaperFor({600, Paper{"na_index-4x6_4x6in", 5760, 8640}}), Paper{});
+}
+
+TEST(SheetOf, TurnsThePaperAndKeepsHalfAnInchAtEachSide) {
+    const PageGeometry sheet = SheetOf(a4, PageOrientation::Landscape);
+    EXPECT_EQ(sheet.PageWidth, 16838);
+    EXPECT_EQ(sheet.PageHeight, 11906);
+    for (const Twips margin : {sheet.MarginLeft, sheet.MarginRight, sheet.MarginTop, sheet.MarginBottom})
+        EXPECT_EQ(margin, 720);
+}
+
+TEST(SizeText, IsInInchesWithOneDecimal) {
+    EXPECT_EQ(SizeText(SheetOf({}, PageOrientation::Portrait)), "8.5x11.0");
+    EXPECT_EQ(SizeText(SheetOf({}, PageOrientation::Landscape)), "11.0x8.5");
+    EXPECT_EQ(SizeText(SheetOf(a4, PageOrientation::Portrait)), "8.3x11.7"); // 8.268 x 11.693
+}
+
+TEST(CopiesIn, TakesWholeNumbersAsTheyAreShown) {
+    EXPECT_EQ(CopiesIn("1"), 1);
+    EXPECT_EQ(CopiesIn(" 25 "), 25);
+    EXPECT_EQ(CopiesIn("1,200"), 1200);
+    EXPECT_EQ(CopiesIn("9999"), 9999);
+}
+
+TEST(CopiesIn, TakesNothingElse) {
+    for (const char* text : {"", "0", "-1", "2.5", "12%", "10000", "1e3", "many"})
+        EXPECT_EQ(CopiesIn(text), std::nullopt) << text;
+}
+
+TEST(CopiesComplaint, NamesTheTextAndWhatToType) {
+    EXPECT_EQ(CopiesComplaint("0"), "The report was not printed: \"0\" is no number of copies. Type a whole "
+                                    "number from 1 to 9999.");
+}
+
+TEST(ProgressText, NamesPageReportAndPrinter) {
+    EXPECT_EQ(ProgressText(2, "Summary Report", {"Office", "ipp://printserver/office", "Laser 600"}),
+              "Now printing Page 2 of\nSummary Report\non the Office on ipp://printserver/office");
+}
+
+} // namespace
+} // namespace Ledgrove

@@ -1,0 +1,252 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+
+#include "PrintDesk.h"
+
+using namespace Ledgrove;
+
+namespace {
+
+void WithPrinters(OpenPreview& desk) {
+    desk.AddPrinters();
+}
+
+void PressPrint(const OpenPreview& open) {
+    open.Find<QPushButton>("cmdPrint").click();
+}
+
+/// The preview is back, and may print again.
+void CheckReady(const OpenPreview& open) {
+    QVERIFY(open.Find("cmdPrint").isEnabled());
+    QVERIFY(open.Find("vsPrinter").isEnabled());
+    QVERIFY(open.Window->isVisible());
+    QVERIFY(!QApplication::activeModalWidget() || QApplication::activeModalWidget() == open.Window.get());
+}
+
+} // namespace
+
+class PrintingTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void reportGoesToTheChosenPrinter();
+    void printingComposesAgainAndEndsInPreview();
+    void landscapeTurnsTheSheet();
+    void printersPaperIsNamed();
+    void refusedCopiesPrintNothing_data();
+    void refusedCopiesPrintNothing();
+    void copiesAreReadAsAWholeNumber();
+    void pdfIsWrittenToTheChosenFile();
+    void dismissedFileChooserPrintsNothing();
+    void unwritablePdfIsTold();
+    void refusedJobIsTold();
+    void progressNamesPageAndPrinter();
+    void cancelPrintsNothing();
+    void cancelLeavesNoPdf();
+    void chooserAsksForPdf();
+};
+
+void PrintingTest::reportGoesToTheChosenPrinter() {
+    OpenPreview open(3, WithPrinters);
+    open.Type("txtCopies", "2");
+    PressPrint(open);
+    QCOMPARE(open.Server.Jobs.size(), std::size_t(1));
+    const ScriptedServer::Sent& sent = open.Server.Jobs.front();
+    QCOMPARE(sent.Job.Printer, std::string("Office"));
+    QCOMPARE(sent.Job.Title, std::string("Summary Report"));
+    QCOMPARE(sent.Job.PaperName, std::string("na_letter_8.5x11in"));
+    QCOMPARE(sent.Job.Copies, 2);
+    QVERIFY(PdfInfo(sent.Pdf).contains(QRegularExpression("Pages: +3\n")));
+    QVERIFY(PdfInfo(sent.Pdf).contains("612 x 792 pts")); // 8.5 x 72, 11 x 72
+    const QStringList pages = PdfText(sent.Pdf).split('\f', Qt::SkipEmptyParts);
+    QCOMPARE(pages.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(pages[i].contains(QString("Sheet %1").arg(i + 1)));
+        QVERIFY(pages[i].contains("Printed on 11/20/2026"));
+        QVERIFY(pages[i].contains(QString("Page %1").arg(i + 1)));
+    }
+    // the file was only on its way
+    QVERIFY(!QFile::exists(QString::fromStdString(sent.Job.PdfFile)));
+    QVERIFY(open.Outside.Messages.empty());
+    open.Choose("cboPrinter", 0);
+    PressPrint(open);
+    QCOMPARE(open.Server.Jobs.back().Job.Printer, std::string("Lab"));
+}
+
+void PrintingTest::printingComposesAgainAndEndsInPreview() {
+    OpenPreview open(2, WithPrinters);
+    open.Press(Qt::Key_PageDown);
+    open.Pages = 3; // the screens changed meanwhile
+    PressPrint(open);
+    QCOMPARE(open.Compositions, 2);
+    QVERIFY(PdfInfo(open.Server.Jobs.front().Pdf).contains(QRegularExpression("Pages: +3\n")));
+    CheckReady(open);
+    QCOMPARE(open.Place(), "Page 2 of 3");
+    QCOMPARE(open.Window->focusWidget(), &open.Find("cmdPrint"));
+}
+
+void PrintingTest::landscapeTurnsTheSheet() {
+    OpenPreview open(1, WithPrinters);
+    open.Choose("cboOrientation", 1);
+    PressPrint(open);
+    QVERIFY(PdfInfo(open.Server.Jobs.front().Pdf).contains("792 x 612 pts"));
+}
+
+void PrintingTest::printersPaperIsNamed() {
+    OpenPreview open(1, [](OpenPreview& desk) {
+        desk.AddPrinters();
+        desk.Server.Known["Office"].DefaultPaper = Paper{"iso_a4_210x297mm", 11906, 16838};
+    });
+    PressPrint(open);
+    QCOMPARE(open.Server.Jobs.front().Job.PaperName, std::string("iso_a4_210x297mm"));
+    QVERIFY(PdfInfo(open.Server.Jobs.front().Pdf).contains("(A4)"));
+}
+
+void PrintingTest::refusedCopiesPrintNothing_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("left");
+    QTest::addColumn<QString>("told");
+    const QString advice = "Type a whole number from 1 to 9999.";
+    QTest::addRow("no number") << "two"
+                               << "two"
+                               << "You must enter a number here.";
+    QTest::addRow("negative") << "-1"
+                              << "-1"
+                              << "You must enter a positive number here.";
+    QTest::addRow("none") << "0"
+                          << "0" << advice;
+    QTest::addRow("empty") << ""
+                           << "0" << advice;
+    QTest::addRow("half a copy") << "2.5"
+                                 << "2.5" << advice;
+    QTest::addRow("percent") << "12%"
+                             << "12%" << advice;
+    QTest::addRow("too many") << "10000"
+                              << "10000" << advice;
+}
+
+void PrintingTest::refusedCopiesPrintNothing() {
+    QFETCH(QString, typed);
+    QFETCH(QString, left);
+    QFETCH(QString, told);
+    OpenPreview open(1, WithPrinters);
+    open.Type("txtCopies", typed);
+    open.Find("cmdPrint").setFocus(); // leaving the field checks nothing
+    QVERIFY(open.Outside.Messages.empty());
+    PressPrint(open);
+    QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
+    const Message& message = open.Outside.Messages.front();
+    QVERIFY2(QString::fromStdString(message.Text).endsWith(told), message.Text.c_str());
+    QCOMPARE(message.Title, std::string("Ledgrove"));
+    QCOMPARE(message.Icon, MessageIcon::Information);
+    QVERIFY(open.Server.Jobs.empty());
+    QCOMPARE(open.Compositions, 1);
+    QCOMPARE(open.Focused(), "txtCopies");
+    QCOMPARE(open.FieldText("txtCopies"), left);
+    QCOMPARE(open.Find<QLineEdit>("txtCopies").selectedText(), left);
+    CheckReady(open);
+}
+
+void PrintingTest::copiesAreReadAsAWholeNumber() {
+    OpenPreview open(1, WithPrinters);
+    open.Type("txtCopies", "1,200");
+    PressPrint(open);
+    QCOMPARE(open.Server.Jobs.front().Job.Copies, 1200);
+}
+
+void PrintingTest::pdfIsWrittenToTheChosenFile() {
+    OpenPreview open(3);
+    open.PdfToChoose = open.Folder.filePath("Kim Park.pdf");
+    PressPrint(open);
+    QCOMPARE(open.PdfAsked, 1);
+    const QByteArray pdf = BytesOf(open.PdfToChoose);
+    QVERIFY(PdfInfo(pdf).contains(QRegularExpression("Pages: +3\n")));
+    QVERIFY(PdfInfo(pdf).contains(QRegularExpression("Title: +Summary Report\n")));
+    QVERIFY(PdfText(pdf).contains("Sheet 3"));
+    QVERIFY(open.Server.Jobs.empty());
+    QVERIFY(open.Outside.Messages.empty());
+    CheckReady(open);
+}
+
+void PrintingTest::dismissedFileChooserPrintsNothing() {
+    OpenPreview open;
+    PressPrint(open);
+    QCOMPARE(open.PdfAsked, 1);
+    QCOMPARE(open.Compositions, 1);
+    QVERIFY(open.Outside.Messages.empty());
+    CheckReady(open);
+}
+
+void PrintingTest::unwritablePdfIsTold() {
+    OpenPreview open;
+    open.PdfToChoose = open.Folder.filePath("nowhere/report.pdf");
+    PressPrint(open);
+    QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
+    QCOMPARE(open.Outside.Messages.front().Icon, MessageIcon::Exclamation);
+    QVERIFY(open.Outside.Messages.front().Text.find("nowhere/report.pdf") != std::string::npos);
+    CheckReady(open);
+}
+
+void PrintingTest::refusedJobIsTold() {
+    OpenPreview open(1, WithPrinters);
+    open.Server.Refusal = "The printer or class does not exist.";
+    PressPrint(open);
+    QCOMPARE(
+        open.Outside.TakeTexts(),
+        std::vector<std::string>{"The report was not printed: the printer \"Office\" did not take it (The "
+                                 "printer or class does not exist). Choose another printer, or try again "
+                                 "when this one is ready."});
+    CheckReady(open);
+}
+
+void PrintingTest::progressNamesPageAndPrinter() {
+    OpenPreview open(2, WithPrinters);
+    QString label;
+    QString button;
+    QVERIFY(WhileOpen(
+        "PrintProgress", [&open] { PressPrint(open); },
+        [&](QWidget& progress) {
+            label = progress.findChild<QLabel*>()->text();
+            button = progress.findChild<QPushButton*>()->text();
+            QVERIFY(!open.Find("cmdPrint").isEnabled());
+        }));
+    QCOMPARE(label, "Now printing Page 1 of\nSummary Report\non the Office on ipp://printserver/office");
+    QCOMPARE(button, "Cancel");
+    QCOMPARE(open.Server.Jobs.size(), std::size_t(1));
+}
+
+void PrintingTest::cancelPrintsNothing() {
+    OpenPreview open(3, WithPrinters);
+    QVERIFY(WhileOpen(
+        "PrintProgress", [&open] { PressPrint(open); },
+        [](QWidget& progress) { progress.findChild<QPushButton*>()->click(); }));
+    QVERIFY(open.Server.Jobs.empty());
+    QVERIFY(open.Outside.Messages.empty());
+    CheckReady(open);
+}
+
+void PrintingTest::cancelLeavesNoPdf() {
+    OpenPreview open(3);
+    open.PdfToChoose = open.Folder.filePath("report.pdf");
+    QVERIFY(WhileOpen(
+        "PrintProgress", [&open] { PressPrint(open); },
+        [](QWidget& progress) { progress.findChild<QPushButton*>()->click(); }));
+    QVERIFY(!QFile::exists(open.PdfToChoose));
+    QVERIFY(open.Outside.Messages.empty());
+    CheckReady(open);
+}
+
+void PrintingTest::chooserAsksForPdf() {
+    QWidget parent;
+    const auto dialog = PdfDialog(parent);
+    QCOMPARE(dialog->windowTitle(), "Print to PDF");
+    QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+    QCOMPARE(dialog->defaultSuffix(), "pdf");
+    QVERIFY(dialog->nameFilters().first().contains("*.pdf"));
+}
+
+QTEST_MAIN(PrintingTest)
+#include "PrintingTest.moc"
