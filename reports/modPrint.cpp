@@ -8,8 +8,11 @@ namespace Ledgrove {
 std::filesystem::path LogoPicture(const Session& session, int logoOption) {
     if (logoOption == 1)
         return session.Folder / "GenericHouseLogo.bmp";
-    if (logoOption == 2 && session.Header.LogoFile != ReportHeader{}.LogoFile)
-        return session.Header.LogoFile;
+    const std::string& own = session.Header.LogoFile;
+    // A path that does not begin at the root begins in the program's folder, wherever the program was
+    // started.
+    if (logoOption == 2 && !own.empty() && own != ReportHeader{}.LogoFile)
+        return session.Folder / own;
     return {};
 }
 

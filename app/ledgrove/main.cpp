@@ -10,6 +10,7 @@
 #include "reports/windows/PrintAction.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
+#include "ui/windows/Pictures.h"
 #include "ui/windows/QtHost.h"
 #include "ui/windows/frmMain.h"
 
@@ -37,6 +38,7 @@ int Refuse(const QString& sentence) {
 }
 
 int ShowWindow(const std::filesystem::path& folder) {
+    QApplication::setWindowIcon(Ledgrove::HousePicture(64));
     Ledgrove::Session session;
     Ledgrove::QtHost host;
     if (const auto fault = Ledgrove::Module1::LoadMainScreen(session, host, folder)) {

@@ -293,6 +293,10 @@ TEST_F(ReportTest, TheLogoFollowsTheChoice) {
     EXPECT_EQ(LogoPicture(m_session, 2), ""); // never named
     m_session.Header.LogoFile = "/home/acme.bmp";
     EXPECT_EQ(LogoPicture(m_session, 2), "/home/acme.bmp");
+    m_session.Header.LogoFile = "acme.bmp";
+    EXPECT_EQ(LogoPicture(m_session, 2), "/program/acme.bmp");
+    m_session.Header.LogoFile = "";
+    EXPECT_EQ(LogoPicture(m_session, 2), "");
     EXPECT_EQ(LogoPicture(m_session, 3), "");
     EXPECT_EQ(LogoPicture(m_session, -1), "");
 }

@@ -19,7 +19,6 @@
 #include "ui/windows/FormParts.h"
 #include "ui/windows/MainInputs.h"
 #include "ui/windows/MainKeys.h"
-#include "ui/windows/Pictures.h"
 #include "ui/windows/ResultPanels.h"
 
 namespace Ledgrove {
@@ -34,7 +33,6 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     , m_help(*this, session, m_host) {
     setObjectName("frmMain");
     setWindowTitle(ApplicationTitle);
-    setWindowIcon(HousePicture(64));
     BuildControls();
     ShowEmblem();
     ConnectFields();

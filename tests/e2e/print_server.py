@@ -1,0 +1,131 @@
+"""A print server of the tests' own: a CUPS scheduler on this machine's loopback only, its printers writing into files. It
+keeps each job's document as it was sent."""
+import os
+import shutil
+import signal
+import socket
+import subprocess
+import tempfile
+from pathlib import Path
+
+from desktop import wait_for
+
+CUPSD = """Listen 127.0.0.1:{port}
+Listen {folder}/sock
+LogLevel warn
+PageLogFormat %p %j %T %P %C
+Browsing Off
+WebInterface No
+PreserveJobFiles Yes
+PreserveJobHistory Yes
+DefaultAuthType None
+<Location />
+  Order allow,deny
+  Allow localhost
+</Location>
+<Location /admin>
+  Order allow,deny
+  Allow localhost
+</Location>
+<Policy default>
+  JobPrivateAccess all
+  JobPrivateValues none
+  <Limit All>
+    Order deny,allow
+  </Limit>
+</Policy>
+"""
+
+CUPS_FILES = """ServerRoot {folder}
+StateDir {folder}
+CacheDir {folder}/cache
+RequestRoot {folder}/spool
+TempDir {folder}/spool/tmp
+AccessLog {folder}/access_log
+ErrorLog {folder}/error_log
+PageLog {folder}/page_log
+FileDevice Yes
+"""
+
+
+def free_port():
+    with socket.socket() as probe:
+        probe.bind(("127.0.0.1", 0))
+        return probe.getsockname()[1]
+
+
+class PrintServer:
+    """Everything is started by this object and ended by it, by process id."""
+
+    def __init__(self):
+        self.folder = Path(tempfile.mkdtemp())
+        # Run by root, the scheduler has its filters run by another user.
+        self.folder.chmod(0o755)
+        for name in ("cache", "spool", "spool/tmp", "out"):
+            (self.folder / name).mkdir()
+            (self.folder / name).chmod(0o1777)
+        self.address = f"127.0.0.1:{free_port()}"
+        values = {"folder": self.folder, "port": self.address.split(":")[1]}
+        (self.folder / "cupsd.conf").write_text(CUPSD.format(**values))
+        (self.folder / "cups-files.conf").write_text(CUPS_FILES.format(**values))
+        self.environment = os.environ | {"CUPS_SERVER": self.address, "PATH": os.environ["PATH"] + ":/usr/sbin"}
+        self.process = subprocess.Popen(
+            ["cupsd", "-f", "-c", self.folder / "cupsd.conf", "-s", self.folder / "cups-files.conf"],
+            env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        try:
+            wait_for(lambda: self.run("lpstat", "-r").strip() == "scheduler is running", "the print server")
+        except BaseException:
+            self.close()
+            raise
+
+    def run(self, *command):
+        done = subprocess.run([str(part) for part in command], env=self.environment, capture_output=True, text=True,
+                              timeout=60)
+        if done.returncode:
+            raise AssertionError(f"{command}: {done.stderr}{done.stdout}")
+        return done.stdout
+
+    def add_printer(self, name, model, *options):
+        self.run("lpadmin", "-p", name, "-E", "-v", f"file:{self.folder}/out/{name}", "-m", model, *options)
+
+    def remove_printer(self, name):
+        self.run("lpadmin", "-x", name)
+
+    def completed(self):
+        """Printer and number of every job that has been printed, the oldest first."""
+        jobs = [line.split()[0].rsplit("-", 1) for line in self.run("lpstat", "-W", "completed", "-o").splitlines()]
+        return sorted(((printer, int(number)) for printer, number in jobs), key=lambda job: job[1])
+
+    def wait_job(self, count):
+        wait_for(lambda: len(self.completed()) >= count, f"job {count} printed")
+        return self.completed()[-1]
+
+    def attribute(self, job, name):
+        """An attribute of the job as the server tells it."""
+        test = self.folder / "attributes.test"
+        test.write_text('{\nOPERATION Get-Job-Attributes\nGROUP operation-attributes-tag\n'
+                        'ATTR charset attributes-charset utf-8\nATTR language attributes-natural-language en\n'
+                        f'ATTR uri job-uri ipp://{self.address}/jobs/{job}\n'
+                        'ATTR name requesting-user-name tests\nSTATUS successful-ok\nDISPLAY ' + name + '\n}\n')
+        shown = self.run("ipptool", "-tv", f"ipp://{self.address}/jobs/{job}", test)
+        for line in shown.splitlines():
+            if line.strip().startswith(name + " ("):
+                return line.split("=", 1)[1].strip()
+        raise AssertionError(f"job {job} has no {name}: {shown}")
+
+    def document(self, job):
+        return self.folder / "spool" / f"d{job:05d}-001"
+
+    def printed_pages(self, job):
+        """Sheets times copies, as the server counted them."""
+        log = (self.folder / "page_log").read_text()
+        return [line for line in log.splitlines() if line.split()[1] == str(job)]
+
+    def close(self):
+        self.process.send_signal(signal.SIGTERM)
+        try:
+            self.process.wait(10)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+            self.process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
