@@ -9,11 +9,14 @@ namespace {
 using namespace Ledgrove;
 
 void PlainLoop(benchmark::State& state) {
-    Bench::PlainInput input{72000, 350, 0.10, 200000, 206000, 2400, 1700, 0.065};
+    Bench::PlainInput input{72000, 350, 0.10, 200000, 206000, 2400, 1700, 0.065, 0.065};
+    double years = 30;
+    double yearsInHome = 7;
     for (auto _ : state) {
         benchmark::DoNotOptimize(input);
-        benchmark::DoNotOptimize(Bench::ComparePlainly(input));
-        input.GMHCost += 1;
+        benchmark::DoNotOptimize(years);
+        benchmark::DoNotOptimize(yearsInHome);
+        benchmark::DoNotOptimize(Bench::ComparePlainly(input, years, yearsInHome));
     }
 }
 BENCHMARK(PlainLoop);

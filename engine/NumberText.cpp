@@ -274,8 +274,12 @@ std::string StripPercent(std::string_view text) {
     return stripped;
 }
 
+std::optional<double> ReadStrippedNumber(std::string_view text) {
+    return text.find('%') == text.npos ? ReadNumber(text) : ReadNumber(StripPercent(text));
+}
+
 float ParseFieldValue(std::string_view text, double divisor) {
-    const auto number = text.find('%') == text.npos ? ReadNumber(text) : ReadNumber(StripPercent(text));
+    const auto number = ReadStrippedNumber(text);
     return number ? static_cast<float>(*number / divisor) : 0.0F;
 }
 

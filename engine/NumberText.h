@@ -16,7 +16,10 @@ std::optional<double> ReadNumber(std::string_view text);
 /// The text without any "%", all other characters in order.
 std::string StripPercent(std::string_view text);
 
-/// The text without "%" as a number, divided by `divisor` (100 turns a percent into a fraction) and rounded
+/// The text without "%" as a number.
+std::optional<double> ReadStrippedNumber(std::string_view text);
+
+/// The same, divided by `divisor` (100 turns a percent into a fraction) and rounded
 /// to single precision. A text that is no number gives 0.
 float ParseFieldValue(std::string_view text, double divisor);
 

@@ -120,7 +120,7 @@ EntryOutcome LeaveHighEnd(EntryContext& context, AssumptionsScreen& dialog, std:
         return EntryOutcome::Refused;
     // Nothing follows the last row, which has no upper limit.
     if (row + 1 < TaxRowCount) {
-        const double nextLowEnd = ReadNumber(StripPercent(highEnd.Text)).value_or(0) + 1;
+        const double nextLowEnd = ReadStrippedNumber(highEnd.Text).value_or(0) + 1;
         dialog.ecLowEnd[row + 1].Text = FormatPicture(nextLowEnd, "$###,##0");
     }
     return EntryOutcome::Accepted;

@@ -18,7 +18,7 @@ void FormatEntry(Session& session, Field& field, FormatType type) {
 std::string FieldComplaint(std::string_view text, FormatType type) {
     if (text.empty() || type == "String")
         return {};
-    const auto number = ReadNumber(StripPercent(text));
+    const auto number = ReadStrippedNumber(text);
     if (!number)
         return "You must enter a number here.";
     return *number < 0 ? "You must enter a positive number here." : "";

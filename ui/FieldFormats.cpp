@@ -17,7 +17,7 @@ std::string FormatFieldText(std::string_view text, FormatType type) {
     if (type == "Whole")
         return FormatPicture(ReadNumber(text).value_or(0), "###,##0");
 
-    const double value = ReadNumber(StripPercent(text)).value_or(0);
+    const double value = ReadStrippedNumber(text).value_or(0);
     if (type == "Dollar")
         return FormatPicture(value, "$###,##0");
     if (type == "IntRate")

@@ -1,68 +1,66 @@
 #include "app/batch/JsonInput.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <string>
-#include <utility>
 
-#include <nlohmann/json.hpp>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 
 namespace Ledgrove {
 
 namespace {
 
 /// Takes the values as the parser meets them, so that no tree is built.
-class InputHandler : public nlohmann::json_sax<nlohmann::json> {
+class InputHandler {
 public:
+    using Ch = char;
+
     explicit InputHandler(InputRecord& inputs)
         : m_inputs(inputs) {}
 
     const std::optional<Refusal>& Fault() const { return m_refusal; }
-    std::size_t BadPosition() const { return m_badPosition; }
 
-    bool null() override { return RefuseValue("null"); }
-    bool boolean(bool value) override { return Take(InputKind::Boolean, value ? "true" : "false"); }
-    bool number_integer(number_integer_t value) override {
-        return Take(InputKind::Number, std::to_string(value));
+    bool Null() { return RefuseValue("null"); }
+    bool Bool(bool value) { return Take(InputKind::Boolean, value ? "true" : "false"); }
+    bool RawNumber(const Ch* text, rapidjson::SizeType length, bool) {
+        return Take(InputKind::Number, {text, length});
     }
-    bool number_unsigned(number_unsigned_t value) override {
-        return Take(InputKind::Number, std::to_string(value));
+    bool String(const Ch* text, rapidjson::SizeType length, bool) {
+        return Take(InputKind::Text, {text, length});
     }
-    bool number_float(number_float_t, const string_t& text) override { return Take(InputKind::Number, text); }
-    bool string(string_t& text) override { return Take(InputKind::Text, text); }
-    bool binary(binary_t&) override { return false; }
-
-    bool start_object(std::size_t) override {
+    bool Key(const Ch* name, rapidjson::SizeType length, bool) {
+        if (m_depth == 1)
+            m_name.assign(name, length);
+        return true;
+    }
+    bool StartObject() {
         if (m_depth > 0)
             RefuseValue("{...}");
         ++m_depth;
         return true;
     }
-    bool end_object() override {
-        --m_depth;
-        return true;
-    }
-    bool start_array(std::size_t) override {
+    bool EndObject(rapidjson::SizeType) { return Leave(); }
+    bool StartArray() {
         RefuseValue("[...]");
         ++m_depth;
         return true;
     }
-    bool end_array() override {
+    bool EndArray(rapidjson::SizeType) { return Leave(); }
+
+    // Numbers arrive as their texts, so these are never called; the parser wants to see them all the same.
+    bool Int(int) { return false; }
+    bool Uint(unsigned) { return false; }
+    bool Int64(std::int64_t) { return false; }
+    bool Uint64(std::uint64_t) { return false; }
+    bool Double(double) { return false; }
+
+private:
+    bool Leave() {
         --m_depth;
         return true;
     }
-    bool key(string_t& name) override {
-        if (m_depth == 1)
-            m_name = name;
-        return true;
-    }
-    bool parse_error(std::size_t position, const std::string&, const nlohmann::detail::exception&) override {
-        m_badPosition = position;
-        return false;
-    }
 
-private:
     bool Take(InputKind kind, std::string_view text) {
         if (m_depth > 1)
             return true;
@@ -97,14 +95,13 @@ private:
     std::optional<Refusal> m_refusal;
     std::string m_name;
     int m_depth = 0;
-    std::size_t m_badPosition = 0;
 };
 
 Refusal MalformedJson(std::string_view json, std::size_t position) {
     const std::string_view before = json.substr(0, std::min(position, json.size()));
     const auto line = 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
     return {line, "", "",
-            "This is malformed JSON (at character " + std::to_string(position) +
+            "This is malformed JSON (at character " + std::to_string(position + 1) +
                 "). Write a JSON object, such as {\"ecIncome\": \"72000\"}."};
 }
 
@@ -112,9 +109,18 @@ Refusal MalformedJson(std::string_view json, std::size_t position) {
 
 std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs) {
     inputs.Clear();
+    // The parser takes this byte for the end of the text.
+    if (const std::size_t nul = json.find('\0'); nul != json.npos)
+        return MalformedJson(json, nul);
+    // Iterative, so that deep nesting costs no stack.
+    constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag |
+                               rapidjson::kParseValidateEncodingFlag;
+    rapidjson::MemoryStream stream(json.data(), json.size());
+    rapidjson::Reader reader;
     InputHandler handler(inputs);
-    if (!nlohmann::json::sax_parse(json.begin(), json.end(), &handler))
-        return MalformedJson(json, handler.BadPosition());
+    const rapidjson::ParseResult result = reader.Parse<flags>(stream, handler);
+    if (result.IsError())
+        return MalformedJson(json, result.Offset());
     auto refusal = handler.Fault();
     if (refusal)
         refusal->Line = 1;
