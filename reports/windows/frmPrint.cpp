@@ -20,8 +20,6 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr const char* emblemFile = "LedgroveEmblem.png";
-
 QComboBox* MakePickList(const char* control, const QString& description) {
     auto* list = new QComboBox;
     IdentifyByDescription(*list, control, description);
@@ -138,7 +136,7 @@ QLayout* frmPrint::MakeHeader() {
     Identify(*picture, "imgHdr", "Ledgrove");
     picture->setFixedSize(64, 56);
     picture->setAlignment(Qt::AlignCenter);
-    ShowFitted(*picture, LoadPicture(State().Folder / emblemFile));
+    ShowFitted(*picture, LoadPicture(State().EmblemFile()));
 
     m_printers->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_printers->setMinimumContentsLength(22);

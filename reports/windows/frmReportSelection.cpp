@@ -115,8 +115,7 @@ void frmReportSelection::Preview() {
     const auto write = [this, &assumptions, sections](PrintDocument& document) {
         const Session& session = State();
         const auto logo = LogoPicture(session, Module1::StoredLogoOption(session));
-        modPrint::WriteReport(document,
-                              {session, assumptions, sections, session.Folder / "LedgroveEmblem.png", logo});
+        modPrint::WriteReport(document, {session, assumptions, sections, session.EmblemFile(), logo});
     };
     frmPrint({write, m_machine}, State(), Outside(), this).exec();
 }
