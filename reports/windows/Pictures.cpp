@@ -12,7 +12,7 @@ namespace Ledgrove {
 namespace {
 
 constexpr qint64 largestFile = 64LL * 1024 * 1024;
-constexpr qint64 mostPixels = 16LL * 1000 * 1000;
+constexpr qint64 mostPixels = 12LL * 1000 * 1000; // 48 MB at four bytes a pixel
 
 bool IsSensible(const QSize& size) {
     return size.width() > 0 && size.height() > 0 && qint64{size.width()} * size.height() <= mostPixels;

@@ -9,7 +9,7 @@ namespace Ledgrove {
 
 /// The picture in `bytes`, told by its content whatever its file was called: BMP (RLE-compressed too), ICO
 /// (its largest image), WMF, PNG. Null for anything else, and for a picture that is cut short, damaged or
-/// larger than 16 million pixels.
+/// larger than 12 million pixels.
 QImage ReadPicture(const QByteArray& bytes);
 
 /// The picture of a file, null where there is none. Files above 64 MB are not read.
