@@ -101,12 +101,13 @@ TEST(ReadPicture, ACutBmpIsNone) {
 }
 
 TEST(ReadPicture, ImpossibleSizesAreNone) {
-    for (const BmpShape& shape :
-         {BmpShape{0, 5, 24}, BmpShape{-5, 5, 24}, BmpShape{60000, 60000, 24},
-          BmpShape{2000000000, 2000000000, 32}, BmpShape{5, 5, 0}, BmpShape{5, 5, 77},
-          BmpShape{60000, 60000, 8, 1}, BmpShape{4000, 4000, 8, 1}, BmpShape{4, 2, 24, 1}})
+    for (const BmpShape& shape : {BmpShape{0, 5, 24}, BmpShape{-5, 5, 24}, BmpShape{60000, 60000, 24},
+                                  BmpShape{2000000000, 2000000000, 32}, BmpShape{5, 5, 0}, BmpShape{5, 5, 77},
+                                  BmpShape{60000, 60000, 8, 1}, BmpShape{4, 2, 24, 1}})
         EXPECT_TRUE(ReadPicture(MakeBmp(shape, QByteArray(64, '\0'))).isNull())
             << shape.Width << 'x' << shape.Height;
+    // A few bytes that claim more pixels than memory should hold.
+    EXPECT_TRUE(ReadPicture(MakeBmp({4000, 4000, 8, 1}, QByteArray::fromHex("0001"))).isNull());
     EXPECT_TRUE(
         ReadPicture(MakeBmp({4, 2, 8, 1}, QByteArray::fromHex("FF000001"))).isNull()); // runs off the line
 }
