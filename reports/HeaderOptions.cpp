@@ -1,6 +1,7 @@
 #include "reports/HeaderOptions.h"
 
 #include "engine/Recalculate.h"
+#include "reports/modPrint.h"
 #include "settings/HeaderSettings.h"
 
 namespace Ledgrove::Module1 {
@@ -8,16 +9,11 @@ namespace Ledgrove::Module1 {
 std::optional<SettingsFault> FillHeaderOptions(HeaderOptions& dialog, const Session& session) {
     const SettingsFile file(session.Folder);
     dialog.txtHomeBuyer.Text = session.Header.HomeBuyer;
-    dialog.ecLogoFile.Text = ReportHeader{}.LogoFile;
-    const auto logoFile = GetLogoFile(file);
-    if (!logoFile)
-        return logoFile.Fault();
-    if (!logoFile->empty())
-        dialog.ecLogoFile.Text = *logoFile;
-    const auto builderName = GetBuilderName(file);
-    if (!builderName)
-        return builderName.Fault();
-    dialog.ecBuilderName.Text = *builderName;
+    ReportHeader header;
+    if (auto fault = LoadReportHeader(file, header))
+        return fault;
+    dialog.ecLogoFile.Text = header.LogoFile;
+    dialog.ecBuilderName.Text = header.BuilderName;
     if (auto fault = GetFeatures(file, dialog.Features))
         return fault;
     dialog.cboUserLogoOptions = StoredLogoOption(session);
@@ -25,13 +21,8 @@ std::optional<SettingsFault> FillHeaderOptions(HeaderOptions& dialog, const Sess
 }
 
 LogoView ViewOfLogo(const HeaderOptions& dialog, const std::filesystem::path& folder) {
-    if (dialog.cboUserLogoOptions == 1)
-        return {false, folder / "GenericHouseLogo.bmp"};
-    if (dialog.cboUserLogoOptions != 2)
-        return {};
-    const std::string& named = dialog.ecLogoFile.Text;
-    const bool isNamed = !named.empty() && named != ReportHeader{}.LogoFile;
-    return {true, isNamed ? folder / named : std::filesystem::path()};
+    return {dialog.cboUserLogoOptions == 2,
+            LogoPicture(folder, dialog.cboUserLogoOptions, dialog.ecLogoFile.Text)};
 }
 
 std::optional<SettingsFault> ConfirmHeaderOptions(const HeaderOptions& dialog, Session& session) {

@@ -5,15 +5,19 @@
 
 namespace Ledgrove {
 
-std::filesystem::path LogoPicture(const Session& session, int logoOption) {
+std::filesystem::path LogoPicture(const std::filesystem::path& folder, int logoOption,
+                                  const std::string& logoFile) {
     if (logoOption == 1)
-        return session.Folder / "GenericHouseLogo.bmp";
-    const std::string& own = session.Header.LogoFile;
+        return folder / "GenericHouseLogo.bmp";
     // A path that does not begin at the root begins in the program's folder, wherever the program was
     // started.
-    if (logoOption == 2 && !own.empty() && own != ReportHeader{}.LogoFile)
-        return session.Folder / own;
+    if (logoOption == 2 && !logoFile.empty() && logoFile != ReportHeader{}.LogoFile)
+        return folder / logoFile;
     return {};
+}
+
+std::filesystem::path LogoPicture(const Session& session, int logoOption) {
+    return LogoPicture(session.Folder, logoOption, session.Header.LogoFile);
 }
 
 } // namespace Ledgrove

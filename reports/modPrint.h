@@ -5,6 +5,7 @@
 #include "ui/AssumptionsScreen.h"
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 // The printed "Summary Report", written onto an open print document from what the screens show. Nothing is
@@ -30,6 +31,10 @@ struct ReportContent {
 
 /// The top-right picture of a logo choice: 1 the generic house in the program's folder, 2 the user's own file
 /// unless it was never named, any other none (an empty path).
+std::filesystem::path LogoPicture(const std::filesystem::path& folder, int logoOption,
+                                  const std::string& logoFile);
+
+/// The same for the session's own header.
 std::filesystem::path LogoPicture(const Session& session, int logoOption);
 
 } // namespace Ledgrove

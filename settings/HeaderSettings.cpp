@@ -46,6 +46,19 @@ Outcome<std::string> GetHelpFile(const SettingsFile& file) {
     return GetTrimmedText(file, Key::HelpFile, "");
 }
 
+std::optional<SettingsFault> LoadReportHeader(const SettingsFile& file, ReportHeader& header) {
+    const auto logoFile = GetLogoFile(file);
+    if (!logoFile)
+        return logoFile.Fault();
+    if (!logoFile->empty())
+        header.LogoFile = *logoFile;
+    const auto builderName = GetBuilderName(file);
+    if (!builderName)
+        return builderName.Fault();
+    header.BuilderName = *builderName;
+    return std::nullopt;
+}
+
 std::optional<SettingsFault> GetFeatures(const SettingsFile& file, FeatureTexts& features) {
     features = FeatureTexts{};
     const Outcome<FileLines> lines = file.ReadLines(SettingsFile::WhenMissing::CreateEmpty);

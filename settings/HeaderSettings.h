@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/TypeDeclarations.h"
+#include "engine/Session.h"
 #include "settings/SettingsFile.h"
 
 #include <cstdint>
@@ -27,6 +27,9 @@ Outcome<std::string> GetHelpFile(const SettingsFile& file);
 /// The texts with all their blanks, one blank for a missing key. A missing settings file is created empty. On
 /// a fault the features are the defaults.
 std::optional<SettingsFault> GetFeatures(const SettingsFile& file, FeatureTexts& features);
+
+/// Reads builder name and logo file into the header, which keeps its logo file where none is named.
+std::optional<SettingsFault> LoadReportHeader(const SettingsFile& file, ReportHeader& header);
 
 /// What the options dialog saves: its two fields, and builder name and logo file of the print options dialog.
 struct OptionsTexts {

@@ -6,16 +6,8 @@ namespace Ledgrove::Module1 {
 
 std::optional<SettingsFault> FillOptions(OptionsScreen& dialog, Session& session) {
     const SettingsFile file(session.Folder);
-    const auto logoFile = GetLogoFile(file);
-    if (!logoFile)
-        return logoFile.Fault();
-    if (!logoFile->empty())
-        session.Header.LogoFile = *logoFile;
-    const auto builderName = GetBuilderName(file);
-    if (!builderName)
-        return builderName.Fault();
-    session.Header.BuilderName = *builderName;
-
+    if (auto fault = LoadReportHeader(file, session.Header))
+        return fault;
     FeatureTexts features;
     if (auto fault = GetFeatures(file, features))
         return fault;

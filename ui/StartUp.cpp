@@ -41,16 +41,7 @@ std::optional<SettingsFault> LoadHeader(Session& session, const SettingsFile& fi
     if (!helpFile)
         return helpFile.Fault();
     session.HelpFile = *helpFile;
-    const auto logoFile = GetLogoFile(file);
-    if (!logoFile)
-        return logoFile.Fault();
-    if (!logoFile->empty())
-        session.Header.LogoFile = *logoFile;
-    const auto builderName = GetBuilderName(file);
-    if (!builderName)
-        return builderName.Fault();
-    session.Header.BuilderName = *builderName;
-    return std::nullopt;
+    return LoadReportHeader(file, session.Header);
 }
 
 } // namespace
