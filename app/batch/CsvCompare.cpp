@@ -58,29 +58,6 @@ bool LooksLikeFormula(std::string_view cell) {
            !Module1::ReadNumber(cell);
 }
 
-void AppendHeading(std::string& out, const std::vector<std::string>& heading) {
-    for (const std::string& name : heading) {
-        AppendCsvCell(out, name);
-        out += ',';
-    }
-    for (const ResultColumn& column : resultColumns)
-        out.append(column.Name).append(",");
-    out.append(lblStdQualColumn)
-        .append(",")
-        .append(lblGMHQualColumn)
-        .append(",")
-        .append(errorColumn)
-        .append("\n");
-}
-
-void AppendResults(std::string& out, const Session& session) {
-    for (const ResultColumn& column : resultColumns) {
-        out += Module1::FormatPicture(column.Value(session), "0.00");
-        out += ',';
-    }
-    out.append(session.Screen.lblStdQual.Text).append(",").append(session.Screen.lblGMHQual.Text).append(",");
-}
-
 /// Empty results and the reason in the last column.
 void AppendRefusal(std::string& out, const Refusal& refusal) {
     out.append(columnsBehindInputs - 1, ',');
@@ -97,8 +74,35 @@ std::string CapitalOff(std::string_view text) {
 
 } // namespace
 
+void AppendCsvHeading(std::string& out, const std::vector<std::string>& heading) {
+    for (const std::string& name : heading) {
+        AppendCsvCell(out, name);
+        out += ',';
+    }
+    for (const ResultColumn& column : resultColumns)
+        out.append(column.Name).append(",");
+    out.append(lblStdQualColumn)
+        .append(",")
+        .append(lblGMHQualColumn)
+        .append(",")
+        .append(errorColumn)
+        .append("\n");
+}
+
+void AppendCsvResults(std::string& out, const Session& session) {
+    for (const ResultColumn& column : resultColumns) {
+        out += Module1::FormatPicture(column.Value(session), "0.00");
+        out += ',';
+    }
+    out.append(session.Screen.lblStdQual.Text).append(",").append(session.Screen.lblGMHQual.Text).append(",");
+}
+
+std::string DefusedCell(std::string_view cell) {
+    return LooksLikeFormula(cell) ? "'" + std::string(cell) : std::string(cell);
+}
+
 void AppendCsvCell(std::string& out, std::string_view cell) {
-    const std::string defused = LooksLikeFormula(cell) ? "'" + std::string(cell) : std::string(cell);
+    const std::string defused = DefusedCell(cell);
     if (defused.find_first_of(",\"\r\n") == std::string::npos) {
         out += defused;
         return;
@@ -143,7 +147,7 @@ void CsvReader::TakeRow(OutputBuffer& output) {
     if (!m_headingRead) {
         m_headingRead = true;
         m_heading = std::move(m_row);
-        AppendHeading(out, m_heading);
+        AppendCsvHeading(out, m_heading);
     } else {
         const auto refusal = Compare();
         m_row.resize(std::max(m_row.size(), m_heading.size()));
@@ -154,7 +158,7 @@ void CsvReader::TakeRow(OutputBuffer& output) {
         if (refusal)
             AppendRefusal(out, *refusal);
         else
-            AppendResults(out, m_comparison.State());
+            AppendCsvResults(out, m_comparison.State());
         m_allWell = m_allWell && !refusal;
         out += '\n';
     }

@@ -30,8 +30,17 @@ private:
     bool m_allWell = true;
 };
 
-/// `cell` as CSV: quoted where it must be, and with an apostrophe in front where a spreadsheet would take it
-/// for a formula (it begins with "=", "+", "-", "@", a tab or a carriage return and is no number).
+/// The heading row: the inputs' names, then the results' and "error".
+void AppendCsvHeading(std::string& out, const std::vector<std::string>& inputs);
+
+/// The results behind the inputs of a comparison that was not refused. No line end.
+void AppendCsvResults(std::string& out, const Session& session);
+
+/// `cell` with an apostrophe in front where a spreadsheet would take it for a formula (it begins with "=",
+/// "+", "-", "@", a tab or a carriage return and is no number).
+std::string DefusedCell(std::string_view cell);
+
+/// `cell` as CSV: defused, and quoted where it must be.
 void AppendCsvCell(std::string& out, std::string_view cell);
 
 } // namespace Ledgrove

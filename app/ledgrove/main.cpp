@@ -7,6 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "app/window/CurrentFile.h"
+#include "app/window/MainMenu.h"
 #include "reports/windows/PrintAction.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
@@ -37,11 +39,12 @@ int Refuse(const QString& sentence) {
     return CannotStart;
 }
 
-int ShowWindow(const std::filesystem::path& folder) {
+/// `file` is a comparison to open, "" for none.
+int ShowWindow(const std::filesystem::path& folder, const QString& file) {
     QApplication::setWindowIcon(Ledgrove::HousePicture(64));
     Ledgrove::Session session;
     Ledgrove::QtHost host;
-    if (const auto fault = Ledgrove::Module1::LoadMainScreen(session, host, folder)) {
+    if (const auto fault = Ledgrove::Module1::OpenMainScreen(session, host, folder)) {
         QMessageBox box(QMessageBox::Critical, Ledgrove::ApplicationTitle,
                         QString::fromStdString(Ledgrove::Sentence(*fault)));
         box.setTextFormat(Qt::PlainText);
@@ -52,7 +55,13 @@ int ShowWindow(const std::filesystem::path& folder) {
     actions.Print = Ledgrove::PrintAction(session, host);
     Ledgrove::frmMain window(session, host, std::move(actions));
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
+    const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
+    auto* current = new Ledgrove::CurrentFile(window, session, host,
+                                              Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
+    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
     window.show();
+    if (!file.isEmpty())
+        current->OpenNamed(file);
     return QCoreApplication::exec();
 }
 
@@ -74,17 +83,18 @@ int main(int argc, char* argv[]) {
                                           "The folder where Ledgrove.ini lies; the program's own by default.",
                                           "DIR", QCoreApplication::applicationDirPath());
     parser.addOption(folderOption);
+    parser.addPositionalArgument("FILE", "A comparison to open (*.ledgrove.json).", "[FILE]");
     if (!parser.parse(QCoreApplication::arguments()))
         return Refuse(parser.errorText() + " See ledgrove --help.");
     if (parser.isSet("help"))
         parser.showHelp();
     if (parser.isSet("version"))
         parser.showVersion();
-    if (!parser.positionalArguments().isEmpty())
-        return Refuse("Ledgrove opens no file: " + parser.positionalArguments().first() +
-                      ". See ledgrove --help.");
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        return Refuse("Ledgrove opens one comparison at a time. See ledgrove --help.");
     if (!hasDisplay)
         return Refuse(
             "Ledgrove needs a display, and there is none. ledgrove-cli compares homes without one.");
-    return ShowWindow(std::filesystem::absolute(parser.value(folderOption).toStdString()));
+    return ShowWindow(std::filesystem::absolute(parser.value(folderOption).toStdString()), files.value(0));
 }

@@ -74,6 +74,10 @@ void EntryField::Refresh() {
         ShowText(*this, m_field->Text);
 }
 
+bool EntryField::CommitInPlace() {
+    return !m_events.LostFocus || m_events.LostFocus() == EntryOutcome::Accepted;
+}
+
 bool EntryField::Commit(KeyCode key) {
     return !m_events.KeyPress || m_events.KeyPress(key) == EntryOutcome::Accepted;
 }

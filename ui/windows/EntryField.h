@@ -48,6 +48,10 @@ public:
     /// Shows the bound field's text as it is now.
     void Refresh();
 
+    /// Takes what was typed as leaving the field would, without moving. False when it was refused; the person
+    /// has then been told why.
+    bool CommitInPlace();
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -45,7 +45,7 @@ struct HomeRow {
 constexpr std::array<HomeRow, 4> fieldRows{
     {{"&Sticker Price:", "Sticker Price", "ecStdHome", "ecGMHHome"},
      {"Annual &Utility Cost:", "Annual Utility Cost", "ecStdUtil", "ecGMHUtil"},
-     {"Interest &Rate:", "Interest Rate", "ecStdRate", "ecGMHRate"},
+     {"Interest R&ate:", "Interest Rate", "ecStdRate", "ecGMHRate"},
      {"Mort&gage Stretch:", "Mortgage Stretch", "ecStdStr", "ecGMHStr"}}};
 
 QString HumanName(const char* caption, const char* column) {
@@ -64,7 +64,7 @@ void AddDownPayment(QGridLayout& grid, QWidget* parent) {
     options->setObjectName("optDownPayment");
     auto* percent = new QRadioButton("% &Down");
     Identify(*percent, "optDownPayment0", "% Down");
-    auto* fixed = new QRadioButton("or Fix&ed $");
+    auto* fixed = new QRadioButton("or Fi&xed $");
     Identify(*fixed, "optDownPayment1", "or Fixed $");
     options->addButton(percent, 0);
     options->addButton(fixed, 1);
@@ -78,7 +78,7 @@ void AddDownPayment(QGridLayout& grid, QWidget* parent) {
 
 /// The house scenario's button and name above the columns, and the columns' heads.
 void AddHomeHeads(QGridLayout& grid) {
-    QPushButton* houses = MakeButton("bHouses", "&House Scenarios");
+    QPushButton* houses = MakeButton("bHouses", "House Scenarios");
     houses->setIcon(HousePicture(16));
     // A house may have a name of any length.
     auto* name = new ElidedLabel;
@@ -112,7 +112,7 @@ QWidget* MainInputs::MakeBuyer() {
     grid->addWidget(MakeCaption("Monthly De&bt", debt), 1, 0);
     grid->addWidget(debt, 1, 1);
     AddDownPayment(*grid, group);
-    auto* taxes = new QCheckBox("Include Ta&xes in");
+    auto* taxes = new QCheckBox("I&nclude Taxes in");
     Identify(*taxes, "chkDoTax0", "Include Taxes in");
     grid->addWidget(taxes, grid->rowCount(), 0, 1, 2);
     grid->setRowStretch(grid->rowCount(), 1);
@@ -127,10 +127,10 @@ QWidget* MainInputs::MakeHomes() {
     for (const HomeRow& row : fieldRows)
         AddHomeRow(*grid, row.Caption, MakeField(row.Base, HumanName(row.Human, baseHome)),
                    MakeField(row.Labelled, HumanName(row.Human, labelledHome)));
-    AddHomeRow(*grid, "&Term:", MakePickList("cboMortTerm", HumanName("Term", baseHome)),
+    AddHomeRow(*grid, "Te&rm:", MakePickList("cboMortTerm", HumanName("Term", baseHome)),
                MakeDisplay("ecGMHTerm", HumanName("Term", labelledHome)));
     AddHomeRow(*grid,
-               "Mortgage Optio&n:", MakePickList("cboStdMortOption", HumanName("Mortgage Option", baseHome)),
+               "Mortgage &Option:", MakePickList("cboStdMortOption", HumanName("Mortgage Option", baseHome)),
                MakePickList("cboGMHMortOption", HumanName("Mortgage Option", labelledHome)));
     grid->setRowStretch(grid->rowCount(), 1);
     grid->setColumnStretch(1, 1);
@@ -148,10 +148,10 @@ QWidget* MainInputs::MakeButtons() {
     financing->setAlignment(Qt::AlignCenter);
     layout->addWidget(financing);
     layout->addStretch();
-    layout->addWidget(MakeButton("Command1", "&Financial Assumptions"));
-    layout->addWidget(MakeButton("bSysOpt", "&Options"));
+    layout->addWidget(MakeButton("Command1", "Financial Assumptions"));
+    layout->addWidget(MakeButton("bSysOpt", "Options"));
     layout->addWidget(MakeButton("bPrint", "&Print Reports"));
-    layout->addWidget(MakeButton("bDisclaimer", "Disc&laimer"));
+    layout->addWidget(MakeButton("bDisclaimer", "Disclaimer"));
     layout->addWidget(MakeButton("bHelp", "Help"));
     return column;
 }

@@ -1,6 +1,7 @@
 #include "ui/windows/MainKeys.h"
 
 #include <QCoreApplication>
+#include <QMenuBar>
 #include <utility>
 
 namespace Ledgrove {
@@ -16,9 +17,9 @@ MainKeys::MainKeys(QWidget& window, EntryFocus& focus, std::function<void()> hel
 bool MainKeys::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress)
         return false;
-    // An open pick list or menu is a window of its own and keeps its keys.
+    // An open pick list or menu is a window of its own and keeps its keys; the menu bar keeps them too.
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (!widget || widget->window() != &m_window)
+    if (!widget || widget->window() != &m_window || qobject_cast<const QMenuBar*>(widget))
         return false;
     return Take(static_cast<QKeyEvent&>(*event));
 }

@@ -243,7 +243,7 @@ ResultPanels::ResultPanels(QWidget* parent)
     // A click on a tab takes the focus, so that the field being left is committed before its results are
     // shown.
     tabBar()->setFocusPolicy(Qt::StrongFocus);
-    const char* mnemonics[TabCount] = {"&Welcome", "&Cash Flow", "&More Home", "&Affordability", "Summar&y"};
+    const char* mnemonics[TabCount] = {"&Welcome", "&Cash Flow", "&More Home", "Affordabi&lity", "Summar&y"};
     constexpr int moreHome = 2;
     QWidget* panels[TabCount] = {MakeWelcome(), MakeCashFlow(), MakeMoreHome(), MakeAffordability(),
                                  MakeSummary()};

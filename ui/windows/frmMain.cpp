@@ -51,6 +51,12 @@ frmMain::~frmMain() = default;
 
 void frmMain::Refresh() {
     m_binding->Refresh();
+    emit Refreshed();
+}
+
+bool frmMain::CommitEntry() {
+    auto* field = qobject_cast<EntryField*>(focusWidget());
+    return !field || field->CommitInPlace();
 }
 
 void frmMain::BuildControls() {

@@ -36,7 +36,12 @@ public:
     /// Shows the record again after it was changed elsewhere.
     void Refresh();
 
+    /// Takes what is being typed into the focused field as leaving it would. False when it was refused.
+    bool CommitEntry();
+
 signals:
+    /// The record was shown again: any of its texts may have changed.
+    void Refreshed();
     void Closed();
 
 protected:

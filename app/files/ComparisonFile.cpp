@@ -1,0 +1,96 @@
+#include "app/files/ComparisonFile.h"
+
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+
+#include "app/batch/ObjectInput.h"
+#include "app/files/ScreenInputs.h"
+#include "engine/Recalculate.h"
+#include "ui/MainScreenRules.h"
+
+namespace Ledgrove {
+
+namespace {
+
+rapidjson::SizeType Length(std::string_view text) {
+    return static_cast<rapidjson::SizeType>(text.size());
+}
+
+/// The tab stays where it is: a file says nothing of it.
+void PutScreen(Session& session, const Session& from) {
+    const int tab = session.Screen.SSTab1;
+    const auto panels = session.Screen.DetlFrame;
+    session.Screen = from.Screen;
+    session.Screen.SSTab1 = tab;
+    session.Screen.DetlFrame = panels;
+    session.Scenario = from.Scenario;
+    session.StdCase = from.StdCase;
+    session.GMHCase = from.GMHCase;
+    session.ChosenHouse = {};
+}
+
+/// The state that a comparison starts from: a fresh screen on the tables as they are now.
+Session FreshSession(const Session& session, const Session& start) {
+    Session fresh = session;
+    PutScreen(fresh, start);
+    return fresh;
+}
+
+std::string RefusalSentence(const std::filesystem::path& file, const Refusal& refusal) {
+    std::string sentence = "\"" + file.string() + "\" is not a comparison that Ledgrove can open. ";
+    if (!refusal.Control.empty())
+        sentence += refusal.Control + " \"" + refusal.Value + "\": ";
+    return sentence + refusal.Message;
+}
+
+/// Opening a file is not choosing an option, so what is said at that choice stays unsaid.
+void ShowNotices(const Comparison& comparison, Host& host) {
+    const auto atChoice = Module1::OptionMessage(comparison.State().Screen.cboGMHMortOption.Text());
+    for (const Message& message : comparison.Messages()) {
+        if (!atChoice || message.Text != atChoice->Text)
+            host.ShowMessage(message);
+    }
+}
+
+} // namespace
+
+std::string ComparisonText(const MainScreen& screen) {
+    const InputRecord inputs = ScreenInputs(screen);
+    rapidjson::StringBuffer buffer;
+    rapidjson::PrettyWriter<rapidjson::StringBuffer> writer(buffer);
+    writer.SetIndent(' ', 2);
+    writer.StartObject();
+    for (const std::string_view name : InputNames) {
+        const InputValue& value = inputs.At(name);
+        if (!value.Present)
+            continue;
+        writer.Key(name.data(), Length(name));
+        if (value.Kind == InputKind::Text)
+            writer.String(value.Text.data(), Length(value.Text));
+        else
+            writer.RawValue(value.Text.data(), value.Text.size(), rapidjson::kNumberType);
+    }
+    writer.EndObject();
+    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+}
+
+void NewComparison(Session& session, const Session& start, Host& host) {
+    PutScreen(session, start);
+    Module1::Recalculate(session, host);
+    Module1::RefreshFeatureCaptions(session);
+}
+
+std::optional<std::string> OpenComparison(const std::filesystem::path& file, Session& session,
+                                          const Session& start, Host& host) {
+    Comparison comparison(FreshSession(session, start));
+    const ObjectInput input = RunObjectFile(file.string(), comparison);
+    if (!input.Unreadable.empty())
+        return input.Unreadable;
+    if (input.Refused)
+        return RefusalSentence(file, *input.Refused);
+    PutScreen(session, comparison.State());
+    ShowNotices(comparison, host);
+    return std::nullopt;
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QWidget>
+
+namespace Ledgrove {
+
+/// What the program is, its version and its licence.
+void ShowAbout(QWidget& above);
+
+} // namespace Ledgrove
