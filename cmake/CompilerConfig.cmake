@@ -20,6 +20,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # g++ 12 warns of overlapping copies inside std::string itself (GCC bug 105651).
     target_compile_options(ledgrove_compiler INTERFACE -Wno-restrict)
 endif()
+# What users run names no folder of the machine that built it.
+target_compile_options(ledgrove_compiler INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
 if(LEDGROVE_WERROR)
     target_compile_options(ledgrove_compiler INTERFACE -Werror)
 endif()
@@ -28,4 +30,8 @@ if(LEDGROVE_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_compile_definitions(ledgrove_compiler INTERFACE _GLIBCXX_ASSERTIONS)
     target_link_options(ledgrove_compiler INTERFACE -fsanitize=address,undefined)
+endif()
+if(LEDGROVE_FUZZ)
+    target_compile_options(ledgrove_compiler INTERFACE -fsanitize=fuzzer-no-link
+        -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/tests/fuzz/ignored.txt)
 endif()

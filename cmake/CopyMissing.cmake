@@ -1,11 +1,12 @@
-# Copies the files of the folder FROM that the folder TO does not have.
+# Copies the files of the folder FROM that the folder TO does not have. The help is nobody's work but the program's and is
+# brought up to date.
 file(GLOB_RECURSE names RELATIVE "${FROM}" "${FROM}/*")
 foreach(name IN LISTS names)
     # An interrupted save left the settings in the temporary file: a fresh copy would hide them.
     if(name STREQUAL "Ledgrove.ini" AND EXISTS "${TO}/Pennaro2.INI")
         continue()
     endif()
-    if(NOT EXISTS "${TO}/${name}")
+    if(NOT EXISTS "${TO}/${name}" OR name STREQUAL "LEDGROVE.HLP")
         get_filename_component(folder "${TO}/${name}" DIRECTORY)
         file(COPY "${FROM}/${name}" DESTINATION "${folder}")
     endif()

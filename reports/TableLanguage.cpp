@@ -26,6 +26,8 @@ TableColumn ReadColumn(std::string_view text) {
         text.remove_prefix(1);
     }
     std::from_chars(text.data(), text.data() + text.size(), column.Width);
+    constexpr Twips widest = 100 * TwipsPerInch; // any sum of columns stays a number
+    column.Width = std::clamp(column.Width, 0, widest);
     return column;
 }
 

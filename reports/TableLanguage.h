@@ -16,7 +16,7 @@ struct TableColumn {
 };
 
 /// Columns separated by "|", ended by ";" or the end of the text: an optional mark (">" right, "<" left, "^"
-/// centred) and the width. A width that is no number is 0.
+/// centred) and the width. A width that is no number or less than nothing is 0; none is above 100 inches.
 std::vector<TableColumn> ReadTableFormat(std::string_view format);
 
 using TableRow = std::vector<std::string>;

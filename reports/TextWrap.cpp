@@ -10,13 +10,22 @@ bool StartsCharacter(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
 }
 
-/// The longest beginning, in whole characters, that fits; at least one character. Found by halving, so that a
-/// word of a megabyte is not measured character by character.
+/// More bytes than fit: no character is narrower than a twip or longer than 4 bytes.
+std::size_t TooLongFor(Twips width) {
+    return static_cast<std::size_t>(std::max(width, 1)) * 4 + 1;
+}
+
+/// The longest beginning, in whole characters, that fits; at least one character. Found by doubling and then
+/// halving, so that neither a word nor a paragraph of a megabyte is measured again and again for each line.
 std::size_t FittingLength(std::string_view text, Twips width, const TextStyle& style,
                           const TextMeasure& measure) {
-    // No character is narrower than a twip, so more than `width` characters of up to 4 bytes cannot fit.
-    std::size_t tooLong = std::min(text.size(), static_cast<std::size_t>(std::max(width, 1)) * 4) + 1;
+    const std::size_t most = std::min(text.size() + 1, TooLongFor(width));
     std::size_t fits = 0;
+    std::size_t tooLong = std::min<std::size_t>(64, most);
+    while (tooLong < most && measure.Width(text.substr(0, tooLong), style) <= width) {
+        fits = tooLong;
+        tooLong = std::min(2 * tooLong, most);
+    }
     while (tooLong - fits > 1) {
         const std::size_t middle = fits + (tooLong - fits) / 2;
         (measure.Width(text.substr(0, middle), style) <= width ? fits : tooLong) = middle;
@@ -56,7 +65,7 @@ std::vector<std::string> WrapText(std::string_view text, Twips width, const Text
     for (;;) {
         const std::size_t end = text.find_first_of("\r\n");
         const std::string_view paragraph = text.substr(0, end);
-        if (measure.Width(paragraph, style) <= width)
+        if (paragraph.size() < TooLongFor(width) && measure.Width(paragraph, style) <= width)
             lines.emplace_back(paragraph);
         else
             WrapParagraph(paragraph, width, style, measure, lines);

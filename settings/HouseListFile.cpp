@@ -42,12 +42,17 @@ std::optional<SettingsFault> LoadHomeList(const SettingsFile& file, HouseList& h
     const Outcome<FileLines> lines = file.ReadLines();
     if (!lines)
         return lines.Fault();
-    for (std::size_t i = 0; i < lines->size(); ++i) {
-        const std::string_view line = (*lines)[i].Text;
+    return ReadHomeList(file, *lines, houses);
+}
+
+std::optional<SettingsFault> ReadHomeList(const SettingsFile& file, const FileLines& lines,
+                                          HouseList& houses) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::string_view line = lines[i].Text;
         if (!BelongsTo(line, Key::HomeList))
             continue;
         if (!ReadHouse(ValueOf(line, Key::HomeList), houses.emplace_back()))
-            return BadLine(file, *lines, i, "the four amounts behind the name must be numbers");
+            return BadLine(file, lines, i, "the four amounts behind the name must be numbers");
     }
     return std::nullopt;
 }

@@ -12,6 +12,10 @@ namespace Ledgrove::Module1 {
 /// its line; a list read so far must not be saved, since saving replaces every line.
 std::optional<SettingsFault> LoadHomeList(const SettingsFile& file, HouseList& houses);
 
+/// The same from lines already read; `file` is named in a fault.
+std::optional<SettingsFault> ReadHomeList(const SettingsFile& file, const FileLines& lines,
+                                          HouseList& houses);
+
 /// Drops every `HOMELIST` line, appends one per house with whole amounts, and marks the dialog closed. A name
 /// must not contain a comma.
 std::optional<SettingsFault> WriteHomeList(const SettingsFile& file, const HouseList& houses);

@@ -87,12 +87,17 @@ std::optional<SettingsFault> LoadLoanTypes(const SettingsFile& file, LoanTypeLis
     const Outcome<FileLines> lines = file.ReadLines();
     if (!lines)
         return lines.Fault();
-    for (std::size_t i = 0; i < lines->size(); ++i) {
-        const std::string_view line = (*lines)[i].Text;
+    return ReadLoanTypes(file, *lines, loanTypes);
+}
+
+std::optional<SettingsFault> ReadLoanTypes(const SettingsFile& file, const FileLines& lines,
+                                           LoanTypeList& loanTypes) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::string_view line = lines[i].Text;
         if (!BelongsTo(line, Key::LoanType))
             continue;
         if (!ReadLoanType(ValueOf(line, Key::LoanType), loanTypes.emplace_back()))
-            return BadLine(file, *lines, i, "its number and its two ratios must be numbers");
+            return BadLine(file, lines, i, "its number and its two ratios must be numbers");
     }
     return std::nullopt;
 }

@@ -13,6 +13,10 @@ namespace Ledgrove::Module1 {
 /// empty.
 std::optional<SettingsFault> LoadLoanTypes(const SettingsFile& file, LoanTypeList& loanTypes);
 
+/// The same from lines already read, appended to the list; `file` is named in a fault.
+std::optional<SettingsFault> ReadLoanTypes(const SettingsFile& file, const FileLines& lines,
+                                           LoanTypeList& loanTypes);
+
 /// Drops every `LOANTYPE` line and appends one per record. An empty list is written as one line of an empty
 /// record, so the file always has a line of the key.
 std::optional<SettingsFault> WriteLoanTypes(const SettingsFile& file, const LoanTypeList& loanTypes);

@@ -92,22 +92,6 @@ void CopyLine(const FileLine& line, const RewritePlan& plan, SeenCounts& seen, O
     output.Keep(line);
 }
 
-std::string Rewritten(const FileLines& lines, const RewritePlan& plan) {
-    Output output;
-    SeenCounts seen(plan.Rules.size(), 0);
-    for (const FileLine& line : lines)
-        CopyLine(line, plan, seen, output);
-    for (std::size_t i = 0; i < plan.Rules.size(); ++i) {
-        if (seen[i] > 0)
-            continue;
-        for (const std::string& text : plan.Rules[i].AppendedWhenUnseen)
-            output.Add(text);
-    }
-    for (const std::string& text : plan.AppendedAlways)
-        output.Add(text);
-    return output.Bytes();
-}
-
 } // namespace
 
 std::string SettingLine(std::string_view key, std::string_view value) {
@@ -131,14 +115,27 @@ RewriteRule DropLines(std::string_view key) {
     return {std::string(key), RewriteRule::Match::Drop, {}, {}};
 }
 
+std::string RewrittenBytes(const FileLines& lines, const RewritePlan& plan) {
+    Output output;
+    SeenCounts seen(plan.Rules.size(), 0);
+    for (const FileLine& line : lines)
+        CopyLine(line, plan, seen, output);
+    for (std::size_t i = 0; i < plan.Rules.size(); ++i) {
+        if (seen[i] > 0)
+            continue;
+        for (const std::string& text : plan.Rules[i].AppendedWhenUnseen)
+            output.Add(text);
+    }
+    for (const std::string& text : plan.AppendedAlways)
+        output.Add(text);
+    return output.Bytes();
+}
+
 std::optional<SettingsFault> Rewrite(const SettingsFile& file, const RewritePlan& plan) {
     RewritePlan encoded = plan;
     if (auto refused = EncodePlan(file, encoded))
         return refused;
-    const Outcome<FileLines> lines = file.ReadLines();
-    if (!lines)
-        return lines.Fault();
-    return file.ReplaceContent(Rewritten(*lines, encoded));
+    return file.Update([&](const FileLines& lines) { return RewrittenBytes(lines, encoded); });
 }
 
 } // namespace Ledgrove

@@ -41,9 +41,13 @@ RewriteRule ReplaceOnly(std::string_view key, std::string_view value);
 
 RewriteRule DropLines(std::string_view key);
 
+/// The whole file that the plan makes of these lines. The plan's texts are bytes here, as the file holds
+/// them.
+std::string RewrittenBytes(const FileLines& lines, const RewritePlan& plan);
+
 /// Rewrites the settings file by the plan. Lines of no rule keep their bytes and their ends, new lines end in
 /// CR LF. A text that the file cannot hold (a line break, a character outside Windows-1252) is refused before
-/// anything is written; on every fault but InterruptedSave the old file is whole.
+/// anything is written; on every fault but InterruptedSave and Unconfirmed the old file is whole.
 std::optional<SettingsFault> Rewrite(const SettingsFile& file, const RewritePlan& plan);
 
 } // namespace Ledgrove

@@ -25,7 +25,8 @@ std::string Excerpt(std::string text) {
 }
 
 std::string InterruptedSave(const SettingsFault& fault, const std::string& path) {
-    const std::string remedy = "Your settings are in " + path + ". Rename that file to \"Ledgrove.ini\".";
+    const std::string name = fault.Text.empty() ? "Ledgrove.ini" : fault.Text;
+    const std::string remedy = "Your settings are in " + path + ". Rename that file to " + Quoted(name) + ".";
     if (fault.Reason.empty())
         return "The last save was interrupted. " + remedy;
     return "The saved settings could not be given their name (" + fault.Reason + "). " + remedy;
@@ -45,10 +46,15 @@ std::string Sentence(const SettingsFault& fault) {
         return "The settings file " + path + " cannot be read (" + fault.Reason +
                "). Check that it is an ordinary file and that you may read it.";
     case SettingsFault::Kind::Unwritable:
-        return "The settings were not saved to " +
-               Quoted((fault.Path.parent_path() / "Ledgrove.ini").string()) + ": " + path +
-               " cannot be written (" + fault.Reason +
+        return "The settings were not saved: " + path + " cannot be written (" + fault.Reason +
                "). Check that you may write to that folder and that its disk has room, then save again.";
+    case SettingsFault::Kind::Unconfirmed:
+        return "The settings were written to " + path + ", but the disk did not confirm it (" + fault.Reason +
+               "). Check the disk, then save again.";
+    case SettingsFault::Kind::Busy:
+        return "The settings file " + path +
+               " is in use by another copy of the program, which is saving it. Wait until it has finished or "
+               "end it, then try again.";
     case SettingsFault::Kind::BadLine:
         return "Line " + std::to_string(fault.Line) + " of the settings file " + path + " cannot be used (" +
                fault.Reason + "): " + Excerpt(fault.Text) + ". Correct that line.";

@@ -13,9 +13,12 @@ namespace Ledgrove {
 struct SettingsFault {
     enum class Kind {
         Missing,         ///< there is no settings file: exactly "no such file", no other error
-        InterruptedSave, ///< only the temporary file of a rewrite is there; `Path` names it
+        InterruptedSave, ///< only the temporary file of a rewrite is there; `Path` names it, `Text` is the
+                         ///< file name that it should have
         Unreadable,      ///< the settings file is there but cannot be read
         Unwritable,      ///< the save failed at `Path`; the old settings are whole
+        Unconfirmed,     ///< the new settings are in place, but may not outlive a power cut
+        Busy,            ///< another copy of the program did not finish its save
         BadLine,         ///< `Line` holds `Text`, which does not convert
         MissingKey,      ///< no line of the key in `Text`, which has no default
         RefusedText      ///< `Text` cannot be saved, because of `Reason`

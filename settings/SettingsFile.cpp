@@ -1,82 +1,51 @@
 #include "settings/SettingsFile.h"
 
-#include <array>
+#include "settings/FileAccess.h"
+#include "settings/FolderLock.h"
+#include "settings/Replacement.h"
+
 #include <cerrno>
 #include <cstddef>
-#include <cstdio>
 #include <system_error>
+#include <thread>
+#include <utility>
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace Ledgrove {
 namespace {
 
-constexpr mode_t ordinaryMode = 0666; // less the user's umask
+using namespace std::chrono_literals;
+using Sharing = FolderLock::Sharing;
 
-std::string Describe(int error) {
-    return std::generic_category().message(error);
-}
+constexpr const char* temporaryName = "Pennaro2.INI";
+constexpr mode_t ordinaryMode = 0666;             // less the user's umask
+constexpr std::size_t longestFile = 64UL << 20UL; // far above any settings, far below what memory holds
 
 SettingsFault Fault(SettingsFault::Kind kind, const std::filesystem::path& path, int error) {
     return {kind, path, Describe(error), 0, {}};
 }
 
-/// A file descriptor that is closed at the latest when it leaves its scope.
-class Descriptor {
-public:
-    Descriptor(const std::filesystem::path& path, int flags)
-        : m_number(open(path.c_str(), flags | O_CLOEXEC, ordinaryMode)) {}
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    bool IsOpen() const { return m_number >= 0; }
-    int Number() const { return m_number; }
-
-    /// The error of a failed close, otherwise 0: what was written may get lost there too.
-    int Close() {
-        const int number = m_number;
-        m_number = -1;
-        return number >= 0 && close(number) != 0 ? errno : 0;
-    }
-
-private:
-    int m_number;
-};
-
-/// The error, or 0 at the end of the file.
-int ReadAll(int number, std::string& bytes) {
-    std::array<char, 65536> buffer;
-    while (true) {
-        const ssize_t count = read(number, buffer.data(), buffer.size());
-        if (count == 0)
-            return 0;
-        if (count > 0)
-            bytes.append(buffer.data(), static_cast<std::size_t>(count));
-        else if (errno != EINTR)
-            return errno;
-    }
-}
-
-int WriteAll(int number, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t count = write(number, bytes.data(), bytes.size());
-        if (count > 0)
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        else if (count == 0)
-            return EIO; // no progress and no error: asking again could go on for ever
-        else if (errno != EINTR)
-            return errno;
-    }
-    return 0;
-}
-
-/// A pipe or a device has no end to wait for.
-bool IsOrdinaryFile(int number) {
+/// The whole open file, or why there is none.
+std::optional<std::string> ReadOrdinaryFile(int number, std::string& bytes) {
     struct stat status {};
-    return fstat(number, &status) == 0 && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
+    if (fstat(number, &status) != 0)
+        return Describe(errno);
+    // A pipe or a device has no end to wait for. A folder says itself what it is, at the first read.
+    if (!S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode))
+        return "not an ordinary file";
+    if (const int error = ReadAll(number, bytes, longestFile))
+        return Describe(error);
+    // An end before the end: half the settings must not be taken, and then saved, for all of them. Files that
+    // the system makes up while they are read have no size.
+    if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) != bytes.size())
+        return "its end came before or behind its size";
+    return std::nullopt;
+}
+
+SavePlaces PlacesOf(const std::filesystem::path& path) {
+    const std::filesystem::path file = FollowLinks(path);
+    return {file, file.parent_path() / temporaryName};
 }
 
 } // namespace
@@ -96,7 +65,8 @@ FileLines SplitLines(std::string_view bytes) {
     return lines;
 }
 
-SettingsFile::SettingsFile(const std::filesystem::path& folder) {
+SettingsFile::SettingsFile(const std::filesystem::path& folder, std::chrono::milliseconds patience)
+    : m_patience(patience) {
     // A full path holds even if the current folder changes, and sentences can name it.
     std::error_code error;
     std::filesystem::path full = std::filesystem::absolute(folder.empty() ? "." : folder, error);
@@ -109,73 +79,146 @@ SettingsFile::SettingsFile(const std::filesystem::path& folder) {
             plain /= part;
     }
     m_path = plain / "Ledgrove.ini";
-    m_temporaryPath = plain / "Pennaro2.INI";
+}
+
+std::filesystem::path SettingsFile::TemporaryPath() const {
+    return PlacesOf(m_path).Temporary;
 }
 
 Outcome<FileLines> SettingsFile::ReadLines(WhenMissing whenMissing) const {
-    // Without O_NONBLOCK a pipe of this name would keep the program waiting.
-    const Descriptor file(m_path, O_RDONLY | O_NONBLOCK);
-    if (!file.IsOpen()) {
-        const SettingsFault fault = OpenFault(errno);
-        if (fault.What != SettingsFault::Kind::Missing || whenMissing == WhenMissing::Fail)
-            return fault;
-        if (const auto failed = CreateEmpty())
-            return *failed;
-        return ReadLines(WhenMissing::Fail);
-    }
-    if (!IsOrdinaryFile(file.Number()))
-        return SettingsFault{SettingsFault::Kind::Unreadable, m_path, "not an ordinary file", 0, {}};
-    std::string bytes;
-    if (const int error = ReadAll(file.Number(), bytes))
-        return Fault(SettingsFault::Kind::Unreadable, m_path, error);
-    return SplitLines(bytes);
+    auto lines = ReadUnder(*LockForReading());
+    const bool isMissing = !lines && lines.Fault().What == SettingsFault::Kind::Missing;
+    if (!isMissing || whenMissing == WhenMissing::Fail)
+        return lines;
+    if (const auto failed = CreateEmpty())
+        return *failed;
+    return ReadUnder(*LockForReading());
 }
 
-SettingsFault SettingsFile::OpenFault(int error) const {
-    if (error != ENOENT)
-        return Fault(SettingsFault::Kind::Unreadable, m_path, error);
-    struct stat status {};
-    if (lstat(m_temporaryPath.c_str(), &status) == 0)
-        return {SettingsFault::Kind::InterruptedSave, m_temporaryPath, {}, 0, {}};
-    return Fault(SettingsFault::Kind::Missing, m_path, error);
+Outcome<SettingsFile> SettingsFile::Hold() const {
+    const auto lock = LockForWriting();
+    if (!lock)
+        return lock.Fault();
+    SettingsFile held = *this;
+    held.m_held = *lock;
+    return held;
 }
 
-std::optional<SettingsFault> SettingsFile::CreateEmpty() const {
-    // No O_TRUNC: a file that another program has put there meanwhile keeps its content.
-    Descriptor file(m_path, O_WRONLY | O_CREAT);
-    if (!file.IsOpen())
-        return Fault(SettingsFault::Kind::Unwritable, m_path, errno);
-    if (const int error = file.Close())
-        return Fault(SettingsFault::Kind::Unwritable, m_path, error);
-    return std::nullopt;
-}
-
-std::optional<SettingsFault> SettingsFile::WriteTemporary(std::string_view bytes) const {
-    Descriptor file(m_temporaryPath, O_WRONLY | O_CREAT | O_TRUNC);
-    if (!file.IsOpen())
-        return Fault(SettingsFault::Kind::Unwritable, m_temporaryPath, errno);
-    const int writeError = WriteAll(file.Number(), bytes);
-    const int closeError = file.Close();
-    const int error = writeError != 0 ? writeError : closeError;
-    if (error == 0)
-        return std::nullopt;
-    unlink(m_temporaryPath.c_str());
-    return Fault(SettingsFault::Kind::Unwritable, m_temporaryPath, error);
+std::optional<SettingsFault> SettingsFile::Update(const Rewriting& rewriting) const {
+    const auto lock = LockForWriting();
+    if (!lock)
+        return lock.Fault();
+    const Outcome<FileLines> lines = ReadUnder(**lock);
+    if (!lines)
+        return lines.Fault();
+    return ReplaceFile(PlacesOf(m_path), rewriting(*lines), **lock);
 }
 
 std::optional<SettingsFault> SettingsFile::ReplaceContent(std::string_view bytes) const {
-    if (auto failed = WriteTemporary(bytes))
-        return failed;
-    // Gone already is as good as deleted; removing the temporary file then would lose everything.
-    if (unlink(m_path.c_str()) != 0 && errno != ENOENT) {
-        const int error = errno;
-        unlink(m_temporaryPath.c_str());
-        return Fault(SettingsFault::Kind::Unwritable, m_path, error);
+    const auto lock = LockForWriting();
+    if (!lock)
+        return lock.Fault();
+    const SavePlaces places = PlacesOf(m_path);
+    int error = 0;
+    if (PresenceOf(places.File, error) == Presence::Absent)
+        return AbsenceFault();
+    return ReplaceFile(places, bytes, **lock);
+}
+
+std::optional<SettingsFault> SettingsFile::RestoreInterruptedSave() const {
+    const auto lock = LockForWriting();
+    if (!lock)
+        return lock.Fault();
+    const SavePlaces places = PlacesOf(m_path);
+    int error = 0;
+    switch (PresenceOf(places.File, error)) {
+    case Presence::Present:
+        return std::nullopt; // another copy of the program was asked the same
+    case Presence::Unknown:
+        return Fault(SettingsFault::Kind::Unreadable, places.File, error);
+    case Presence::Absent:
+        break;
     }
-    // From here to the end of the rename only the temporary file holds the settings: it must stay whatever
-    // happens.
-    if (std::rename(m_temporaryPath.c_str(), m_path.c_str()) != 0)
-        return Fault(SettingsFault::Kind::InterruptedSave, m_temporaryPath, errno);
+    struct stat status {};
+    if (lstat(places.Temporary.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
+        return SettingsFault{
+            SettingsFault::Kind::Unreadable, places.Temporary, "not an ordinary file", 0, {}};
+    return GiveName(places, **lock);
+}
+
+std::shared_ptr<const FolderLock> SettingsFile::LockForReading() const {
+    if (m_held)
+        return m_held;
+    // Shorter than for saving: a file that is there can be read without the lock, since none is ever written
+    // in its place.
+    return std::make_shared<FolderLock>(FollowLinks(m_path).parent_path(), Sharing::Shared, m_patience / 5);
+}
+
+Outcome<std::shared_ptr<const FolderLock>> SettingsFile::LockForWriting() const {
+    if (m_held)
+        return m_held;
+    std::shared_ptr<const FolderLock> lock =
+        std::make_shared<FolderLock>(FollowLinks(m_path).parent_path(), Sharing::Exclusive, m_patience);
+    if (lock->What() == FolderLock::State::Busy)
+        return SettingsFault{SettingsFault::Kind::Busy, m_path, {}, 0, {}};
+    return lock;
+}
+
+Outcome<FileLines> SettingsFile::ReadUnder(const FolderLock& lock) const {
+    // Where there are no locks, no file may only mean that another copy of the program is between delete and
+    // rename.
+    int triesLeft = lock.What() == FolderLock::State::Unsupported ? 50 : 0;
+    while (true) {
+        // Without O_NONBLOCK a pipe of this name would keep the program waiting.
+        const Descriptor file(m_path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
+        if (file.OpenError() == ENOENT && triesLeft > 0) {
+            --triesLeft;
+            std::this_thread::sleep_for(10ms);
+            continue;
+        }
+        if (file.OpenError() == ENOENT && lock.What() == FolderLock::State::Busy)
+            return SettingsFault{SettingsFault::Kind::Busy, m_path, {}, 0, {}};
+        if (file.OpenError() == ENOENT)
+            return AbsenceFault();
+        if (!file.IsOpen())
+            return Fault(SettingsFault::Kind::Unreadable, m_path, file.OpenError());
+        std::string bytes;
+        if (const auto reason = ReadOrdinaryFile(file.Number(), bytes))
+            return SettingsFault{SettingsFault::Kind::Unreadable, m_path, *reason, 0, {}};
+        return SplitLines(bytes);
+    }
+}
+
+SettingsFault SettingsFile::AbsenceFault() const {
+    const SavePlaces places = PlacesOf(m_path);
+    int error = 0;
+    switch (PresenceOf(places.Temporary, error)) {
+    case Presence::Present:
+        return {
+            SettingsFault::Kind::InterruptedSave, places.Temporary, {}, 0, places.File.filename().string()};
+    case Presence::Unknown:
+        return Fault(SettingsFault::Kind::Unreadable, places.Temporary, error);
+    case Presence::Absent:
+        break;
+    }
+    return Fault(SettingsFault::Kind::Missing, m_path, ENOENT);
+}
+
+std::optional<SettingsFault> SettingsFile::CreateEmpty() const {
+    const auto lock = LockForWriting();
+    if (!lock)
+        return lock.Fault();
+    const SavePlaces places = PlacesOf(m_path);
+    // Looked at again under the lock: another copy may have been killed in a save meanwhile.
+    if (const SettingsFault fault = AbsenceFault(); fault.What != SettingsFault::Kind::Missing)
+        return fault;
+    Descriptor file(places.File, O_WRONLY | O_CREAT | O_EXCL, ordinaryMode);
+    if (file.OpenError() == EEXIST)
+        return std::nullopt; // made by someone meanwhile, with a content to keep
+    if (!file.IsOpen())
+        return Fault(SettingsFault::Kind::Unwritable, m_path, file.OpenError());
+    if (const int error = file.Close())
+        return Fault(SettingsFault::Kind::Unwritable, m_path, error);
     return std::nullopt;
 }
 

@@ -33,8 +33,13 @@ std::optional<SettingsFault> LoadTaxCats(const SettingsFile& file, TaxSchedule& 
     const Outcome<FileLines> lines = file.ReadLines(SettingsFile::WhenMissing::CreateEmpty);
     if (!lines)
         return lines.Fault();
+    ReadTaxCats(*lines, schedule);
+    return std::nullopt;
+}
+
+void ReadTaxCats(const FileLines& lines, TaxSchedule& schedule) {
     TaxSchedule read;
-    for (const FileLine& line : *lines) {
+    for (const FileLine& line : lines) {
         if (!BelongsTo(line.Text, Key::TaxCat))
             continue;
         const float lowEnd = read.empty() ? -1.0f : read.back().HighEnd;
@@ -46,7 +51,6 @@ std::optional<SettingsFault> LoadTaxCats(const SettingsFile& file, TaxSchedule& 
     }
     if (!read.empty())
         schedule = std::move(read);
-    return std::nullopt;
 }
 
 std::optional<SettingsFault> WriteTaxCatsToFile(const SettingsFile& file, const TaxRows& rows,

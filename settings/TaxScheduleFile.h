@@ -29,6 +29,9 @@ namespace Ledgrove::Module1 {
 /// brackets before it stay. A missing settings file is created empty.
 std::optional<SettingsFault> LoadTaxCats(const SettingsFile& file, TaxSchedule& schedule);
 
+/// The same from lines already read.
+void ReadTaxCats(const FileLines& lines, TaxSchedule& schedule);
+
 /// Replaces the k-th `TAXCAT` line by row k, so that the file keeps its number of brackets; a file without
 /// any gets all six. The last loaded bracket's high end is not shown by the dialog: where its row leaves it
 /// empty, the bracket's own in `loaded` is written, so that top incomes keep their rate.

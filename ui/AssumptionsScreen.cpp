@@ -85,6 +85,35 @@ std::string BytesOf(const FileLines& lines) {
     return bytes;
 }
 
+/// The three writers replace the file one after the other: what the first ones saved is taken back. Gives the
+/// fault that the user must be told.
+SettingsFault TakeBack(const SettingsFile& file, const FileLines& before, const SettingsFault& fault) {
+    const auto now = file.ReadLines();
+    if (!now || BytesOf(*now) == BytesOf(before))
+        return fault;
+    const auto failed = file.ReplaceContent(BytesOf(before));
+    // Where the settings now are counts more than why they could not be saved.
+    return failed && failed->What == SettingsFault::Kind::InterruptedSave ? *failed : fault;
+}
+
+std::optional<SettingsFault> SaveAndReload(const AssumptionsScreen& dialog, Session& session) {
+    // Taking back must not undo what another copy of the program saved in between.
+    const auto held = SettingsFile(session.Folder).Hold();
+    if (!held)
+        return held.Fault();
+    const SettingsFile& file = *held;
+    const auto before = file.ReadLines();
+    if (!before)
+        return before.Fault();
+    LoanTypeList loanTypes = WithRatiosOf(dialog, session.LoanTypes);
+    if (auto fault = SaveAll(file, dialog, session.TaxBrackets, loanTypes))
+        return TakeBack(file, *before, *fault);
+    session.LoanTypes = std::move(loanTypes);
+    if (auto fault = LoadTaxCats(file, session.TaxBrackets))
+        return fault;
+    return LoadAssumptions(file, session.Assumptions);
+}
+
 } // namespace
 
 std::optional<SettingsFault> FillAssumptions(AssumptionsScreen& dialog, Session& session) {
@@ -139,22 +168,7 @@ EntryOutcome LeaveFieldAs(EntryContext& context, Field& field, FormatType checke
 
 std::optional<SettingsFault> ConfirmAssumptions(const AssumptionsScreen& dialog, Session& session,
                                                 Host& host) {
-    const SettingsFile file(session.Folder);
-    const auto before = file.ReadLines();
-    if (!before)
-        return before.Fault();
-    LoanTypeList loanTypes = WithRatiosOf(dialog, session.LoanTypes);
-    if (auto fault = SaveAll(file, dialog, session.TaxBrackets, loanTypes)) {
-        // The three writers replace the file one after the other: what the first ones saved is taken back.
-        const auto now = file.ReadLines();
-        if (now && BytesOf(*now) != BytesOf(*before))
-            file.ReplaceContent(BytesOf(*before));
-        return fault;
-    }
-    session.LoanTypes = std::move(loanTypes);
-    if (auto fault = LoadTaxCats(file, session.TaxBrackets))
-        return fault;
-    if (auto fault = LoadAssumptions(file, session.Assumptions))
+    if (auto fault = SaveAndReload(dialog, session))
         return fault;
     Recalculate(session, host);
     return std::nullopt;

@@ -61,4 +61,19 @@ std::optional<SettingsFault> LoadMainScreen(Session& session, Host& host,
     return std::nullopt;
 }
 
+std::optional<SettingsFault> OpenMainScreen(Session& session, Host& host,
+                                            const std::filesystem::path& folder) {
+    const auto fault = LoadMainScreen(session, host, folder);
+    if (!fault || fault->What != SettingsFault::Kind::InterruptedSave)
+        return fault;
+    const MessageAnswer answer = host.ShowMessage(
+        {ApplicationTitle, "The last save was interrupted. Your settings are in Pennaro2.INI. Restore them?",
+         MessageIcon::Question, MessageButtons::YesNo});
+    if (answer != MessageAnswer::Yes)
+        return fault;
+    if (auto failed = SettingsFile(folder).RestoreInterruptedSave())
+        return failed;
+    return LoadMainScreen(session, host, folder);
+}
+
 } // namespace Ledgrove::Module1

@@ -16,4 +16,9 @@ namespace Ledgrove::Module1 {
 std::optional<SettingsFault> LoadMainScreen(Session& session, Host& host,
                                             const std::filesystem::path& folder);
 
+/// The same for a user who can be asked: after an interrupted save, whether to restore the settings that it
+/// left. Without a Yes nothing is touched, and the interrupted save is the fault.
+std::optional<SettingsFault> OpenMainScreen(Session& session, Host& host,
+                                            const std::filesystem::path& folder);
+
 } // namespace Ledgrove::Module1

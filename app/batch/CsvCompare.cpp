@@ -1,5 +1,6 @@
 #include "app/batch/CsvCompare.h"
 
+#include <algorithm>
 #include <csv.h>
 
 #include "engine/NumberText.h"
@@ -54,8 +55,19 @@ constexpr std::string_view errorColumn = "error";
 constexpr std::size_t columnsBehindInputs = std::size(resultColumns) + 3;
 
 bool LooksLikeFormula(std::string_view cell) {
-    return !cell.empty() && std::string_view("=+-@\t\r").find(cell.front()) != std::string_view::npos &&
-           !Module1::ReadNumber(cell);
+    if (cell.empty() || Module1::ReadNumber(cell))
+        return false;
+    // Many programs pass over the blanks in front.
+    const std::size_t first = std::min(cell.find_first_not_of(" \t\r\n"), cell.size() - 1);
+    return cell.front() == '\t' || cell.front() == '\r' ||
+           std::string_view("=+-@").find(cell[first]) != std::string_view::npos;
+}
+
+/// Blanks at its ends would be lost without quotes, by our own reader too.
+bool NeedsQuotes(std::string_view cell) {
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+    return cell.find_first_of(",\"\r\n") != std::string_view::npos ||
+           (!cell.empty() && (isBlank(cell.front()) || isBlank(cell.back())));
 }
 
 /// Empty results and the reason in the last column.
@@ -103,7 +115,7 @@ std::string DefusedCell(std::string_view cell) {
 
 void AppendCsvCell(std::string& out, std::string_view cell) {
     const std::string defused = DefusedCell(cell);
-    if (defused.find_first_of(",\"\r\n") == std::string::npos) {
+    if (!NeedsQuotes(defused)) {
         out += defused;
         return;
     }

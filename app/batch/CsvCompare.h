@@ -36,8 +36,8 @@ void AppendCsvHeading(std::string& out, const std::vector<std::string>& inputs);
 /// The results behind the inputs of a comparison that was not refused. No line end.
 void AppendCsvResults(std::string& out, const Session& session);
 
-/// `cell` with an apostrophe in front where a spreadsheet would take it for a formula (it begins with "=",
-/// "+", "-", "@", a tab or a carriage return and is no number).
+/// `cell` with an apostrophe in front where a spreadsheet would take it for a formula (it begins with a tab
+/// or a carriage return, or with "=", "+", "-" or "@" behind any blanks, and is no number).
 std::string DefusedCell(std::string_view cell);
 
 /// `cell` as CSV: defused, and quoted where it must be.

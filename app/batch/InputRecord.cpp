@@ -30,6 +30,11 @@ Refusal UnknownInput(std::string_view name, std::string_view value) {
     return {0, std::string(name), std::string(value), message + "."};
 }
 
+std::string RefusalSentence(const Refusal& refusal) {
+    return refusal.Message + " (line " + std::to_string(refusal.Line) + ", " + refusal.Control + " \"" +
+           refusal.Value + "\")";
+}
+
 Refusal InputTooLong(std::size_t line) {
     return {line, "", "", "The input is longer than 1 MiB. Write each comparison as one short JSON object."};
 }

@@ -50,6 +50,10 @@ struct Refusal {
 /// The refusal of a name that is no input.
 Refusal UnknownInput(std::string_view name, std::string_view value);
 
+/// The refusal of a single comparison in one sentence, for standard error: what is wrong, where, with which
+/// text.
+std::string RefusalSentence(const Refusal& refusal);
+
 /// The refusal of an input beyond all measure.
 Refusal InputTooLong(std::size_t line);
 

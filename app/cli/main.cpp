@@ -19,12 +19,12 @@ namespace {
 
 using namespace Ledgrove;
 
-/// Composing the report needs the toolkit: the program beside this one does it.
-int HandOverReport(char** argv) {
-    const std::string program = (ProgramFolder() / "ledgrove-report").string();
+/// What needs the toolkit is done by a program beside this one, which is named as its verb.
+int HandOver(const std::string& verb, char** argv) {
+    const std::string program = (ProgramFolder() / ("ledgrove-" + verb)).string();
     ::execv(program.c_str(), argv);
-    std::cerr << "ledgrove-cli: \"" << program << "\" cannot be started (" << std::strerror(errno)
-              << "). Reports need that program beside ledgrove-cli.\n";
+    std::cerr << "ledgrove-cli: \"" << program << "\" cannot be started (" << std::strerror(errno) << "). \""
+              << verb << "\" needs that program beside ledgrove-cli.\n";
     return CannotRun;
 }
 
@@ -104,10 +104,13 @@ int main(int argc, char** argv) {
     CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
     app.set_version_flag("--version", "ledgrove-cli " LEDGROVE_VERSION);
     app.require_subcommand(1);
-    // Its arguments are the other program's to read.
-    if (argc > 1 && std::string_view(argv[1]) == "report")
-        return HandOverReport(argv + 1);
+    // Their arguments are the other programs' to read.
+    for (const std::string_view verb : {"report", "chart"}) {
+        if (argc > 1 && argv[1] == verb)
+            return HandOver(std::string(verb), argv + 1);
+    }
     app.add_subcommand("report", "Write the report of a comparison as PDF (ledgrove-cli report --help)");
+    app.add_subcommand("chart", "Write a chart of a comparison as a picture (ledgrove-cli chart --help)");
     std::string folder = ProgramFolder().string();
     std::string key;
     std::string value;

@@ -36,7 +36,7 @@ Session FreshSession(const Session& session, const Session& start) {
     return fresh;
 }
 
-std::string RefusalSentence(const std::filesystem::path& file, const Refusal& refusal) {
+std::string NoComparison(const std::filesystem::path& file, const Refusal& refusal) {
     std::string sentence = "\"" + file.string() + "\" is not a comparison that Ledgrove can open. ";
     if (!refusal.Control.empty())
         sentence += refusal.Control + " \"" + refusal.Value + "\": ";
@@ -87,7 +87,7 @@ std::optional<std::string> OpenComparison(const std::filesystem::path& file, Ses
     if (!input.Unreadable.empty())
         return input.Unreadable;
     if (input.Refused)
-        return RefusalSentence(file, *input.Refused);
+        return NoComparison(file, *input.Refused);
     PutScreen(session, comparison.State());
     ShowNotices(comparison, host);
     return std::nullopt;

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFile>
 #include <QMessageBox>
 #include <cstdio>
 #include <filesystem>
@@ -7,8 +8,10 @@
 #include <string_view>
 #include <utility>
 
-#include "app/window/CurrentFile.h"
-#include "app/window/MainMenu.h"
+#include "app/windows/ChartLoader.h"
+#include "app/windows/CurrentFile.h"
+#include "app/windows/MainMenu.h"
+#include "reports/windows/HelpPrint.h"
 #include "reports/windows/PrintAction.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
@@ -39,6 +42,10 @@ int Refuse(const QString& sentence) {
     return CannotStart;
 }
 
+QString SampleFile(const std::filesystem::path& folder) {
+    return QString::fromStdString((folder / "samples" / "first-home.ledgrove.json").string());
+}
+
 /// `file` is a comparison to open, "" for none.
 int ShowWindow(const std::filesystem::path& folder, const QString& file) {
     QApplication::setWindowIcon(Ledgrove::HousePicture(64));
@@ -53,11 +60,20 @@ int ShowWindow(const std::filesystem::path& folder, const QString& file) {
     }
     Ledgrove::MainActions actions = Ledgrove::DialogActions(session, host);
     actions.Print = Ledgrove::PrintAction(session, host);
+    actions.PrintHelp = [&host](const QTextDocument& document, QWidget& above) {
+        Ledgrove::PrintHelpDocument(document, above, host);
+    };
+    const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
+    actions.Questions = questions;
+    actions.Charts = [] { return Ledgrove::LoadCharts(QCoreApplication::applicationDirPath()); };
+    Ledgrove::CurrentFile* current = nullptr;
+    const QString sample = SampleFile(folder);
+    if (QFile::exists(sample))
+        actions.OpenSample = [&current, sample] { current->OpenCopy(sample); };
     Ledgrove::frmMain window(session, host, std::move(actions));
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
-    const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
-    auto* current = new Ledgrove::CurrentFile(window, session, host,
-                                              Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
+    current = new Ledgrove::CurrentFile(window, session, host,
+                                        Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
     Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
     window.show();
     if (!file.isEmpty())
@@ -70,6 +86,8 @@ int ShowWindow(const std::filesystem::path& folder, const QString& file) {
 int main(int argc, char* argv[]) {
     QCoreApplication::setApplicationName("ledgrove");
     QCoreApplication::setApplicationVersion(LEDGROVE_VERSION);
+    // The name of the desktop entry: by it some desktops find the window's icon.
+    QGuiApplication::setDesktopFileName("org.ledgrove.Ledgrove");
 
     const bool hasDisplay = HasDisplay(argc, argv);
     const std::unique_ptr<QCoreApplication> application(hasDisplay ? new QApplication(argc, argv)

@@ -115,9 +115,7 @@ int Report(const Arguments& arguments) {
     if (!input.Unreadable.empty())
         return Complain(input.Unreadable, CannotRun);
     if (input.Refused)
-        return Complain(input.Refused->Message + " (line " + std::to_string(input.Refused->Line) + ", " +
-                            input.Refused->Control + " \"" + input.Refused->Value + "\")",
-                        SomeRefused);
+        return Complain(RefusalSentence(*input.Refused), SomeRefused);
 
     session = comparison.State();
     const auto saved = Module1::GetLogoOption(SettingsFile(session.Folder));

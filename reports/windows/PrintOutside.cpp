@@ -38,19 +38,20 @@ std::unique_ptr<QFileDialog> LogoDialog(QWidget& parent) {
     return dialog;
 }
 
-std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent) {
+std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent, const QString& pdfName) {
     auto dialog = std::make_unique<QFileDialog>(&parent, "Print to PDF");
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix("pdf");
     dialog->setNameFilter("PDF files (*.pdf)");
     dialog->setDirectory(UsersFolder());
-    dialog->selectFile("Summary Report.pdf");
+    dialog->selectFile(pdfName);
     return dialog;
 }
 
-PrintOutside RealOutside(PrintServer& server) {
+PrintOutside RealOutside(PrintServer& server, const QString& pdfName) {
     return {server, [](QWidget& parent) { return Chosen(*LogoDialog(parent)); },
-            [](QWidget& parent) { return Chosen(*PdfDialog(parent)); }, [] { return QDate::currentDate(); }};
+            [pdfName](QWidget& parent) { return Chosen(*PdfDialog(parent, pdfName)); },
+            [] { return QDate::currentDate(); }};
 }
 
 } // namespace Ledgrove

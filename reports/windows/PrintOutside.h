@@ -21,10 +21,10 @@ struct PrintOutside {
     std::function<QDate()> Today;
 };
 
-/// The machine as it is.
-PrintOutside RealOutside(PrintServer& server);
+/// The machine as it is. A PDF file is called `pdfName` until the user calls it otherwise.
+PrintOutside RealOutside(PrintServer& server, const QString& pdfName = "Summary Report.pdf");
 
 std::unique_ptr<QFileDialog> LogoDialog(QWidget& parent);
-std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent);
+std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent, const QString& pdfName = "Summary Report.pdf");
 
 } // namespace Ledgrove

@@ -1,10 +1,10 @@
 #include "reports/windows/PrintRun.h"
 
 #include "reports/windows/PdfOutput.h"
+#include "reports/windows/PrinterSend.h"
 
 #include <QCoreApplication>
 #include <QProgressDialog>
-#include <QTemporaryDir>
 
 namespace Ledgrove {
 
@@ -41,30 +41,6 @@ private:
     QProgressDialog m_dialog;
 };
 
-QString NotTaken(const PrintRequest& request, std::string reason) {
-    while (reason.ends_with('.'))
-        reason.pop_back();
-    return QString("The report was not printed: the printer \"%1\" did not take it (%2). Choose another "
-                   "printer, or try again when this one is ready.")
-        .arg(QString::fromStdString(request.Device.Name), QString::fromStdString(reason));
-}
-
-QString SendToPrinter(const PrintRequest& request, PrintServer& server, ProgressTeller& progress) {
-    // A printer gets the report only when it is whole, so that a stopped one leaves no pages there.
-    const QTemporaryDir folder;
-    if (!folder.isValid())
-        return "The report was not printed: there is no room for it in the folder of temporary files (" +
-               folder.errorString() + ").";
-    const QString file = folder.filePath("report.pdf");
-    const QString fault =
-        WritePdf(request.Document, file, [&progress](std::size_t page) { return progress.Tell(page); });
-    if (!fault.isEmpty() || progress.WasStopped())
-        return fault;
-    const std::string reason = server.Send(
-        {request.Device.Name, request.Document.Title, file.toStdString(), request.PaperName, request.Copies});
-    return reason.empty() ? QString() : NotTaken(request, reason);
-}
-
 } // namespace
 
 QString RunPrint(const PrintRequest& request, PrintServer& server, QWidget& parent) {
@@ -72,7 +48,15 @@ QString RunPrint(const PrintRequest& request, PrintServer& server, QWidget& pare
     if (IsPdf(request.Device))
         return WritePdf(request.Document, request.PdfFile,
                         [&progress](std::size_t page) { return progress.Tell(page); });
-    return SendToPrinter(request, server, progress);
+    return SendToPrinter(
+        {"The report",
+         {request.Device.Name, request.Document.Title, {}, request.PaperName, request.Copies},
+         [&](const QString& file) {
+             return WritePdf(request.Document, file,
+                             [&progress](std::size_t page) { return progress.Tell(page); });
+         },
+         [&progress] { return progress.WasStopped(); }},
+        server);
 }
 
 } // namespace Ledgrove

@@ -153,10 +153,20 @@ PrinterDetails CupsServer::Details(const std::string& printer) {
     return {ResolutionOf(*destination, *info), PaperOf(*destination, *info)};
 }
 
+namespace {
+
+/// Never empty, which would stand for success.
+std::string LastError() {
+    const char* const reason = cupsLastErrorString();
+    return reason && *reason ? reason : "the print service gave no reason";
+}
+
+} // namespace
+
 std::string CupsServer::Send(const PrintJob& job) {
     const Destination destination = Find(job.Printer);
     if (!destination)
-        return cupsLastErrorString();
+        return LastError();
     JobOptions options;
     for (int i = 0; i < destination->num_options; ++i) {
         const cups_option_t& option = destination->options[i];
@@ -169,7 +179,7 @@ std::string CupsServer::Send(const PrintJob& job) {
     options.Add("print-scaling", "none");
     const int id = cupsPrintFile2(CUPS_HTTP_DEFAULT, destination->name, job.PdfFile.c_str(),
                                   job.Title.c_str(), options.Count(), options.Items());
-    return id > 0 ? std::string() : cupsLastErrorString();
+    return id > 0 ? std::string() : LastError();
 }
 
 PrinterDevice PdfDevice() {

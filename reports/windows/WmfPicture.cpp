@@ -1,6 +1,7 @@
 #include "reports/windows/WmfPicture.h"
 
-#include <QtEndian>
+#include "reports/windows/WmfCheck.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -16,7 +17,6 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr double longestSide = 1200;
 constexpr unsigned long quietly =
     WMF_OPT_FUNCTION | WMF_OPT_IGNORE_NONFATAL | WMF_OPT_NO_ERROR | WMF_OPT_NO_DEBUG;
 
@@ -57,19 +57,9 @@ QByteArray PlayToPng(wmfAPI* api, wmfD_Rect box, unsigned width, unsigned height
 
 } // namespace
 
-bool IsWmf(const QByteArray& bytes) {
-    if (bytes.startsWith("\xD7\xCD\xC6\x9A"))
-        return true;
-    // Type 1 or 2, a header of 9 words, version 1.0 or 3.0
-    if (bytes.size() < 18)
-        return false;
-    const auto word = [&bytes](qsizetype offset) {
-        return qFromLittleEndian<quint16>(bytes.constData() + offset);
-    };
-    return (word(0) == 1 || word(0) == 2) && word(2) == 9 && (word(4) == 0x0100 || word(4) == 0x0300);
-}
-
-QImage ReadWmf(const QByteArray& bytes) {
+QImage ReadWmf(const QByteArray& bytes, int longestSide) {
+    if (!CheckWmf(bytes))
+        return {};
     const Api api = MakeApi();
     if (!api)
         return {};
@@ -84,7 +74,7 @@ QImage ReadWmf(const QByteArray& bytes) {
     if (!readable || width == 0 || height == 0)
         return {};
     // The drawing is scaled to a sensible size: a metafile's own may be tiny or millions of pixels wide.
-    const double scale = longestSide / std::max(width, height);
+    const double scale = static_cast<double>(longestSide) / std::max(width, height);
     const auto scaled = [scale](unsigned side) { return std::max(1U, static_cast<unsigned>(side * scale)); };
     return QImage::fromData(PlayToPng(api.get(), box, scaled(width), scaled(height)), "png");
 }

@@ -5,10 +5,7 @@
 
 namespace Ledgrove {
 
-/// A Windows metafile, with the placeable header or without.
-bool IsWmf(const QByteArray& bytes);
-
-/// The metafile as a picture of at most 1200 pixels a side; null when it is damaged.
-QImage ReadWmf(const QByteArray& bytes);
+/// The metafile as a picture whose longer side has so many pixels; null when it is damaged.
+QImage ReadWmf(const QByteArray& bytes, int longestSide = 1200);
 
 } // namespace Ledgrove

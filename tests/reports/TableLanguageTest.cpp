@@ -37,6 +37,7 @@ TEST(TableFormat, TheClosingSemicolonMayBeMissing) {
 
 TEST(TableFormat, AWidthThatIsNoNumberIsZero) {
     EXPECT_THAT(Widths("abc|>|^12;"), ElementsAre(0, 0, 12));
+    EXPECT_THAT(Widths("-5|99999999999|2000000000"), ElementsAre(0, 0, 144000)); // 100 inches at most
 }
 
 TEST(TableRows, AreSeparatedBySemicolonsAndCellsByBars) {

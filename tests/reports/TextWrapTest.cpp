@@ -46,5 +46,31 @@ TEST(WrapText, AMegabyteWithoutBlanksIsBrokenInReasonableTime) {
     EXPECT_EQ(Wrap(std::string(1'000'000, 'x'), 100).size(), 10000U);
 }
 
+/// Adds up how much text it is asked about.
+class CountingMeasure : public Testing::FixedMeasure {
+public:
+    Twips Width(std::string_view text, const TextStyle& style) const override {
+        m_measured += text.size();
+        return FixedMeasure::Width(text, style);
+    }
+    std::size_t Measured() const { return m_measured; }
+
+private:
+    mutable std::size_t m_measured = 0;
+};
+
+TEST(WrapText, AParagraphOfMegabytesIsNotMeasuredAgainForEachLine) {
+    // 1,000 pages of 50 lines of 80 characters; per line a few measurings of up to two lines' length.
+    std::string text;
+    while (text.size() < 4'000'000)
+        text += "seven rooms and a deck ";
+    const CountingMeasure measure;
+    TextStyle style;
+    style.FontSize = 10;
+    const auto lines = WrapText(text, 80 * 100, style, measure);
+    EXPECT_GE(lines.size(), 50'000U);
+    EXPECT_LE(measure.Measured(), 20 * text.size());
+}
+
 } // namespace
 } // namespace Ledgrove

@@ -14,8 +14,9 @@ using Kind = SettingsFault::Kind;
 
 TEST(SettingsFaultSentence, EveryKindNamesTheFullPathAndEndsWithARemedy) {
     const std::string path = "/home/ann/ledgrove/Ledgrove.ini";
-    for (const Kind kind : {Kind::Missing, Kind::InterruptedSave, Kind::Unreadable, Kind::Unwritable,
-                            Kind::BadLine, Kind::MissingKey, Kind::RefusedText}) {
+    for (const Kind kind :
+         {Kind::Missing, Kind::InterruptedSave, Kind::Unreadable, Kind::Unwritable, Kind::Unconfirmed,
+          Kind::Busy, Kind::BadLine, Kind::MissingKey, Kind::RefusedText}) {
         const std::string sentence = Sentence({kind, path, "the reason", 3, "TEXT"});
         EXPECT_THAT(sentence, testing::HasSubstr('"' + path + '"'));
         EXPECT_EQ(sentence.back(), '.');

@@ -141,19 +141,6 @@ TEST_F(SettingsFileTest, ATemporaryFileThatCannotBeOpenedLeavesTheOldFile) {
     EXPECT_EQ(Bytes(), "old");
 }
 
-TEST_F(SettingsFileTest, AFullDiskLeavesTheOldFileAndNoTemporaryFile) {
-    if (!Exists("/dev/full"))
-        GTEST_SKIP() << "this system has no device that is always full";
-    Given("old");
-    std::filesystem::create_symlink("/dev/full", File().TemporaryPath());
-    const auto fault = File().ReplaceContent("new");
-    ASSERT_TRUE(fault);
-    EXPECT_EQ(fault->What, Kind::Unwritable);
-    EXPECT_EQ(fault->Reason, "No space left on device");
-    EXPECT_EQ(Bytes(), "old");
-    EXPECT_FALSE(Exists(File().TemporaryPath()));
-}
-
 TEST_F(SettingsFileTest, AFailedDeleteLeavesTheOldFileAndNoTemporaryFile) {
     std::filesystem::create_directory(File().Path());
     const auto fault = File().ReplaceContent("new");

@@ -27,7 +27,7 @@ def include_faults(path):
     place = path.relative_to(ROOT).parts
     if place[0] not in FLOORS:
         return
-    may_use_toolkit = "windows" in place or place[:2] in (("app", "ledgrove"), ("app", "report"))
+    may_use_toolkit = "windows" in place or place[:2] in (("app", "ledgrove"), ("app", "report"), ("app", "chart"))
     higher = FLOORS[FLOORS.index(place[0]) + 1:]
     for include in re.findall(r'^#include ["<]([^">]+)', path.read_text(), re.M):
         if not may_use_toolkit and re.match(r"Q[A-Z]|Qt", include):

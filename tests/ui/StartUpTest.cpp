@@ -157,6 +157,41 @@ TEST_F(StartUp, AfterAnInterruptedSaveNothingIsCreated) {
     EXPECT_EQ(ReadBytes(Folder() / "Pennaro2.INI"), settings);
 }
 
+TEST_F(StartUp, AfterAnInterruptedSaveTheUserIsAskedAndYesRestores) {
+    WriteBytes(Folder() / "Pennaro2.INI", settings);
+    m_host.Answers = {MessageAnswer::Yes};
+    ASSERT_FALSE(OpenMainScreen(m_session, m_host, Folder()));
+    ASSERT_EQ(m_host.Messages.size(), 1U);
+    const Message& question = m_host.Messages.front();
+    EXPECT_EQ(question.Title, "Ledgrove");
+    EXPECT_EQ(question.Text,
+              "The last save was interrupted. Your settings are in Pennaro2.INI. Restore them?");
+    EXPECT_EQ(question.Icon, MessageIcon::Question);
+    EXPECT_EQ(question.Buttons, MessageButtons::YesNo);
+    EXPECT_EQ(m_session.Header.BuilderName, "Acme Homes");
+    EXPECT_EQ(Bytes(), settings);
+    EXPECT_FALSE(Exists(Folder() / "Pennaro2.INI"));
+}
+
+TEST_F(StartUp, NoLeavesTheInterruptedSaveAsItIs) {
+    WriteBytes(Folder() / "Pennaro2.INI", settings);
+    m_host.Answers = {MessageAnswer::No};
+    const auto fault = OpenMainScreen(m_session, m_host, Folder());
+    ASSERT_TRUE(fault);
+    EXPECT_EQ(fault->What, SettingsFault::Kind::InterruptedSave);
+    EXPECT_FALSE(Exists(Folder() / "Ledgrove.ini"));
+    EXPECT_EQ(ReadBytes(Folder() / "Pennaro2.INI"), settings);
+}
+
+TEST_F(StartUp, OnlyAnInterruptedSaveIsAskedAbout) {
+    ASSERT_TRUE(OpenMainScreen(m_session, m_host, Folder()));
+    Given(settings);
+    WriteBytes(Folder() / "Pennaro2.INI", "BUILDERNAME=half");
+    ASSERT_FALSE(OpenMainScreen(m_session, m_host, Folder()));
+    EXPECT_EQ(m_session.Header.BuilderName, "Acme Homes");
+    EXPECT_TRUE(m_host.Messages.empty());
+}
+
 TEST_F(StartUp, ABadLoanTypeEndsItWithItsLine) {
     Given("BUILDERNAME=Acme\r\nLOANTYPE=1,Conventional,,0.280,0.360,,,,FALSE\r\nLOANTYPE=2,Fannie Mae "
           "EEM,,much,0.380,,,,TRUE\r\n");

@@ -1,57 +1,206 @@
 #include "ui/windows/HelpWindow.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QUrl>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "ui/windows/FormParts.h"
+#include "ui/windows/HelpBrowser.h"
+#include "ui/windows/HelpPrinter.h"
+#include "ui/windows/HelpSearch.h"
+#include "ui/windows/Identify.h"
+#include "ui/windows/Labels.h"
 
 namespace Ledgrove {
 
+namespace {
+
+constexpr std::array zooms{50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
+
+/// The next zoom up or down, the same one at the end.
+int SteppedZoom(int percent, int step) {
+    const auto here = std::find(zooms.begin(), zooms.end(), percent) - zooms.begin();
+    const auto last = static_cast<std::ptrdiff_t>(zooms.size()) - 1;
+    return zooms[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(here + step, 0, last))];
+}
+
+} // namespace
+
 HelpWindow::HelpWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
-    , m_browser(new QTextBrowser(this)) {
+    , m_browser(new HelpBrowser)
+    , m_search(new HelpSearch(*m_browser))
+    , m_status(new ElidedLabel) {
     setObjectName("HelpWindow");
     setWindowTitle("Ledgrove Help");
-    m_browser->setAccessibleName("Help");
-    m_browser->setOpenExternalLinks(false);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_browser);
-    resize(720, 560);
+    BuildControls();
+    ConnectKeys();
+    connect(m_browser, &QTextBrowser::historyChanged, this, &HelpWindow::ShowHistory);
+    connect(m_browser, &HelpBrowser::ZoomStepped, this, &HelpWindow::StepZoom);
+    connect(m_browser, &HelpBrowser::LinkRefused, this, [this](const QString& address) {
+        Tell("Not opened, because it leads out of the help: " + address);
+    });
+    ShowHistory();
+    GiveNaturalSize();
 }
 
 void HelpWindow::ShowTopic(const QString& path, const QString& anchor) {
-    QUrl topic = QUrl::fromLocalFile(path);
-    topic.setFragment(anchor);
-    m_browser->setSource(topic, QTextDocument::HtmlResource);
+    const bool found = m_browser->ShowTopic(path, anchor);
+    Tell(found ? QString() : "This help file has no topic for that. Here it is from the start.");
+    const bool printable = Printer() != nullptr;
+    m_print->setEnabled(printable);
+    m_print->setToolTip(printable ? QString() : "No printing from here");
     show();
     raise();
     activateWindow();
     m_browser->setFocus();
 }
 
-QString HelpFilePath(const std::filesystem::path& folder, const std::string& name) {
-    const QDir place(QString::fromStdString(folder.string()));
-    return QDir::cleanPath(place.absoluteFilePath(QString::fromStdString(name)));
+void HelpWindow::BuildControls() {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->setSpacing(6);
+    layout->addLayout(MakeButtonRow());
+    layout->addWidget(m_search);
+    layout->addWidget(m_browser, 1);
+    IdentifyByDescription(*m_status, "lblHelpStatus", "Status");
+    layout->addWidget(m_status);
+    m_status->hide();
 }
 
-std::optional<std::string> HelpComplaint(const std::filesystem::path& folder, const std::string& name) {
-    if (QString::fromStdString(name).trimmed().isEmpty())
-        return "There is no help because no help file is named. Write its name behind HELPFILE= in "
-               "Ledgrove.ini, which lies in " +
-               folder.string() + ".";
-    const QString path = HelpFilePath(folder, name);
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const std::string quoted = '"' + name + '"';
-    const std::string place = QFileInfo(path).absolutePath().toStdString();
-    if (!QFileInfo::exists(path))
-        return "The help file " + quoted + " is missing. It was looked for in " + place +
-               ". Put it there, or name another one behind HELPFILE= in Ledgrove.ini.";
-    return "The help file " + quoted + " in " + place +
-           " cannot be read: " + file.errorString().toStdString() + ".";
+QHBoxLayout* HelpWindow::MakeButtonRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    m_back = AddButton(*row, "bBack", "&Back", &HelpWindow::GoBack);
+    m_forward = AddButton(*row, "bForward", "&Forward", &HelpWindow::GoForward);
+    AddButton(*row, "bContents", "&Contents", &HelpWindow::GoToContents);
+    row->addStretch();
+    m_print = AddButton(*row, "bPrintHelp", "&Print\u2026", &HelpWindow::Print);
+    return row;
+}
+
+QPushButton* HelpWindow::AddButton(QHBoxLayout& row, const char* control, const QString& caption,
+                                   void (HelpWindow::*action)()) {
+    QPushButton* button = MakeButton(control, caption);
+    // Enter presses the button with the focus, as everywhere else.
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this, action);
+    row.addWidget(button);
+    return button;
+}
+
+void HelpWindow::ConnectKeys() {
+    OnKey(QKeySequence::Back, &HelpWindow::GoBack);
+    OnKey(QKeySequence::Forward, &HelpWindow::GoForward);
+    OnKey(Qt::ALT | Qt::Key_Home, &HelpWindow::GoToContents);
+    OnKey(Qt::CTRL | Qt::Key_F, &HelpWindow::BeginSearch);
+    OnKey(Qt::Key_F3, &HelpWindow::FindNext);
+    OnKey(Qt::SHIFT | Qt::Key_F3, &HelpWindow::FindPrevious);
+    OnKey(Qt::Key_Escape, &HelpWindow::LeaveSearchOrClose);
+    OnKey(Qt::CTRL | Qt::Key_W, &HelpWindow::CloseWindow);
+    OnKey(Qt::CTRL | Qt::Key_P, &HelpWindow::Print);
+    // Whether or not the keyboard has "+" on a shifted key.
+    OnKey(Qt::CTRL | Qt::Key_Plus, &HelpWindow::ZoomIn);
+    OnKey(Qt::CTRL | Qt::Key_Equal, &HelpWindow::ZoomIn);
+    OnKey(Qt::CTRL | Qt::Key_Minus, &HelpWindow::ZoomOut);
+    OnKey(Qt::CTRL | Qt::Key_0, &HelpWindow::ResetZoom);
+}
+
+void HelpWindow::OnKey(const QKeySequence& keys, void (HelpWindow::*action)()) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+}
+
+void HelpWindow::GiveNaturalSize() {
+    const QSize room = screen()->availableGeometry().size();
+    const QSize natural(fontMetrics().averageCharWidth() * 110, fontMetrics().lineSpacing() * 40);
+    resize(natural.boundedTo(room * 9 / 10));
+}
+
+void HelpWindow::GoBack() {
+    m_browser->backward();
+}
+
+void HelpWindow::GoForward() {
+    m_browser->forward();
+}
+
+void HelpWindow::GoToContents() {
+    m_browser->ShowContents();
+}
+
+void HelpWindow::BeginSearch() {
+    m_search->Begin();
+}
+
+void HelpWindow::FindNext() {
+    m_search->Step(1);
+}
+
+void HelpWindow::FindPrevious() {
+    m_search->Step(-1);
+}
+
+void HelpWindow::LeaveSearchOrClose() {
+    if (m_search->IsEmpty())
+        return CloseWindow();
+    m_search->Clear();
+    m_browser->setFocus();
+}
+
+void HelpWindow::CloseWindow() {
+    close();
+}
+
+void HelpWindow::Print() {
+    if (HelpPrinter* printer = Printer())
+        printer->PrintHelp(*m_browser->document(), *this);
+}
+
+void HelpWindow::ZoomIn() {
+    StepZoom(1);
+}
+
+void HelpWindow::ZoomOut() {
+    StepZoom(-1);
+}
+
+void HelpWindow::ResetZoom() {
+    m_browser->SetZoom(100);
+    Tell("Zoom 100 %");
+}
+
+void HelpWindow::StepZoom(int step) {
+    m_browser->SetZoom(SteppedZoom(m_browser->Zoom(), step));
+    Tell(QString("Zoom %1 %").arg(m_browser->Zoom()));
+}
+
+void HelpWindow::ShowHistory() {
+    for (const auto& [button, possible] : {std::pair{m_back, m_browser->isBackwardAvailable()},
+                                           std::pair{m_forward, m_browser->isForwardAvailable()}}) {
+        // The button that was just pressed must not take the keyboard with it.
+        if (!possible && button->hasFocus())
+            m_browser->setFocus();
+        button->setEnabled(possible);
+    }
+    Tell({});
+}
+
+void HelpWindow::Tell(const QString& words) {
+    m_status->setText(words);
+    m_status->setVisible(!words.isEmpty());
+}
+
+HelpPrinter* HelpWindow::Printer() const {
+    for (QWidget* above = parentWidget(); above; above = above->parentWidget()) {
+        if (auto* printer = dynamic_cast<HelpPrinter*>(above))
+            return printer;
+    }
+    return nullptr;
 }
 
 void Help::Open(const QString& anchor) {

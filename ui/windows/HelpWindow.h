@@ -1,37 +1,68 @@
 #pragma once
 
-#include <QTextBrowser>
 #include <QWidget>
-#include <filesystem>
-#include <optional>
-#include <string>
 
 #include "engine/Host.h"
 #include "engine/Session.h"
+#include "ui/windows/HelpFile.h"
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
 
 namespace Ledgrove {
 
-/// The help file, an HTML document. Its anchors are "ctx<number>" for the help contexts of the main window's
-/// tabs and "ctxHouses", "ctxAssumptions", "ctxOptions" for the dialogs.
+class HelpBrowser;
+class HelpPrinter;
+class HelpSearch;
+
+/// The help file, an HTML document, with its history, a search, zoom and printing. Its anchors are
+/// "ctx<number>" for the help contexts of the main window's tabs and "ctxHouses", "ctxAssumptions" and so on
+/// for the dialogs.
 class HelpWindow : public QWidget {
     Q_OBJECT
 
 public:
+    /// Prints through the first of its parent windows that is a HelpPrinter.
     explicit HelpWindow(QWidget* parent);
 
     /// Opens the file at the topic of this anchor and comes to the front.
     void ShowTopic(const QString& path, const QString& anchor);
 
 private:
-    QTextBrowser* m_browser;
+    void BuildControls();
+    QHBoxLayout* MakeButtonRow();
+    QPushButton* AddButton(QHBoxLayout& row, const char* control, const QString& caption,
+                           void (HelpWindow::*action)());
+    void ConnectKeys();
+    void OnKey(const QKeySequence& keys, void (HelpWindow::*action)());
+    void GiveNaturalSize();
+
+    void GoBack();
+    void GoForward();
+    void GoToContents();
+    void BeginSearch();
+    void FindNext();
+    void FindPrevious();
+    void LeaveSearchOrClose();
+    void CloseWindow();
+    void Print();
+    void ZoomIn();
+    void ZoomOut();
+    void ResetZoom();
+    void StepZoom(int step);
+
+    void ShowHistory();
+    void Tell(const QString& words);
+    HelpPrinter* Printer() const;
+
+    HelpBrowser* m_browser;
+    HelpSearch* m_search;
+    QPushButton* m_back = nullptr;
+    QPushButton* m_forward = nullptr;
+    QPushButton* m_print = nullptr;
+    QLabel* m_status;
 };
-
-/// Where the help file is looked for: `name` in `folder`.
-QString HelpFilePath(const std::filesystem::path& folder, const std::string& name);
-
-/// A sentence that says why there is no help, with the file's name and where it was looked for; nothing when
-/// the file can be read.
-std::optional<std::string> HelpComplaint(const std::filesystem::path& folder, const std::string& name);
 
 /// The help of one window.
 class Help {

@@ -114,7 +114,7 @@ QWidget* MainInputs::MakeBuyer() {
     AddDownPayment(*grid, group);
     auto* taxes = new QCheckBox("I&nclude Taxes in");
     Identify(*taxes, "chkDoTax0", "Include Taxes in");
-    grid->addWidget(taxes, grid->rowCount(), 0, 1, 2);
+    grid->addWidget(taxes, grid->rowCount(), 0, 1, 2, Qt::AlignLeft);
     grid->setRowStretch(grid->rowCount(), 1);
     grid->setColumnStretch(1, 1);
     return group;

@@ -7,8 +7,10 @@
 #include <QVBoxLayout>
 
 #include "ui/MainScreenRules.h"
+#include "ui/windows/ChartPlace.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/ResultTable.h"
+#include "ui/windows/WelcomeHint.h"
 
 namespace Ledgrove {
 
@@ -66,6 +68,7 @@ QWidget* MakeWelcome() {
     QLabel* second = MakeWrapped(Words(Module1::WelcomePrintStep()));
     second->setObjectName("lblStep5Des2");
     grid->addWidget(second, grid->rowCount(), 1);
+    grid->addWidget(new WelcomeHint, grid->rowCount(), 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return panel;
 }
@@ -80,16 +83,22 @@ QVBoxLayout* MakeColumn(QWidget* panel) {
     return column;
 }
 
+/// A table at the left and its chart in the room that is left.
+void PutBeside(QWidget* panel, ResultTable* table, ChartKind kind) {
+    auto* row = new QHBoxLayout(panel);
+    row->setSpacing(36);
+    row->addWidget(table, 0, Qt::AlignTop);
+    row->addWidget(new ChartPlace(kind), 1);
+}
+
 QWidget* MakeCashFlow() {
     auto* panel = new QWidget;
-    QVBoxLayout* column = MakeColumn(panel);
     auto* table = new ResultTable({"Monthly", "Yearly"});
     table->AddRow({CaptionLabel("lbladditionalmortgagetext"), {"lblAddMortMo", "lblAddMortYr"}});
     table->AddRow({CaptionLabel("lblutilitysavingstext"), {"lblUtilSavMo", "lblUtilSavYr"}});
     table->AddRow({CaptionLabel("lbltaxsavingstext"), {"lblTaxSavMo", "lblTaxSavYr"}});
     table->AddRow({CaptionLabel("lblnetcashflowtext"), {"lblNetCashMo", "lblNetCashYr"}, RowWeight::Total});
-    column->addWidget(table);
-    column->addStretch();
+    PutBeside(panel, table, ChartKind::MonthlyCost);
     return panel;
 }
 
@@ -148,7 +157,6 @@ void SetTips(const QWidget& panel, std::initializer_list<const char*> figures, c
 
 QWidget* MakeAffordability() {
     auto* panel = new QWidget;
-    QVBoxLayout* column = MakeColumn(panel);
     auto* table = new ResultTable({"Base Home", "GREENMARK Home"});
     table->AddRow({TextLabel("Mortgage Amount"), {"lblStdMort", "lblGMHMort"}});
     table->AddRow({TextLabel("Down Payment"), {"lblstddown2", "lblgmhdown2"}});
@@ -156,8 +164,7 @@ QWidget* MakeAffordability() {
     table->AddRow({TextLabel("Maximum Loan Value"), {"lblStdMaxHome", "lblGMHMaxHome"}});
     table->AddRow({TextLabel("Maximum Payment"), {"lblStdInc", "lblGMHInc"}});
     table->AddRow({TextLabel("Buyer Qualifies?"), {"lblStdQual", "lblGMHQual"}, RowWeight::Total});
-    column->addWidget(table);
-    column->addStretch();
+    PutBeside(panel, table, ChartKind::Affordability);
     SetTips(*panel, {"lblStdMortPayment", "lblGMHMortPayment"}, mortgageTip);
     return panel;
 }
@@ -191,20 +198,22 @@ ResultTable* MakeSummarySavings() {
 QWidget* MakeSummary() {
     auto* panel = new QWidget;
     auto* grid = new QGridLayout(panel);
-    grid->setHorizontalSpacing(48);
-    grid->addWidget(MakeSummaryHomes(), 0, 0, 2, 1);
-    grid->addWidget(MakeSummarySavings(), 0, 1);
+    grid->setHorizontalSpacing(36);
+    grid->addWidget(MakeSummaryHomes(), 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(MakeSummarySavings(), 0, 1, Qt::AlignLeft);
     QLabel* note = CaptionLabel("lblPVNote");
     note->setAccessibleDescription("PV of Savings, note");
     grid->addWidget(note, 1, 1, Qt::AlignTop);
+    grid->addWidget(new ChartPlace(ChartKind::Savings), 2, 1, 2, 1);
     // The words write the ampersand as captions do, twice; a label without a buddy would show both.
     const QString words =
         "*Ledgrove only provides estimates && does not account for LTV - check with your bank";
     QLabel* footnote = TextLabel(QString(words).replace("&&", "&"));
     footnote->setObjectName("lblSummaryFootnote");
     footnote->setContentsMargins(0, 8, 0, 0);
-    grid->addWidget(footnote, 2, 0, 1, 2);
-    grid->setColumnStretch(2, 1);
+    footnote->setWordWrap(true);
+    grid->addWidget(footnote, 3, 0, Qt::AlignTop);
+    grid->setColumnStretch(1, 1);
     grid->setRowStretch(3, 1);
     SetTips(*panel, {"lblStdPITI", "lblGMHPITI"}, paymentTip);
     return panel;

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QPushButton>
+#include <QTabBar>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -20,6 +21,7 @@
 #include "ui/windows/MainInputs.h"
 #include "ui/windows/MainKeys.h"
 #include "ui/windows/ResultPanels.h"
+#include "ui/windows/WelcomeHint.h"
 
 namespace Ledgrove {
 
@@ -40,6 +42,8 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     ConnectOptions();
     ConnectTabs();
     ConnectButtons();
+    ConnectCharts();
+    ConnectWelcome();
     new FormGuard(*this);
     new MainKeys(*this, m_focus, [this] { OpenHelp(); });
     m_binding = std::make_unique<MainBinding>(m_session.Screen, *this);
@@ -51,12 +55,20 @@ frmMain::~frmMain() = default;
 
 void frmMain::Refresh() {
     m_binding->Refresh();
+    for (ChartPlace* chart : m_charts)
+        chart->Refresh();
+    m_hint->Refresh();
     emit Refreshed();
 }
 
 bool frmMain::CommitEntry() {
     auto* field = qobject_cast<EntryField*>(focusWidget());
     return !field || field->CommitInPlace();
+}
+
+void frmMain::PrintHelp(const QTextDocument& document, QWidget& above) {
+    if (m_actions.PrintHelp)
+        m_actions.PrintHelp(document, above);
 }
 
 void frmMain::BuildControls() {
@@ -146,6 +158,29 @@ void frmMain::ConnectButtons() {
         ConnectAction("bPrint", [this] { PrintReports(); });
     else
         ConnectAction("bPrint", {});
+}
+
+void frmMain::ConnectCharts() {
+    m_charts = findChildren<ChartPlace*>();
+    for (ChartPlace* chart : m_charts) {
+        if (m_actions.Charts)
+            chart->Connect({m_session, m_host, m_actions.Charts, m_actions.Questions});
+    }
+}
+
+void frmMain::ConnectWelcome() {
+    m_hint = findChild<WelcomeHint*>();
+    m_hint->Connect(m_session.Screen, m_actions.OpenSample);
+    connect(m_hint, &WelcomeHint::Chosen, this, &frmMain::GoTo);
+}
+
+void frmMain::GoTo(const QString& control) {
+    if (auto* panels = findChild<ResultPanels*>(); panels->objectName() == control) {
+        panels->tabBar()->setFocus(Qt::OtherFocusReason);
+        panels->setCurrentIndex(TabCount - 1);
+        return;
+    }
+    findChild<QWidget*>(control)->setFocus(Qt::OtherFocusReason);
 }
 
 void frmMain::ConnectAction(const char* button, std::function<void()> action) {

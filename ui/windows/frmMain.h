@@ -4,7 +4,9 @@
 #include <functional>
 #include <memory>
 
+#include "ui/windows/ChartPlace.h"
 #include "ui/windows/FormFocus.h"
+#include "ui/windows/HelpPrinter.h"
 #include "ui/windows/HelpWindow.h"
 #include "ui/windows/QtHost.h"
 
@@ -13,18 +15,24 @@ class QPushButton;
 namespace Ledgrove {
 
 class MainBinding;
+class WelcomeHint;
 
-/// The dialogs that the main window opens. An empty one leaves its button disabled.
+/// What the main window opens and shows that comes from elsewhere. An empty dialog leaves its button
+/// disabled.
 struct MainActions {
     std::function<void()> Houses;
     std::function<void()> Assumptions;
     std::function<void()> Options;
     std::function<void()> Print;
+    std::function<void(const QTextDocument&, QWidget& above)> PrintHelp;
+    std::function<void()> OpenSample;    ///< fills in a sample comparison, where there is one
+    std::function<ChartSource()> Charts; ///< without it there are none
+    FileQuestions Questions;             ///< asked where a chart is saved
 };
 
 /// The main window: a view of the session's screen record. Events go to the rules, and what the rules wrote
 /// is shown again.
-class frmMain : public QMainWindow {
+class frmMain : public QMainWindow, public HelpPrinter {
     Q_OBJECT
 
 public:
@@ -38,6 +46,8 @@ public:
 
     /// Takes what is being typed into the focused field as leaving it would. False when it was refused.
     bool CommitEntry();
+
+    void PrintHelp(const QTextDocument& document, QWidget& above) override;
 
 signals:
     /// The record was shown again: any of its texts may have changed.
@@ -56,6 +66,9 @@ private:
     void ConnectOptions();
     void ConnectTabs();
     void ConnectButtons();
+    void ConnectCharts();
+    void ConnectWelcome();
+    void GoTo(const QString& control);
     void ConnectAction(const char* button, std::function<void()> action);
     void OpenHelp();
     void OpenHouses();
@@ -67,6 +80,8 @@ private:
     EntryContext m_context;
     MainActions m_actions;
     std::unique_ptr<MainBinding> m_binding;
+    QList<ChartPlace*> m_charts;
+    WelcomeHint* m_hint = nullptr;
     Help m_help;
 };
 

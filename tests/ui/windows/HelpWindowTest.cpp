@@ -1,11 +1,6 @@
-#include "ui/windows/HelpWindow.h"
-
-#include <QFile>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <QTextBrowser>
 
-#include "WindowTest.h"
+#include "HelpDesk.h"
 #include "ui/MainScreenRules.h"
 
 using namespace Ledgrove;
@@ -13,15 +8,21 @@ using namespace Ledgrove;
 namespace {
 
 void WriteHelp(const QTemporaryDir& folder, const QString& name) {
-    QFile file(folder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(
-        "<html><body><a name=\"ctx501\">Welcome topic</a><p><a name=\"ctx504\">Cash topic</a></body></html>");
+    WriteHelpFile(
+        folder,
+        "<html><body><a name=\"ctx501\">Welcome topic</a><p><a name=\"ctx504\">Cash topic</a></body></html>",
+        name);
 }
 
 QTextBrowser* ShownHelp(const OpenWindow& open) {
     auto* help = open.Window->findChild<HelpWindow*>();
     return help && help->isVisible() ? help->findChild<QTextBrowser*>() : nullptr;
+}
+
+std::optional<std::string> ComplaintAbout(const QByteArray& content) {
+    const QTemporaryDir folder;
+    WriteHelpFile(folder, content);
+    return HelpComplaint(folder.path().toStdString(), "LEDGROVE.HLP");
 }
 
 } // namespace
@@ -36,6 +37,9 @@ private slots:
     void missingFileIsNamedWithItsPlace();
     void noFileNamedSaysWhereToNameIt();
     void directoryInPlaceOfTheFileCannotBeRead();
+    void otherFilesInItsPlaceAreTold_data();
+    void otherFilesInItsPlaceAreTold();
+    void unreadableFileIsTold();
 };
 
 void HelpWindowTest::f1OpensTheTopicOfTheCurrentTab_data() {
@@ -103,7 +107,44 @@ void HelpWindowTest::directoryInPlaceOfTheFileCannotBeRead() {
     QVERIFY(QDir(folder.path()).mkdir("LEDGROVE.HLP"));
     const auto complaint = HelpComplaint(folder.path().toStdString(), "LEDGROVE.HLP");
     QVERIFY(complaint);
-    QVERIFY(complaint->find("cannot be read") != std::string::npos);
+    QVERIFY(complaint->find("cannot be read: it is a folder") != std::string::npos);
+}
+
+void HelpWindowTest::otherFilesInItsPlaceAreTold_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("told");
+    QTest::addRow("empty") << QByteArray() << "is empty";
+    QTest::addRow("blank") << QByteArray(" \n\r\n ") << "is empty";
+    QTest::addRow("zero bytes") << QByteArray(4096, '\0') << "holds no text";
+    QTest::addRow("picture") << QByteArray("BM\x36\x04\0\0\0\0", 8) << "holds no text";
+    QTest::addRow("rubbish behind text") << QByteArray("<html>\x01\x02</html>") << "holds no text";
+    QTest::addRow("too large") << QByteArray(17 * 1024 * 1024, 'a') << "is too large";
+    QTest::addRow("text") << QByteArray("Only words.\r\n\tAnd a tab.") << "";
+    QTest::addRow("not UTF-8") << QByteArray("<p>caf\xE9</p>") << "";
+}
+
+void HelpWindowTest::otherFilesInItsPlaceAreTold() {
+    QFETCH(QByteArray, content);
+    QFETCH(QString, told);
+    const auto complaint = ComplaintAbout(content);
+    QCOMPARE(complaint.has_value(), !told.isEmpty());
+    if (!complaint)
+        return;
+    const QString text = QString::fromStdString(*complaint);
+    QVERIFY2(text.contains(told), qPrintable(text));
+    QVERIFY(text.startsWith("The help file \"LEDGROVE.HLP\" in /"));
+    QVERIFY(text.endsWith("behind HELPFILE= in Ledgrove.ini."));
+}
+
+void HelpWindowTest::unreadableFileIsTold() {
+    const QTemporaryDir folder;
+    WriteHelpFile(folder, "<p>Words</p>");
+    QVERIFY(QFile::setPermissions(folder.filePath("LEDGROVE.HLP"), QFileDevice::Permissions()));
+    if (QFile probe(folder.filePath("LEDGROVE.HLP")); probe.open(QIODevice::ReadOnly))
+        QSKIP("this user may read every file");
+    const auto complaint = HelpComplaint(folder.path().toStdString(), "LEDGROVE.HLP");
+    QVERIFY(complaint);
+    QVERIFY(complaint->find("cannot be read: ") != std::string::npos);
 }
 
 QTEST_MAIN(HelpWindowTest)

@@ -47,7 +47,8 @@ void MainWindowAccessTest::noMnemonicIsGivenTwice() {
         QVERIFY2(!owners.contains(letter), qPrintable(text + " and " + owners[letter]));
         owners[letter] = text;
     }
-    // Eight captions of fields, two options, the check box, five tabs, a button: the other letters are the menus'.
+    // Eight captions of fields, two options, the check box, five tabs, a button: the other letters are the
+    // menus'.
     QCOMPARE(owners.size(), 17);
 }
 
@@ -137,7 +138,10 @@ void MainWindowAccessTest::tabOrderFollowsTheEye() {
     QCOMPARE(open.TabWalk("ecIncome", expected.size()), expected);
     QCOMPARE(QApplication::focusWidget(), open.Find<ResultPanels>("SSTab1").tabBar());
     open.Press(Qt::Key_Tab);
+    QCOMPARE(open.Focused(), "bNextStep");
+    open.Press(Qt::Key_Tab);
     QCOMPARE(open.Focused(), "ecIncome");
+    open.Press(Qt::Key_Backtab, Qt::ShiftModifier);
     open.Press(Qt::Key_Backtab, Qt::ShiftModifier);
     QCOMPARE(QApplication::focusWidget(), open.Find<ResultPanels>("SSTab1").tabBar());
 }

@@ -1,0 +1,122 @@
+// What `ledgrove-cli chart` hands over to: drawing needs the toolkit, which ledgrove-cli does without.
+
+#include <iostream>
+#include <optional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <QApplication>
+#include <QSaveFile>
+
+#include "app/batch/CompareCommand.h"
+#include "app/batch/ObjectInput.h"
+#include "app/batch/ProgramFolder.h"
+#include "ui/StartUp.h"
+#include "ui/windows/charts/ChartPicture.h"
+
+namespace {
+
+using namespace Ledgrove;
+
+struct Arguments {
+    std::string Folder = ProgramFolder().string();
+    std::string Output;
+    ChartKind Kind = ChartKind::Savings;
+    int Width = 960;
+    int Height = 600;
+    std::string Input = "-";
+};
+
+constexpr int smallestSide = 200;
+constexpr int largestSide = 4000;
+
+int Complain(const std::string& sentence, ExitStatus status) {
+    std::cerr << "ledgrove-cli: " << sentence << '\n';
+    return status;
+}
+
+std::string ReadTab(const std::string& name, ChartKind& kind) {
+    if (name == "cashflow")
+        kind = ChartKind::MonthlyCost;
+    else if (name == "affordability")
+        kind = ChartKind::Affordability;
+    else if (name == "summary")
+        kind = ChartKind::Savings;
+    else
+        return "There is no chart of \"" + name + "\". Choose cashflow, affordability or summary.";
+    return {};
+}
+
+/// The format by the ending of the file's name; nothing for another ending.
+std::optional<PictureFormat> FormatOf(const std::string& file) {
+    const QString name = QString::fromStdString(file);
+    if (name.endsWith(".png", Qt::CaseInsensitive))
+        return PictureFormat::Png;
+    if (name.endsWith(".svg", Qt::CaseInsensitive))
+        return PictureFormat::Svg;
+    return std::nullopt;
+}
+
+void AddOptions(CLI::App& app, Arguments& arguments) {
+    app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
+    app.add_option("--output", arguments.Output, "The picture to write, *.png or *.svg")->required();
+    app.add_option("--tab", "Whose chart: cashflow, affordability or summary (default)")
+        ->each([&arguments](const std::string& name) {
+            if (const std::string fault = ReadTab(name, arguments.Kind); !fault.empty())
+                throw CLI::ValidationError("--tab", fault);
+        });
+    const CLI::Range sides(smallestSide, largestSide);
+    app.add_option("--width", arguments.Width, "In pixels of 1/96 inch (default: 960)")->check(sides);
+    app.add_option("--height", arguments.Height, "In pixels of 1/96 inch (default: 600)")->check(sides);
+    app.add_option("FILE", arguments.Input,
+                   "The comparison, as for \"compare --format json\"; none or \"-\": stdin");
+}
+
+int WritePicture(const std::string& file, const QByteArray& picture) {
+    QSaveFile output(QString::fromStdString(file));
+    if (output.open(QIODevice::WriteOnly) && output.write(picture) == picture.size() && output.commit())
+        return AllWell;
+    return Complain("\"" + file + "\" cannot be written (" + output.errorString().toStdString() +
+                        "). Choose another name or folder, or make room there.",
+                    CannotRun);
+}
+
+int Draw(const Arguments& arguments) {
+    const auto format = FormatOf(arguments.Output);
+    if (!format)
+        return Complain("A chart is written as *.png or *.svg; \"" + arguments.Output + "\" ends otherwise.",
+                        CannotRun);
+    Session session;
+    CollectingHost host;
+    if (const auto fault = Module1::LoadMainScreen(session, host, arguments.Folder))
+        return Complain(Sentence(*fault), CannotRun);
+    Comparison comparison(session);
+    const ObjectInput input = RunObjectFile(arguments.Input, comparison);
+    if (!input.Unreadable.empty())
+        return Complain(input.Unreadable, CannotRun);
+    if (input.Refused)
+        return Complain(RefusalSentence(*input.Refused), SomeRefused);
+    const ChartFigures figures = MakeChart(arguments.Kind, comparison.State());
+    return WritePicture(arguments.Output,
+                        ChartPicture(figures, *format, {arguments.Width, arguments.Height}));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // No display is needed, and none is asked even where there is one.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The toolkit's remarks about a desktop that is not there are nothing to a script; faults come as
+    // sentences of ours.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const QApplication application(argc, argv);
+    CLI::App app("Writes a chart of a comparison as a picture.", "ledgrove-cli chart");
+    Arguments arguments;
+    AddOptions(app, arguments);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& fault) {
+        return app.exit(fault) == 0 ? AllWell : CannotRun;
+    }
+    return Draw(arguments);
+}

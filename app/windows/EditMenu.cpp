@@ -1,0 +1,48 @@
+#include "app/windows/EditMenu.h"
+
+#include <QApplication>
+#include <QClipboard>
+
+namespace Ledgrove {
+
+EditMenu::EditMenu(QWidget& window)
+    : QMenu("&Edit", &window)
+    , m_window(window) {
+    AddCommand({"&Undo", QKeySequence::Undo, &QLineEdit::undo, &QLineEdit::isUndoAvailable});
+    AddCommand({"&Redo", QKeySequence::Redo, &QLineEdit::redo, &QLineEdit::isRedoAvailable});
+    addSeparator();
+    AddCommand({"Cu&t", QKeySequence::Cut, &QLineEdit::cut,
+                [](const QLineEdit& field) { return field.hasSelectedText() && !field.isReadOnly(); }});
+    AddCommand({"&Copy", QKeySequence::Copy, &QLineEdit::copy, &QLineEdit::hasSelectedText});
+    AddCommand({"&Paste", QKeySequence::Paste, &QLineEdit::paste, [](const QLineEdit& field) {
+                    return !field.isReadOnly() && !QApplication::clipboard()->text().isEmpty();
+                }});
+    AddCommand({"Select &All", QKeySequence::SelectAll, &QLineEdit::selectAll,
+                [](const QLineEdit& field) { return !field.text().isEmpty(); }});
+    addSeparator();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* focused) { RememberField(focused); });
+    RememberField(QApplication::focusWidget());
+}
+
+void EditMenu::AddCommand(const Command& command) {
+    QAction* action = addAction(command.Text);
+    action->setShortcut(command.Key);
+    // The field with the focus takes these keys itself; elsewhere they would change a field unseen.
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, [this, act = command.Act] {
+        if (m_field)
+            act(*m_field);
+    });
+    connect(this, &QMenu::aboutToShow, action, [this, action, isUsable = command.IsUsable] {
+        action->setEnabled(m_field && isUsable(*m_field));
+    });
+}
+
+void EditMenu::RememberField(QWidget* focused) {
+    // While the menu bar is used by keyboard it has the focus itself.
+    if (focused && focused->window() == &m_window && focused->focusPolicy() != Qt::NoFocus)
+        m_field = qobject_cast<QLineEdit*>(focused);
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace Ledgrove {
+
+/// Whether the bytes are a Windows metafile, going by its headers.
+bool IsWmf(const QByteArray& bytes);
+
+/// A look at a metafile before the library reads it, which believes what it is told: false where a record
+/// does not lie whole in the file or is longer than the header says, and where the header claims longer
+/// records than the file can hold.
+bool CheckWmf(const QByteArray& bytes);
+
+} // namespace Ledgrove

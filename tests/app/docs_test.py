@@ -1,0 +1,79 @@
+"""The examples of the documents do what the documents say."""
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
+DOCUMENTS = ("README.md", "docs/cli.md", "docs/guide.md")
+
+
+def fenced(text):
+    """Blocks of a shell session: a line with "$ " in front is typed, what follows is answered."""
+    return re.findall(r"^```console\n(.*?)^```$", text, re.M | re.S)
+
+
+def indented(text):
+    """Commands on lines of their own, four blanks in."""
+    commands = [line.strip() for line in re.findall(r"^    (ledgrove-cli .*)$", text, re.M)]
+    # A synopsis is not a command.
+    return [command for command in commands if not re.search(r"\[|--help \|", command)]
+
+
+class Examples(unittest.TestCase):
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+        shutil.copytree(SOURCE / "data", self.folder / "data")
+        # A program folder of its own, so that an example may change the settings.
+        self.programs = self.folder / "program"
+        shutil.copytree(SOURCE / "data", self.programs)
+        for name in ("ledgrove-cli", "ledgrove-report", "ledgrove-chart"):
+            shutil.copy(PROGRAM.parent / name, self.programs)
+        shutil.copy(SOURCE / "data/samples/first-home.ledgrove.json", self.folder / "home.ledgrove.json")
+        (self.folder / "homes.jsonl").write_text('{"ecStdHome": 200000}\n{"ecStdHome": 210000}\n')
+        (self.folder / "pricelist.csv").write_text("ecStdHome,ecGMHHome\n200000,206000\n")
+
+    def run_shell(self, command):
+        return subprocess.run(["sh", "-c", command], cwd=self.folder, capture_output=True, text=True, timeout=60,
+                              env={"PATH": f"{self.programs}:/usr/bin:/bin", "HOME": str(self.folder)})
+
+    def test_commands_run(self):
+        count = 0
+        for document in DOCUMENTS:
+            for command in indented((SOURCE / document).read_text()):
+                run = self.run_shell(command)
+                self.assertEqual(run.returncode, 0, f"{document}: {command}\n{run.stderr}")
+                count += 1
+        self.assertGreaterEqual(count, 6)
+
+    def test_sessions_answer_as_shown(self):
+        count = 0
+        for document in DOCUMENTS:
+            for block in fenced((SOURCE / document).read_text()):
+                for typed, answer in re.findall(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", block, re.M):
+                    run = self.run_shell(typed)
+                    self.assertEqual(run.stdout + run.stderr, answer, f"{document}: {typed}")
+                    count += 1
+        self.assertGreaterEqual(count, 5)
+
+    def test_every_verb_and_option_is_described(self):
+        text = (SOURCE / "docs/cli.md").read_text()
+        for verb in ("compare", "report", "chart", "settings"):
+            self.assertIn(f"\n## {verb}\n", text)
+            help_text = self.run_shell(f"ledgrove-cli {verb} --help").stdout
+            for option in set(re.findall(r"--[a-z]+", help_text)) - {"--help", "--version"}:
+                self.assertIn(option, text, f"{verb} {option}")
+
+    def test_links_lead_somewhere(self):
+        for path in (SOURCE / "README.md", *(SOURCE / "docs").glob("*.md")):
+            for target in re.findall(r"\]\(([^)#]+)(?:#[^)]*)?\)", path.read_text()):
+                if "://" not in target:
+                    self.assertTrue((path.parent / target).exists(), f"{path.name}: {target}")
+
+
+if __name__ == "__main__":
+    unittest.main()

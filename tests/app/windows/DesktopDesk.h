@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "app/windows/CurrentFile.h"
+#include "app/windows/MainMenu.h"
+#include "tests/ui/windows/DialogTest.h"
+
+// What the tests of the whole main window share.
+namespace Ledgrove {
+
+/// The main window with its menu bar on a program folder of its own. Questions are answered as told.
+struct OpenDesktop : SettingsDesk, FormDriver {
+    explicit OpenDesktop(MainActions actions = {})
+        : Recent(FolderPath() + "/recent.ini") {
+        Questions.OpenName = [this](QWidget&, const FileRequest& request) {
+            Asked = request;
+            return NameToGive;
+        };
+        Questions.SaveName = Questions.OpenName;
+        Questions.Unsaved = [this](QWidget&, const QString& name) {
+            UnsavedNames += name;
+            return Answer;
+        };
+        actions.Questions = Questions;
+        Window = std::make_unique<frmMain>(State, Outside, std::move(actions));
+        File = new CurrentFile(*Window, State, Outside, Recent, Questions);
+        BuildMainMenu(*File, {*Window, State, Outside, *File, Questions});
+        Form = Window.get();
+        Window->show();
+        if (!QTest::qWaitForWindowActive(Window.get()))
+            qFatal("the window does not become active");
+    }
+
+    QString FolderPath() const { return QString::fromStdString(State.Folder.string()); }
+    QString PathOf(const QString& name) const { return FolderPath() + '/' + name; }
+    /// Title as the window system shows it, with the mark of changes.
+    QString Title() const {
+        return QString(Window->windowTitle()).replace("[*]", Window->isWindowModified() ? "*" : "");
+    }
+    void Enter(const QString& field, const QString& text) const {
+        Type(field, text);
+        Press(Qt::Key_Return);
+    }
+
+    QString NameToGive;
+    FileRequest Asked;
+    SaveAnswer Answer = SaveAnswer::Cancel;
+    QStringList UnsavedNames;
+    FileQuestions Questions;
+    RecentFiles Recent;
+    std::unique_ptr<frmMain> Window;
+    CurrentFile* File = nullptr;
+};
+
+inline QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+}
+
+inline void PutBytes(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s cannot be written", qPrintable(path));
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,164 @@
+"""The shipped help in its window, opened, read and left by keys alone."""
+import shutil
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+from desktop import Desktop, Program, wait_for
+
+PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
+HELP = "Ledgrove Help"
+# Of each tab, and a word of its topic that no other topic's first screen holds.
+TABS = (("Welcome", "Welcome: a first comparison"), ("Cash Flow", "Cash Flow"), ("More Home", "More Home"),
+        ("Affordability", "Affordability"), ("Summary", "Summary"))
+
+
+def setUpModule():
+    # One for all: the accessibility library stays with the first bus it meets.
+    HelpTest.desktop = Desktop()
+    unittest.addModuleCleanup(HelpTest.desktop.close)
+
+
+class HelpTest(unittest.TestCase):
+    desktop = None
+
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+        for name in ("Ledgrove.ini", "LEDGROVE.HLP"):
+            shutil.copy(SOURCE / "data" / name, self.folder)
+        self.program = Program(self.desktop, PROGRAM, self.folder)
+        self.addCleanup(self.program.close)
+        self.program.find_root()
+        self.program.wait_focus("Annual Income")
+
+    def help_window(self):
+        """The help as a screen reader meets it, None while it is closed."""
+        for index in range(self.program.root.get_child_count()):
+            child = self.program.root.get_child_at_index(index)
+            if child and child.get_name() == HELP and self.program.showing(child):
+                return child
+        return None
+
+    def wait_help(self):
+        return wait_for(self.help_window, "the help window")
+
+    def wait_closed(self):
+        wait_for(lambda: self.help_window() is None, "the help window closed")
+
+    def part(self, role, name=None, description=None):
+        def search():
+            for node in self.program.all(self.wait_help()):
+                if node.get_role_name() == role and name in (None, node.get_name()) \
+                        and description in (None, node.get_description()):
+                    return node
+            return None
+        return wait_for(search, f"{role} {name or description}")
+
+    def first_line(self):
+        """The line of the text at the top of the window."""
+        from gi.repository import Atspi
+        node = self.part("label", "Help")
+        box = node.get_extents(Atspi.CoordType.SCREEN)
+        # Only a point on a letter has a place in the text.
+        points = ((box.x + across, box.y + down) for down in range(6, 40, 4) for across in range(10, 70, 6))
+        places = (Atspi.Text.get_offset_at_point(node, x, y, Atspi.CoordType.SCREEN) for x, y in points)
+        at = next((place for place in places if place >= 0), None)
+        if at is None:
+            return ""
+        whole = Atspi.Text.get_text(node, 0, -1)
+        start = whole.rfind("\n", 0, at) + 1
+        return whole[start:whole.find("\n", at)].strip()
+
+    def wait_topic(self, heading):
+        wait_for(lambda: self.first_line() == heading, f"the topic {heading}; it shows {self.first_line()}")
+
+    def wait_focused(self, name):
+        """The focus on a control of the help."""
+        from gi.repository import Atspi
+
+        def has():
+            return any(node.get_state_set().contains(Atspi.StateType.FOCUSED) and node.get_name() == name
+                       for node in self.program.all(self.wait_help()))
+        wait_for(has, f"the focus on {name}")
+
+    def found(self, text):
+        wait_for(lambda: self.part("label", description="Matches").get_name() == text, f"{text} matches")
+
+    def choose_tab(self, name):
+        self.program.click(self.program.find("page tab", name))
+        if name != "Welcome":
+            self.program.answer()  # the data check: nothing is entered
+
+
+class Topics(HelpTest):
+    def test_f1_on_each_tab_opens_its_topic(self):
+        for tab, heading in TABS:
+            if tab != "Welcome":
+                self.choose_tab(tab)
+            self.desktop.key("F1")
+            self.wait_focused("Help")
+            self.wait_topic(heading)
+            self.desktop.key("Escape")
+            self.wait_closed()
+
+    def test_f1_in_a_dialog_opens_the_dialogs_topic_and_escape_leaves_the_dialog_open(self):
+        self.program.click(self.program.find("push button", "Options"))
+        self.program.window("Options")
+        self.desktop.key("F1")
+        self.wait_focused("Help")
+        self.wait_topic("Options")
+        self.desktop.key("Escape")
+        self.wait_closed()
+        self.program.window("Options")
+
+    def test_a_dead_help_file_is_told(self):
+        (self.folder / "LEDGROVE.HLP").write_bytes(bytes(range(256)) * 64)
+        self.desktop.key("F1")
+        self.assertIn("holds no text", self.program.answer()[1])
+        self.assertIsNone(self.help_window())
+
+
+class Reading(HelpTest):
+    def setUp(self):
+        super().setUp()
+        self.desktop.key("F1")
+        self.wait_focused("Help")
+        self.wait_topic("Welcome: a first comparison")
+
+    def test_contents_links_back_and_forward(self):
+        self.desktop.key("alt+Home")
+        self.wait_topic("Ledgrove Help")
+        self.desktop.key("Tab", "Tab", "Return")  # the second link of the contents
+        self.wait_topic("What you enter")
+        self.desktop.key("alt+Left")
+        self.wait_topic("Ledgrove Help")
+        self.desktop.key("alt+Left")
+        self.wait_topic("Welcome: a first comparison")
+        self.desktop.key("alt+Right", "alt+Right")
+        self.wait_topic("What you enter")
+
+    def test_search(self):
+        self.desktop.key("ctrl+f")
+        self.wait_focused("Find in the help")
+        self.desktop.type("Glossary")
+        self.found("2 of 2")  # the first place is in the contents, above the topic that was read
+        self.desktop.key("Return")
+        self.found("1 of 2")
+        self.desktop.key("F3")
+        self.found("2 of 2")
+        self.desktop.type("x")
+        self.found("Not found")
+        self.desktop.key("Escape")
+        self.wait_focused("Help")
+        self.desktop.key("Escape")
+        self.wait_closed()
+
+    def test_ctrl_w_closes(self):
+        self.desktop.key("ctrl+w")
+        self.wait_closed()
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,259 @@
+#!/usr/bin/env python3
+"""Stops and fails every system call of every save, lets copies of the program save at once, and fills a small disk.
+
+usage: run_faults.py FAULT_WRITER LEDGROVE_CLI [--full] [--rounds N]
+
+Prints its figures; the exit status is 1 where anything was lost, silent or crashed. --full tries every error at every
+call instead of one in turn."""
+import argparse
+import itertools
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+from collections import Counter
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+from writers import INI, OLD, TEMPORARY, all_writers
+
+ERRORS = ("EIO", "ENOSPC", "EACCES", "EROFS", "EDQUOT")
+# Memory and the end of the process are no file's business; a failed allocation ends any program.
+LEFT_ALONE = {"brk", "mmap", "munmap", "mprotect", "exit_group", "futex", "getrandom", "clock_nanosleep"}
+PATIENCE = 60
+WORKERS = 2
+
+
+def run(command, **options):
+    return subprocess.run([str(word) for word in command], capture_output=True, timeout=PATIENCE, **options)
+
+
+class Trial:
+    """One run of a writer in a folder of its own."""
+
+    def __init__(self, writer):
+        self.writer = writer
+        self.folder = Path(tempfile.mkdtemp(prefix="ledgrove-faults-"))
+        writer.prepare(self.folder)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        shutil.rmtree(self.folder)
+
+    def run(self, *tracer):
+        command = [self.folder if word == "FOLDER" else word for word in self.writer.command]
+        return run([*tracer, *command])
+
+    def content(self, name):
+        path = self.folder / name
+        return path.read_bytes() if path.exists() else None
+
+    def faults(self, kind, ended):
+        """What is wrong with what the run left: lost, silent, crashed, untidy."""
+        writer, names = self.writer, {path.name for path in self.folder.iterdir()}
+        content = self.content(writer.file)
+        first, last = writer.states[0], writer.states[-1]
+        rescued = [name for name in writer.rescued if self.content(name) in writer.states and name in names]
+        if content not in writer.states or (content is None and not rescued and first != content):
+            yield "lost"
+        if content is None and first is None and not set(writer.before) <= names:
+            yield "lost"
+        killed = ended.returncode in (-9, 137)
+        if ended.returncode < 0 and not killed or ended.returncode > 128 and not killed:
+            yield "crashed"
+        if killed and kind != "kill":
+            yield "crashed"
+        if not killed:
+            said = ended.stderr.decode(errors="replace").strip()
+            if ended.returncode == 0 and (content != last or writer.says not in (None, ended.stdout)):
+                yield "silent"
+            if ended.returncode != 0 and not said.endswith("."):
+                yield "silent"
+            # Where only the temporary file holds the settings, the sentence must say so.
+            if ended.returncode != 0 and first and content is None and TEMPORARY not in said:
+                yield "silent"
+        if names - {writer.file, *writer.before, *writer.leftovers}:
+            yield "untidy"
+        if not killed and content is not None and kind != "unlink" and names - {writer.file}:
+            yield "untidy"
+
+
+def calls_of(writer):
+    """The writer's system calls from the first that concerns its folder: name and how many of that name came before."""
+    with Trial(writer) as trial, tempfile.NamedTemporaryFile("r") as log:
+        ended = trial.run("strace", "-f", "-qq", "-o", log.name)
+        if ended.returncode != 0 or trial.content(writer.file) != writer.states[-1]:
+            sys.exit(f"{writer.name} does not save as expected: {ended.stderr.decode()}\n{trial.content(writer.file)}")
+        seen, calls, started = Counter(), [], False
+        for line in log:
+            match = re.match(r"\d+ +(\w+)\(", line)
+            if not match:
+                continue
+            name = match.group(1)
+            seen[name] += 1
+            started = started or str(trial.folder) in line and name != "execve"
+            if started:
+                calls.append((name, seen[name]))
+        return calls
+
+
+def plans_of(writer, full):
+    """(kind, call, injection) for each run. A call that reads or writes also says that it did only
+    a byte, or nothing, without an error."""
+    turn = itertools.cycle(ERRORS)
+    for name, number in calls_of(writer):
+        if name == "exit_group":
+            continue
+        yield "kill", name, f"inject={name}:signal=KILL:when={number}"
+        if name in LEFT_ALONE:
+            continue
+        for error in ERRORS if full else (next(turn),):
+            yield name, name, f"inject={name}:error={error}:when={number}"
+        # Nobody can tell where a pipe's bytes went.
+        if name == "read" or name == "write" and writer.says is None:
+            for told in (0, 1):
+                yield name, name, f"inject={name}:retval={told}:when={number}"
+
+
+def one_run(writer, plan):
+    kind, call, injection = plan
+    with Trial(writer) as trial:
+        ended = trial.run("strace", "-f", "-qq", "--seccomp-bpf", "-o", "/dev/null", "-e", f"trace={call}", "-e", injection)
+        return [(fault, f"{writer.name}: {injection}: status {ended.returncode}, "
+                        f"{sorted(p.name for p in trial.folder.iterdir())}, {ended.stderr.decode(errors='replace').strip()}")
+                for fault in set(trial.faults(kind, ended))]
+
+
+def inject_everywhere(writers, full):
+    plans = [(writer, plan) for writer in writers for plan in plans_of(writer, full)]
+    with ThreadPoolExecutor(WORKERS) as pool:
+        results = [fault for faults in pool.map(lambda job: one_run(*job), plans) for fault in faults]
+    kills = sum(plan[0] == "kill" for _, plan in plans)
+    print(f"system calls stopped: {kills}, failed: {len(plans) - kills}, of {len(writers)} writers")
+    return results
+
+
+def without_locks(writers):
+    """A file system that knows no locks: everything is saved and read all the same."""
+    for writer in writers:
+        for error in ("ENOLCK", "EOPNOTSUPP", "EBADF"):
+            with Trial(writer) as trial:
+                ended = trial.run("strace", "-f", "-qq", "-o", "/dev/null", "-e", f"inject=flock:error={error}")
+                if ended.returncode != 0 or trial.content(writer.file) != writer.states[-1]:
+                    yield "unusable", f"{writer.name} without locks ({error}): {ended.stderr.decode()}"
+
+
+def at_once(program, rounds):
+    """Two copies save and a third reads, all the time."""
+    with tempfile.TemporaryDirectory(prefix="ledgrove-faults-") as name:
+        folder = Path(name)
+        (folder / INI).write_bytes(OLD + b"COUNTA=0\r\nCOUNTB=0\r\n")
+        def start(*words):
+            return subprocess.Popen([program, *words], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        writers = [start("count", name, key, str(rounds)) for key in ("COUNTA", "COUNTB")]
+        running = [*writers, start("watch", name, str(rounds))]
+        try:
+            outputs = [process.communicate(timeout=PATIENCE * 4) for process in writers]
+            if any(process.returncode for process in writers):
+                running[2].terminate()  # it would wait for the end of both for ever
+            outputs.append(running[2].communicate(timeout=PATIENCE))
+        finally:
+            for process in running:
+                process.kill()
+        for process, (_, said) in zip(running, outputs):
+            if process.returncode != 0:
+                yield "lost", f"at once: {said.decode(errors='replace')}"
+        if (folder / INI).read_bytes() != OLD + b"COUNTA=%d\r\nCOUNTB=%d\r\n" % (rounds, rounds):
+            yield "lost", f"at once: the file ends as {(folder / INI).read_bytes()!r}"
+        if [path.name for path in folder.iterdir()] != [INI]:
+            yield "untidy", "at once: another file is left"
+        print(f"two writers and a reader at once: {rounds} saves each, {outputs[2][0].decode().strip() or '?'} reads")
+
+
+def on_a_full_disk(program, cli):
+    """Runs this script again where it may mount a small disk of its own."""
+    inside = [sys.executable, __file__, program, cli, "--inside"]
+    as_root = [] if os.geteuid() == 0 else ["--map-root-user"]
+    ended = run(["unshare", "--mount", *as_root, *inside])
+    out = ended.stdout.decode()
+    if "disk:" not in out:
+        print(f"full disk: skipped, no disk can be mounted here ({ended.stderr.decode().strip().splitlines()[-1:]})")
+        return []
+    print(out.strip().splitlines()[0])
+    return [tuple(line.split(" ", 1)) for line in out.strip().splitlines()[1:]]
+
+
+def inside(program, cli):
+    with tempfile.TemporaryDirectory() as name:
+        folder = Path(name)
+        subprocess.run(["mount", "-t", "tmpfs", "-o", "size=64k", "ledgrove-faults", name], check=True)
+        faults, tried, refused = [], 0, 0
+        try:
+            writer = next(w for w in all_writers(program, cli) if w.name == "setting")
+            # Six pages of settings beside ever less room: from enough for a second file to none at all.
+            unknown = b"".join(b"UNKNOWN%04d=x\r\n" % line for line in range(1400))
+            writer.before = {INI: OLD + unknown}
+            writer.states = [state + unknown for state in writer.states]
+            for pages in range(17):
+                for path in folder.iterdir():
+                    path.unlink()
+                trial = Trial.__new__(Trial)
+                trial.writer, trial.folder = writer, folder
+                writer.prepare(folder)
+                ballast = folder / "ballast"
+                try:
+                    with ballast.open("wb", 0) as file:
+                        for _ in range(pages):
+                            file.write(bytes(4096))
+                except OSError:
+                    pass
+                ended = trial.run()
+                ballast.unlink()
+                tried += 1
+                refused += ended.returncode != 0
+                faults += [(fault, f"{pages} pages of ballast: {ended.stderr.decode()}")
+                           for fault in set(trial.faults("full", ended))]
+            subprocess.run(["mount", "-o", "remount,ro", name], check=True)
+            reading = run([program, "read", name])
+            saving = run([program, "setting", name])
+            if reading.returncode != 0:
+                faults.append(("unusable", f"a read-only folder cannot be read: {reading.stderr.decode()}"))
+            if saving.returncode == 0 or b"Read-only file system" not in saving.stderr:
+                faults.append(("silent", f"a read-only folder takes a save: {saving.stderr.decode()}"))
+        finally:
+            subprocess.run(["umount", name], check=True)
+        print(f"full disk: {tried} saves on 64 KB, {refused} refused; read-only disk: read, save refused")
+        for fault, text in faults:
+            print(fault, text.replace("\n", " "))
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("fault_writer")
+    parser.add_argument("ledgrove_cli")
+    parser.add_argument("--full", action="store_true")
+    parser.add_argument("--rounds", type=int, default=200)
+    parser.add_argument("--inside", action="store_true", help=argparse.SUPPRESS)
+    arguments = parser.parse_args()
+    programs = (arguments.fault_writer, arguments.ledgrove_cli)
+    if arguments.inside:
+        inside(*programs)
+        return 0
+    writers = all_writers(*programs)
+    found = inject_everywhere(writers, arguments.full)
+    found += without_locks(writers)
+    found += at_once(arguments.fault_writer, arguments.rounds)
+    found += on_a_full_disk(*programs)
+    for fault, text in found:
+        print(f"{fault}: {text}")
+    counts = Counter(fault for fault, _ in found)
+    print(", ".join(f"{kind}: {counts[kind]}" for kind in ("lost", "silent", "crashed", "untidy", "unusable")))
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,92 @@
+"""The saves and readings that the faults are tried on: a folder as it is before, the command, and the folder's states that are no loss.
+
+The states are worked out here from the rewrite rules, not taken from what a program wrote."""
+from dataclasses import dataclass, field
+from pathlib import Path
+
+INI, TEMPORARY = "Ledgrove.ini", "Pennaro2.INI"
+
+# Between the lines of every key stands one of no key, with bytes that are no text.
+LINES = (b"BUILDERNAME=Acme", b"NOTE=\xe9\x81\x00\xff", b"LOGOFILE=/old.bmp", b"LOGOOPTION=1", b"FEATURE1=Finished basement",
+         b"# kept", b"FEATURE2=Larger deck", b"TAXCAT=45200,15", b"TAXCAT=109250,28", b"", b"ASSUMPTION1=1.5",
+         b"ASSUMPTION2=0.35", b"PVSAVINGS_RATE=7.5", b"PVSAVINGS_TERM=30", b"PVSAVINGS_FLAG=FALSE", b"YEARS_IN_HOME=7",
+         b"PMI_MULT1=0.01", b"PMI_MULT2=0.0078", b"PMI_MULT3=0.0052", b"PMI_MULT4=0.003",
+         b"LOANTYPE=1,Conventional,,0.280,0.360,,,,FALSE", b"HOMELIST=Lot 1,100000,1200,110000,800", b"LAST=\xef\xbb\xbf")
+
+
+def joined(lines):
+    return b"".join(line + b"\r\n" for line in lines)
+
+
+def replaced(lines, **values):
+    """Every line of the key gets the value; a key without a line is appended."""
+    out = list(lines)
+    for key, value in values.items():
+        start = key.encode() + b"="
+        if not any(line.startswith(start) for line in out):
+            out.append(start + value)
+        out = [start + value if line.startswith(start) else line for line in out]
+    return out
+
+
+def without(lines, key):
+    return [line for line in lines if not line.startswith(key)]
+
+
+def turned(lines, old_to_new):
+    return [old_to_new.get(line, line) for line in lines]
+
+
+TAXED = turned(LINES, {b"TAXCAT=45200,15": b"TAXCAT=50000,16.00", b"TAXCAT=109250,28": b"TAXCAT=99000,29.00"})
+# The assumptions dialog's three saves, one after the other. Its last bracket is shown without its high end and keeps it.
+RETAXED = turned(LINES, {b"TAXCAT=45200,15": b"TAXCAT=45200,15.00", b"TAXCAT=109250,28": b"TAXCAT=109250,28.00"})
+ASSUMED = replaced(RETAXED, ASSUMPTION1=b"1.75", ASSUMPTION2=b"0.45", PVSAVINGS_RATE=b"5.25", PVSAVINGS_TERM=b"15",
+                   PVSAVINGS_FLAG=b"TRUE", YEARS_IN_HOME=b"9", PMI_MULT1=b"0", PMI_MULT2=b"0", PMI_MULT3=b"0", PMI_MULT4=b"0")
+LOANED = without(ASSUMED, b"LOANTYPE") + [b"LOANTYPE=1,Conventional,,0.300,0.360,,,,FALSE"]
+OPTIONED = [*replaced(LINES, FEATURE1=b"Sun room"), b"BUILDERNAME=New Builder", b"LOGOFILE=/new.bmp"]
+HEADED = replaced(LINES, FEATURE1=b"Sun room", BUILDERNAME=b"New Builder", LOGOOPTION=b"2", LOGOFILE=b"/new.bmp")
+HOUSED = [*without(LINES, b"HOMELIST"), b"HOMESELECTIONDIALOG=CLOSED", b"HOMELIST=Lot 7,200000,2400,206000,1700",
+          b"HOMELIST=Lot 8,1,2,3,4"]
+OPENED = replaced(LINES, HOMESELECTIONDIALOG=b"OPEN")
+NAMED = replaced(LINES, BUILDERNAME=b"New Builder")
+OLD = joined(LINES)
+
+
+@dataclass
+class Writer:
+    """A save of one file. `states` are the file's contents from the one before to the finished one; None is no file.
+
+    A writer with another scheme names its files and, as `rescued`, where else a whole state may lie after a kill."""
+    name: str
+    command: list
+    states: list
+    before: dict = field(default_factory=lambda: {INI: OLD})
+    file: str = INI
+    rescued: tuple = (TEMPORARY,)
+    leftovers: tuple = (TEMPORARY,)  # what a killed save may leave beside the file
+    says: bytes | None = None  # what a reader prints when it says that all went well
+
+    def prepare(self, folder: Path):
+        for name, content in self.before.items():
+            (folder / name).write_bytes(content)
+
+
+def all_writers(fault_writer, ledgrove_cli):
+    def window(name, *steps, **others):
+        return Writer(name, [fault_writer, name, "FOLDER"], [OLD, *map(joined, steps)], **others)
+    return [
+        window("setting", NAMED),
+        Writer("cli set", [ledgrove_cli, "settings", "--folder", "FOLDER", "set", "BUILDERNAME", "New Builder"],
+               [OLD, joined(NAMED)]),
+        window("taxes", TAXED),
+        window("assumptions", RETAXED, ASSUMED, LOANED),
+        window("options", OPTIONED),
+        window("header", HEADED),
+        window("open-houses", OPENED),
+        window("houses", HOUSED),
+        Writer("create", [fault_writer, "create", "FOLDER"], [None, b""], before={}),
+        Writer("restore", [fault_writer, "restore", "FOLDER"], [None, OLD], before={TEMPORARY: OLD}),
+        Writer("cli get", [ledgrove_cli, "settings", "--folder", "FOLDER", "get", "BUILDERNAME"], [OLD], says=b"Acme\n"),
+        Writer("cli houses", [ledgrove_cli, "settings", "--folder", "FOLDER", "houses"], [OLD],
+               says=b"name,StdCost,StdUtil,GMHCost,GMHUtil\nLot 1,100000,1200,110000,800\n"),
+    ]

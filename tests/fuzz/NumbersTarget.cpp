@@ -1,0 +1,61 @@
+// Any text as a number, in any field format; any number through any picture.
+
+#include "Fuzz.h"
+
+#include "engine/NumberText.h"
+#include "ui/FieldFormats.h"
+
+#include <array>
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+using namespace Ledgrove;
+using Fuzz::Require;
+
+constexpr std::array formats = {"Dollar",  "IntRate", "Percent", "Percent2",     "Either",
+                                "Either2", "String",  "Whole",   "WholePercent", "SmallPercent"};
+
+void CheckText(std::string_view text) {
+    for (const char* format : formats) {
+        const std::string shown = Module1::FormatFieldText(text, format);
+        // What a field shows must be readable when it is left again; below 0 it is refused before it is
+        // shown.
+        if (Module1::ReadStrippedNumber(text).value_or(-1) >= 0)
+            Require(Module1::ReadStrippedNumber(shown).has_value(), "a shown number is a number");
+    }
+    const float value = Module1::ParseFieldValue(text, 100);
+    Require(std::isfinite(value), "a field's value is finite");
+}
+
+void CheckSingle(float value) {
+    if (!std::isfinite(value))
+        return;
+    const auto read = Module1::ReadNumber(Module1::ShortestText(value));
+    Require(read && static_cast<float>(*read) == value, "the shortest text reads back as the same single");
+    Module1::PlainText(value);
+    Module1::MoneyText(value);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::array<char, sizeof(double)> bytes{};
+    Fuzz::Pieces pieces(Fuzz::TextOf(data, size));
+    for (char& byte : bytes)
+        byte = static_cast<char>(pieces.Byte());
+    double number = 0;
+    std::memcpy(&number, bytes.data(), sizeof number);
+    float single = 0;
+    std::memcpy(&single, bytes.data(), sizeof single);
+
+    const std::string_view picture = pieces.Until('\0');
+    if (std::isfinite(number))
+        Require(Module1::FormatPicture(number, picture).size() <= 2 * picture.size() + 500,
+                "a shown number is no longer than its digits and its picture");
+    Module1::FormatPicture(single, picture);
+    CheckSingle(single);
+    CheckText(pieces.Rest());
+    return 0;
+}

@@ -1,0 +1,24 @@
+// Feeds every file of the named folders to the target, as a fuzzer would.
+
+#include "Fuzz.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+int main(int argc, char** argv) {
+    std::size_t count = 0;
+    for (int i = 1; i < argc; ++i) {
+        for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
+            std::ifstream stream(entry.path(), std::ios::binary);
+            const std::string bytes(std::istreambuf_iterator<char>(stream), {});
+            // An input that ends the program is the last one named.
+            std::cout << entry.path().filename().string() << std::endl;
+            LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+            ++count;
+        }
+    }
+    std::cout << count << " inputs\n";
+    return count > 0 ? 0 : 1;
+}

@@ -1,0 +1,239 @@
+#include "ui/ChartFigures.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/FinancialFunctions.h"
+#include "engine/NumberText.h"
+
+namespace Ledgrove {
+
+namespace {
+
+constexpr const char* baseHome = "Base Home";
+constexpr const char* labelledHome = "GREENMARK Home";
+constexpr int fineSteps = 5;
+constexpr int coarseSteps = 3;
+
+double Amount(float value) {
+    return static_cast<double>(value);
+}
+
+std::string Money(double value) {
+    return Module1::MoneyText(static_cast<float>(value));
+}
+
+/// "Taxes: Base Home $150, GREENMARK Home $155."
+std::string SeriesText(const ChartSeries& series, const std::vector<std::string>& categories) {
+    std::string text = series.Name + ':';
+    for (std::size_t i = 0; i < categories.size(); ++i)
+        text += (i == 0 ? " " : ", ") + categories[i] + ' ' + Money(series.Values[i]);
+    return text + '.';
+}
+
+std::string AllSeries(const ChartFigures& chart) {
+    std::string text;
+    for (const ChartSeries& series : chart.Series)
+        text += (text.empty() ? "" : " ") + SeriesText(series, chart.Categories);
+    return text;
+}
+
+struct Range {
+    double Lowest = 0;  ///< never above 0
+    double Highest = 0; ///< never below 0
+};
+
+/// A stack's ends: what lies above 0 and what lies below it.
+Range RangeOfStacks(const ChartFigures& chart) {
+    Range range;
+    for (std::size_t home = 0; home < chart.Categories.size(); ++home) {
+        double above = 0;
+        double below = 0;
+        for (const ChartSeries& series : chart.Series)
+            (series.Values[home] < 0 ? below : above) += series.Values[home];
+        range.Lowest = std::min(range.Lowest, below);
+        range.Highest = std::max(range.Highest, above);
+    }
+    return range;
+}
+
+Range RangeOfValues(const ChartFigures& chart) {
+    Range range;
+    for (const ChartSeries& series : chart.Series) {
+        const auto [least, most] = std::minmax_element(series.Values.begin(), series.Values.end());
+        range.Lowest = std::min(range.Lowest, *least);
+        range.Highest = std::max(range.Highest, *most);
+    }
+    return range;
+}
+
+/// "$13 less", "$5 more" or "the same".
+std::string Difference(double base, double labelled) {
+    const std::string amount = Money(std::fabs(base - labelled));
+    if (amount == "$0")
+        return "the same";
+    return amount + (labelled < base ? " less" : " more");
+}
+
+ChartFigures MonthlyCostChart(const Session& session) {
+    const HomeCase& base = session.StdCase;
+    const HomeCase& labelled = session.GMHCase;
+    const double taxSavings = Amount(session.Scenario.ShownTaxSavings);
+    ChartFigures chart;
+    chart.Kind = ChartKind::MonthlyCost;
+    chart.Title = "Monthly Cost of Both Homes";
+    const auto add = [&](const char* name, float HomeCase::*part) {
+        chart.Series.push_back({name, {Amount(base.*part), Amount(labelled.*part)}});
+    };
+    add("Principal and Interest", &HomeCase::MortPayment);
+    add("Taxes", &HomeCase::TaxMonthly);
+    add("Insurance", &HomeCase::InsMonthly);
+    add("PMI", &HomeCase::PMIMonthly);
+    add("Utilities", &HomeCase::UtilMonthly);
+    // The savings are the labelled home's, against the base home.
+    chart.Series.push_back({taxSavings < 0 ? "Additional Taxes" : "Tax Savings", {0, -taxSavings}});
+
+    double baseCost = 0;
+    double labelledCost = 0;
+    for (const ChartSeries& series : chart.Series) {
+        baseCost += series.Values[0];
+        labelledCost += series.Values[1];
+    }
+    chart.Categories = {baseHome, labelledHome};
+    chart.Sentence = std::string("Monthly cost: ") + baseHome + ' ' + Money(baseCost) + ", " + labelledHome +
+                     ' ' + Money(labelledCost) + ", " + Difference(baseCost, labelledCost) + '.';
+    chart.Numbers = AllSeries(chart);
+    const Range range = RangeOfStacks(chart);
+    SetScale(chart, range.Lowest, range.Highest, fineSteps);
+    return chart;
+}
+
+/// "With the Base Home the mortgage of $180,000 is within the maximum loan of $242,484."
+std::string LoanSentence(const char* home, const HomeCase& figures, const std::string& qualifies) {
+    return std::string("With the ") + home + " the mortgage of " + Money(Amount(figures.LoanAmount)) +
+           (qualifies == "YES" ? " is within" : " is not within") + " the maximum loan of " +
+           Money(Amount(figures.MaxLoan)) + '.';
+}
+
+ChartFigures AffordabilityChart(const Session& session) {
+    const HomeCase& base = session.StdCase;
+    const HomeCase& labelled = session.GMHCase;
+    ChartFigures chart;
+    chart.Kind = ChartKind::Affordability;
+    chart.Title = "Mortgage and Maximum Loan";
+    chart.Categories = {baseHome, labelledHome};
+    chart.Series = {{"Mortgage Amount", {Amount(base.LoanAmount), Amount(labelled.LoanAmount)}},
+                    {"Maximum Loan Value", {Amount(base.MaxLoan), Amount(labelled.MaxLoan)}}};
+    chart.Sentence = LoanSentence(baseHome, base, session.Screen.lblStdQual.Text) + ' ' +
+                     LoanSentence(labelledHome, labelled, session.Screen.lblGMHQual.Text);
+    chart.Numbers = AllSeries(chart);
+    SetScale(chart, 0, RangeOfValues(chart).Highest, fineSteps);
+    return chart;
+}
+
+/// The net cash flow put aside each month at the labelled home's interest rate, as in the savings after 7
+/// and 30 years.
+double SavingsAfter(int years, const Session& session) {
+    const double rate = Amount(session.GMHCase.IntRate) / 12;
+    const double savings = Module1::FV(rate, years * 12.0, -Amount(session.Scenario.NetMonthlyCashFlow));
+    return std::isfinite(savings) && std::fabs(savings) < 1e30 ? savings : 0;
+}
+
+std::string YearsText(int years) {
+    return std::to_string(years) + (years == 1 ? " Year" : " Years");
+}
+
+void AddMark(ChartFigures& chart, int year, float value) {
+    const bool known = std::any_of(chart.Marks.begin(), chart.Marks.end(),
+                                   [year](const ChartMark& mark) { return mark.Year == year; });
+    if (year >= 1 && year <= ChartYears && !known)
+        chart.Marks.push_back({year, Amount(value), YearsText(year) + ": " + Money(Amount(value))});
+}
+
+/// Each fifth year; those that are pointed out stand in the sentence.
+std::string SavingsNumbers(const ChartSeries& series) {
+    std::string text = "Accumulated net savings after";
+    for (int year = 5; year <= ChartYears; year += 5)
+        text += (year == 5 ? " " : ", ") + YearsText(year) + ' ' +
+                Money(series.Values[static_cast<std::size_t>(year)]);
+    return text + '.';
+}
+
+ChartFigures SavingsChart(const Session& session) {
+    const Scenario& scenario = session.Scenario;
+    const int yearsInHome = session.Assumptions.YearsInHome;
+    ChartFigures chart;
+    chart.Kind = ChartKind::Savings;
+    chart.Title = "Accumulated Net Savings by Year";
+    ChartSeries savings{"Accumulated Net Savings", {}};
+    for (int year = 0; year <= ChartYears; ++year)
+        savings.Values.push_back(SavingsAfter(year, session));
+    chart.Series = {std::move(savings)};
+    AddMark(chart, 7, scenario.SavingsAfter7Years);
+    AddMark(chart, yearsInHome, scenario.SavingsAfterYearsInHome);
+    AddMark(chart, ChartYears, scenario.SavingsAfter30Years);
+    std::sort(chart.Marks.begin(), chart.Marks.end(),
+              [](const ChartMark& a, const ChartMark& b) { return a.Year < b.Year; });
+
+    chart.Sentence = std::string("Net savings with the ") + labelledHome + ": " +
+                     Money(Amount(scenario.SavingsAfter7Years)) + " after 7 years, " +
+                     Money(Amount(scenario.SavingsAfterYearsInHome)) + " after " +
+                     std::to_string(yearsInHome) + " years in the home, " +
+                     Money(Amount(scenario.SavingsAfter30Years)) + " after 30 years.";
+    chart.Numbers = SavingsNumbers(chart.Series.front());
+    const Range range = RangeOfValues(chart);
+    // Room for the words at the highest point; this chart is the flattest.
+    SetScale(chart, range.Lowest, range.Highest * 1.15, coarseSteps);
+    return chart;
+}
+
+/// The smallest of 1, 2, 2.5 and 5 times a power of ten that takes at most `mostSteps` over `range`.
+double RoundStep(double range, int mostSteps) {
+    const double power = std::pow(10, std::floor(std::log10(range / mostSteps)));
+    for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
+        // A hair more room, so that a range of exactly five steps does not miss by rounding.
+        if (range <= factor * power * mostSteps * (1 + 1e-9))
+            return factor * power;
+    }
+    return 10 * power;
+}
+
+} // namespace
+
+std::optional<ChartKind> ChartOfTab(int tab) {
+    switch (tab) {
+    case 1:
+        return ChartKind::MonthlyCost;
+    case 3:
+        return ChartKind::Affordability;
+    case 4:
+        return ChartKind::Savings;
+    default:
+        return std::nullopt;
+    }
+}
+
+void SetScale(ChartFigures& chart, double lowest, double highest, int mostSteps) {
+    // Whole dollars: below five there is nothing to divide.
+    const double step = RoundStep(std::max(highest - lowest, 5.0), mostSteps);
+    constexpr double belowLowest = 1.05;
+    chart.Lowest = lowest * belowLowest;
+    chart.Highest = std::max(std::ceil(highest / step) * step, lowest < 0 ? 0 : step);
+    chart.Ticks.clear();
+    for (double i = std::ceil(chart.Lowest / step); i * step <= chart.Highest; ++i)
+        chart.Ticks.push_back({i * step, Money(i * step)});
+}
+
+ChartFigures MakeChart(ChartKind kind, const Session& session) {
+    switch (kind) {
+    case ChartKind::MonthlyCost:
+        return MonthlyCostChart(session);
+    case ChartKind::Affordability:
+        return AffordabilityChart(session);
+    case ChartKind::Savings:
+        break;
+    }
+    return SavingsChart(session);
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,123 @@
+#include "ui/windows/ChartPlace.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QStandardPaths>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/windows/Labels.h"
+#include "ui/windows/SafeFile.h"
+
+namespace Ledgrove {
+
+ChartPlace::ChartPlace(ChartKind kind, QWidget* parent)
+    : QWidget(parent)
+    , m_kind(kind) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(2, 2, 2, 2);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ChartPlace::Connect(ChartContext context) {
+    m_context.emplace(std::move(context));
+    // The keyboard reaches the chart's menu, and a screen reader its words.
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QSize ChartPlace::sizeHint() const {
+    return {fontMetrics().averageCharWidth() * 84, fontMetrics().height() * 11};
+}
+
+QSize ChartPlace::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 9};
+}
+
+void ChartPlace::TakeChart() {
+    if (std::exchange(m_isAsked, true))
+        return;
+    const ChartSource source = m_context->Source();
+    if (source.Factory) {
+        m_chart = source.Factory->Make(m_kind, this);
+        m_chart->setObjectName("Chart");
+        layout()->addWidget(m_chart);
+        return;
+    }
+    QLabel* why = TextLabel(source.Fault);
+    why->setWordWrap(true);
+    layout()->addWidget(why);
+}
+
+void ChartPlace::Refresh() {
+    if (!m_context || !isVisible())
+        return;
+    TakeChart();
+    if (!m_chart)
+        return;
+    m_chart->Show(MakeChart(m_kind, m_context->State));
+    setAccessibleName(m_chart->accessibleName());
+    setAccessibleDescription(m_chart->accessibleDescription());
+}
+
+void ChartPlace::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    Refresh();
+}
+
+void ChartPlace::contextMenuEvent(QContextMenuEvent* event) {
+    if (!m_chart)
+        return;
+    QMenu menu(this);
+    menu.addAction("Save as &PNG…", this, [this] { SavePicture(PictureFormat::Png); });
+    menu.addAction("Save as &SVG…", this, [this] { SavePicture(PictureFormat::Svg); });
+    menu.addSeparator();
+    menu.addAction("&Copy Picture", this, [this] {
+        QGuiApplication::clipboard()->setImage(QImage::fromData(m_chart->Picture(PictureFormat::Png)));
+    });
+    menu.addAction("Copy &Numbers", this,
+                   [this] { QGuiApplication::clipboard()->setText(m_chart->accessibleDescription()); });
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    menu.exec(byKey ? mapToGlobal(rect().center()) : event->globalPos());
+}
+
+void ChartPlace::SavePicture(PictureFormat format) {
+    const bool isPng = format == PictureFormat::Png;
+    const QString suffix = isPng ? ".png" : ".svg";
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const QString name = m_chart->accessibleName().toLower().replace(' ', '-');
+    const QString file = m_context->Questions.SaveName(
+        *this, {"Save Chart", folder + '/' + name + suffix,
+                (isPng ? "PNG pictures (*.png)" : "SVG pictures (*.svg)"), suffix});
+    if (file.isEmpty())
+        return;
+    const QString fault = WriteWholeFile(file, m_chart->Picture(format));
+    if (!fault.isEmpty())
+        m_context->Outside.ShowMessage({ApplicationTitle, fault.toStdString(), MessageIcon::Exclamation});
+}
+
+void ChartPlace::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QStylePainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.backgroundColor = palette().color(QPalette::Base);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+}
+
+void ChartPlace::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void ChartPlace::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+#include <functional>
+
+#include "engine/Host.h"
+#include "engine/Session.h"
+#include "ui/windows/ChartWidget.h"
+#include "ui/windows/FileQuestions.h"
+
+namespace Ledgrove {
+
+/// Where charts come from: the factory, or a sentence that says why there is none.
+struct ChartSource {
+    ChartFactory* Factory = nullptr;
+    QString Fault;
+};
+
+/// What a chart's place needs of the window.
+struct ChartContext {
+    const Session& State;
+    Host& Outside;
+    std::function<ChartSource()> Source; ///< called when the first chart is shown
+    FileQuestions Questions;
+};
+
+/// The room that a chart has on its tab. The chart comes into it when the tab is first shown, and follows the
+/// figures from then on while it can be seen.
+class ChartPlace : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ChartPlace(ChartKind kind, QWidget* parent = nullptr);
+
+    void Connect(ChartContext context);
+
+    /// Shows the session's figures as they are now.
+    void Refresh();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void TakeChart();
+    void SavePicture(PictureFormat format);
+
+    ChartKind m_kind;
+    std::optional<ChartContext> m_context;
+    ChartWidget* m_chart = nullptr;
+    bool m_isAsked = false;
+};
+
+} // namespace Ledgrove

@@ -1,0 +1,61 @@
+#include "ui/windows/FileQuestions.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "engine/Host.h"
+
+namespace Ledgrove {
+
+namespace {
+
+QString AskOpenName(QWidget& above, const FileRequest& request) {
+    return QFileDialog::getOpenFileName(&above, request.Title, request.Start, request.Filter);
+}
+
+bool MayReplace(QWidget& above, const QString& file) {
+    const QString question =
+        QString("\"%1\" is there already. Replace it?").arg(QDir::toNativeSeparators(file));
+    return QMessageBox::question(&above, ApplicationTitle, question, QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+QString AskSaveName(QWidget& above, const FileRequest& request) {
+    // The dialog would ask about the name as typed, not about the one with its ending.
+    const QString typed = QFileDialog::getSaveFileName(&above, request.Title, request.Start, request.Filter,
+                                                       nullptr, QFileDialog::DontConfirmOverwrite);
+    if (typed.isEmpty())
+        return {};
+    const QString name = WithSuffix(typed, request.Suffix);
+    return QFileInfo::exists(name) && !MayReplace(above, name) ? QString() : name;
+}
+
+SaveAnswer AskUnsaved(QWidget& above, const QString& name) {
+    QMessageBox box(QMessageBox::Question, ApplicationTitle, QString("Save the changes to %1?").arg(name),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &above);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText("They are lost if you do not save them.");
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return SaveAnswer::Save;
+    case QMessageBox::Discard:
+        return SaveAnswer::Discard;
+    default:
+        return SaveAnswer::Cancel;
+    }
+}
+
+} // namespace
+
+FileQuestions AskAtScreen() {
+    return {AskOpenName, AskSaveName, AskUnsaved};
+}
+
+QString WithSuffix(const QString& name, const QString& suffix) {
+    return name.endsWith(suffix, Qt::CaseInsensitive) ? name : name + suffix;
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,17 @@
+#include "ui/windows/SafeFile.h"
+
+#include <QDir>
+#include <QSaveFile>
+
+namespace Ledgrove {
+
+QString WriteWholeFile(const QString& path, const QByteArray& content) {
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return {};
+    return QString("\"%1\" cannot be saved: %2. What was there before is unchanged. Choose another name or "
+                   "folder, or make room there.")
+        .arg(QDir::toNativeSeparators(path), file.errorString());
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,72 @@
+#include "ui/windows/charts/BarChart.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QLegend>
+#include <QStackedBarSeries>
+
+#include "ui/windows/charts/ChartLook.h"
+
+namespace Ledgrove {
+
+namespace {
+
+QAbstractBarSeries* MakeBars(ChartKind kind, QObject* parent) {
+    if (kind == ChartKind::MonthlyCost)
+        return new QStackedBarSeries(parent);
+    return new QBarSeries(parent);
+}
+
+} // namespace
+
+BarChart::BarChart(ChartKind kind, QWidget* parent)
+    : QtChart(parent)
+    , m_bars(MakeBars(kind, this))
+    , m_homes(new QBarCategoryAxis(this)) {
+    m_bars->setBarWidth(kind == ChartKind::MonthlyCost ? 0.6 : 0.7);
+    Chart().addSeries(m_bars);
+    AddAxes(m_homes, Qt::AlignBottom, Qt::AlignLeft);
+    m_homes->setGridLineVisible(false);
+    m_homes->setTruncateLabels(false);
+    // Six names do not fit beside one another.
+    Chart().legend()->setAlignment(kind == ChartKind::MonthlyCost ? Qt::AlignRight : Qt::AlignBottom);
+}
+
+void BarChart::Draw(const ChartFigures& figures) {
+    while (m_sets.size() < figures.Series.size()) {
+        m_sets.push_back(new QBarSet({}));
+        m_bars->append(m_sets.back());
+    }
+    for (std::size_t i = 0; i < m_sets.size(); ++i) {
+        const ChartSeries& series = figures.Series[i];
+        const QString name = QString::fromStdString(series.Name);
+        if (m_sets[i]->label() != name)
+            m_sets[i]->setLabel(name);
+        if (m_sets[i]->count() == 0)
+            m_sets[i]->append(QList<qreal>(series.Values.begin(), series.Values.end()));
+        for (int home = 0; home < m_sets[i]->count(); ++home) {
+            const double value = series.Values[static_cast<std::size_t>(home)];
+            if (m_sets[i]->at(home) != value)
+                m_sets[i]->replace(home, value);
+        }
+    }
+    ShowCategories(figures);
+}
+
+void BarChart::ShowCategories(const ChartFigures& figures) {
+    if (m_homes->count() > 0)
+        return;
+    for (const std::string& home : figures.Categories)
+        m_homes->append(QString::fromStdString(home));
+}
+
+void BarChart::Recolour() {
+    const auto count = static_cast<int>(m_sets.size());
+    for (int i = 0; i < count; ++i) {
+        m_sets[static_cast<std::size_t>(i)]->setBrush(SeriesFill(i, count));
+        m_sets[static_cast<std::size_t>(i)]->setPen(SeriesOutline(palette()));
+    }
+}
+
+} // namespace Ledgrove

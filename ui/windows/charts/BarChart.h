@@ -1,0 +1,33 @@
+#pragma once
+
+#include <vector>
+
+#include "ui/windows/charts/QtChart.h"
+
+class QAbstractBarSeries;
+class QBarCategoryAxis;
+class QBarSet;
+
+namespace Ledgrove {
+
+/// Bars of both homes: the parts of the monthly cost on one another, or mortgage and maximum loan side by
+/// side.
+class BarChart : public QtChart {
+    Q_OBJECT
+
+public:
+    BarChart(ChartKind kind, QWidget* parent);
+
+protected:
+    void Draw(const ChartFigures& figures) override;
+    void Recolour() override;
+
+private:
+    void ShowCategories(const ChartFigures& figures);
+
+    QAbstractBarSeries* m_bars;
+    QBarCategoryAxis* m_homes;
+    std::vector<QBarSet*> m_sets;
+};
+
+} // namespace Ledgrove

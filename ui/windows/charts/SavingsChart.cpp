@@ -1,0 +1,84 @@
+#include "ui/windows/charts/SavingsChart.h"
+
+#include <QLegend>
+#include <QLineSeries>
+#include <QScatterSeries>
+#include <QValueAxis>
+
+#include "ui/windows/charts/ChartLook.h"
+
+namespace Ledgrove {
+
+SavingsChart::SavingsChart(QWidget* parent)
+    : QtChart(parent)
+    , m_zero(new QLineSeries(this))
+    , m_savings(new QLineSeries(this))
+    , m_marks(new QScatterSeries(this)) {
+    m_zero->append({{0, 0}, {ChartYears, 0}});
+    m_marks->setMarkerSize(9);
+    for (QAbstractSeries* series : std::initializer_list<QAbstractSeries*>{m_zero, m_savings, m_marks})
+        Chart().addSeries(series);
+    auto* years = new QValueAxis(this);
+    years->setRange(0, ChartYears);
+    years->setTickCount(ChartYears / 5 + 1);
+    years->setLabelFormat("%d");
+    AddAxes(years, Qt::AlignBottom, Qt::AlignLeft);
+    Chart().legend()->hide();
+    connect(&Chart(), &QChart::plotAreaChanged, this, &SavingsChart::PlaceTexts);
+}
+
+void SavingsChart::Draw(const ChartFigures& figures) {
+    QList<QPointF> points;
+    for (std::size_t year = 0; year < figures.Series.front().Values.size(); ++year)
+        points.append({static_cast<qreal>(year), figures.Series.front().Values[year]});
+    m_savings->replace(points);
+    ShowMarks(figures.Marks);
+}
+
+void SavingsChart::ShowMarks(const std::vector<ChartMark>& marks) {
+    QList<QPointF> points;
+    for (const ChartMark& mark : marks)
+        points.append({static_cast<qreal>(mark.Year), mark.Value});
+    m_marks->replace(points);
+    while (m_texts.size() < marks.size()) {
+        m_texts.push_back(new QGraphicsSimpleTextItem(&Chart()));
+        m_texts.back()->setFont(font());
+        m_texts.back()->setBrush(palette().color(QPalette::Text));
+    }
+    for (std::size_t i = 0; i < m_texts.size(); ++i) {
+        m_texts[i]->setVisible(i < marks.size());
+        if (i < marks.size())
+            m_texts[i]->setText(QString::fromStdString(marks[i].Text));
+    }
+    PlaceTexts();
+}
+
+/// Above its point, or below where the line falls, and within the plot.
+void SavingsChart::PlaceTexts() {
+    constexpr qreal gap = 8;
+    const QRectF plot = Chart().plotArea();
+    for (int i = 0; i < m_marks->count(); ++i) {
+        QGraphicsSimpleTextItem& text = *m_texts[static_cast<std::size_t>(i)];
+        const QRectF box = text.boundingRect();
+        const QPointF point = Chart().mapToPosition(m_marks->at(i), m_marks);
+        const qreal x = qBound(plot.left() + gap, point.x() - box.width(), plot.right() - box.width());
+        const bool falls = m_marks->at(i).y() < 0;
+        const qreal wanted = falls ? point.y() + gap : point.y() - box.height() - gap;
+        const qreal y = qBound(plot.top(), wanted, plot.bottom() - box.height());
+        text.setPos(x, y);
+    }
+}
+
+void SavingsChart::Recolour() {
+    const QColor text = palette().color(QPalette::Text);
+    m_zero->setPen(QPen(text, 1.2, Qt::DashLine));
+    m_savings->setPen(SavingsPen(palette()));
+    m_marks->setBrush(SavingsPen(palette()).color());
+    m_marks->setPen(QPen(text, 1));
+    for (QGraphicsSimpleTextItem* item : m_texts) {
+        item->setBrush(text);
+        item->setFont(font());
+    }
+}
+
+} // namespace Ledgrove

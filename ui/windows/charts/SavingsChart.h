@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QGraphicsSimpleTextItem>
+#include <vector>
+
+#include "ui/windows/charts/QtChart.h"
+
+class QLineSeries;
+class QScatterSeries;
+
+namespace Ledgrove {
+
+/// The accumulated savings over the years as a line over the line of zero, with the years pointed out.
+class SavingsChart : public QtChart {
+    Q_OBJECT
+
+public:
+    explicit SavingsChart(QWidget* parent);
+
+protected:
+    void Draw(const ChartFigures& figures) override;
+    void Recolour() override;
+
+private:
+    void ShowMarks(const std::vector<ChartMark>& marks);
+    void PlaceTexts();
+
+    QLineSeries* m_zero;
+    QLineSeries* m_savings;
+    QScatterSeries* m_marks;
+    std::vector<QGraphicsSimpleTextItem*> m_texts;
+};
+
+} // namespace Ledgrove
