@@ -46,4 +46,7 @@ std::string MoneyText(float amount);
 /// Writes MoneyText into `text`, reusing its memory.
 void MoneyText(float amount, std::string& text);
 
+/// Appends FormatPicture(amount, "0.00") to `text`: a price list has two dozen of them in a row.
+void AppendCents(float amount, std::string& text);
+
 } // namespace Ledgrove::Module1

@@ -4,11 +4,11 @@
 #include <iostream>
 #include <memory>
 #include <unistd.h>
-#include <utility>
 
 #include "app/batch/CsvCompare.h"
 #include "app/batch/InputFile.h"
 #include "app/batch/JsonCompare.h"
+#include "app/batch/ParallelJson.h"
 #include "settings/HouseListFile.h"
 #include "ui/HouseScenarios.h"
 
@@ -20,9 +20,12 @@ void ReportUnreadable(const std::string& name, const std::string& reason) {
     std::cerr << "ledgrove-cli: " << UnreadableInput(name, reason) << '\n';
 }
 
-std::unique_ptr<ComparisonReader> MakeReader(CompareFormat format, Comparison& comparison) {
-    switch (format) {
+std::unique_ptr<ComparisonReader> MakeReader(const CompareRequest& request, const Session& start,
+                                             Comparison& comparison) {
+    switch (request.Format) {
     case CompareFormat::JsonLines:
+        if (request.Jobs > 1)
+            return std::make_unique<ParallelJsonReader>(start, request.Jobs);
         return std::make_unique<JsonLinesReader>(comparison);
     case CompareFormat::Csv:
         return std::make_unique<CsvReader>(comparison);
@@ -40,7 +43,7 @@ int ReadFile(const std::string& name, ComparisonReader& reader, OutputBuffer& ou
         ReportUnreadable(name, file.Failure());
         return CannotRun;
     }
-    LineReader lines(file.Descriptor(), [&output] { output.Flush(); });
+    LineReader lines(file.Descriptor(), [&reader, &output] { reader.BeforeWaiting(output); });
     const bool allWell = reader.Read(lines, output);
     if (!lines.Failure().empty()) {
         ReportUnreadable(name, lines.Failure());
@@ -64,12 +67,12 @@ std::string StartWithHouse(Session& session, std::string_view name) {
     return {};
 }
 
-int RunCompare(const CompareRequest& request, Session start) {
-    Comparison comparison(std::move(start));
+int RunCompare(const CompareRequest& request, const Session& start) {
+    Comparison comparison(start);
     OutputBuffer output(STDOUT_FILENO);
     int status = AllWell;
     for (const std::string& name : request.Files.empty() ? std::vector<std::string>{"-"} : request.Files) {
-        const auto reader = MakeReader(request.Format, comparison);
+        const auto reader = MakeReader(request, start, comparison);
         status = std::max(status, ReadFile(name, *reader, output));
     }
     output.Flush();

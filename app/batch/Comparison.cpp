@@ -101,6 +101,10 @@ std::optional<Refusal> Comparison::PickOptions(const InputRecord& inputs) {
     return std::nullopt;
 }
 
+std::string Comparison::DataCheck() const {
+    return Module1::DataCheckText(m_state.Screen);
+}
+
 std::optional<Refusal> Comparison::Run(const InputRecord& inputs) {
     Reset();
     if (auto refusal = EnterFields(inputs))
@@ -112,7 +116,6 @@ std::optional<Refusal> Comparison::Run(const InputRecord& inputs) {
     m_state.Scenario.EEMNoticeFlag = true;
     Module1::Recalculate(m_state, m_host);
     Module1::RefreshFeatureCaptions(m_state);
-    m_dataCheck = Module1::DataCheckText(m_state.Screen);
     return std::nullopt;
 }
 

@@ -38,7 +38,8 @@ public:
 
     const Session& State() const { return m_state; }
     const std::vector<Message>& Messages() const { return m_host.Messages(); }
-    const std::string& DataCheck() const { return m_dataCheck; }
+    /// What the data check says of the inputs, "" when they are plausible.
+    std::string DataCheck() const;
 
 private:
     void Reset();
@@ -48,7 +49,6 @@ private:
     Session m_start;
     Session m_state;
     CollectingHost m_host;
-    std::string m_dataCheck;
 };
 
 } // namespace Ledgrove

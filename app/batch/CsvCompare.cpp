@@ -103,7 +103,7 @@ void AppendCsvHeading(std::string& out, const std::vector<std::string>& heading)
 
 void AppendCsvResults(std::string& out, const Session& session) {
     for (const ResultColumn& column : resultColumns) {
-        out += Module1::FormatPicture(column.Value(session), "0.00");
+        Module1::AppendCents(column.Value(session), out);
         out += ',';
     }
     out.append(session.Screen.lblStdQual.Text).append(",").append(session.Screen.lblGMHQual.Text).append(",");
@@ -114,13 +114,16 @@ std::string DefusedCell(std::string_view cell) {
 }
 
 void AppendCsvCell(std::string& out, std::string_view cell) {
-    const std::string defused = DefusedCell(cell);
-    if (!NeedsQuotes(defused)) {
-        out += defused;
+    if (LooksLikeFormula(cell)) {
+        // With the apostrophe in front it is none.
+        return AppendCsvCell(out, DefusedCell(cell));
+    }
+    if (!NeedsQuotes(cell)) {
+        out += cell;
         return;
     }
     out += '"';
-    for (const char c : defused) {
+    for (const char c : cell) {
         if (c == '"')
             out += '"';
         out += c;
@@ -135,7 +138,7 @@ std::optional<Refusal> CsvReader::Compare() {
     if (m_row.size() > m_heading.size())
         return Refusal{m_rowLine, "", "", "The row has more cells than the heading row."};
     for (std::size_t column = 0; column < m_row.size(); ++column) {
-        InputValue* value = m_inputs.Find(m_heading[column]);
+        InputValue* value = m_columns[column];
         if (!value)
             return AtLine(UnknownInput(m_heading[column], m_row[column]));
         if (m_row[column].empty())
@@ -159,6 +162,8 @@ void CsvReader::TakeRow(OutputBuffer& output) {
     if (!m_headingRead) {
         m_headingRead = true;
         m_heading = std::move(m_row);
+        for (const std::string& name : m_heading)
+            m_columns.push_back(m_inputs.Find(name));
         AppendCsvHeading(out, m_heading);
     } else {
         const auto refusal = Compare();
@@ -216,8 +221,8 @@ bool CsvReader::Read(LineReader& lines, OutputBuffer& output) {
         rowTooLong = line->TooLong || parsing.Held > LongestLine;
         if (rowTooLong || !output.Failure().empty())
             break;
-        const std::string text = std::string(line->Text) + "\n";
-        csv_parse(&parser, text.data(), text.size(), takeCell, takeRow, &parsing);
+        csv_parse(&parser, line->Text.data(), line->Text.size(), takeCell, takeRow, &parsing);
+        csv_parse(&parser, "\n", 1, takeCell, takeRow, &parsing);
     }
     if (rowTooLong)
         TakeLongRow(output);

@@ -14,7 +14,7 @@ bool IsBlank(std::string_view text) {
 
 } // namespace
 
-std::optional<Refusal> JsonLinesReader::Compare(const InputLine& line) {
+std::optional<Refusal> JsonLine::Compare(const InputLine& line) {
     if (line.TooLong)
         return InputTooLong(line.Number);
     auto refusal = ReadJsonObject(line.Text, m_inputs);
@@ -25,18 +25,22 @@ std::optional<Refusal> JsonLinesReader::Compare(const InputLine& line) {
     return refusal;
 }
 
+bool JsonLine::Append(std::string& out, const InputLine& line) {
+    if (IsBlank(line.Text))
+        return true;
+    const auto refusal = Compare(line);
+    if (refusal)
+        AppendRefusalJson(out, *refusal);
+    else
+        m_results.Append(out, m_comparison);
+    out += '\n';
+    return !refusal;
+}
+
 bool JsonLinesReader::Read(LineReader& lines, OutputBuffer& output) {
     bool allWell = true;
     while (const auto line = lines.Next()) {
-        if (IsBlank(line->Text))
-            continue;
-        if (const auto refusal = Compare(*line)) {
-            allWell = false;
-            AppendRefusalJson(output.Text(), *refusal);
-        } else {
-            m_results.Append(output.Text(), m_comparison);
-        }
-        output.Text() += '\n';
+        allWell = m_line.Append(output.Text(), *line) && allWell;
         output.Commit();
         if (!output.Failure().empty())
             break;

@@ -5,12 +5,15 @@
 
 namespace Ledgrove {
 
-/// One object a line in, one object a line out. Blank lines are passed over.
-class JsonLinesReader : public ComparisonReader {
+/// One object of a line in, one object of a line out.
+class JsonLine {
 public:
-    explicit JsonLinesReader(Comparison& comparison)
+    explicit JsonLine(Comparison& comparison)
         : m_comparison(comparison) {}
-    bool Read(LineReader& lines, OutputBuffer& output) override;
+
+    /// Appends the result, or why there is none, as a line. A blank line is passed over. False when it was
+    /// refused.
+    bool Append(std::string& out, const InputLine& line);
 
 private:
     std::optional<Refusal> Compare(const InputLine& line);
@@ -18,6 +21,17 @@ private:
     Comparison& m_comparison;
     InputRecord m_inputs;
     ResultJson m_results;
+};
+
+/// JSON lines, one after the other.
+class JsonLinesReader : public ComparisonReader {
+public:
+    explicit JsonLinesReader(Comparison& comparison)
+        : m_line(comparison) {}
+    bool Read(LineReader& lines, OutputBuffer& output) override;
+
+private:
+    JsonLine m_line;
 };
 
 /// One object, over as many lines as it likes; the result is an object too, or a table for people.

@@ -24,7 +24,16 @@ void OutputBuffer::Commit() {
 }
 
 void OutputBuffer::Flush() {
-    std::string_view left = m_text;
+    WriteOut(m_text);
+    m_text.clear();
+}
+
+void OutputBuffer::Write(std::string_view text) {
+    Flush();
+    WriteOut(text);
+}
+
+void OutputBuffer::WriteOut(std::string_view left) {
     while (!left.empty() && m_failure.empty()) {
         const ssize_t written = ::write(m_descriptor, left.data(), left.size());
         if (written >= 0)
@@ -32,7 +41,6 @@ void OutputBuffer::Flush() {
         else if (errno != EINTR)
             m_failure = std::strerror(errno);
     }
-    m_text.clear();
 }
 
 std::string UnwrittenOutput(const std::string& what, const std::string& reason) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace Ledgrove {
 
@@ -19,10 +20,15 @@ public:
     /// Writes all that has gathered, so that a waiting reader has every finished result.
     void Flush();
 
+    /// Writes `text` at once, behind what has gathered.
+    void Write(std::string_view text);
+
     /// The system's reason when a write failed, else "".
     const std::string& Failure() const { return m_failure; }
 
 private:
+    void WriteOut(std::string_view text);
+
     int m_descriptor;
     std::string m_text;
     std::string m_failure;

@@ -122,8 +122,8 @@ std::string ResultTable(const Comparison& comparison) {
     AppendAffordability(out, session);
     for (const Message& message : comparison.Messages())
         AppendMessageText(out, message.Text);
-    if (!comparison.DataCheck().empty())
-        AppendMessageText(out, comparison.DataCheck());
+    if (const std::string check = comparison.DataCheck(); !check.empty())
+        AppendMessageText(out, check);
     return out;
 }
 

@@ -111,6 +111,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const QApplication application(argc, argv);
     CLI::App app("Writes a chart of a comparison as a picture.", "ledgrove-cli chart");
+    app.set_version_flag("--version", "ledgrove-chart " LEDGROVE_VERSION);
     Arguments arguments;
     AddOptions(app, arguments);
     try {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -5,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
@@ -41,7 +43,7 @@ int Compare(const std::filesystem::path& folder, const CompareRequest& request) 
             return CannotRun;
         }
     }
-    return RunCompare(request, std::move(session));
+    return RunCompare(request, session);
 }
 
 std::optional<CompareFormat> ReadFormat(const std::string& name) {
@@ -55,6 +57,8 @@ std::optional<CompareFormat> ReadFormat(const std::string& name) {
         return CompareFormat::Csv;
     return std::nullopt;
 }
+
+constexpr int mostJobs = 256;
 
 CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request) {
     auto* compare =
@@ -72,6 +76,11 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
         ->type_name("text|json|jsonl|csv");
     compare->add_option("--house", request.House,
                         "A saved house scenario whose four amounts the inputs start with");
+    request.Jobs = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
+    compare
+        ->add_option("--jobs", request.Jobs,
+                     "Threads for jsonl (default: one for each core); the results keep their order")
+        ->check(CLI::Range(1, mostJobs));
     compare->add_option("FILE", request.Files, "Inputs; none or \"-\" is standard input");
     return compare;
 }

@@ -135,6 +135,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const QGuiApplication application(argc, argv);
     CLI::App app("Writes the report of a comparison as PDF.", "ledgrove-cli report");
+    app.set_version_flag("--version", "ledgrove-report " LEDGROVE_VERSION);
     Arguments arguments;
     AddOptions(app, arguments);
     try {

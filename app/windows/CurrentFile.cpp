@@ -24,7 +24,9 @@ QString Filter() {
 }
 
 QString DocumentsFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    // Where there is none, the dialogs would begin in whatever folder the program was started from.
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 } // namespace

@@ -83,8 +83,9 @@ void AddFileMenu(QMenuBar& bar, CurrentFile& file, const ExportContext& context)
     AddCommand(menu, "&Save", QKeySequence::Save, [&file] { file.Save(); });
     AddCommand(menu, "Save &As…", QKeySequence("Ctrl+Shift+S"), [&file] { file.SaveAs(); });
     menu.addSeparator();
-    AddCommand(menu, "&Export PDF…", QKeySequence("Ctrl+E"), [context] { ExportPdf(context); });
-    AddCommand(menu, "Export &CSV…", QKeySequence("Ctrl+Shift+E"), [context] { ExportCsv(context); });
+    // Ctrl+E and Ctrl+Shift+E are a field's own: to its end.
+    AddCommand(menu, "&Export PDF…", QKeySequence("Ctrl+Shift+P"), [context] { ExportPdf(context); });
+    AddCommand(menu, "Export &CSV…", QKeySequence("Ctrl+Shift+X"), [context] { ExportCsv(context); });
     menu.addSeparator();
     AddButtonCommand(menu, window, "bPrint", "&Print Reports…", QKeySequence::Print);
     menu.addSeparator();

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace {
@@ -134,6 +136,40 @@ TEST(MoneyText, ShowsWholeDollarsWithGrouping) {
 TEST(MoneyText, NeverFailsOutward) {
     EXPECT_EQ(MoneyText(std::numeric_limits<float>::infinity()), "FormatError");
     EXPECT_EQ(MoneyText(std::numeric_limits<float>::quiet_NaN()), "FormatError");
+}
+
+std::string Cents(float amount) {
+    std::string text = "x";
+    AppendCents(amount, text);
+    return text.substr(1);
+}
+
+TEST(NumberTextTest, CentsAreAppended) {
+    EXPECT_EQ(Cents(0.0F), "0.00");
+    EXPECT_EQ(Cents(1137.7224F), "1137.72");
+    EXPECT_EQ(Cents(-48.005F), "-48.01"); // the decimal text decides, half a cent goes away from zero
+    EXPECT_EQ(Cents(1.005F), "1.01");
+    EXPECT_EQ(Cents(-0.004F), "0.00");
+    EXPECT_EQ(Cents(0.125F), "0.13");
+    EXPECT_EQ(Cents(999.995F), "1000.00");
+    EXPECT_EQ(Cents(180000.0F), "180000.00");
+    EXPECT_EQ(Cents(200000.1F), "200000.10"); // the single is 200000.09375
+    EXPECT_EQ(Cents(3e20F), FormatPicture(3e20F, "0.00"));
+}
+
+/// The quick way gives what the general way gives, wherever it is taken.
+TEST(NumberTextTest, CentsAreThoseOfThePicture) {
+    std::uint32_t bits = 1;
+    for (int round = 0; round < 200000; ++round) {
+        bits = bits * 1664525U + 1013904223U;
+        const float share = static_cast<float>(bits >> 8U) / 16777216.0F;
+        for (const float top : {1.0F, 300.0F, 20000.0F, 140000.0F, 900000.0F}) {
+            const float amount = (share - 0.5F) * top;
+            ASSERT_EQ(Cents(amount), FormatPicture(amount, "0.00")) << amount;
+            const float halfCent = std::round(amount * 100) / 100 + 0.005F;
+            ASSERT_EQ(Cents(halfCent), FormatPicture(halfCent, "0.00")) << halfCent;
+        }
+    }
 }
 
 } // namespace

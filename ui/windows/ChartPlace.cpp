@@ -2,6 +2,8 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QStandardPaths>
@@ -87,7 +89,8 @@ void ChartPlace::contextMenuEvent(QContextMenuEvent* event) {
 void ChartPlace::SavePicture(PictureFormat format) {
     const bool isPng = format == PictureFormat::Png;
     const QString suffix = isPng ? ".png" : ".svg";
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const QString folder = QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
     const QString name = m_chart->accessibleName().toLower().replace(' ', '-');
     const QString file = m_context->Questions.SaveName(
         *this, {"Save Chart", folder + '/' + name + suffix,

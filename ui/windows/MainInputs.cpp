@@ -97,8 +97,15 @@ MainInputs::MainInputs(QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);
-    row->addWidget(MakeBuyer(), 2);
-    row->addWidget(MakeHomes(), 3);
+    // On a wide screen the figures stay near their captions.
+    const int letter = fontMetrics().averageCharWidth();
+    QWidget* buyer = MakeBuyer();
+    buyer->setMaximumWidth(letter * 60);
+    QWidget* homes = MakeHomes();
+    homes->setMaximumWidth(letter * 100);
+    row->addWidget(buyer, 2);
+    row->addWidget(homes, 3);
+    row->addStretch();
     row->addWidget(MakeButtons());
 }
 

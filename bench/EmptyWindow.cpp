@@ -1,0 +1,12 @@
+// The floor for the program's start: a window of the toolkit with nothing in it.
+
+#include <QApplication>
+#include <QWidget>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QWidget window;
+    window.resize(1000, 640);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,152 @@
+// A plain program that reads the same price list and writes JSON of the same shape and size: a document for
+// each line, the bare arithmetic, a writer for the results. The floor for `compare --format jsonl`.
+
+#include "bench/PlainComparison.h"
+
+#include "app/batch/RecordTables.h"
+#include "engine/MainScreen.h"
+
+#include <rapidjson/document.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+namespace {
+
+using namespace Ledgrove;
+using Writer = rapidjson::Writer<rapidjson::StringBuffer>;
+
+double NumberAt(const rapidjson::Document& document, const char* name, double without) {
+    const auto found = document.FindMember(name);
+    if (found == document.MemberEnd())
+        return without;
+    if (found->value.IsNumber())
+        return found->value.GetDouble();
+    std::string plain;
+    for (const char c : std::string_view(found->value.GetString(), found->value.GetStringLength())) {
+        if (c != '$' && c != ',' && c != '%')
+            plain += c;
+    }
+    return std::strtod(plain.c_str(), nullptr);
+}
+
+Bench::PlainInput ReadInput(const rapidjson::Document& document) {
+    return {NumberAt(document, "ecIncome", 0),         NumberAt(document, "ecMonthlyDebt", 0),
+            NumberAt(document, "ecPctDown", 0) / 100,  NumberAt(document, "ecStdHome", 0),
+            NumberAt(document, "ecGMHHome", 0),        NumberAt(document, "ecStdUtil", 0),
+            NumberAt(document, "ecGMHUtil", 0),        NumberAt(document, "ecStdRate", 6.5) / 100,
+            NumberAt(document, "ecGMHRate", 6.5) / 100};
+}
+
+void Key(Writer& writer, std::string_view name) {
+    writer.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
+}
+
+/// "$1,234".
+std::string Money(double amount) {
+    std::array<char, 32> digits;
+    const int length = std::snprintf(digits.data(), digits.size(), "%.0f", std::fabs(amount));
+    std::string text = amount < 0 ? "-$" : "$";
+    for (int i = 0; i < length; ++i) {
+        if (i > 0 && (length - i) % 3 == 0)
+            text += ',';
+        text += digits[static_cast<std::size_t>(i)];
+    }
+    return text;
+}
+
+void WriteNumber(Writer& writer, double value) {
+    std::array<char, 64> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), static_cast<float>(value));
+    writer.RawValue(text.data(), static_cast<std::size_t>(end.ptr - text.data()), rapidjson::kNumberType);
+}
+
+void WriteFields(Writer& writer, const rapidjson::Document& document) {
+    writer.StartObject();
+    for (const auto& member : document.GetObject()) {
+        writer.Key(member.name.GetString(), member.name.GetStringLength());
+        if (member.value.IsString())
+            writer.String(member.value.GetString(), member.value.GetStringLength());
+        else
+            member.value.Accept(writer);
+    }
+    writer.EndObject();
+}
+
+void WriteLabels(Writer& writer, const std::array<double, 12>& figures) {
+    writer.StartObject();
+    std::size_t turn = 0;
+    for (const auto& [name, member] : ResultLabelTable()) {
+        Key(writer, name);
+        writer.StartObject();
+        writer.Key("text");
+        writer.String(Money(figures[turn++ % figures.size()]).c_str());
+        writer.Key("color");
+        writer.String("#000000");
+        writer.Key("visible");
+        writer.Bool(true);
+        writer.EndObject();
+    }
+    writer.EndObject();
+}
+
+template <typename Record, std::size_t Count>
+void WriteRecord(Writer& writer, const Figure<Record> (&table)[Count],
+                 const std::array<double, 12>& figures) {
+    writer.StartObject();
+    std::size_t turn = 0;
+    for (const auto& [name, member] : table) {
+        Key(writer, name);
+        WriteNumber(writer, figures[turn++ % figures.size()]);
+    }
+    writer.EndObject();
+}
+
+void WriteResult(Writer& writer, const rapidjson::Document& document, const Bench::PlainResult& result) {
+    const std::array<double, 12> figures{result.StdPITI,       result.GMHPITI,    result.Net,
+                                         result.PVSavings,     result.StdMaxLoan, result.GMHMaxLoan,
+                                         result.GMHMaxPayment, result.After7,     result.AfterYears,
+                                         result.After30,       result.PVNet,      result.PVBeforeTax};
+    writer.StartObject();
+    writer.Key("fields");
+    WriteFields(writer, document);
+    writer.Key("labels");
+    WriteLabels(writer, figures);
+    writer.Key("Scenario");
+    WriteRecord(writer, ScenarioFigures, figures);
+    writer.Key("StdCase");
+    WriteRecord(writer, HomeFigures, figures);
+    writer.Key("GMHCase");
+    WriteRecord(writer, HomeFigures, figures);
+    writer.Key("messages");
+    writer.StartArray();
+    writer.EndArray();
+    writer.Key("dataCheck");
+    writer.String(
+        "Attention!\r\rCost of Standard Home is missing.\rStandard Home utility bill is missing.\r");
+    writer.EndObject();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    std::ifstream file(argc > 1 ? argv[1] : "/dev/stdin");
+    rapidjson::StringBuffer buffer;
+    for (std::string line; std::getline(file, line);) {
+        rapidjson::Document document;
+        document.Parse(line.data(), line.size());
+        if (!document.IsObject())
+            return 1;
+        buffer.Clear();
+        Writer writer(buffer);
+        WriteResult(writer, document, Bench::ComparePlainly(ReadInput(document), 30, 7));
+        std::cout.write(buffer.GetString(), static_cast<std::streamsize>(buffer.GetSize())).put('\n');
+    }
+}

@@ -1,0 +1,261 @@
+#!/bin/sh
+# Puts Ledgrove into its user's home and the desktop's menu, brings an installed one up to date, or takes it out again.
+# Settings, and pictures that are the user's own, are never written over or removed.
+set -eu
+
+id=org.ledgrove.Ledgrove
+type=vnd.ledgrove.comparison+json
+again="and run install.sh again."
+
+fail() {
+    echo "install.sh: $*" >&2
+    exit 1
+}
+
+usage() {
+    cat <<'EOF'
+usage: ./install.sh            installs Ledgrove for you, or updates it
+       ./install.sh --remove   removes it and leaves your settings
+EOF
+}
+
+# The folders, all of this user.
+[ -n "${HOME:-}" ] || fail "HOME is not set. Set it to your home folder $again"
+here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd -P)
+case "${XDG_DATA_HOME:-}" in
+/*) data=$XDG_DATA_HOME ;;
+*) data=$HOME/.local/share ;;
+esac
+bin=$HOME/.local/bin
+program=$data/ledgrove
+# What was installed, a file a line: its checksum and length as it came, and its name.
+list=$program/.installed
+
+# The files that a user may have made his own: touched only while they are as they came.
+may_be_own() {
+    case $1 in
+    share/*) return 1 ;;
+    *.ini | *.bmp | *.png | samples/*) return 0 ;;
+    *) return 1 ;;
+    esac
+}
+
+sum_of() {
+    cksum <"$1" | tr '\t' ' '
+}
+
+# The checksum and length with which a file came, nothing for one that install.sh did not bring.
+sum_as_it_came() {
+    [ -f "$list" ] || return 0
+    while read -r sum length name; do
+        if [ "$name" = "$1" ]; then
+            echo "$sum $length"
+        fi
+    done <"$list"
+}
+
+is_own() {
+    may_be_own "$1" && [ -e "$program/$1" ] && [ "$(sum_of "$program/$1")" != "$(sum_as_it_came "$1")" ]
+}
+
+make_folder() {
+    mkdir -p -- "$1" || fail "The folder \"$1\" cannot be made. See that you may write there $again"
+}
+
+# A running program keeps the file that it began with, and an interrupted copy leaves the old one.
+copy() {
+    make_folder "$(dirname -- "$2")"
+    if ! cp -- "$1" "$2.new" || ! chmod u+w -- "$2.new" || ! mv -f -- "$2.new" "$2"; then
+        rm -f -- "$2.new"
+        fail "\"$2\" cannot be written. Make room there, or see that you may write, $again"
+    fi
+}
+
+check_links() {
+    for name in ledgrove ledgrove-cli; do
+        link=$bin/$name
+        if [ -e "$link" ] || [ -L "$link" ]; then
+            [ "$(readlink -- "$link" || true)" = "$program/$name" ] ||
+                fail "\"$link\" is something else than this Ledgrove. Move it away $again"
+        fi
+    done
+}
+
+check_source() {
+    [ -f "$here/share/files" ] || fail "\"$here/share/files\" is missing. Unpack Ledgrove afresh $again"
+    while read -r name; do
+        [ -f "$here/$name" ] || fail "\"$here/$name\" is missing. Unpack Ledgrove afresh $again"
+    done <"$here/share/files"
+}
+
+# Copies one file and notes how it came; says when the user's own stays.
+install_file() {
+    came=$(sum_as_it_came "$1")
+    if [ "$1" = Ledgrove.ini ]; then
+        # An interrupted save left the settings in the temporary file: a fresh copy would hide them.
+        if [ ! -e "$program/$1" ] && [ ! -e "$program/Pennaro2.INI" ]; then
+            copy "$here/$1" "$program/$1"
+        fi
+        return
+    fi
+    if is_own "$1" && ! cmp -s -- "$here/$1" "$program/$1"; then
+        echo "Your own \"$1\" stays." >&2
+        [ -z "$came" ] || echo "$came $1"
+        return
+    fi
+    copy "$here/$1" "$program/$1"
+    echo "$(sum_of "$program/$1") $1"
+}
+
+remove_file() {
+    is_own "$1" || rm -f -- "$program/$1"
+}
+
+# What the version before this one had and this one has not.
+remove_dropped() {
+    [ -f "$list" ] || return 0
+    while read -r sum length name; do
+        grep -qxF -- "$name" "$here/share/files" || remove_file "$name"
+    done <"$list"
+}
+
+copy_program() {
+    make_folder "$program"
+    : >"$list.new" || fail "\"$program\" cannot be written to. See that you may write there $again"
+    while read -r name; do
+        install_file "$name" >>"$list.new"
+    done <"$here/share/files"
+    remove_dropped
+    mv -f -- "$list.new" "$list"
+}
+
+# A path as the entry's Exec line wants it: in quotes, then with every backslash doubled.
+exec_path() {
+    printf '%s\n' "$1" | sed -e 's/[\\"`$]/\\&/g' -e 's/\\/\\\\/g' -e 's/%/%%/g' -e 's/.*/"&"/'
+}
+
+write_entry() {
+    entry=$data/applications/$id.desktop
+    make_folder "$data/applications"
+    while IFS= read -r line; do
+        case $line in
+        Exec=*) printf 'Exec=%s %%f\n' "$(exec_path "$program/ledgrove")" ;;
+        *) printf '%s\n' "$line" ;;
+        esac
+    done <"$program/share/applications/$id.desktop" >"$entry.new" ||
+        fail "\"$entry\" cannot be written. Make room there $again"
+    mv -f -- "$entry.new" "$entry"
+}
+
+copy_icons() {
+    while read -r name; do
+        case $name in
+        share/icons/*) copy "$program/$name" "$data/${name#share/}" ;;
+        esac
+    done <"$program/share/files"
+}
+
+make_links() {
+    make_folder "$bin"
+    for name in ledgrove ledgrove-cli; do
+        [ -L "$bin/$name" ] || ln -s -- "$program/$name" "$bin/$name" ||
+            fail "\"$bin/$name\" cannot be made. See that you may write there $again"
+    done
+}
+
+# The desktop's own lists of what opens what; a desktop without these tools reads the files themselves.
+refresh_desktop() {
+    if [ -d "$data/mime/packages" ] && command -v update-mime-database >/dev/null 2>&1; then
+        update-mime-database "$data/mime" >/dev/null 2>&1 || true
+    fi
+    if [ -d "$data/applications" ] && command -v update-desktop-database >/dev/null 2>&1; then
+        update-desktop-database -q "$data/applications" >/dev/null 2>&1 || true
+    fi
+    if [ -f "$data/icons/hicolor/icon-theme.cache" ] && command -v gtk-update-icon-cache >/dev/null 2>&1; then
+        gtk-update-icon-cache -q -f -t "$data/icons/hicolor" >/dev/null 2>&1 || true
+    fi
+}
+
+version() {
+    sed -n 's/.*<release version="\([^"]*\)".*/\1/p' "$program/share/metainfo/$id.metainfo.xml"
+}
+
+install_all() {
+    check_links
+    check_source
+    if [ "$here" != "$(CDPATH='' cd -- "$program" 2>/dev/null && pwd -P)" ]; then
+        copy_program
+    fi
+    write_entry
+    copy_icons
+    copy "$program/share/mime/packages/$id.xml" "$data/mime/packages/$id.xml"
+    make_links
+    refresh_desktop
+    echo "Ledgrove $(version) is installed in \"$program\"."
+    echo "Start it from the desktop's menu, or as \"$bin/ledgrove\"."
+    if ldd "$program/ledgrove" "$program/modules/ledgrove-charts.so" "$program/ledgrove-cli" 2>/dev/null |
+        grep -q 'not found'; then
+        echo "It cannot start yet: libraries are missing. \"$program/README.md\" names the packages to install." >&2
+    fi
+}
+
+remove_desktop() {
+    for name in ledgrove ledgrove-cli; do
+        if [ "$(readlink -- "$bin/$name" || true)" = "$program/$name" ]; then
+            rm -f -- "$bin/$name"
+        fi
+    done
+    rm -f -- "$data/applications/$id.desktop" "$data/mime/packages/$id.xml" \
+        "$data/icons/hicolor/"*"/apps/$id".[ps][nv]g
+    refresh_desktop
+    remove_empty_lists
+}
+
+# The desktop's lists, where nothing is left to be listed.
+remove_empty_lists() {
+    rm -f -- "$data/mime/application/$type.xml"
+    rmdir -- "$data/mime/application" "$data/mime/packages" 2>/dev/null || true
+    if [ -d "$data/mime" ] && [ ! -d "$data/mime/packages" ]; then
+        (cd -- "$data/mime" && rm -f aliases generic-icons globs globs2 icons magic mime.cache subclasses treemagic \
+            types version XMLnamespaces)
+    fi
+    if [ "$(ls -A -- "$data/applications" 2>/dev/null)" = mimeinfo.cache ]; then
+        rm -f -- "$data/applications/mimeinfo.cache"
+    fi
+    for folder in "$data/icons/hicolor/"*/; do
+        rmdir -- "$folder/apps" "$folder" 2>/dev/null || true
+    done
+    rmdir -- "$data/icons/hicolor" "$data/icons" "$data/mime" "$data/applications" 2>/dev/null || true
+}
+
+# Folders that have become empty, the innermost first.
+remove_folders() {
+    find "$program" -depth -type d -exec rmdir -- {} + 2>/dev/null || true
+}
+
+remove_all() {
+    remove_desktop
+    if [ ! -f "$list" ]; then
+        echo "Ledgrove is not installed in \"$program\"."
+        return
+    fi
+    while read -r sum length name; do
+        remove_file "$name"
+    done <"$list"
+    rm -f -- "$list" "$list.new"
+    remove_folders
+    echo "Ledgrove is removed."
+    if [ -d "$program" ]; then
+        echo "Your settings, and files that are your own, are still in \"$program\"."
+    fi
+}
+
+case "${1:-}" in
+"") install_all ;;
+--remove) remove_all ;;
+--help | -h) usage ;;
+*)
+    usage >&2
+    exit 2
+    ;;
+esac

@@ -1,0 +1,106 @@
+"""`ledgrove-cli compare --jobs`: several threads give what one gives, in the same order, in the same memory."""
+import json
+import os
+import random
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
+
+
+class Jobs(unittest.TestCase):
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+        shutil.copy(SOURCE / "data/Ledgrove.ini", self.folder)
+
+    def command(self, jobs):
+        return [PROGRAM, "compare", "--folder", self.folder, "--format", "jsonl", "--jobs", str(jobs)]
+
+    def compare(self, given, jobs):
+        run = subprocess.run(self.command(jobs), input=given, capture_output=True, timeout=120)
+        return run.returncode, run.stdout, run.stderr
+
+    def price_list(self, lines):
+        """Homes of all prices, and every 50th line something else."""
+        chance = random.Random(7)
+        odd = ["", "nonsense", '{"ecIncome": "abc"}', '{"ecHouse": 1}', "   ", '{"x":"' + "y" * (1 << 20) + '"}', "{}"]
+        for number in range(lines):
+            if number % 50 == 49:
+                # the very long line only now and then
+                yield odd[chance.randrange(len(odd))] if number % 1000 == 999 else odd[chance.randrange(5)]
+            else:
+                yield json.dumps({"ecIncome": chance.randrange(200000), "ecStdHome": number, "ecGMHHome": number + 5,
+                                  "ecPctDown": chance.randrange(40), "cboStdMortOption": "VA"})
+
+    def test_the_results_are_the_same_for_any_number_of_threads(self):
+        given = "\n".join(self.price_list(5000)).encode()
+        status, expected, _ = self.compare(given, 1)
+        self.assertEqual(status, 1)
+        for jobs in (2, 3, 8):
+            self.assertEqual(self.compare(given, jobs), (1, expected, b""), jobs)
+
+    def test_results_stand_in_the_order_of_their_lines(self):
+        given = "".join(json.dumps({"ecStdHome": number}) + "\n" for number in range(1, 4001)).encode()
+        status, output, _ = self.compare(given, 4)
+        self.assertEqual(status, 0)
+        shown = [json.loads(line)["fields"]["ecStdHome"] for line in output.splitlines()]
+        self.assertEqual(shown, [f"${number:,}" for number in range(1, 4001)])
+
+    def test_nothing_and_little(self):
+        for given in (b"", b"\n\n", b'{"ecIncome": 1}', b'{"ecIncome": 1}\n'):
+            self.assertEqual(self.compare(given, 2), self.compare(given, 1), given)
+
+    def test_a_waiting_reader_gets_each_result_before_the_next_line_is_sent(self):
+        with subprocess.Popen(self.command(3), stdin=subprocess.PIPE, stdout=subprocess.PIPE) as running:
+            for income in ("$1", "$2", "$3", "$4", "$5", "$6", "$7", "$8"):
+                running.stdin.write(json.dumps({"ecIncome": income}).encode() + b"\n")
+                running.stdin.flush()
+                self.assertEqual(json.loads(running.stdout.readline())["fields"]["ecIncome"], income)
+            running.stdin.close()
+            self.assertEqual(running.wait(10), 0)
+
+    def test_memory_does_not_grow_with_the_input(self):
+        line = json.dumps({"ecIncome": "72000", "ecStdHome": "200000"}).encode() + b"\n"
+
+        def peak(count):
+            with tempfile.TemporaryFile() as given:
+                given.write(line * count)
+                given.seek(0)
+                running = subprocess.Popen(self.command(2), stdin=given, stdout=subprocess.DEVNULL)
+                _, status, usage = os.wait4(running.pid, 0)
+                running.returncode = os.waitstatus_to_exitcode(status)
+                self.assertEqual(running.returncode, 0)
+                return usage.ru_maxrss
+
+        self.assertLessEqual(peak(40000) - peak(8000), 4096)  # KiB
+
+    def test_output_that_cannot_be_written_is_told(self):
+        given = b'{"ecIncome": 1}\n' * 5000
+        with open("/dev/full", "wb") as full:
+            run = subprocess.run(self.command(2), input=given, stdout=full, stderr=subprocess.PIPE, timeout=60)
+        self.assertEqual(run.returncode, 2)
+        self.assertIn(b"could not be written", run.stderr)
+
+    def test_a_reader_that_goes_away_ends_the_run(self):
+        with tempfile.TemporaryFile() as given:
+            given.write(b'{"ecIncome": 1}\n' * 20000)
+            given.seek(0)
+            running = subprocess.Popen(self.command(2), stdin=given, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+            running.stdout.readline()
+            running.stdout.close()
+            self.assertNotEqual(running.wait(20), 0)
+
+    def test_numbers_of_threads_that_make_no_sense(self):
+        for jobs in ("0", "-1", "many", "1000"):
+            run = subprocess.run(self.command(jobs), input=b"{}", capture_output=True, timeout=20)
+            self.assertEqual(run.returncode, 2, jobs)
+            self.assertIn(b"--jobs", run.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()

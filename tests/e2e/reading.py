@@ -1,0 +1,89 @@
+"""The window's result tabs as a screen reader reads them, beside what ledgrove-cli says of the same comparison."""
+import json
+import subprocess
+
+from desktop import wait_for
+
+MONTHLY, YEARLY, BASE, GREEN = "Monthly", "Yearly", "Base Home", "GREENMARK Home"
+# Of each tab its rows: the caption, or the label that holds it, and the label of each column.
+TABS = {
+    "Cash Flow": (
+        ("lbladditionalmortgagetext", {MONTHLY: "lblAddMortMo", YEARLY: "lblAddMortYr"}),
+        ("lblutilitysavingstext", {MONTHLY: "lblUtilSavMo", YEARLY: "lblUtilSavYr"}),
+        ("lbltaxsavingstext", {MONTHLY: "lblTaxSavMo", YEARLY: "lblTaxSavYr"}),
+        ("lblnetcashflowtext", {MONTHLY: "lblNetCashMo", YEARLY: "lblNetCashYr"})),
+    "More Home": (
+        ("A Monthly Net Cash Flow of", {"more per month": "lblNetCashMoTx", "more today": "lblExtrasTx"}),
+        ("Buy More Home", {"more per month and more today": "Label6"}),
+        ("Monthly Housing Cost", {BASE: "lblMonthlyHCStd", GREEN: "lblMonthlyHCGM"}),
+        ("House Value", {BASE: "lblHouseValueStd", GREEN: "lblHouseValueGM"}),
+        ("Additional features", {"first": "lblfeature1", "second": "lblfeature2"})),
+    "Affordability": (
+        ("Mortgage Amount", {BASE: "lblStdMort", GREEN: "lblGMHMort"}),
+        ("Down Payment", {BASE: "lblstddown2", GREEN: "lblgmhdown2"}),
+        ("Mortgage Payment", {BASE: "lblStdMortPayment", GREEN: "lblGMHMortPayment"}),
+        ("Maximum Loan Value", {BASE: "lblStdMaxHome", GREEN: "lblGMHMaxHome"}),
+        ("Maximum Payment", {BASE: "lblStdInc", GREEN: "lblGMHInc"}),
+        ("Buyer Qualifies?", {BASE: "lblStdQual", GREEN: "lblGMHQual"})),
+    "Summary": (
+        ("Sticker Price", {BASE: "lblStdHome", GREEN: "lblGMHHome"}),
+        ("Down Payment", {BASE: "lblStdDown", GREEN: "lblgmhDown"}),
+        ("Mortgage Amount", {BASE: "lblStdMortgage", GREEN: "lblgmhMortgage"}),
+        ("Mortgage Payment", {BASE: "lblStdPITI", GREEN: "lblGMHPITI"}),
+        ("Monthly Utility Bills", {BASE: "lblStdUtilMo", GREEN: "lblGMHUtilMo"}),
+        ("lblTaxSavmo2Text", {GREEN: "lbltaxsavmo2"}),
+        ("Net Monthly Payment", {BASE: "lblStdPITIU", GREEN: "lblGMHPITIU"}),
+        ("Net Monthly Cash Flow", {GREEN: "lblNetCashMo2"}),
+        ("lblYrsIn", {GREEN: "lblExpYrPre"}),
+        ("lblTerm", {GREEN: "lbl30YrPre"}),
+        ("lblPV", {GREEN: "lblPVofSavings"}),
+        ("PV of Savings", {"note": "lblPVNote"}))}
+# What the tabs hold besides: the inputs above them say these.
+NO_RESULTS = {"House Scenarios"}
+
+
+def compare(program, folder, file="-", given=""):
+    """What `ledgrove-cli compare` makes of a file, or of the text `given`, with the settings of `folder`."""
+    run = subprocess.run([program.with_name("ledgrove-cli"), "compare", "--folder", folder, "--format", "json", file],
+                         input=given, capture_output=True, text=True, timeout=60)
+    return json.loads(run.stdout)
+
+
+def expected(tab, labels):
+    """The words of a tab by what they are described as."""
+    words = {}
+    for caption, columns in TABS[tab]:
+        if caption in labels:
+            caption = " ".join(labels[caption]["text"].split())
+        for column, label in columns.items():
+            if labels[label]["visible"]:
+                words[f"{caption}, {column}"] = labels[label]["text"]
+    return words
+
+
+def shown(program):
+    """The described labels that the window shows now."""
+    return {node.get_description(): node.get_name() for node in program.all(program.front())
+            if node.get_role_name() == "label" and node.get_description() and program.showing(node)
+            and node.get_description() not in NO_RESULTS}
+
+
+def wait_shown(program, tab, labels):
+    """The tab in front says what ledgrove-cli does, word for word."""
+    words = expected(tab, labels)
+    assert len(words) > 6, words
+    wait_for(lambda: shown(program) == words, f"{tab} saying {words}, it says {shown(program)}")
+
+
+def go_to(program, name):
+    """Moves the focus with Tab, as who does not see where things are; gives the names met on the way."""
+    met = []
+    while not met or name not in met[-1]:
+        if len(met) > 60:
+            raise AssertionError(f"{name} is not reached by Tab: {met}")
+        before = program.focused()
+        program.desktop.key("Tab")
+        wait_for(lambda: program.focused() is not None and program.focused() != before, f"the focus behind {met}")
+        node = program.focused()
+        met.append((node.get_name(), node.get_description()))
+    return met

@@ -1,0 +1,71 @@
+#include "engine/Recalculate.h"
+#include "tests/engine/TestSession.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <new>
+
+// Every request for memory of this program is counted, which is why these tests are a program of their own.
+namespace {
+
+long requests = 0;
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    ++requests;
+    if (void* const memory = std::malloc(size))
+        return memory;
+    std::abort();
+}
+
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+namespace Ledgrove {
+namespace {
+
+long RequestsOf(Session& session, Host& host) {
+    const long before = requests;
+    Module1::Recalculate(session, host);
+    return requests - before;
+}
+
+TEST(AllocationTest, TheCounterCounts) {
+    const long before = requests;
+    const std::string longText(100, 'x');
+    EXPECT_GE(requests - before, 1);
+}
+
+TEST(AllocationTest, AWarmRecalculationAsksForNoMemory) {
+    Session session = Testing::SampleSession();
+    Testing::ScriptedHost host;
+    // The longest texts come first, "Additional Taxes" among them: from then on every label has room.
+    for (const char* price : {"$1,206,000", "$99,000"}) {
+        session.Screen.ecGMHHome.Text = price;
+        Module1::Recalculate(session, host);
+    }
+    for (const char* price : {"$1,206,000", "$206,000", "$99,000", "$207,500"}) {
+        session.Screen.ecGMHHome.Text = price;
+        EXPECT_EQ(RequestsOf(session, host), 0) << price;
+    }
+}
+
+TEST(AllocationTest, NorDoesOneWithAnotherLoan) {
+    Session session = Testing::SampleSession();
+    Testing::ScriptedHost host;
+    Module1::Recalculate(session, host);
+    Testing::ChooseOptions(session, "Conventional", "Freddie Mac EEM");
+    Module1::Recalculate(session, host);
+    session.Screen.chkDoTax0 = false;
+    EXPECT_EQ(RequestsOf(session, host), 0);
+}
+
+} // namespace
+} // namespace Ledgrove
