@@ -1,5 +1,6 @@
 #include "ui/windows/ChartPlace.h"
 
+#include <QAccessibleWidget>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDir>
@@ -17,9 +18,29 @@
 
 namespace Ledgrove {
 
+namespace {
+
+/// A screen reader meets one picture with its words, not what it is made of.
+class ChartAccessible : public QAccessibleWidget {
+public:
+    explicit ChartAccessible(QWidget* place)
+        : QAccessibleWidget(place, QAccessible::Graphic) {}
+    int childCount() const override { return 0; }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+};
+
+QAccessibleInterface* MakeChartAccessible(const QString&, QObject* object) {
+    auto* place = qobject_cast<ChartPlace*>(object);
+    return place ? new ChartAccessible(place) : nullptr;
+}
+
+} // namespace
+
 ChartPlace::ChartPlace(ChartKind kind, QWidget* parent)
     : QWidget(parent)
     , m_kind(kind) {
+    QAccessible::installFactory(MakeChartAccessible); // the same one again is no second one
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(2, 2, 2, 2);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

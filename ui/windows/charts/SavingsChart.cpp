@@ -1,9 +1,9 @@
 #include "ui/windows/charts/SavingsChart.h"
 
+#include <QCategoryAxis>
 #include <QLegend>
 #include <QLineSeries>
 #include <QScatterSeries>
-#include <QValueAxis>
 
 #include "ui/windows/charts/ChartLook.h"
 
@@ -18,10 +18,12 @@ SavingsChart::SavingsChart(QWidget* parent)
     m_marks->setMarkerSize(9);
     for (QAbstractSeries* series : std::initializer_list<QAbstractSeries*>{m_zero, m_savings, m_marks})
         Chart().addSeries(series);
-    auto* years = new QValueAxis(this);
-    years->setRange(0, ChartYears);
-    years->setTickCount(ChartYears / 5 + 1);
-    years->setLabelFormat("%d");
+    // A little wider than the years, so that the last point is drawn whole.
+    auto* years = new QCategoryAxis(this);
+    years->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    for (int year = 0; year <= ChartYears; year += 5)
+        years->append(QString::number(year), year);
+    years->setRange(0, ChartYears + 0.5);
     AddAxes(years, Qt::AlignBottom, Qt::AlignLeft);
     Chart().legend()->hide();
     connect(&Chart(), &QChart::plotAreaChanged, this, &SavingsChart::PlaceTexts);
