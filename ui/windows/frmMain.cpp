@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -36,7 +37,6 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     setObjectName("frmMain");
     setWindowTitle(ApplicationTitle);
     BuildControls();
-    ShowEmblem();
     ConnectFields();
     ConnectPickLists();
     ConnectOptions();
@@ -216,6 +216,13 @@ void frmMain::changeEvent(QEvent* event) {
     // A dark palette wants another red.
     if (event->type() == QEvent::PaletteChange && m_binding)
         Refresh();
+}
+
+void frmMain::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    // The emblem is made for print: to read it takes a fifth of the start, so the window comes first.
+    if (!std::exchange(m_painted, true))
+        QTimer::singleShot(0, this, &frmMain::ShowEmblem);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -57,6 +57,7 @@ signals:
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void BuildControls();
@@ -82,6 +83,7 @@ private:
     std::unique_ptr<MainBinding> m_binding;
     QList<ChartPlace*> m_charts;
     WelcomeHint* m_hint = nullptr;
+    bool m_painted = false;
     Help m_help;
 };
 
