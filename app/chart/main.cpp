@@ -12,6 +12,7 @@
 #include "app/batch/ObjectInput.h"
 #include "app/batch/ProgramFolder.h"
 #include "ui/StartUp.h"
+#include "ui/windows/CommitWhole.h"
 #include "ui/windows/charts/ChartPicture.h"
 
 namespace {
@@ -74,7 +75,7 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
 
 int WritePicture(const std::string& file, const QByteArray& picture) {
     QSaveFile output(QString::fromStdString(file));
-    if (output.open(QIODevice::WriteOnly) && output.write(picture) == picture.size() && output.commit())
+    if (output.open(QIODevice::WriteOnly) && output.write(picture) == picture.size() && CommitWhole(output))
         return AllWell;
     return Complain("\"" + file + "\" cannot be written (" + output.errorString().toStdString() +
                         "). Choose another name or folder, or make room there.",

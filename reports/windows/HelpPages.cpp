@@ -1,6 +1,7 @@
 #include "reports/windows/HelpPages.h"
 
 #include "reports/PreviewState.h"
+#include "ui/windows/CommitWhole.h"
 #include "ui/windows/SilentDocument.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -130,7 +131,7 @@ QString HelpPages::Write(const QString& name) const {
         }
         done = painter.end() && done;
     }
-    return done && file.commit() ? QString() : Unwritable(file);
+    return done && CommitWhole(file) ? QString() : Unwritable(file);
 }
 
 } // namespace Ledgrove

@@ -1,6 +1,7 @@
 #include "reports/windows/PdfOutput.h"
 
 #include "reports/windows/PagePainter.h"
+#include "ui/windows/CommitWhole.h"
 
 #include <QPageLayout>
 #include <QPainter>
@@ -60,7 +61,7 @@ QString WritePdf(const PrintDocument& document, const QString& name, const PageP
         file.cancelWriting();
         return {};
     }
-    return outcome == PrintOutcome::Done && file.commit() ? QString() : Unwritable(file);
+    return outcome == PrintOutcome::Done && CommitWhole(file) ? QString() : Unwritable(file);
 }
 
 } // namespace Ledgrove

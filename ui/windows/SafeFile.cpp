@@ -1,13 +1,14 @@
 #include "ui/windows/SafeFile.h"
 
 #include <QDir>
-#include <QSaveFile>
+
+#include "ui/windows/CommitWhole.h"
 
 namespace Ledgrove {
 
 QString WriteWholeFile(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && CommitWhole(file))
         return {};
     return QString("\"%1\" cannot be saved: %2. What was there before is unchanged. Choose another name or "
                    "folder, or make room there.")
