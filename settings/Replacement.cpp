@@ -115,12 +115,13 @@ std::optional<SettingsFault> ReplaceFile(const SavePlaces& places, std::string_v
         return Unwritable(places.File, errno);
     if (!S_ISREG(old.st_mode))
         return Unwritable(places.File, S_ISDIR(old.st_mode) ? EISDIR : EINVAL);
-    if (places.File == places.Temporary)
+    if (places.File == places.Temporary) {
         return SettingsFault{SettingsFault::Kind::Unwritable,
                              places.File,
                              "\"Ledgrove.ini\" is a link to the file of this name, which saving needs",
                              0,
                              {}};
+    }
     if (auto fault = WriteTemporary(places, bytes, old, lock))
         return fault;
     if (auto fault = DeleteOld(places))

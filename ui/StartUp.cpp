@@ -63,7 +63,7 @@ std::optional<SettingsFault> LoadMainScreen(Session& session, Host& host,
 
 std::optional<SettingsFault> OpenMainScreen(Session& session, Host& host,
                                             const std::filesystem::path& folder) {
-    const auto fault = LoadMainScreen(session, host, folder);
+    auto fault = LoadMainScreen(session, host, folder);
     if (!fault || fault->What != SettingsFault::Kind::InterruptedSave)
         return fault;
     const MessageAnswer answer = host.ShowMessage(

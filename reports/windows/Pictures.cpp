@@ -7,36 +7,64 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
+#include <QtEndian>
+#include <algorithm>
 
 namespace Ledgrove {
 
 namespace {
 
 constexpr qint64 largestFile = 64LL * 1024 * 1024;
-constexpr qint64 mostPixels = 12LL * 1000 * 1000; // 48 MB at four bytes a pixel
+qint64 PixelsOf(const QSize& size) {
+    return qint64{std::max(size.width(), 0)} * std::max(size.height(), 0);
+}
 
-bool IsSensible(const QSize& size) {
-    return size.width() > 0 && size.height() > 0 && qint64{size.width()} * size.height() <= mostPixels;
+/// So many pixels may come out of a file of this size. Each may take nine bytes on its way to the page; a
+/// small file holds no photograph, whatever it claims.
+qint64 MostPixels(qsizetype fileSize) {
+    constexpr qsizetype smallFile = 64 * 1024;
+    return fileSize < smallFile ? 4LL * 1000 * 1000 : 12LL * 1000 * 1000;
+}
+
+bool IsSensible(const QSize& size, qsizetype fileSize) {
+    return PixelsOf(size) > 0 && PixelsOf(size) <= MostPixels(fileSize);
 }
 
 /// Reads the image that the reader stands at, after a look at its size.
-QImage ReadCurrent(QImageReader& reader) {
-    return IsSensible(reader.size()) ? reader.read() : QImage();
+QImage ReadCurrent(QImageReader& reader, qsizetype fileSize) {
+    return IsSensible(reader.size(), fileSize) ? reader.read() : QImage();
 }
 
 QImage ReadBmp(const QByteArray& bytes) {
     const auto header = CheckBmp(bytes);
-    if (!header || !IsSensible(header->Size))
+    if (!header || !IsSensible(header->Size, bytes.size()))
         return {};
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer, "bmp");
     if (!header->RunLengthEncoded)
-        return ReadCurrent(reader);
+        return ReadCurrent(reader, bytes.size());
     // Runs may leave pixels out; Qt draws them into the image it is given, and this one is all background.
     QImage image(header->Size, QImage::Format_Indexed8);
     image.fill(0);
     return reader.read(&image) ? image : QImage();
+}
+
+constexpr qsizetype iconHead = 6;
+constexpr qsizetype iconEntry = 16;
+
+/// The pixels of an icon's image, whose entry must be there: the directory says little of one that is a PNG
+/// inside.
+qint64 IconPixels(const QByteArray& bytes, int index, const QSize& told) {
+    const qsizetype entry = iconHead + iconEntry * index;
+    const qint64 offset = qFromLittleEndian<quint32>(bytes.constData() + entry + 12);
+    constexpr int pngHead = 24; // up to the end of its height
+    if (offset + pngHead > bytes.size() || !bytes.mid(offset, 4).startsWith("\x89PNG"))
+        return PixelsOf(told);
+    const auto side = [&](qint64 at) {
+        return std::min<qint64>(qFromBigEndian<quint32>(bytes.constData() + offset + at), 1 << 30);
+    };
+    return std::max(PixelsOf(told), side(16) * side(20));
 }
 
 QImage ReadLargestIcon(const QByteArray& bytes) {
@@ -44,11 +72,20 @@ QImage ReadLargestIcon(const QByteArray& bytes) {
     buffer.setData(bytes);
     QImageReader reader(&buffer, "ico");
     QImage largest;
-    for (int index = 0; index < reader.imageCount(); ++index) {
+    // A few bytes may claim thousands of images, and a directory may name the same one a thousand times.
+    constexpr qsizetype mostImages = 256;
+    const auto count = static_cast<int>(
+        std::min({qsizetype{reader.imageCount()}, (bytes.size() - iconHead) / iconEntry, mostImages}));
+    qint64 pixelsLeft = MostPixels(bytes.size()); // for all together
+    for (int index = 0; index < count; ++index) {
         if (!reader.jumpToImage(index))
             continue;
-        const QImage image = ReadCurrent(reader);
-        if (qint64{image.width()} * image.height() > qint64{largest.width()} * largest.height())
+        const qint64 pixels = IconPixels(bytes, index, reader.size());
+        if (pixels <= 0 || pixels > pixelsLeft)
+            continue;
+        pixelsLeft -= pixels;
+        const QImage image = reader.read();
+        if (PixelsOf(image.size()) > PixelsOf(largest.size()))
             largest = image;
     }
     return largest;
@@ -58,7 +95,7 @@ QImage ReadPng(const QByteArray& bytes) {
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer, "png");
-    return ReadCurrent(reader);
+    return ReadCurrent(reader, bytes.size());
 }
 
 } // namespace

@@ -45,8 +45,10 @@ class Trial:
         shutil.rmtree(self.folder)
 
     def run(self, *tracer):
-        command = [self.folder if word == "FOLDER" else word for word in self.writer.command]
-        return run([*tracer, *command])
+        return self.run_command(self.writer.command, *tracer)
+
+    def run_command(self, command, *tracer):
+        return run([*tracer, *(self.folder if word == "FOLDER" else word for word in command)])
 
     def content(self, name):
         path = self.folder / name
@@ -58,9 +60,12 @@ class Trial:
         content = self.content(writer.file)
         first, last = writer.states[0], writer.states[-1]
         rescued = [name for name in writer.rescued if self.content(name) in writer.states and name in names]
-        if content not in writer.states or (content is None and not rescued and first != content):
+        if content is None and first is not None and not rescued:
             yield "lost"
-        if content is None and first is None and not set(writer.before) <= names:
+        if content is not None and content not in writer.states:
+            yield "lost"
+        # A file that is made from another may be missing only where that one is untouched.
+        if content is None and first is None and any(self.content(name) != old for name, old in writer.before.items()):
             yield "lost"
         killed = ended.returncode in (-9, 137)
         if ended.returncode < 0 and not killed or ended.returncode > 128 and not killed:
@@ -74,7 +79,7 @@ class Trial:
             if ended.returncode != 0 and not said.endswith("."):
                 yield "silent"
             # Where only the temporary file holds the settings, the sentence must say so.
-            if ended.returncode != 0 and first and content is None and TEMPORARY not in said:
+            if ended.returncode != 0 and first is not None and content is None and TEMPORARY not in said:
                 yield "silent"
         if names - {writer.file, *writer.before, *writer.leftovers}:
             yield "untidy"
@@ -113,6 +118,9 @@ def plans_of(writer, full):
             continue
         for error in ERRORS if full else (next(turn),):
             yield name, name, f"inject={name}:error={error}:when={number}"
+            # A disk that is full stays full. Only the sentence must still come out.
+            if name != "write":
+                yield name, name, f"inject={name}:error={error}:when={number}+"
         # Nobody can tell where a pipe's bytes went.
         if name == "read" or name == "write" and writer.says is None:
             for told in (0, 1):
@@ -121,11 +129,20 @@ def plans_of(writer, full):
 
 def one_run(writer, plan):
     kind, call, injection = plan
-    with Trial(writer) as trial:
-        ended = trial.run("strace", "-f", "-qq", "--seccomp-bpf", "-o", "/dev/null", "-e", f"trace={call}", "-e", injection)
-        return [(fault, f"{writer.name}: {injection}: status {ended.returncode}, "
-                        f"{sorted(p.name for p in trial.folder.iterdir())}, {ended.stderr.decode(errors='replace').strip()}")
-                for fault in set(trial.faults(kind, ended))]
+    with Trial(writer) as trial, tempfile.NamedTemporaryFile("r") as log:
+        # Not with --seccomp-bpf, under which the signal goes astray.
+        ended = trial.run("strace", "-f", "-qq", "-o", log.name, "-e", f"trace={call}", "-e", injection)
+        happened = ended.returncode in (-9, 137) if kind == "kill" else "(INJECTED)" in log.read()
+        if not happened:
+            return [("missed", f"{writer.name}: {injection} did not happen")]
+        found = [(fault, f"{writer.name}: {injection}: status {ended.returncode}, "
+                         f"{sorted(p.name for p in trial.folder.iterdir())}, {ended.stderr.decode(errors='replace').strip()}")
+                 for fault in set(trial.faults(kind, ended))]
+        if writer.restore and trial.content(writer.file) is None and not found:
+            trial.run_command(writer.restore)
+            restored = trial.content(writer.file) in writer.states
+            found.append(("restored" if restored else "lost", f"{writer.name}: {injection}, then restoring"))
+        return found
 
 
 def inject_everywhere(writers, full):
@@ -133,8 +150,10 @@ def inject_everywhere(writers, full):
     with ThreadPoolExecutor(WORKERS) as pool:
         results = [fault for faults in pool.map(lambda job: one_run(*job), plans) for fault in faults]
     kills = sum(plan[0] == "kill" for _, plan in plans)
-    print(f"system calls stopped: {kills}, failed: {len(plans) - kills}, of {len(writers)} writers")
-    return results
+    interrupted = sum(fault == "restored" for fault, _ in results)
+    print(f"system calls stopped: {kills}, failed: {len(plans) - kills}, of {len(writers)} writers; "
+          f"{interrupted} left the settings in the temporary file alone, all restored")
+    return [(fault, text) for fault, text in results if fault != "restored"]
 
 
 def without_locks(writers):
@@ -167,8 +186,9 @@ def at_once(program, rounds):
         for process, (_, said) in zip(running, outputs):
             if process.returncode != 0:
                 yield "lost", f"at once: {said.decode(errors='replace')}"
-        if (folder / INI).read_bytes() != OLD + b"COUNTA=%d\r\nCOUNTB=%d\r\n" % (rounds, rounds):
-            yield "lost", f"at once: the file ends as {(folder / INI).read_bytes()!r}"
+        end = (folder / INI).read_bytes() if (folder / INI).exists() else None
+        if end != OLD + b"COUNTA=%d\r\nCOUNTB=%d\r\n" % (rounds, rounds):
+            yield "lost", f"at once: the file ends as {end!r}"
         if [path.name for path in folder.iterdir()] != [INI]:
             yield "untidy", "at once: another file is left"
         print(f"two writers and a reader at once: {rounds} saves each, {outputs[2][0].decode().strip() or '?'} reads")
@@ -251,7 +271,7 @@ def main():
     for fault, text in found:
         print(f"{fault}: {text}")
     counts = Counter(fault for fault, _ in found)
-    print(", ".join(f"{kind}: {counts[kind]}" for kind in ("lost", "silent", "crashed", "untidy", "unusable")))
+    print(", ".join(f"{kind}: {counts[kind]}" for kind in ("lost", "silent", "crashed", "untidy", "unusable", "missed")))
     return 1 if found else 0
 
 

@@ -64,6 +64,7 @@ class Writer:
     file: str = INI
     rescued: tuple = (TEMPORARY,)
     leftovers: tuple = (TEMPORARY,)  # what a killed save may leave beside the file
+    restore: list = ()  # the command that brings back what an interrupted save left
     says: bytes | None = None  # what a reader prints when it says that all went well
 
     def prepare(self, folder: Path):
@@ -72,12 +73,14 @@ class Writer:
 
 
 def all_writers(fault_writer, ledgrove_cli):
-    def window(name, *steps, **others):
-        return Writer(name, [fault_writer, name, "FOLDER"], [OLD, *map(joined, steps)], **others)
+    restore = [fault_writer, "restore", "FOLDER"]
+
+    def window(name, *steps):
+        return Writer(name, [fault_writer, name, "FOLDER"], [OLD, *map(joined, steps)], restore=restore)
     return [
         window("setting", NAMED),
         Writer("cli set", [ledgrove_cli, "settings", "--folder", "FOLDER", "set", "BUILDERNAME", "New Builder"],
-               [OLD, joined(NAMED)]),
+               [OLD, joined(NAMED)], restore=restore),
         window("taxes", TAXED),
         window("assumptions", RETAXED, ASSUMED, LOANED),
         window("options", OPTIONED),

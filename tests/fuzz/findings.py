@@ -3,8 +3,18 @@
 FINDINGS = {
     "settings": {},
     "numbers": {},
-    "report": {},
+    # columns narrower than nothing
+    "report": {"narrow-columns": b"\0>-1|^x|<99999999999\n  Cash Flow\n"},
     "json": {},
-    "csv": {},
-    "pictures": {},
+    # a formula behind a blank, and blanks that were lost without quotes
+    "csv": {"hidden-formula": b"ecIncome,ecStdHome,ecGMHHome,cboMortTerm\r\n\t=1,\r,'x,\" =2\"\n"},
+    "pictures": {
+        # a metafile whose header claims a record of 2 GB, which the library set aside
+        "huge-record": bytes.fromhex("010009000003480000000100070000424d5200000000000000"),
+        # icons of a few bytes that claim thousands of images, each looked for
+        "many-images": bytes.fromhex("0000010001e2"),
+        "more-images": bytes.fromhex("0000010008") + b"\xf5" * 60,
+    },
+    # a bitmap in a record that claims 1.9 GB, which the library set aside
+    "metafile": {"huge-bitmap": b"3" * 33 + b"Z\x15\x01\x97"},
 }

@@ -111,7 +111,25 @@ def pictures():
     yield (ROOT / "data/LedgroveEmblem.png").read_bytes()[:200]
 
 
-TARGETS = {"settings": settings, "numbers": numbers, "report": report, "json": json, "csv": csv, "pictures": pictures}
+def metafile():
+    """By function index and words; the target puts the frame around."""
+    def record(index, *words):
+        return bytes([index, len(words)]) + struct.pack(f"<{len(words)}h", *words)
+    window = record(23, 0, 0) + record(24, 100, 200)
+    dib = struct.unpack("<24h", struct.pack("<IiiHHIIiiIIII", 40, 2, 1, 1, 24, 0, 8, 0, 0, 0, 0, 0x0000FF00, 0xFF00FF00)[:48])
+    yield window + record(35, 0, 255, 0, 0) + record(14, 0) + record(43, 90, 90, 10, 10)
+    yield window + record(33, 0, 3, 0, 255, 0) + record(14, 0) + record(37, 2, 0, 0, 50, 50) + record(36, 3, 0, 0, 9, 9, 0, 9)
+    yield window + record(34, *([12] * 9), *([0x4141] * 8), 0) + record(14, 0) + record(45, 2, 0x6162, 10, 10)
+    yield window + record(46, 2, 3, 3, *range(12)) + record(50, *range(8)) + record(47, *range(6))
+    yield window + record(53, 0x20, 0xCC, 0, 1, 2, 0, 0, 50, 50, 0, 0, *dib)
+    yield window + record(49, 0, 6, 0, 16, 1, 1, 0, 0, 9, 9, 0, 2, 0, 9, 2, 0, 9, 2) + record(13, 0) + record(12, 0)
+    yield window + record(0) + record(43, 9, 9, 1, 1) + record(12, -1) + record(18, 0) + record(41, 0, 0, 1, 1, 9, 9)
+    yield record(24, 0, 0) + record(43, 9, 9, 1, 1)
+    yield record(24, -32768, 32767) + record(23, 32767, -32768) + record(42, 32767, 32767, -32768, -32768)
+
+
+TARGETS = {"settings": settings, "numbers": numbers, "report": report, "json": json, "csv": csv, "pictures": pictures,
+           "metafile": metafile}
 
 
 def write(target, folder):

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -108,8 +109,43 @@ TEST(ReadPicture, ImpossibleSizesAreNone) {
             << shape.Width << 'x' << shape.Height;
     // A few bytes that claim more pixels than memory should hold.
     EXPECT_TRUE(ReadPicture(MakeBmp({4000, 4000, 8, 1}, QByteArray::fromHex("0001"))).isNull());
+    EXPECT_TRUE(ReadPicture(MakeBmp({2001, 2000, 8, 1}, QByteArray::fromHex("0001"))).isNull());
+    EXPECT_FALSE(ReadPicture(MakeBmp({2000, 2000, 8, 1}, QByteArray::fromHex("0001"))).isNull());
     EXPECT_TRUE(
         ReadPicture(MakeBmp({4, 2, 8, 1}, QByteArray::fromHex("FF000001"))).isNull()); // runs off the line
+}
+
+/// An icon whose directory names the same PNG of this size so many times, as one of 16 by 16.
+QByteArray MakePngIcon(const QSize& size, int times) {
+    QImage image(size, QImage::Format_Mono);
+    image.fill(1);
+    QByteArray png;
+    QBuffer buffer(&png);
+    image.save(&buffer, "png");
+    QByteArray bytes;
+    for (const int word : {0, 1, times})
+        Append<quint16>(bytes, static_cast<quint16>(word));
+    for (int entry = 0; entry < times; ++entry) {
+        bytes.append("\x10\x10");
+        for (const int word : {0, 1, 32})
+            Append<quint16>(bytes, static_cast<quint16>(word));
+        Append<quint32>(bytes, static_cast<quint32>(png.size()));
+        Append<quint32>(bytes, static_cast<quint32>(6 + 16 * times));
+    }
+    return bytes + png;
+}
+
+TEST(ReadPicture, AnIconOfPngsIsReadAsFarAsItIsSmall) {
+    EXPECT_EQ(ReadPicture(MakePngIcon({300, 200}, 2)).size(), QSize(300, 200));
+    EXPECT_TRUE(ReadPicture(MakePngIcon({2001, 2000}, 1)).isNull());
+    EXPECT_EQ(ReadPicture(MakePngIcon({1000, 1000}, 1000)).size(), QSize(1000, 1000)); // the first four
+}
+
+TEST(ReadPicture, AnIconWithoutTheImagesThatItClaimsIsNone) {
+    for (const char* bytes : {"0000010001e2", "0000010004c6", "00000100ffff1010"})
+        EXPECT_TRUE(ReadPicture(QByteArray::fromHex(bytes)).isNull()) << bytes;
+    // Two are claimed and one is there.
+    EXPECT_EQ(ReadPicture(MakeIcon({16}).replace(4, 1, "\x02")).size(), QSize(16, 16));
 }
 
 TEST(ReadPicture, AnythingElseIsNone) {

@@ -48,5 +48,30 @@ TEST(CheckWmf, ACutMetafileIsNone) {
         EXPECT_FALSE(CheckWmf(whole.left(length))) << length;
 }
 
+/// A metafile of one record that stretches a bitmap of this size over its window; the bitmap has two pixels.
+QByteArray MakeWmfWithBitmap(qint32 width, qint32 height) {
+    const QByteArray bitmap = MakeBmp({width, height, 24}, QByteArray(8, '\x40')).mid(14);
+    QList<qint16> words{0x20, 0xCC, 0, 1, 2, 0, 0, 100, 200, 0, 0};
+    for (qsizetype at = 0; at + 1 < bitmap.size(); at += 2)
+        words.append(qFromLittleEndian<qint16>(bitmap.constData() + at));
+    QByteArray records;
+    AppendWmfRecord(records, 0x020B, {0, 0});
+    AppendWmfRecord(records, 0x020C, {100, 200});
+    AppendWmfRecord(records, 0x0F43, words);
+    AppendWmfRecord(records, 0x0000, {});
+    QByteArray bytes = MakeWmf(false).left(firstRecordAt);
+    QByteArray longest;
+    Append<quint32>(longest, static_cast<quint32>(3 + words.size()));
+    return bytes.replace(longestRecordAt, 4, longest) + records;
+}
+
+TEST(CheckWmf, ABitmapInARecordMustBeWholeAndSmall) {
+    EXPECT_TRUE(CheckWmf(MakeWmfWithBitmap(2, 1)));
+    EXPECT_FALSE(ReadPicture(MakeWmfWithBitmap(2, 1)).isNull());
+    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(2, 2)));         // cut
+    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(20000, 30000))); // the library would set 2 GB aside
+    EXPECT_TRUE(ReadPicture(MakeWmfWithBitmap(20000, 30000)).isNull());
+}
+
 } // namespace
 } // namespace Ledgrove

@@ -124,9 +124,15 @@ void EntryField::focusInEvent(QFocusEvent* event) {
 }
 
 void EntryField::focusOutEvent(QFocusEvent* event) {
+    const int start = selectionStart();
+    const int length = selectionLength();
     QLineEdit::focusOutEvent(event);
-    if (KeepsCurrentField(event->reason()))
+    if (KeepsCurrentField(event->reason())) {
+        // The menu bar would take the selection away, and its commands work on it.
+        if (length > 0)
+            setSelection(start, length);
         return;
+    }
     // While a refusal takes the focus back, the field that was moved to loses a focus it never got.
     if (!std::exchange(m_entered, false) || !m_events.LostFocus)
         return;

@@ -64,6 +64,7 @@ private slots:
     void commandsLeaveTheFieldFirst();
     void tabsAreChosen();
     void editCommandsWorkOnTheField();
+    void menuBarLeavesTheSelection();
     void editCommandsAreOffWithoutAField();
     void arrowsStayWithTheMenuBar();
     void recentFilesAreListed();
@@ -160,6 +161,19 @@ void MainMenuTest::editCommandsWorkOnTheField() {
     open.Type("ecStdHome", "");
     Command(open, "Edit", "Paste")->trigger();
     QCOMPARE(open.State.Screen.ecStdHome.Text, std::string("72000"));
+}
+
+void MainMenuTest::menuBarLeavesTheSelection() {
+    OpenDesktop open;
+    open.Type("ecIncome", "72000");
+    auto& income = open.Find<QLineEdit>("ecIncome");
+    income.selectAll();
+    open.Window->menuBar()->setFocus(Qt::MenuBarFocusReason);
+    QCOMPARE(income.selectedText(), "72000");
+    emit MenuNamed(open, "Edit")->aboutToShow();
+    QVERIFY(Command(open, "Edit", "Copy")->isEnabled());
+    income.setFocus(Qt::MenuBarFocusReason);
+    QCOMPARE(income.selectedText(), "72000");
 }
 
 void MainMenuTest::editCommandsAreOffWithoutAField() {
