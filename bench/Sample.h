@@ -2,6 +2,7 @@
 
 #include "app/batch/Comparison.h"
 #include "engine/Recalculate.h"
+#include "tests/engine/TestSession.h"
 #include "ui/MainScreenRules.h"
 #include "ui/StartUp.h"
 
@@ -18,15 +19,8 @@ inline Session SampleSession() {
         std::cerr << Sentence(*fault) << '\n';
         std::exit(2);
     }
-    MainScreen& screen = session.Screen;
-    screen.ecIncome.Text = "$72,000";
-    screen.ecMonthlyDebt.Text = "$350";
-    screen.ecPctDown.Text = "10.00%";
-    screen.ecStdHome.Text = "$200,000";
-    screen.ecGMHHome.Text = "$206,000";
-    screen.ecStdUtil.Text = "$2,400";
-    screen.ecGMHUtil.Text = "$1,700";
-    Module1::SetBaseOption(screen, "FHA");
+    Testing::FillSample(session.Screen);
+    Module1::SetBaseOption(session.Screen, "FHA");
     Module1::SetLabelledOption(session, "FHA EEM");
     return session;
 }

@@ -172,4 +172,8 @@ std::string_view WelcomePrintStep() {
            "Select the sections you want to print, then Preview and Print.";
 }
 
+std::string_view SummaryFootnote() {
+    return "*Ledgrove only provides estimates & does not account for LTV - check with your bank";
+}
+
 } // namespace Ledgrove::Module1

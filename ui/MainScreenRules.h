@@ -67,4 +67,7 @@ inline constexpr int WelcomeStepCount = 5;
 std::array<std::string_view, WelcomeStepCount> WelcomeSteps();
 std::string_view WelcomePrintStep();
 
+/// The footnote of the Summary tab, as it is read.
+std::string_view SummaryFootnote();
+
 } // namespace Ledgrove::Module1

@@ -1,18 +1,15 @@
 // What `ledgrove-cli chart` hands over to: drawing needs the toolkit, which ledgrove-cli does without.
 
-#include <iostream>
 #include <optional>
 #include <string>
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
-#include <QSaveFile>
 
-#include "app/batch/CompareCommand.h"
-#include "app/batch/ObjectInput.h"
+#include "app/batch/OneComparison.h"
 #include "app/batch/ProgramFolder.h"
-#include "ui/StartUp.h"
-#include "ui/windows/CommitWhole.h"
+#include "app/windows/Offscreen.h"
+#include "ui/windows/SafeFile.h"
 #include "ui/windows/charts/ChartPicture.h"
 
 namespace {
@@ -30,11 +27,6 @@ struct Arguments {
 
 constexpr int smallestSide = 200;
 constexpr int largestSide = 4000;
-
-int Complain(const std::string& sentence, ExitStatus status) {
-    std::cerr << "ledgrove-cli: " << sentence << '\n';
-    return status;
-}
 
 std::string ReadTab(const std::string& name, ChartKind& kind) {
     if (name == "cashflow")
@@ -73,43 +65,24 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
                    "The comparison, as for \"compare --format json\"; none or \"-\": stdin");
 }
 
-int WritePicture(const std::string& file, const QByteArray& picture) {
-    QSaveFile output(QString::fromStdString(file));
-    if (output.open(QIODevice::WriteOnly) && output.write(picture) == picture.size() && CommitWhole(output))
-        return AllWell;
-    return Complain("\"" + file + "\" cannot be written (" + output.errorString().toStdString() +
-                        "). Choose another name or folder, or make room there.",
-                    CannotRun);
-}
-
 int Draw(const Arguments& arguments) {
     const auto format = FormatOf(arguments.Output);
     if (!format)
         return Complain("A chart is written as *.png or *.svg; \"" + arguments.Output + "\" ends otherwise.",
                         CannotRun);
-    Session session;
-    CollectingHost host;
-    if (const auto fault = Module1::LoadMainScreen(session, host, arguments.Folder))
-        return Complain(Sentence(*fault), CannotRun);
-    Comparison comparison(session);
-    const ObjectInput input = RunObjectFile(arguments.Input, comparison);
-    if (!input.Unreadable.empty())
-        return Complain(input.Unreadable, CannotRun);
-    if (input.Refused)
-        return Complain(RefusalSentence(*input.Refused), SomeRefused);
-    const ChartFigures figures = MakeChart(arguments.Kind, comparison.State());
-    return WritePicture(arguments.Output,
-                        ChartPicture(figures, *format, {arguments.Width, arguments.Height}));
+    const OneComparison comparison = CompareOne(arguments.Folder, arguments.Input);
+    if (comparison.Status != AllWell)
+        return Complain(comparison.Complaint, comparison.Status);
+    const ChartFigures figures = MakeChart(arguments.Kind, comparison.State);
+    const QString fault = WriteWholeFile(QString::fromStdString(arguments.Output),
+                                         ChartPicture(figures, *format, {arguments.Width, arguments.Height}));
+    return fault.isEmpty() ? AllWell : Complain(fault.toStdString(), CannotRun);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    // No display is needed, and none is asked even where there is one.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The toolkit's remarks about a desktop that is not there are nothing to a script; faults come as
-    // sentences of ours.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    WorkOffscreen();
     const QApplication application(argc, argv);
     CLI::App app("Writes a chart of a comparison as a picture.", "ledgrove-cli chart");
     app.set_version_flag("--version", "ledgrove-chart " LEDGROVE_VERSION);

@@ -62,7 +62,7 @@ TabTable SummaryContent(const MainScreen& s) {
                     {"Mortgage Amount", {s.lblStdMortgage.Text, s.lblgmhMortgage.Text}},
                     {"Mortgage Payment", {s.lblStdPITI.Text, s.lblGMHPITI.Text}},
                     {"Monthly Utility Bills", {s.lblStdUtilMo.Text, s.lblGMHUtilMo.Text}}},
-                   {"*Ledgrove only provides estimates & does not account for LTV - check with your bank"}};
+                   {std::string(Module1::SummaryFootnote())}};
     if (s.lbltaxsavmo2.Visible)
         table.Rows.push_back({s.lblTaxSavmo2Text.Text, {"", s.lbltaxsavmo2.Text}});
     const std::string years = Trimmed(s.lblYrsIn.Text);

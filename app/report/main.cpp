@@ -1,7 +1,6 @@
 // What `ledgrove-cli report` hands over to: composing and painting need the toolkit, which ledgrove-cli does
 // without.
 
-#include <iostream>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -9,12 +8,11 @@
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
 
-#include "app/batch/CompareCommand.h"
-#include "app/batch/ObjectInput.h"
+#include "app/batch/OneComparison.h"
 #include "app/batch/ProgramFolder.h"
+#include "app/windows/Offscreen.h"
 #include "reports/windows/ReportFile.h"
 #include "settings/HeaderSettings.h"
-#include "ui/StartUp.h"
 
 namespace {
 
@@ -30,11 +28,6 @@ struct Arguments {
     std::string Buyer;
     std::string Input = "-";
 };
-
-int Complain(const std::string& sentence, ExitStatus status) {
-    std::cerr << "ledgrove-cli: " << sentence << '\n';
-    return status;
-}
 
 /// "" and the sections when every name is known, else a sentence.
 std::string ReadSections(const std::string& names, ReportSections& sections) {
@@ -102,22 +95,13 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
 }
 
 int Report(const Arguments& arguments) {
-    Session session;
-    CollectingHost host;
-    if (const auto fault = Module1::LoadMainScreen(session, host, arguments.Folder))
-        return Complain(Sentence(*fault), CannotRun);
+    OneComparison comparison = CompareOne(arguments.Folder, arguments.Input);
+    if (comparison.Status != AllWell)
+        return Complain(comparison.Complaint, comparison.Status);
+    Session& session = comparison.State;
     session.Header.HomeBuyer = arguments.Buyer;
     if (arguments.Builder)
         session.Header.BuilderName = *arguments.Builder;
-
-    Comparison comparison(session);
-    const ObjectInput input = RunObjectFile(arguments.Input, comparison);
-    if (!input.Unreadable.empty())
-        return Complain(input.Unreadable, CannotRun);
-    if (input.Refused)
-        return Complain(RefusalSentence(*input.Refused), SomeRefused);
-
-    session = comparison.State();
     const auto saved = Module1::GetLogoOption(SettingsFile(session.Folder));
     const int logo = arguments.LogoOption.value_or(saved ? *saved : 0);
     const QString fault = WriteReportFile(
@@ -128,11 +112,7 @@ int Report(const Arguments& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // No display is needed, and none is asked even where there is one.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The toolkit's remarks about a desktop that is not there are nothing to a script; faults come as
-    // sentences of ours.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    WorkOffscreen();
     const QGuiApplication application(argc, argv);
     CLI::App app("Writes the report of a comparison as PDF.", "ledgrove-cli report");
     app.set_version_flag("--version", "ledgrove-report " LEDGROVE_VERSION);

@@ -4,12 +4,12 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QStandardPaths>
 #include <utility>
 
 #include "app/files/ComparisonFile.h"
 #include "ui/FirstSteps.h"
 #include "ui/windows/SafeFile.h"
+#include "ui/windows/UsersFolder.h"
 
 namespace Ledgrove {
 
@@ -24,9 +24,7 @@ QString Filter() {
 }
 
 QString DocumentsFolder() {
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    // Where there is none, the dialogs would begin in whatever folder the program was started from.
-    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+    return UsersFolder(QStandardPaths::DocumentsLocation);
 }
 
 } // namespace
@@ -95,7 +93,6 @@ void CurrentFile::OpenCopy(const QString& file) {
 bool CurrentFile::Load(const QString& file) {
     if (const auto fault = OpenComparison(file.toStdString(), m_session, m_start, m_outside)) {
         m_recent.Remove(file);
-        emit RecentChanged();
         Tell(*fault);
         return false;
     }
@@ -131,7 +128,6 @@ void CurrentFile::TakeName(const QString& file) {
     m_name = QFileInfo(file).absoluteFilePath();
     m_saved = ComparisonText(m_session.Screen);
     m_recent.Add(m_name);
-    emit RecentChanged();
 }
 
 void CurrentFile::StartEntering() {

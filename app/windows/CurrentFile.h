@@ -40,9 +40,6 @@ public slots:
     bool Save();
     bool SaveAs();
 
-signals:
-    void RecentChanged();
-
 protected:
     /// Asks before the window closes over unsaved inputs.
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -54,7 +54,6 @@ void FillRecent(QMenu& menu, CurrentFile& file) {
         QAction* action = AddCommand(menu, MenuName(menu.actions().size() + 1, name), {},
                                      [&file, name] { file.OpenNamed(name); });
         action->setToolTip(name);
-        action->setStatusTip(name);
     }
     if (names.isEmpty())
         return;

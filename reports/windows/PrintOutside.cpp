@@ -1,8 +1,8 @@
 #include "reports/windows/PrintOutside.h"
 
-#include <QDir>
-#include <QStandardPaths>
 #include <QStringList>
+
+#include "ui/windows/UsersFolder.h"
 
 namespace Ledgrove {
 
@@ -15,11 +15,6 @@ constexpr const char* logoFilter = "Pictures (*.bmp,*.ico,*.rle,*.wmf) | *.bmp;*
 QString ToolkitFilter(const char* filter) {
     const QStringList parts = QString(filter).split('|');
     return parts[0].trimmed() + " (" + parts[1].trimmed().replace(';', ' ') + ")";
-}
-
-QString UsersFolder() {
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
 QString Chosen(QFileDialog& dialog) {
@@ -43,7 +38,7 @@ std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent, const QString& pdfName) 
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix("pdf");
     dialog->setNameFilter("PDF files (*.pdf)");
-    dialog->setDirectory(UsersFolder());
+    dialog->setDirectory(UsersFolder(QStandardPaths::DocumentsLocation));
     dialog->selectFile(pdfName);
     return dialog;
 }

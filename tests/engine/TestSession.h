@@ -117,11 +117,8 @@ inline Session StartedSession() {
 }
 
 /// A buyer with $72,000 a year and $350 of debt, 10 % down; homes at $200,000 and $206,000 with utility bills
-/// of $2,400 and $1,700; FHA and FHA EEM.
-inline Session SampleSession() {
-    Session session = StartedSession();
-    ChooseOptions(session, "FHA", "FHA EEM");
-    MainScreen& screen = session.Screen;
+/// of $2,400 and $1,700.
+inline void FillSample(MainScreen& screen) {
     screen.ecIncome.Text = "$72,000";
     screen.ecMonthlyDebt.Text = "$350";
     screen.ecPctDown.Text = "10.00%";
@@ -129,6 +126,13 @@ inline Session SampleSession() {
     screen.ecGMHHome.Text = "$206,000";
     screen.ecStdUtil.Text = "$2,400";
     screen.ecGMHUtil.Text = "$1,700";
+}
+
+/// The sample with FHA and FHA EEM.
+inline Session SampleSession() {
+    Session session = StartedSession();
+    ChooseOptions(session, "FHA", "FHA EEM");
+    FillSample(session.Screen);
     return session;
 }
 

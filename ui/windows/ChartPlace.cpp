@@ -3,11 +3,8 @@
 #include <QAccessibleWidget>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QStandardPaths>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 #include <QVBoxLayout>
@@ -15,6 +12,7 @@
 
 #include "ui/windows/Labels.h"
 #include "ui/windows/SafeFile.h"
+#include "ui/windows/UsersFolder.h"
 
 namespace Ledgrove {
 
@@ -110,8 +108,7 @@ void ChartPlace::contextMenuEvent(QContextMenuEvent* event) {
 void ChartPlace::SavePicture(PictureFormat format) {
     const bool isPng = format == PictureFormat::Png;
     const QString suffix = isPng ? ".png" : ".svg";
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    const QString folder = QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+    const QString folder = UsersFolder(QStandardPaths::PicturesLocation);
     const QString name = m_chart->accessibleName().toLower().replace(' ', '-');
     const QString file = m_context->Questions.SaveName(
         *this, {"Save Chart", folder + '/' + name + suffix,

@@ -205,10 +205,7 @@ QWidget* MakeSummary() {
     note->setAccessibleDescription("PV of Savings, note");
     grid->addWidget(note, 1, 1, Qt::AlignTop);
     grid->addWidget(new ChartPlace(ChartKind::Savings), 2, 1, 2, 1);
-    // The words write the ampersand as captions do, twice; a label without a buddy would show both.
-    const QString words =
-        "*Ledgrove only provides estimates && does not account for LTV - check with your bank";
-    QLabel* footnote = TextLabel(QString(words).replace("&&", "&"));
+    QLabel* footnote = TextLabel(Words(Module1::SummaryFootnote()));
     footnote->setObjectName("lblSummaryFootnote");
     footnote->setContentsMargins(0, 8, 0, 0);
     footnote->setWordWrap(true);

@@ -107,17 +107,4 @@ bool WhileOpen(const char* window, const std::function<void()>& press,
     return opened;
 }
 
-QString Mnemonics(const QWidget& form) {
-    QMap<QChar, QString> owners;
-    for (const QString& text : MnemonicTexts(form)) {
-        const QChar letter = MnemonicOf(text);
-        if (letter.isNull())
-            continue;
-        if (owners.contains(letter))
-            return text + " and " + owners[letter];
-        owners[letter] = text;
-    }
-    return QString(owners.keys().data(), owners.size());
-}
-
 } // namespace Ledgrove

@@ -72,7 +72,4 @@ QByteArray BytesOf(const QString& file);
 bool WhileOpen(const char* window, const std::function<void()>& press,
                const std::function<void(QWidget&)>& act);
 
-/// The form's mnemonics; the texts that share one where they do.
-QString Mnemonics(const QWidget& form);
-
 } // namespace Ledgrove

@@ -10,6 +10,7 @@
 #include "engine/Recalculate.h"
 #include "reports/windows/PrintAction.h"
 #include "reports/windows/frmReportSelection.h"
+#include "tests/engine/TestSession.h"
 #include "ui/windows/HelpWindow.h"
 #include "ui/windows/frmMain.h"
 
@@ -55,14 +56,7 @@ struct OpenSelection : PrintDesk, FormDriver {
 };
 
 void FillSample(Session& session, Host& host) {
-    MainScreen& screen = session.Screen;
-    screen.ecIncome.Text = "$72,000";
-    screen.ecMonthlyDebt.Text = "$350";
-    screen.ecPctDown.Text = "10.00%";
-    screen.ecStdHome.Text = "$200,000";
-    screen.ecGMHHome.Text = "$206,000";
-    screen.ecStdUtil.Text = "$2,400";
-    screen.ecGMHUtil.Text = "$1,700";
+    Testing::FillSample(session.Screen);
     Module1::Recalculate(session, host);
 }
 

@@ -10,20 +10,6 @@ using namespace Ledgrove;
 
 namespace {
 
-/// The form's mnemonics in order, or the two texts that share one.
-QString Mnemonics(const QWidget& form) {
-    QMap<QChar, QString> owners;
-    for (const QString& text : MnemonicTexts(form)) {
-        const QChar letter = MnemonicOf(text);
-        if (letter.isNull())
-            continue;
-        if (owners.contains(letter))
-            return text + " and " + owners[letter];
-        owners[letter] = text;
-    }
-    return QString(owners.keys().data(), owners.size());
-}
-
 /// Every field has a spoken name of its own, and can be found by its control name.
 void CheckFieldNames(const QWidget& form) {
     QSet<QString> spoken;

@@ -39,17 +39,9 @@ private slots:
 
 void MainWindowAccessTest::noMnemonicIsGivenTwice() {
     OpenWindow open;
-    QMap<QChar, QString> owners;
-    for (const QString& text : MnemonicTextsAndTabs(open)) {
-        const QChar letter = MnemonicOf(text);
-        if (letter.isNull())
-            continue;
-        QVERIFY2(!owners.contains(letter), qPrintable(text + " and " + owners[letter]));
-        owners[letter] = text;
-    }
     // Eight captions of fields, two options, the check box, five tabs, a button: the other letters are the
     // menus'.
-    QCOMPARE(owners.size(), 17);
+    QCOMPARE(Mnemonics(MnemonicTextsAndTabs(open)), "ABCDGILMNOPRSUWXY");
 }
 
 void MainWindowAccessTest::mnemonicsReachTheirControls() {

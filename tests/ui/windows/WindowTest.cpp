@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
 #include <QWindow>
 
 #include "engine/Recalculate.h"
@@ -119,6 +120,23 @@ QChar MnemonicOf(const QString& text) {
         ++i;
     }
     return {};
+}
+
+QString Mnemonics(const QStringList& texts) {
+    QMap<QChar, QString> owners;
+    for (const QString& text : texts) {
+        const QChar letter = MnemonicOf(text);
+        if (letter.isNull())
+            continue;
+        if (owners.contains(letter))
+            return text + " and " + owners[letter];
+        owners[letter] = text;
+    }
+    return QString(owners.keys().data(), owners.size());
+}
+
+QString Mnemonics(const QWidget& form) {
+    return Mnemonics(MnemonicTexts(form));
 }
 
 QString SpokenName(QWidget& widget) {

@@ -71,6 +71,10 @@ QStringList MnemonicTexts(const QWidget& form);
 /// The letter that "&" marks; null without one.
 QChar MnemonicOf(const QString& text);
 
+/// The mnemonics of these texts in order, or the two texts that share one, "Save and Sort".
+QString Mnemonics(const QStringList& texts);
+QString Mnemonics(const QWidget& form);
+
 /// What a screen reader calls the control.
 QString SpokenName(QWidget& widget);
 
