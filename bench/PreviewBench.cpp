@@ -2,6 +2,7 @@
 
 #include "bench/Sample.h"
 #include "reports/modPrint.h"
+#include "reports/windows/cups/CupsServer.h"
 #include "reports/windows/frmPrint.h"
 
 #include <QApplication>

@@ -193,7 +193,7 @@ install_all() {
     refresh_desktop
     echo "Ledgrove $(version) is installed in \"$program\"."
     echo "Start it from the desktop's menu, or as \"$bin/ledgrove\"."
-    if ldd "$program/ledgrove" "$program/modules/ledgrove-charts.so" "$program/ledgrove-cli" 2>/dev/null |
+    if ldd "$program/ledgrove" "$program/modules/"*.so "$program/ledgrove-cli" 2>/dev/null |
         grep -q 'not found'; then
         echo "It cannot start yet: libraries are missing. \"$program/README.md\" names the packages to install." >&2
     fi

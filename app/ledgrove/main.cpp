@@ -4,12 +4,15 @@
 #include <QMessageBox>
 #include <cstdio>
 #include <filesystem>
+#include <fontconfig/fontconfig.h>
 #include <memory>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 #include "app/windows/ChartLoader.h"
 #include "app/windows/CurrentFile.h"
+#include "app/windows/LoadedPrinters.h"
 #include "app/windows/MainMenu.h"
 #include "reports/windows/HelpPrint.h"
 #include "reports/windows/PrintAction.h"
@@ -46,9 +49,16 @@ QString SampleFile(const std::filesystem::path& folder) {
     return QString::fromStdString((folder / "samples" / "first-home.ledgrove.json").string());
 }
 
+/// Kerning and ligatures, which Latin letters in a form do without, would take a tenth of the start.
+void ShapePlainly() {
+    QFont font = QApplication::font();
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    QApplication::setFont(font);
+}
+
 /// `file` is a comparison to open, "" for none.
 int ShowWindow(const std::filesystem::path& folder, const QString& file) {
-    QApplication::setWindowIcon(Ledgrove::HousePicture(64));
+    ShapePlainly();
     Ledgrove::Session session;
     Ledgrove::QtHost host;
     if (const auto fault = Ledgrove::Module1::OpenMainScreen(session, host, folder)) {
@@ -59,9 +69,11 @@ int ShowWindow(const std::filesystem::path& folder, const QString& file) {
         return NoSettings;
     }
     Ledgrove::MainActions actions = Ledgrove::DialogActions(session, host);
-    actions.Print = Ledgrove::PrintAction(session, host);
-    actions.PrintHelp = [&host](const QTextDocument& document, QWidget& above) {
-        Ledgrove::PrintHelpDocument(document, above, host);
+    Ledgrove::LoadedPrinters printers(QCoreApplication::applicationDirPath(), host);
+    actions.Print = Ledgrove::PrintAction(session, host, printers);
+    actions.PrintHelp = [&host, &printers](const QTextDocument& document, QWidget& above) {
+        Ledgrove::PrintHelpDocument(document, above, host,
+                                    Ledgrove::RealOutside(printers, "Ledgrove Help.pdf"));
     };
     const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
     actions.Questions = questions;
@@ -90,6 +102,9 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName("org.ledgrove.Ledgrove");
 
     const bool hasDisplay = HasDisplay(argc, argv);
+    // The first text waits for the list of the machine's fonts: it is read beside the connection to the
+    // display.
+    const std::jthread fonts(hasDisplay ? std::jthread([] { FcInit(); }) : std::jthread());
     const std::unique_ptr<QCoreApplication> application(hasDisplay ? new QApplication(argc, argv)
                                                                    : new QCoreApplication(argc, argv));
 

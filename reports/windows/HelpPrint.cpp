@@ -78,11 +78,6 @@ QString PrintOn(const PrinterDevice& device, const HelpPages& pages, QWidget& ab
 
 } // namespace
 
-void PrintHelpDocument(const QTextDocument& help, QWidget& above, Host& outside) {
-    CupsServer server;
-    PrintHelpDocument(help, above, outside, RealOutside(server, "Ledgrove Help.pdf"));
-}
-
 void PrintHelpDocument(const QTextDocument& help, QWidget& above, Host& outside,
                        const PrintOutside& machine) {
     const HelpPages pages(help);

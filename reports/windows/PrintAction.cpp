@@ -6,10 +6,9 @@
 
 namespace Ledgrove {
 
-std::function<void()> PrintAction(Session& session, Host& outside) {
-    return [&session, &outside] {
-        CupsServer server;
-        const PrintOutside machine = RealOutside(server);
+std::function<void()> PrintAction(Session& session, Host& outside, PrintServer& printers) {
+    return [&session, &outside, &printers] {
+        const PrintOutside machine = RealOutside(printers);
         frmReportSelection(session, outside, machine, QApplication::activeWindow()).exec();
     };
 }

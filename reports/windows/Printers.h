@@ -29,14 +29,6 @@ public:
     virtual std::string Send(const PrintJob& job) = 0;
 };
 
-/// The machine's own, or the one that CUPS_SERVER names.
-class CupsServer : public PrintServer {
-public:
-    std::vector<PrinterDevice> Devices() override;
-    PrinterDetails Details(const std::string& printer) override;
-    std::string Send(const PrintJob& job) override;
-};
-
 /// The device that is always there: a PDF file whose name is asked for when it is printed.
 PrinterDevice PdfDevice();
 PrinterDetails PdfDetails();

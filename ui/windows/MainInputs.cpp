@@ -151,8 +151,8 @@ QWidget* MainInputs::MakeButtons() {
     layout->setContentsMargins(0, 0, 0, 0);
     auto* financing = new QLabel;
     Identify(*financing, "bFinancing", "Financing");
-    financing->setPixmap(FinancingPicture(64));
     financing->setAlignment(Qt::AlignCenter);
+    financing->setFixedHeight(EmblemHeight);
     layout->addWidget(financing);
     layout->addStretch();
     layout->addWidget(MakeButton("Command1", "Financial Assumptions"));

@@ -4,6 +4,9 @@
 
 namespace Ledgrove {
 
+/// The room that the emblem above the buttons has, in pixels. Its picture comes after the first paint.
+inline constexpr int EmblemHeight = 72;
+
 /// The upper part of the main window: the buyer's and the two homes' inputs and the column of buttons. Only
 /// the controls and their places; the window connects them.
 class MainInputs : public QWidget {

@@ -231,14 +231,10 @@ QScrollArea* MakeScrolled(QWidget* page) {
 }
 
 /// Panels come and go inside their tab's page, which keeps the room.
-QWidget* MakePage(QWidget* panel) {
-    auto* page = new QWidget;
-    auto* layout = new QVBoxLayout(page);
+void FillPage(QWidget& page, QWidget* panel) {
+    auto* layout = new QVBoxLayout(&page);
     layout->addWidget(panel);
-    QSizePolicy policy = panel->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    panel->setSizePolicy(policy);
-    return page;
+    KeepPlaceWhileHidden(*panel);
 }
 
 } // namespace
@@ -255,8 +251,15 @@ ResultPanels::ResultPanels(QWidget* parent)
                                  MakeSummary()};
     for (int i = 0; i < TabCount; ++i) {
         panels[i]->setObjectName(QString("DetlFrame%1").arg(i));
-        QWidget* page = MakePage(panels[i]);
-        addTab(i == moreHome ? MakeScrolled(page) : page, mnemonics[i]);
+        auto* page = new QWidget;
+        if (i == moreHome) {
+            FillPage(*page, panels[i]);
+            addTab(MakeScrolled(page), mnemonics[i]);
+        } else {
+            // The first page is laid out as soon as it is added: empty, since its size is not known yet.
+            addTab(page, mnemonics[i]);
+            FillPage(*page, panels[i]);
+        }
     }
 }
 

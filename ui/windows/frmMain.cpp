@@ -1,5 +1,6 @@
 #include "ui/windows/frmMain.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,6 +22,7 @@
 #include "ui/windows/FormParts.h"
 #include "ui/windows/MainInputs.h"
 #include "ui/windows/MainKeys.h"
+#include "ui/windows/Pictures.h"
 #include "ui/windows/ResultPanels.h"
 #include "ui/windows/WelcomeHint.h"
 
@@ -80,15 +82,16 @@ void frmMain::BuildControls() {
     setCentralWidget(content);
 }
 
-void frmMain::ShowEmblem() {
-    constexpr int height = 72;
+void frmMain::ShowPictures() {
+    QApplication::setWindowIcon(HousePicture(64));
+    auto* const place = findChild<QLabel*>("bFinancing");
     const QPixmap emblem(QString::fromStdString(m_session.EmblemFile().string()));
     if (emblem.isNull())
-        return; // the drawn picture stays
+        return place->setPixmap(FinancingPicture(64));
     const qreal density = devicePixelRatioF();
-    QPixmap shown = emblem.scaledToHeight(qRound(height * density), Qt::SmoothTransformation);
+    QPixmap shown = emblem.scaledToHeight(qRound(EmblemHeight * density), Qt::SmoothTransformation);
     shown.setDevicePixelRatio(density);
-    findChild<QLabel*>("bFinancing")->setPixmap(shown);
+    place->setPixmap(shown);
 }
 
 void frmMain::ConnectFields() {
@@ -222,7 +225,7 @@ void frmMain::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
     // The emblem is made for print: to read it takes a fifth of the start, so the window comes first.
     if (!std::exchange(m_painted, true))
-        QTimer::singleShot(0, this, &frmMain::ShowEmblem);
+        QTimer::singleShot(0, this, &frmMain::ShowPictures);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

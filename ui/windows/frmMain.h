@@ -61,7 +61,7 @@ protected:
 
 private:
     void BuildControls();
-    void ShowEmblem();
+    void ShowPictures();
     void ConnectFields();
     void ConnectPickLists();
     void ConnectOptions();

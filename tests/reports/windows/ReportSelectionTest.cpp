@@ -216,7 +216,7 @@ void ReportSelectionTest::mnemonicsAndTabOrder() {
 void ReportSelectionTest::mainWindowOpensIt() {
     PrintDesk desk;
     MainActions actions;
-    actions.Print = PrintAction(desk.State, desk.Outside);
+    actions.Print = PrintAction(desk.State, desk.Outside, desk.Server);
     frmMain window(desk.State, desk.Outside, actions);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));

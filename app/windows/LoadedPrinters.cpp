@@ -1,0 +1,42 @@
+#include "app/windows/LoadedPrinters.h"
+
+#include <QPluginLoader>
+#include <utility>
+
+#include "reports/windows/PrinterModule.h"
+#include "ui/windows/QtHost.h"
+
+namespace Ledgrove {
+
+LoadedPrinters::LoadedPrinters(QString folder, Host& outside)
+    : m_folder(std::move(folder))
+    , m_outside(outside) {}
+
+std::vector<PrinterDevice> LoadedPrinters::Devices() {
+    if (!m_server) {
+        const QString file = m_folder + "/modules/ledgrove-printers.so";
+        QPluginLoader loader(file);
+        auto* const factory = qobject_cast<PrintServerFactory*>(loader.instance());
+        if (!factory) {
+            const QString sentence =
+                QString("The printers of this machine cannot be reached, since \"%1\" does "
+                        "not load: %2 \"Print to PDF\" does without.")
+                    .arg(file, loader.errorString());
+            m_outside.ShowMessage({ApplicationTitle, sentence.toStdString(), MessageIcon::Exclamation});
+            return {};
+        }
+        m_server = factory->Make();
+    }
+    return m_server->Devices();
+}
+
+// Only a device that was listed is asked about, so the library is there.
+PrinterDetails LoadedPrinters::Details(const std::string& printer) {
+    return m_server ? m_server->Details(printer) : PrinterDetails();
+}
+
+std::string LoadedPrinters::Send(const PrintJob& job) {
+    return m_server ? m_server->Send(job) : "the printers of this machine cannot be reached";
+}
+
+} // namespace Ledgrove

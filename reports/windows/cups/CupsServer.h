@@ -1,0 +1,15 @@
+#pragma once
+
+#include "reports/windows/Printers.h"
+
+namespace Ledgrove {
+
+/// The machine's own print server, or the one that CUPS_SERVER names.
+class CupsServer : public PrintServer {
+public:
+    std::vector<PrinterDevice> Devices() override;
+    PrinterDetails Details(const std::string& printer) override;
+    std::string Send(const PrintJob& job) override;
+};
+
+} // namespace Ledgrove
