@@ -5,7 +5,9 @@
 
 namespace Ledgrove {
 
-/// The metafile as a picture whose longer side has so many pixels; null when it is damaged.
+/// The metafile as a picture whose longer side has so many pixels, at most 4000. It is played by the program
+/// `ledgrove-metafile` beside the running one; null when it is damaged, takes more than a second or 64 MB, or
+/// breaks its player.
 QImage ReadWmf(const QByteArray& bytes, int longestSide = 1200);
 
 } // namespace Ledgrove

@@ -91,6 +91,7 @@ def pictures(folder):
         "WMF": wmf(True),
         "WMF of 60 ellipses": metafile(many, 10),
         "WMF with RLE of 2,000 x 2,000": metafile(stretch, 14 + len(bitmap) // 2),
+        "WMF of an endless arc, stopped": metafile(struct.pack("<IH8h", 11, 0x0817, -1, 2, 0, 0, 0, 0x3EFF, 0, 0), 11),
     }
     for what, content in costly.items():
         logo.write_bytes(content)

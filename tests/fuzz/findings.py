@@ -15,6 +15,10 @@ FINDINGS = {
         "many-images": bytes.fromhex("0000010001e2"),
         "more-images": bytes.fromhex("0000010008") + b"\xf5" * 60,
     },
-    # a bitmap in a record that claims 1.9 GB, which the library set aside
-    "metafile": {"huge-bitmap": b"3" * 33 + b"Z\x15\x01\x97"},
+    "metafile": {
+        # a bitmap in a record that claims 1.9 GB, which the library set aside
+        "huge-bitmap": b"3" * 33 + b"Z\x15\x01\x97",
+        # an arc over all the plane, which the library took seconds to draw
+        "endless-arc": bytes.fromhex("3266ffff0200000000000000ff3e"),
+    },
 }

@@ -13,7 +13,7 @@ from xml.etree import ElementTree
 BUILD, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
 ID = "org.ledgrove.Ledgrove"
 TYPE = "application/vnd.ledgrove.comparison+json"
-PROGRAMS = {"ledgrove", "ledgrove-cli", "ledgrove-report", "ledgrove-chart"}
+PROGRAMS = {"ledgrove", "ledgrove-cli", "ledgrove-report", "ledgrove-chart", "ledgrove-metafile"}
 ICONS = {f"share/icons/hicolor/{size}x{size}/apps/{ID}.png" for size in (16, 24, 32, 48, 64, 128, 256)}
 MODULES = {"modules/ledgrove-charts.so", "modules/ledgrove-printers.so"}
 CONTENTS = PROGRAMS | MODULES | ICONS | {

@@ -70,6 +70,18 @@ TEST(ReadPicture, ReadsMetafilesWithAndWithoutPlaceableHeader) {
     }
 }
 
+TEST(ReadPicture, AMetafileThatDrawsForeverIsNone) {
+    // An arc over all the plane takes the library seconds, twenty of them most of a minute.
+    QByteArray arc;
+    Append<quint32>(arc, 11);
+    Append<quint16>(arc, 0x0817);
+    arc += QByteArray::fromHex("ffff0200000000000000ff3e00000000");
+    QByteArray bytes = QByteArray::fromHex("010009000003") + QByteArray(4, '\0') +
+                       QByteArray::fromHex("10000b0000000000") + arc.repeated(20) +
+                       QByteArray::fromHex("030000000000");
+    EXPECT_TRUE(ReadPicture(bytes).isNull());
+}
+
 class CutPicture : public testing::TestWithParam<QByteArray> {};
 
 TEST_P(CutPicture, GivesNoPictureOrAWholeImage) {

@@ -1,0 +1,41 @@
+"""ledgrove-metafile, which turns a metafile into a PNG within limits of its own."""
+import io
+import struct
+import subprocess
+import sys
+import unittest
+from pathlib import Path
+
+from PIL import Image
+
+PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
+sys.path.insert(0, str(SOURCE / "tests/fuzz"))
+
+from make_corpora import wmf  # noqa: E402
+
+
+def play(content, *arguments):
+    return subprocess.run([PROGRAM, *arguments], input=content, capture_output=True, timeout=30, check=False)
+
+
+class Metafile(unittest.TestCase):
+    def test_its_longer_side_is_as_asked(self):
+        for side in (64, 300):
+            done = play(wmf(False), str(side))
+            self.assertEqual((done.returncode, done.stderr), (0, b""))
+            self.assertEqual(max(Image.open(io.BytesIO(done.stdout)).size), side)
+
+    def test_damage_gives_nothing(self):
+        for content in (b"", b"no metafile", wmf(False)[:30], struct.pack("<HHHIHIH", 1, 9, 0x300, 1 << 30, 1, 1 << 30, 0)):
+            done = play(content, "64")
+            self.assertNotEqual(done.returncode, 0)
+            self.assertEqual(done.stdout, b"")
+
+    def test_other_arguments_are_told_what_to_give(self):
+        for arguments in ((), ("wide",), ("0",), ("4001",), ("64", "64")):
+            done = play(b"", *arguments)
+            self.assertEqual(done.returncode, 1)
+            self.assertEqual(done.stderr, b"ledgrove-metafile LONGEST-SIDE turns the metafile on standard input into a PNG.\n")
+
+
+unittest.main()
