@@ -1,12 +1,9 @@
 """ledgrove-metafile, which turns a metafile into a PNG within limits of its own."""
-import io
 import struct
 import subprocess
 import sys
 import unittest
 from pathlib import Path
-
-from PIL import Image
 
 PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
 sys.path.insert(0, str(SOURCE / "tests/fuzz"))
@@ -23,7 +20,8 @@ class Metafile(unittest.TestCase):
         for side in (64, 300):
             done = play(wmf(False), str(side))
             self.assertEqual((done.returncode, done.stderr), (0, b""))
-            self.assertEqual(max(Image.open(io.BytesIO(done.stdout)).size), side)
+            self.assertEqual(done.stdout[:8], b"\x89PNG\r\n\x1a\n")
+            self.assertEqual(max(struct.unpack(">2I", done.stdout[16:24])), side)
 
     def test_damage_gives_nothing(self):
         for content in (b"", b"no metafile", wmf(False)[:30], struct.pack("<HHHIHIH", 1, 9, 0x300, 1 << 30, 1, 1 << 30, 0)):
