@@ -1,4 +1,5 @@
-// The house scenario dialog with 10,000 saved houses, in milliseconds: opened until painted, and saved.
+// The house scenario dialog with as many saved houses as the argument says, in milliseconds: from reading
+// them to the dialog painted, and saved.
 
 #include "app/batch/Comparison.h"
 #include "bench/Sample.h"
@@ -13,17 +14,19 @@
 #include <QTest>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace Ledgrove;
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    const int lots = argc > 1 ? std::atoi(argv[1]) : 10000;
     const QTemporaryDir folder;
     QFile::copy(LEDGROVE_DATA_DIR "/Ledgrove.ini", folder.filePath("Ledgrove.ini"));
     Session session = Bench::SampleSession();
     session.Folder = folder.path().toStdString();
     HouseList houses;
-    for (int lot = 1; lot <= 10000; ++lot)
+    for (int lot = 1; lot <= lots; ++lot)
         houses.push_back({"Lot " + std::to_string(lot), 200000, 2400, 206000, 1700});
     Module1::WriteHomeList(SettingsFile(session.Folder), houses);
 

@@ -3,6 +3,7 @@
 
 #include "bench/PlainComparison.h"
 
+#include "app/batch/InputRecord.h"
 #include "app/batch/RecordTables.h"
 #include "engine/MainScreen.h"
 
@@ -51,30 +52,38 @@ void Key(Writer& writer, std::string_view name) {
 /// "$1,234".
 std::string Money(double amount) {
     std::array<char, 32> digits;
-    const int length = std::snprintf(digits.data(), digits.size(), "%.0f", std::fabs(amount));
-    std::string text = amount < 0 ? "-$" : "$";
-    for (int i = 0; i < length; ++i) {
-        if (i > 0 && (length - i) % 3 == 0)
-            text += ',';
-        text += digits[static_cast<std::size_t>(i)];
+    const double rounded = std::isfinite(amount) ? std::fabs(std::round(amount)) : 0;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                   static_cast<long long>(std::fmin(rounded, 1e15)));
+    const std::string_view text(digits.data(), static_cast<std::size_t>(end.ptr - digits.data()));
+    std::string money = amount < 0 ? "-$" : "$";
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (i > 0 && (text.size() - i) % 3 == 0)
+            money += ',';
+        money += text[i];
     }
-    return text;
+    return money;
 }
 
 void WriteNumber(Writer& writer, double value) {
     std::array<char, 64> text;
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), static_cast<float>(value));
+    const auto end = std::to_chars(text.data(), text.data() + text.size(),
+                                   static_cast<float>(std::isfinite(value) ? value : 0));
     writer.RawValue(text.data(), static_cast<std::size_t>(end.ptr - text.data()), rapidjson::kNumberType);
 }
 
+/// Every input, those that were not given too.
 void WriteFields(Writer& writer, const rapidjson::Document& document) {
     writer.StartObject();
-    for (const auto& member : document.GetObject()) {
-        writer.Key(member.name.GetString(), member.name.GetStringLength());
-        if (member.value.IsString())
-            writer.String(member.value.GetString(), member.value.GetStringLength());
+    for (const std::string_view name : InputNames) {
+        Key(writer, name);
+        const auto found = document.FindMember(name.data());
+        if (found == document.MemberEnd())
+            writer.String("Conventional");
+        else if (found->value.IsString())
+            writer.String(found->value.GetString(), found->value.GetStringLength());
         else
-            member.value.Accept(writer);
+            found->value.Accept(writer);
     }
     writer.EndObject();
 }
@@ -86,7 +95,8 @@ void WriteLabels(Writer& writer, const std::array<double, 12>& figures) {
         Key(writer, name);
         writer.StartObject();
         writer.Key("text");
-        writer.String(Money(figures[turn++ % figures.size()]).c_str());
+        const std::string text = Money(figures[turn++ % figures.size()]);
+        writer.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
         writer.Key("color");
         writer.String("#000000");
         writer.Key("visible");
@@ -108,6 +118,28 @@ void WriteRecord(Writer& writer, const Figure<Record> (&table)[Count],
     writer.EndObject();
 }
 
+/// About as long as the messages and the data check of most lines are.
+void WriteRemarks(Writer& writer) {
+    writer.Key("messages");
+    writer.StartArray();
+    writer.StartObject();
+    writer.Key("title");
+    writer.String("Ledgrove");
+    writer.Key("text");
+    writer.String(
+        "The homebuyer may not qualify for the mortgage you have selected because the present value "
+        "of the savings is less than the cost of the upgrade.");
+    writer.Key("icon");
+    writer.String("none");
+    writer.Key("buttons");
+    writer.String("ok");
+    writer.EndObject();
+    writer.EndArray();
+    writer.Key("dataCheck");
+    writer.String("Attention!\r\rCost of Standard Home is missing.\rStandard Home utility bill is missing.\r"
+                  "GREENMARK Home utility bill is missing.\rDown payment is missing.\r");
+}
+
 void WriteResult(Writer& writer, const rapidjson::Document& document, const Bench::PlainResult& result) {
     const std::array<double, 12> figures{result.StdPITI,       result.GMHPITI,    result.Net,
                                          result.PVSavings,     result.StdMaxLoan, result.GMHMaxLoan,
@@ -124,12 +156,7 @@ void WriteResult(Writer& writer, const rapidjson::Document& document, const Benc
     WriteRecord(writer, HomeFigures, figures);
     writer.Key("GMHCase");
     WriteRecord(writer, HomeFigures, figures);
-    writer.Key("messages");
-    writer.StartArray();
-    writer.EndArray();
-    writer.Key("dataCheck");
-    writer.String(
-        "Attention!\r\rCost of Standard Home is missing.\rStandard Home utility bill is missing.\r");
+    WriteRemarks(writer);
     writer.EndObject();
 }
 
@@ -139,14 +166,21 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     std::ifstream file(argc > 1 ? argv[1] : "/dev/stdin");
     rapidjson::StringBuffer buffer;
+    const auto writeOut = [&buffer] {
+        std::cout.write(buffer.GetString(), static_cast<std::streamsize>(buffer.GetSize()));
+        buffer.Clear();
+    };
+    constexpr std::size_t piece = std::size_t{64} * 1024;
     for (std::string line; std::getline(file, line);) {
         rapidjson::Document document;
         document.Parse(line.data(), line.size());
         if (!document.IsObject())
             return 1;
-        buffer.Clear();
         Writer writer(buffer);
         WriteResult(writer, document, Bench::ComparePlainly(ReadInput(document), 30, 7));
-        std::cout.write(buffer.GetString(), static_cast<std::streamsize>(buffer.GetSize())).put('\n');
+        buffer.Put('\n');
+        if (buffer.GetSize() >= piece)
+            writeOut();
     }
+    writeOut();
 }

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "app/windows/ChartLoader.h"
+#include "app/windows/CurrentFile.h"
+#include "app/windows/MainMenu.h"
+#include "bench/Sample.h"
+#include "ui/windows/ResultPanels.h"
+#include "ui/windows/frmMain.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace Ledgrove::Bench {
+
+/// Nobody is there to be told, and nothing is kept.
+class SilentHost : public Host {
+public:
+    MessageAnswer ShowMessage(const Message& message) override {
+        return message.Buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::Ok;
+    }
+    void RunPendingEvents() override {}
+};
+
+/// The main window as the program has it, with menu bar, current file and charts, on the sample.
+class RealWindow : public QObject {
+public:
+    RealWindow()
+        : m_session(SampleSession())
+        , m_window(m_session, m_host, Actions())
+        , m_file(m_window, m_session, m_host, RecentFiles(m_folder.filePath("recent.ini")), {}) {
+        BuildMainMenu(m_file, {m_window, m_session, m_host, m_file, {}});
+        qApp->installEventFilter(this);
+        m_window.show();
+        if (!QTest::qWaitForWindowExposed(&m_window))
+            qFatal("the window does not appear");
+        PaintAll();
+    }
+
+    void ShowTab(int tab) {
+        m_window.findChild<ResultPanels*>()->setCurrentIndex(tab);
+        PaintAll();
+    }
+
+    QLineEdit& FieldNamed(const QString& name) const { return *m_window.findChild<QLineEdit*>(name); }
+
+    /// Types `text` over what the field shows, and leaves Enter to the caller.
+    static void Type(QLineEdit& field, const QString& text) {
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, text);
+    }
+
+    /// Lets the window work until nothing is left to paint. A chart's picture follows its figures by some
+    /// events, so one quiet turn is not the end.
+    void PaintAll() {
+        for (int quietTurns = 0; quietTurns < 3; ++quietTurns) {
+            const int before = m_paints;
+            QCoreApplication::processEvents();
+            if (m_paints != before)
+                quietTurns = 0;
+        }
+    }
+
+    int ChartPaints() const { return m_chartPaints; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            ++m_paints;
+            if (watched->parent() && watched->parent()->inherits("QChartView"))
+                ++m_chartPaints;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    static MainActions Actions() {
+        MainActions actions;
+        actions.Charts = [] { return LoadCharts(QCoreApplication::applicationDirPath()); };
+        return actions;
+    }
+
+    QTemporaryDir m_folder;
+    Session m_session;
+    SilentHost m_host;
+    frmMain m_window;
+    CurrentFile m_file;
+    int m_paints = 0;
+    int m_chartPaints = 0;
+};
+
+} // namespace Ledgrove::Bench

@@ -1,0 +1,230 @@
+"""The rows of the table: what is measured, against which floor, and what is to be reached."""
+import json
+import shutil
+from dataclasses import dataclass
+from functools import cached_property
+
+import counts
+import desktop_start
+from prices import PriceLists
+from timing import ROOT, NotMeasured, median
+
+SAMPLE = ROOT / "data/samples/first-home.ledgrove.json"
+MIB = 1024  # in KiB
+
+
+@dataclass
+class Finding:
+    figure: str
+    floor: str
+    ratio: str
+    limit: str
+    reached: bool
+
+    @property
+    def verdict(self):
+        return "reached" if self.reached else f"FALLS SHORT: {self.ratio if self.ratio != '-' else self.figure}"
+
+
+def at_most(figure, floor, limit, unit):
+    """A figure as a multiple of its floor."""
+    ratio = figure / floor
+    return Finding(f"{figure:,.1f} {unit}", f"{floor:,.1f} {unit}", f"{ratio:.2f} x", f"<= {limit} x", ratio <= limit)
+
+
+def rate_at_least(figure, floor, limit, floor_name=""):
+    """Comparisons a second as a multiple of the floor's."""
+    ratio = figure / floor
+    return Finding(f"{figure:,.0f}/s", f"{floor_name}{floor:,.0f}/s", f"{ratio:.2f} x", f">= {limit} x", ratio >= limit)
+
+
+class Measurements:
+    """One run. What several rows tell is measured once."""
+
+    def __init__(self, place, lines, hour):
+        self.place = place
+        self.hour = hour
+        self.prices = PriceLists(place, lines)
+        self.counted = {}
+
+    @cached_property
+    def data(self):
+        """A program folder of this run's own."""
+        return shutil.copytree(ROOT / "data", self.place.folder / "data")
+
+    # The window
+
+    @cached_property
+    def starts(self):
+        return desktop_start.starts(self.place, self.data, 25)
+
+    def start(self):
+        (program, _), (floor, _) = self.starts
+        return at_most(program, floor, 1.7, "ms")
+
+    def start_memory(self):
+        (_, program), (_, floor) = self.starts
+        return at_most(program / MIB, floor / MIB, 1.4, "MiB")
+
+    def start_libraries(self):
+        loaded = desktop_start.loaded_at_start(self.place, self.data)
+        return Finding(", ".join(loaded) or "none", "-", "-", "none", not loaded)
+
+    def window(self):
+        tabs = self.place.figures("window_bench")
+        half, most, worst = (max(tab[column] for tab in tabs) for column in (1, 2, 3))
+        return Finding(f"median {half:.2f}, 99th {most:.2f}, worst {worst:.2f} ms", "-", "-", "<= 4 ms, worst <= 16 ms",
+                       half <= 4 and worst <= 16)
+
+    def loop(self):
+        arguments = ("seconds", 3600) if self.hour else ("edits", 36_000)
+        (edits, warm, _, end, resident), = self.place.figures("loop_bench", *arguments, patience=7200)
+        grown = (end - warm) / 1024
+        return Finding(f"{grown:+.1f} KiB after {edits:,.0f} edits, RSS {resident / MIB:.0f} MiB",
+                       f"{warm / 1024:,.0f} KiB warm", "-", "<= +64 KiB", grown <= 64)
+
+    # The engine
+
+    def recalculate(self):
+        output = self.place.say(self.place.program("recalculate_bench"), "--benchmark_format=json", "--benchmark_repetitions=5",
+                                "--benchmark_report_aggregates_only=true")
+        medians = {part["run_name"]: part["real_time"] for part in json.loads(output)["benchmarks"] if part["aggregate_name"] == "median"}
+        # That it asks for no memory once warm is asserted by tests/engine/AllocationTest.cpp.
+        return at_most(medians["Recalculation"], medians["PlainLoop"], 15, "ns")
+
+    # Price lists
+
+    def rates(self, *commands):
+        """The best of three rounds, in comparisons a second."""
+        return [self.prices.lines / min(times) for times in self.place.by_turns(commands, 3, warm_ups=0)]
+
+    def one_core(self):
+        return self.prices.command("jsonl", "--jobs", "1", self.prices.json())
+
+    def jsonl(self):
+        plain = [self.place.program("plain_json"), self.prices.json()]
+        own, floor = self.rates(self.one_core(), plain)
+        return rate_at_least(own, floor, 0.8)
+
+    def jsonl_size(self):
+        """The floor is one only while it writes as much."""
+        few = self.prices.json(20_000)
+        own = len(self.place.say(*self.prices.command("jsonl", "--jobs", "1", few)))
+        plain = len(self.place.say(self.place.program("plain_json"), few))
+        ratio = own / plain
+        return Finding(f"{own / 20_000:,.0f} bytes a line", f"{plain / 20_000:,.0f} bytes a line", f"{ratio:.2f} x", "0.95 to 1.05 x",
+                       0.95 <= ratio <= 1.05)
+
+    @cached_property
+    def checked(self):
+        return self.prices.check(self.one_core())
+
+    def jsonl_memory(self):
+        _, peak = self.checked
+        return Finding(f"{peak / MIB:.1f} MiB", "-", "-", "<= 32 MiB", peak <= 32 * MIB)
+
+    def _order(self, first_wrong):
+        count = f"{self.prices.lines:,} lines"
+        return Finding(f"wrong from line {first_wrong:,}" if first_wrong else f"kept over {count}", "-", "-", "kept", not first_wrong)
+
+    def jsonl_order(self):
+        return self._order(self.checked[0])
+
+    def jobs(self):
+        two = self.prices.command("jsonl", "--jobs", "2", self.prices.json())
+        own, floor = self.rates(two, self.one_core())
+        return rate_at_least(own, floor, 1.8, "one core ")
+
+    def jobs_order(self):
+        return self._order(self.prices.check(self.prices.command("jsonl", "--jobs", "2", self.prices.json()))[0])
+
+    def csv(self):
+        own, floor = self.rates(self.prices.command("csv", "--jobs", "1", self.prices.csv()), self.one_core())
+        return rate_at_least(own, floor, 1.5, "JSON ")
+
+    # Whole processes
+
+    def milliseconds(self, rounds, *commands):
+        return [median(times) * 1000 for times in self.place.by_turns(commands, rounds)]
+
+    def one(self):
+        own, floor = self.milliseconds(100, [self.place.program("ledgrove-cli"), "compare", "--folder", ROOT / "data", SAMPLE],
+                                       [self.place.program("one_line")])
+        limit = 1.5 * floor + 2
+        return Finding(f"{own:.2f} ms", f"{floor:.2f} ms", f"{own / floor:.2f} x", f"<= 1.5 x + 2 ms = {limit:.2f} ms", own <= limit)
+
+    def pdf(self):
+        report = [self.place.program("ledgrove-cli"), "report", "--folder", ROOT / "data", "--output", self.place.folder / "report.pdf"]
+        own, floor = self.milliseconds(20, [*report, SAMPLE], [self.place.program("plain_pdf"), self.place.folder / "plain.pdf"])
+        return at_most(own, floor, 1.5, "ms")
+
+    # Reports and dialogs
+
+    def _milliseconds_at_most(self, program, limit):
+        (figure,), = self.place.figures(program)
+        return Finding(f"{figure:.2f} ms", "-", "-", f"<= {limit} ms", figure <= limit)
+
+    def composing(self):
+        return self._milliseconds_at_most("report_bench", 1)
+
+    def preview(self):
+        return self._milliseconds_at_most("preview_bench", 100)
+
+    def _houses(self, number):
+        """Medians of three dialogs: opened, saved."""
+        return tuple(map(median, zip(*(self.place.figures("houses_bench", number)[0] for _ in range(3)))))
+
+    @cached_property
+    def houses(self):
+        return self._houses(10_000)
+
+    def _house(self, figure):
+        return Finding(f"{figure:.1f} ms", "-", "-", "<= 100 ms", figure <= 100)
+
+    def houses_open(self):
+        return self._house(self.houses[0])
+
+    def houses_save(self):
+        return self._house(self.houses[1])
+
+    def houses_linear(self):
+        ratios = [many / few for many, few in zip(self._houses(100_000), self.houses)]
+        return Finding(f"opened {ratios[0]:.1f} x, saved {ratios[1]:.1f} x", "10,000 houses", f"{max(ratios):.1f} x", "<= 12 x",
+                       max(ratios) <= 12)
+
+    # Instructions
+
+    def count(self, name):
+        count = self.counted[name] = counts.instructions(name, self.place, self.data)
+        before = counts.recorded().get(name)
+        if before is None:
+            raise NotMeasured("there is no recorded count; bench/run --record writes it")
+        ratio = count / before
+        return Finding(f"{count / 1e6:,.1f} million", f"{before / 1e6:,.1f} million", f"{ratio:.3f} x", "<= 1.05 x", ratio <= 1.05)
+
+
+# What --only names, what the row says, and what measures it.
+ROWS = [
+    ("start", "start to painted window / an empty window", Measurements.start),
+    ("start-memory", "its peak memory / an empty window", Measurements.start_memory),
+    ("start-libraries", "of charts, help, printing loaded at start", Measurements.start_libraries),
+    ("window", "Enter to labels and chart repainted, 1,000 times", Measurements.window),
+    ("recalculate", "one recalculation / a plain loop in double", Measurements.recalculate),
+    ("jsonl", "compare --format jsonl, one core / a plain program", Measurements.jsonl),
+    ("jsonl-size", "what it writes / what the plain program writes", Measurements.jsonl_size),
+    ("jsonl-memory", "its peak memory", Measurements.jsonl_memory),
+    ("jsonl-order", "its output in the order of its input", Measurements.jsonl_order),
+    ("jobs", "the same with --jobs 2 / one core", Measurements.jobs),
+    ("jobs-order", "its output in the order of its input", Measurements.jobs_order),
+    ("csv", "compare --format csv / --format jsonl, one core", Measurements.csv),
+    ("one", "one comparison, whole process / one line printed", Measurements.one),
+    ("pdf", "report as PDF, whole process / three plain pages", Measurements.pdf),
+    ("composing", "composing the report", Measurements.composing),
+    ("preview", "preview of page 1", Measurements.preview),
+    ("houses-open", "10,000 saved houses, dialog open to usable", Measurements.houses_open),
+    ("houses-save", "10,000 saved houses, saved", Measurements.houses_save),
+    ("houses-linear", "100,000 saved houses / 10,000", Measurements.houses_linear),
+    ("loop", "an hour's edits ten times over: heap in use", Measurements.loop),
+]
+ROWS += [(f"count-{name}", f"instructions: {what} / recorded", lambda run, name=name: run.count(name))
+         for name, what in counts.WORK.items()]
