@@ -55,18 +55,20 @@ constexpr std::string_view errorColumn = "error";
 constexpr std::size_t columnsBehindInputs = std::size(resultColumns) + 3;
 
 bool LooksLikeFormula(std::string_view cell) {
-    if (cell.empty() || Module1::ReadNumber(cell))
+    if (cell.empty())
         return false;
     // Many programs pass over the blanks in front.
     const std::size_t first = std::min(cell.find_first_not_of(" \t\r\n"), cell.size() - 1);
-    return cell.front() == '\t' || cell.front() == '\r' ||
-           std::string_view("=+-@").find(cell[first]) != std::string_view::npos;
+    const bool startsLikeOne = cell.front() == '\t' || cell.front() == '\r' ||
+                               std::string_view("=+-@").find(cell[first]) != std::string_view::npos;
+    return startsLikeOne && !Module1::ReadNumber(cell);
 }
 
 /// Blanks at its ends would be lost without quotes, by our own reader too.
 bool NeedsQuotes(std::string_view cell) {
     const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    return cell.find_first_of(",\"\r\n") != std::string_view::npos ||
+    const auto isMark = [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; };
+    return std::any_of(cell.begin(), cell.end(), isMark) ||
            (!cell.empty() && (isBlank(cell.front()) || isBlank(cell.back())));
 }
 
@@ -77,11 +79,9 @@ void AppendRefusal(std::string& out, const Refusal& refusal) {
     AppendCsvCell(out, "Line " + std::to_string(refusal.Line) + ": " + control + refusal.Message);
 }
 
-std::string CapitalOff(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower)
+void TakeCapitalsOff(std::string& text) {
+    for (char& c : text)
         c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    return lower;
 }
 
 } // namespace
@@ -145,8 +145,9 @@ std::optional<Refusal> CsvReader::Compare() {
             continue;
         value->Present = true;
         value->Kind = InputKind::Text;
-        // Spreadsheets write TRUE and FALSE.
-        value->Text = m_heading[column] == "chkDoTax0" ? CapitalOff(m_row[column]) : m_row[column];
+        value->Text = m_row[column];
+        if (m_heading[column] == "chkDoTax0")
+            TakeCapitalsOff(value->Text); // spreadsheets write TRUE and FALSE
     }
     auto refusal = m_comparison.Run(m_inputs);
     return refusal ? AtLine(*std::move(refusal)) : refusal;

@@ -11,6 +11,16 @@ namespace Ledgrove {
 
 namespace {
 
+/// False for a text with the second half of a character by itself: the parser lets it pass, as
+/// bytes that are no UTF-8.
+bool IsWhole(std::string_view text) {
+    for (std::size_t at = text.find('\xED'); at != text.npos; at = text.find('\xED', at + 1)) {
+        if (at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) >= 0xA0)
+            return false;
+    }
+    return true;
+}
+
 /// Takes the values as the parser meets them, so that no tree is built.
 class InputHandler {
 public:
@@ -27,12 +37,12 @@ public:
         return Take(InputKind::Number, {text, length});
     }
     bool String(const Ch* text, rapidjson::SizeType length, bool) {
-        return Take(InputKind::Text, {text, length});
+        return IsWhole({text, length}) && Take(InputKind::Text, {text, length});
     }
     bool Key(const Ch* name, rapidjson::SizeType length, bool) {
         if (m_depth == 1)
             m_name.assign(name, length);
-        return true;
+        return IsWhole({name, length});
     }
     bool StartObject() {
         if (m_depth > 0)

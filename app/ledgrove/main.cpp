@@ -104,7 +104,7 @@ int main(int argc, char* argv[]) {
     const bool hasDisplay = HasDisplay(argc, argv);
     // The first text waits for the list of the machine's fonts: it is read beside the connection to the
     // display.
-    const std::jthread fonts(hasDisplay ? std::jthread([] { FcInit(); }) : std::jthread());
+    const std::jthread fonts = hasDisplay ? std::jthread(FcInit) : std::jthread();
     const std::unique_ptr<QCoreApplication> application(hasDisplay ? new QApplication(argc, argv)
                                                                    : new QCoreApplication(argc, argv));
 

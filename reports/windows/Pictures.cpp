@@ -7,6 +7,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
+#include <QPainter>
 #include <QtEndian>
 #include <algorithm>
 
@@ -30,6 +31,15 @@ bool IsSensible(const QSize& size, qsizetype fileSize) {
     return PixelsOf(size) > 0 && PixelsOf(size) <= MostPixels(fileSize);
 }
 
+/// A reader of this format alone: asked to find out itself, it would load the readers of every format there
+/// is and hand them the bytes.
+struct PictureReader : QImageReader {
+    PictureReader(QIODevice* device, const char* format)
+        : QImageReader(device, format) {
+        setAutoDetectImageFormat(false);
+    }
+};
+
 /// Reads the image that the reader stands at, after a look at its size.
 QImage ReadCurrent(QImageReader& reader, qsizetype fileSize) {
     return IsSensible(reader.size(), fileSize) ? reader.read() : QImage();
@@ -41,7 +51,7 @@ QImage ReadBmp(const QByteArray& bytes) {
         return {};
     QBuffer buffer;
     buffer.setData(bytes);
-    QImageReader reader(&buffer, "bmp");
+    PictureReader reader(&buffer, "bmp");
     if (!header->RunLengthEncoded)
         return ReadCurrent(reader, bytes.size());
     // Runs may leave pixels out; Qt draws them into the image it is given, and this one is all background.
@@ -70,7 +80,7 @@ qint64 IconPixels(const QByteArray& bytes, int index, const QSize& told) {
 QImage ReadLargestIcon(const QByteArray& bytes) {
     QBuffer buffer;
     buffer.setData(bytes);
-    QImageReader reader(&buffer, "ico");
+    PictureReader reader(&buffer, "ico");
     QImage largest;
     // A few bytes may claim thousands of images, and a directory may name the same one a thousand times.
     constexpr qsizetype mostImages = 256;
@@ -94,7 +104,7 @@ QImage ReadLargestIcon(const QByteArray& bytes) {
 QImage ReadPng(const QByteArray& bytes) {
     QBuffer buffer;
     buffer.setData(bytes);
-    QImageReader reader(&buffer, "png");
+    PictureReader reader(&buffer, "png");
     return ReadCurrent(reader, bytes.size());
 }
 
@@ -122,10 +132,24 @@ QImage LoadPicture(const std::filesystem::path& path) {
     return ReadPicture(file.readAll());
 }
 
+namespace {
+
+/// Pages are white. A PDF file would hold the transparency as a second picture.
+QImage OnPaper(const QImage& picture) {
+    if (!picture.hasAlphaChannel())
+        return picture;
+    QImage paper(picture.size(), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter(&paper).drawImage(0, 0, picture);
+    return paper;
+}
+
+} // namespace
+
 const QImage& PictureStore::Load(const std::filesystem::path& file) {
     const auto found = m_pictures.find(file);
     return found != m_pictures.end() ? found->second
-                                     : m_pictures.emplace(file, LoadPicture(file)).first->second;
+                                     : m_pictures.emplace(file, OnPaper(LoadPicture(file))).first->second;
 }
 
 } // namespace Ledgrove

@@ -15,7 +15,7 @@ QImage ReadPicture(const QByteArray& bytes);
 /// The picture of a file, null where there is none. Files above 64 MB are not read.
 QImage LoadPicture(const std::filesystem::path& file);
 
-/// Keeps the pictures of one report, so that each is read once for all its pages.
+/// Keeps the pictures of one report as they look on its paper, so that each is read once for all its pages.
 class PictureStore {
 public:
     const QImage& Load(const std::filesystem::path& file);

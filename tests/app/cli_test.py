@@ -147,6 +147,14 @@ class CompareRefusals(CliTest):
             refused = json.loads(self.compare("json", text.encode("latin-1"), status=1))
             self.assertIn("Write a JSON object", refused["error"]["message"], text)
 
+    def test_half_a_character_is_malformed(self):
+        for half in (r"\uDFF5", r"\uD800", r"\uD800x", r"\uD800\uD800"):
+            for text in (f'{{"ecStdHome": "{half}"}}', f'{{"{half}": "1"}}'):
+                refused = json.loads(self.compare("json", text, status=1))
+                self.assertIn("This is malformed JSON", refused["error"]["message"], text)
+        whole = json.loads(self.compare("json", r'{"ecStdHome": "\uD83C\uDFE0"}', status=1))
+        self.assertEqual(whole["error"]["value"], "\U0001F3E0")
+
     def test_deep_nesting_is_refused_not_followed(self):
         refused = json.loads(self.compare("json", '{"ecIncome":' + "[" * 200000 + "]" * 200000 + "}", status=1))
         self.assertEqual(refused["error"]["control"], "ecIncome")

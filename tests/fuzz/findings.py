@@ -5,7 +5,8 @@ FINDINGS = {
     "numbers": {},
     # columns narrower than nothing
     "report": {"narrow-columns": b"\0>-1|^x|<99999999999\n  Cash Flow\n"},
-    "json": {},
+    # half a character, which was given back as bytes that are no UTF-8
+    "json": {"half-character": b'\0{"ecStdHome": "\\uDFF5"}\n', "half-in-a-name": b'\1{"\\uDFF5": "1"}'},
     # a formula behind a blank, and blanks that were lost without quotes
     "csv": {"hidden-formula": b"ecIncome,ecStdHome,ecGMHHome,cboMortTerm\r\n\t=1,\r,'x,\" =2\"\n"},
     "pictures": {
