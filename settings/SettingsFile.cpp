@@ -165,9 +165,11 @@ Outcome<std::shared_ptr<const FolderLock>> SettingsFile::LockForWriting() const 
 }
 
 Outcome<FileLines> SettingsFile::ReadUnder(const FolderLock& lock) const {
-    // Where there are no locks, no file may only mean that another copy of the program is between delete and
-    // rename.
-    int triesLeft = lock.What() == FolderLock::State::Unsupported ? 50 : 0;
+    // Where there are no locks, or others kept theirs in turn, no file may only mean that another copy of the
+    // program is between delete and rename.
+    const bool mayBeBetween =
+        lock.What() == FolderLock::State::Unsupported || lock.What() == FolderLock::State::Busy;
+    int triesLeft = mayBeBetween ? 50 : 0;
     while (true) {
         // Without O_NONBLOCK a pipe of this name would keep the program waiting.
         const Descriptor file(m_path, O_RDONLY | O_NONBLOCK | O_NOCTTY);

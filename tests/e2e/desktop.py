@@ -1,6 +1,7 @@
 """A desktop of the tests' own: an X display with a window manager, a session bus with the accessibility registry, and the
 program in it, driven by real keys and clicks and read as a screen reader reads it."""
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -14,6 +15,8 @@ gi.require_version("Atspi", "2.0")
 
 PATIENCE = 15  # seconds until something that should appear counts as missing
 SCREEN = "1366x768x24"
+ENDS = (0, 1, 2, -signal.SIGTERM, -signal.SIGKILL)  # done, refused, or ended by a test
+REPORT = re.compile("Sanitizer|runtime error: ")
 
 
 class Gone(Exception):
@@ -41,6 +44,7 @@ class Desktop:
     def __init__(self, screen=SCREEN):
         self.home = Path(tempfile.mkdtemp())
         self.processes = []
+        self.errors = self.home / "errors"
         runtime = self.home / "runtime"
         runtime.mkdir(mode=0o700)
         self.environment = {key: value for key, value in os.environ.items()
@@ -55,6 +59,12 @@ class Desktop:
         except BaseException:
             self.close()
             raise
+
+    def said(self):
+        """What all programs have written to standard error since the last call."""
+        text = self.errors.read_text(errors="replace")
+        os.truncate(self.errors, 0)
+        return text
 
     def _start_display(self, screen):
         reader, writer = os.pipe()
@@ -85,8 +95,9 @@ class Desktop:
         return b"window id" in run.stdout
 
     def start(self, *command, **options):
-        process = subprocess.Popen([str(part) for part in command], env=self.environment, stdin=subprocess.DEVNULL,
-                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
+        with self.errors.open("ab") as errors:
+            process = subprocess.Popen([str(part) for part in command], env=self.environment, stdin=subprocess.DEVNULL,
+                                       stdout=subprocess.DEVNULL, stderr=errors, **options)
         self.processes.append(process)
         return process
 
@@ -116,7 +127,10 @@ class Desktop:
             except subprocess.TimeoutExpired:
                 process.kill()
                 process.wait()
+        said = self.said()
         shutil.rmtree(self.home, ignore_errors=True)
+        if REPORT.search(said):
+            raise AssertionError(said)
 
 
 class Program:
@@ -273,5 +287,9 @@ class Program:
         return title, text
 
     def close(self):
+        """Ends the program where it still runs; fails where it crashed or a sanitizer has found something in it or its children."""
         self.process.terminate()
         self.process.wait(PATIENCE)
+        said = self.desktop.said()
+        if self.process.returncode not in ENDS or REPORT.search(said):
+            raise AssertionError(f"the program ended with {self.process.returncode} and said\n{said}")

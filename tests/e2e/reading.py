@@ -2,7 +2,7 @@
 import json
 import subprocess
 
-from desktop import wait_for
+from desktop import ENDS, wait_for
 
 MONTHLY, YEARLY, BASE, GREEN = "Monthly", "Yearly", "Base Home", "GREENMARK Home"
 # Of each tab its rows: the caption, or the label that holds it, and the label of each column.
@@ -46,6 +46,7 @@ def compare(program, folder, file="-", given=""):
     """What `ledgrove-cli compare` makes of a file, or of the text `given`, with the settings of `folder`."""
     run = subprocess.run([program.with_name("ledgrove-cli"), "compare", "--folder", folder, "--format", "json", file],
                          input=given, capture_output=True, text=True, timeout=60)
+    assert run.returncode in ENDS, run.stderr
     return json.loads(run.stdout)
 
 

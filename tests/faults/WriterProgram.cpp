@@ -132,18 +132,35 @@ std::string ValueIn(const FileLines& lines, const std::string& key) {
     return line ? std::string(ValueOf(lines[*line].Text, key)) : "none";
 }
 
+// Who is told that the file is in use has lost nothing and tries again. On a busy machine two that save
+// without a pause can keep a third waiting for as long as they like.
+
+Outcome<FileLines> ReadWhenFree(const SettingsFile& file) {
+    auto lines = file.ReadLines();
+    while (!lines && lines.Fault().What == SettingsFault::Kind::Busy)
+        lines = file.ReadLines();
+    return lines;
+}
+
+Fault SaveWhenFree(const SettingsFile& file, const std::string& key, int value) {
+    Fault fault = Module1::WriteSetting(file, key, std::to_string(value));
+    while (fault && fault->What == SettingsFault::Kind::Busy)
+        fault = Module1::WriteSetting(file, key, std::to_string(value));
+    return fault;
+}
+
 /// Counts a key of its own up, and looks each time whether its last save is still there.
 int CountUp(const std::string& folder, const std::string& key, int rounds) {
     const SettingsFile file(folder);
     for (int round = 1; round <= rounds; ++round) {
-        const auto lines = file.ReadLines();
+        const auto lines = ReadWhenFree(file);
         if (!lines)
             return Tell(lines.Fault());
         if (ValueIn(*lines, key) != std::to_string(round - 1)) {
             std::cerr << key << " is " << ValueIn(*lines, key) << " in round " << round << '\n';
             return NotSaved;
         }
-        if (const Fault fault = Module1::WriteSetting(file, key, std::to_string(round)))
+        if (const Fault fault = SaveWhenFree(file, key, round))
             return Tell(fault);
     }
     return Saved;
@@ -156,7 +173,7 @@ int Watch(const std::string& folder, int rounds) {
     std::vector<int> last{0, 0};
     long reads = 0;
     for (; last[0] < rounds || last[1] < rounds; ++reads) {
-        const auto lines = file.ReadLines();
+        const auto lines = ReadWhenFree(file);
         if (!lines)
             return Tell(lines.Fault());
         const std::vector<int> now{std::atoi(ValueIn(*lines, "COUNTA").c_str()),

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Stops and fails every system call of every save, lets copies of the program save at once, and fills a small disk.
 
-usage: run_faults.py FAULT_WRITER LEDGROVE_CLI [--full] [--rounds N]
+usage: run_faults.py FAULT_WRITER LEDGROVE_CLI [SAVE_PROGRAM] [--full] [--rounds N]
 
 Prints its figures; the exit status is 1 where anything was lost, silent or crashed. --full tries every error at every
 call instead of one in turn."""
@@ -15,13 +15,17 @@ import sys
 import tempfile
 from collections import Counter
 from concurrent.futures import ThreadPoolExecutor
+from fnmatch import fnmatch
 from pathlib import Path
 
-from writers import INI, OLD, TEMPORARY, all_writers
+from writers import INI, OLD, TEMPORARY, all_writers, large_writers
 
 ERRORS = ("EIO", "ENOSPC", "EACCES", "EROFS", "EDQUOT")
 # Memory and the end of the process are no file's business; a failed allocation ends any program.
 LEFT_ALONE = {"brk", "mmap", "munmap", "mprotect", "exit_group", "futex", "getrandom", "clock_nanosleep"}
+# Through pipes of its own a sanitizer asks the system which memory can be read.
+SANITIZERS_OWN = re.compile(r"\d+ +(pipe2|(read|write|close)\(([3-9]|\d{2,})<pipe:)")
+STATUSES = (0, 1, 2)  # of the programs; a sanitizer that found something ends them with another
 PATIENCE = 60
 WORKERS = 2
 
@@ -48,7 +52,7 @@ class Trial:
         return self.run_command(self.writer.command, *tracer)
 
     def run_command(self, command, *tracer):
-        return run([*tracer, *(self.folder if word == "FOLDER" else word for word in command)])
+        return run([*tracer, *(str(word).replace("FOLDER", str(self.folder)) for word in command)])
 
     def content(self, name):
         path = self.folder / name
@@ -68,9 +72,7 @@ class Trial:
         if content is None and first is None and any(self.content(name) != old for name, old in writer.before.items()):
             yield "lost"
         killed = ended.returncode in (-9, 137)
-        if ended.returncode < 0 and not killed or ended.returncode > 128 and not killed:
-            yield "crashed"
-        if killed and kind != "kill":
+        if killed and kind != "kill" or not killed and ended.returncode not in STATUSES:
             yield "crashed"
         if not killed:
             said = ended.stderr.decode(errors="replace").strip()
@@ -81,7 +83,8 @@ class Trial:
             # Where only the temporary file holds the settings, the sentence must say so.
             if ended.returncode != 0 and first is not None and content is None and TEMPORARY not in said:
                 yield "silent"
-        if names - {writer.file, *writer.before, *writer.leftovers}:
+        known = (writer.file, *writer.before, *writer.leftovers)
+        if not all(any(fnmatch(name, pattern) for pattern in known) for name in names):
             yield "untidy"
         if not killed and content is not None and kind != "unlink" and names - {writer.file}:
             yield "untidy"
@@ -90,7 +93,7 @@ class Trial:
 def calls_of(writer):
     """The writer's system calls from the first that concerns its folder: name and how many of that name came before."""
     with Trial(writer) as trial, tempfile.NamedTemporaryFile("r") as log:
-        ended = trial.run("strace", "-f", "-qq", "-o", log.name)
+        ended = trial.run("strace", "-f", "-y", "-qq", "-o", log.name)
         if ended.returncode != 0 or trial.content(writer.file) != writer.states[-1]:
             sys.exit(f"{writer.name} does not save as expected: {ended.stderr.decode()}\n{trial.content(writer.file)}")
         seen, calls, started = Counter(), [], False
@@ -101,7 +104,7 @@ def calls_of(writer):
             name = match.group(1)
             seen[name] += 1
             started = started or str(trial.folder) in line and name != "execve"
-            if started:
+            if started and not SANITIZERS_OWN.match(line):
                 calls.append((name, seen[name]))
         return calls
 
@@ -121,8 +124,8 @@ def plans_of(writer, full):
             # A disk that is full stays full. Only the sentence must still come out.
             if name != "write":
                 yield name, name, f"inject={name}:error={error}:when={number}+"
-        # Nobody can tell where a pipe's bytes went.
-        if name == "read" or name == "write" and writer.says is None:
+        # Nobody can tell where a pipe's bytes went, and only settings are measured after they are written.
+        if name == "read" or name == "write" and writer.says is None and writer.file == INI:
             for told in (0, 1):
                 yield name, name, f"inject={name}:retval={told}:when={number}"
 
@@ -194,9 +197,9 @@ def at_once(program, rounds):
         print(f"two writers and a reader at once: {rounds} saves each, {outputs[2][0].decode().strip() or '?'} reads")
 
 
-def on_a_full_disk(program, cli):
+def on_a_full_disk(programs):
     """Runs this script again where it may mount a small disk of its own."""
-    inside = [sys.executable, __file__, program, cli, "--inside"]
+    inside = [sys.executable, __file__, *programs, "--inside"]
     as_root = [] if os.geteuid() == 0 else ["--map-root-user"]
     ended = run(["unshare", "--mount", *as_root, *inside])
     out = ended.stdout.decode()
@@ -207,18 +210,14 @@ def on_a_full_disk(program, cli):
     return [tuple(line.split(" ", 1)) for line in out.strip().splitlines()[1:]]
 
 
-def inside(program, cli):
+def inside(programs):
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
         subprocess.run(["mount", "-t", "tmpfs", "-o", "size=64k", "ledgrove-faults", name], check=True)
         faults, tried, refused = [], 0, 0
         try:
-            writer = next(w for w in all_writers(program, cli) if w.name == "setting")
-            # Six pages of settings beside ever less room: from enough for a second file to none at all.
-            unknown = b"".join(b"UNKNOWN%04d=x\r\n" % line for line in range(1400))
-            writer.before = {INI: OLD + unknown}
-            writer.states = [state + unknown for state in writer.states]
-            for pages in range(17):
+            # Beside ever less room: from enough for a second file to none at all.
+            for writer, pages in itertools.product(large_writers(*programs), range(17)):
                 for path in folder.iterdir():
                     path.unlink()
                 trial = Trial.__new__(Trial)
@@ -235,11 +234,12 @@ def inside(program, cli):
                 ballast.unlink()
                 tried += 1
                 refused += ended.returncode != 0
-                faults += [(fault, f"{pages} pages of ballast: {ended.stderr.decode()}")
+                faults += [(fault, f"{writer.name}, {pages} pages of ballast: {ended.stderr.decode()}")
                            for fault in set(trial.faults("full", ended))]
+            (folder / INI).write_bytes(OLD)
             subprocess.run(["mount", "-o", "remount,ro", name], check=True)
-            reading = run([program, "read", name])
-            saving = run([program, "setting", name])
+            reading = run([programs[0], "read", name])
+            saving = run([programs[0], "setting", name])
             if reading.returncode != 0:
                 faults.append(("unusable", f"a read-only folder cannot be read: {reading.stderr.decode()}"))
             if saving.returncode == 0 or b"Read-only file system" not in saving.stderr:
@@ -255,19 +255,22 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("fault_writer")
     parser.add_argument("ledgrove_cli")
+    parser.add_argument("save_program", nargs="?", help="where the windows are built")
     parser.add_argument("--full", action="store_true")
     parser.add_argument("--rounds", type=int, default=200)
     parser.add_argument("--inside", action="store_true", help=argparse.SUPPRESS)
     arguments = parser.parse_args()
-    programs = (arguments.fault_writer, arguments.ledgrove_cli)
+    programs = [program for program in (arguments.fault_writer, arguments.ledgrove_cli, arguments.save_program) if program]
     if arguments.inside:
-        inside(*programs)
+        inside(programs)
         return 0
+    # The search for leaks cannot run in a traced program.
+    os.environ["ASAN_OPTIONS"] = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
     writers = all_writers(*programs)
     found = inject_everywhere(writers, arguments.full)
     found += without_locks(writers)
     found += at_once(arguments.fault_writer, arguments.rounds)
-    found += on_a_full_disk(*programs)
+    found += on_a_full_disk(programs)
     for fault, text in found:
         print(f"{fault}: {text}")
     counts = Counter(fault for fault, _ in found)

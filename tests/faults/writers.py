@@ -63,7 +63,7 @@ class Writer:
     before: dict = field(default_factory=lambda: {INI: OLD})
     file: str = INI
     rescued: tuple = (TEMPORARY,)
-    leftovers: tuple = (TEMPORARY,)  # what a killed save may leave beside the file
+    leftovers: tuple = (TEMPORARY,)  # what a killed save may leave beside the file, as patterns
     restore: list = ()  # the command that brings back what an interrupted save left
     says: bytes | None = None  # what a reader prints when it says that all went well
 
@@ -72,7 +72,28 @@ class Writer:
             (folder / name).write_bytes(content)
 
 
-def all_writers(fault_writer, ledgrove_cli):
+COMPARISON, OLD_COMPARISON = "doe.ledgrove.json", b'{"ecIncome": "$1"}\n'
+# More than a buffer of the toolkit's, so that it is written in several steps.
+NEW_COMPARISON = b'{"ecIncome": "$72,000"}' + b" " * 20000 + b"\n"
+
+
+def comparison(save_program, before):
+    """The save of a comparison: a new file without a name, or under a random one, takes the place of the old."""
+    return Writer("comparison" if before else "new comparison",
+                  [save_program, f"FOLDER/{COMPARISON}", NEW_COMPARISON.decode()], [before, NEW_COMPARISON],
+                  before={COMPARISON: before} if before else {}, file=COMPARISON, rescued=(), leftovers=(COMPARISON + ".*",))
+
+
+def large_writers(fault_writer, ledgrove_cli, save_program=None):
+    """Saves of six pages, for small disks."""
+    unknown = b"".join(b"UNKNOWN%04d=x\r\n" % line for line in range(1400))
+    yield Writer("setting", [fault_writer, "setting", "FOLDER"], [OLD + unknown, joined(NAMED) + unknown],
+                 before={INI: OLD + unknown})
+    if save_program:
+        yield comparison(save_program, OLD_COMPARISON.ljust(20000))
+
+
+def all_writers(fault_writer, ledgrove_cli, save_program=None):
     restore = [fault_writer, "restore", "FOLDER"]
 
     def window(name, *steps):
@@ -92,4 +113,5 @@ def all_writers(fault_writer, ledgrove_cli):
         Writer("cli get", [ledgrove_cli, "settings", "--folder", "FOLDER", "get", "BUILDERNAME"], [OLD], says=b"Acme\n"),
         Writer("cli houses", [ledgrove_cli, "settings", "--folder", "FOLDER", "houses"], [OLD],
                says=b"name,StdCost,StdUtil,GMHCost,GMHUtil\nLot 1,100000,1200,110000,800\n"),
+        *(comparison(save_program, before) for before in (OLD_COMPARISON, None) if save_program),
     ]

@@ -26,11 +26,11 @@ template <typename Reader, typename... Options>
 std::string OutputOf(std::string_view input, Options... options) {
     static const MemoryFile in;
     static const MemoryFile out;
+    static OutputBuffer output(out.Descriptor()); // a quarter of a megabyte, to be set aside once
     in.SetContent(input);
     out.SetContent("");
     Reader reader(ShippedComparison(), options...);
     LineReader lines(in.Descriptor(), [] {});
-    OutputBuffer output(out.Descriptor());
     reader.Read(lines, output);
     output.Flush();
     Require(output.Failure().empty() && lines.Failure().empty(), "reading and writing go well");

@@ -3,9 +3,11 @@
 
 #include "TemporaryFolder.h"
 
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <string>
+#include <thread>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -198,6 +200,23 @@ TEST_F(SavingTest, TheMomentWithoutAFileIsNotMissing) {
         EXPECT_EQ(lines.Fault().What, Kind::Busy);
     }
     EXPECT_FALSE(Exists(File().Path()));
+}
+
+TEST_F(SavingTest, AReaderThatGetsNoLockWaitsForTheFile) {
+    Given("A=1\r\n");
+    const FolderLock others(Folder(), FolderLock::Sharing::Exclusive, 0ms);
+    // Copies that save one after the other: half of the time there is no file.
+    std::atomic<bool> saved = false;
+    const std::jthread saving([this, &saved] {
+        for (int i = 0; i < 20'000; ++i) {
+            std::filesystem::rename(File().Path(), File().TemporaryPath());
+            std::filesystem::rename(File().TemporaryPath(), File().Path());
+        }
+        saved = true;
+    });
+    const SettingsFile impatient(Folder(), 0ms);
+    while (!saved)
+        ASSERT_TRUE(impatient.ReadLines());
 }
 
 TEST_F(SavingTest, ReadersDoNotKeepEachOtherOut) {
