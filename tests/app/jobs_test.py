@@ -78,7 +78,9 @@ class Jobs(unittest.TestCase):
                 self.assertEqual(running.returncode, 0)
                 return usage.ru_maxrss
 
-        self.assertLessEqual(peak(40000) - peak(8000), 4096)  # KiB
+        # The results of a piece take about 4 MB, and how many pieces wait for their turn differs from run to run. All results of
+        # the longer list together take 300 MB.
+        self.assertLessEqual(peak(50000) - peak(8000), 16 * 1024)  # KiB
 
     def test_output_that_cannot_be_written_is_told(self):
         given = b'{"ecIncome": 1}\n' * 5000
