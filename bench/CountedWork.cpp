@@ -105,11 +105,11 @@ std::function<void()> Composing() {
     const auto session = std::make_shared<Session>(Bench::SampleSession());
     CollectingHost host;
     Module1::Recalculate(*session, host);
-    const auto measure = std::make_shared<FontMeasure>();
-    return [session, measure] {
+    return [session] {
         AssumptionsScreen assumptions;
         Module1::FillAssumptions(assumptions, *session);
-        PrintDocument document(*measure);
+        const FontMeasure measure;
+        PrintDocument document(measure);
         PrepareReport(document, {}, "11/20/2026");
         document.Start();
         modPrint::WriteReport(document, {*session, assumptions, {true, true, true, true, true}, {}, {}});

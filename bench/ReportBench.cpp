@@ -21,11 +21,11 @@ int main(int argc, char** argv) {
     Module1::Recalculate(session, host);
     AssumptionsScreen assumptions;
     Module1::FillAssumptions(assumptions, session);
-    const FontMeasure measure;
     std::vector<double> milliseconds;
     for (int round = 0; round < 200; ++round) {
         QElapsedTimer timer;
         timer.start();
+        const FontMeasure measure;
         PrintDocument document(measure);
         PrepareReport(document, {}, "11/20/2026");
         document.Start();

@@ -71,24 +71,37 @@ QFont PrintFont(const TextStyle& style) {
     return font;
 }
 
-const QFontMetricsF& FontMeasure::Metrics(const TextStyle& style) const {
+FontMeasure::Measured& FontMeasure::Style(const TextStyle& style) const {
     const Key key{style.FontName, style.FontSize, style.Bold, style.Italic};
-    auto found = m_metrics.find(key);
-    if (found == m_metrics.end())
-        found = m_metrics.emplace(key, QFontMetricsF(PrintFont(style))).first;
+    auto found = m_styles.find(key);
+    if (found == m_styles.end())
+        found = m_styles.emplace(key, Measured{QFontMetricsF(PrintFont(style)), {}}).first;
     return found->second;
 }
 
 Twips FontMeasure::Width(std::string_view text, const TextStyle& style) const {
-    return static_cast<Twips>(std::ceil(Metrics(style).horizontalAdvance(Shown(text))));
+    constexpr std::size_t longestKept = 256;
+    constexpr std::size_t mostKept = 1024;
+    Measured& measured = Style(style);
+    const auto measure = [&] {
+        return static_cast<Twips>(std::ceil(measured.Metrics.horizontalAdvance(Shown(text))));
+    };
+    if (text.size() > longestKept)
+        return measure();
+    if (measured.Widths.size() >= mostKept)
+        measured.Widths.clear();
+    const auto [kept, isNew] = measured.Widths.try_emplace(std::string(text));
+    if (isNew)
+        kept->second = measure();
+    return kept->second;
 }
 
 Twips FontMeasure::Ascent(const TextStyle& style) const {
-    return static_cast<Twips>(std::ceil(Metrics(style).ascent()));
+    return static_cast<Twips>(std::ceil(Style(style).Metrics.ascent()));
 }
 
 Twips FontMeasure::LineHeight(const TextStyle& style) const {
-    return static_cast<Twips>(std::ceil(Metrics(style).lineSpacing()));
+    return static_cast<Twips>(std::ceil(Style(style).Metrics.lineSpacing()));
 }
 
 void PaintPage(QPainter& painter, const PrintPage& page, PictureStore& pictures) {

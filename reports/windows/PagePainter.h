@@ -6,7 +6,9 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <map>
+#include <string>
 #include <tuple>
+#include <unordered_map>
 
 class QPainter;
 
@@ -25,9 +27,15 @@ public:
 private:
     using Key = std::tuple<std::string, int, bool, bool>;
 
-    const QFontMetricsF& Metrics(const TextStyle& style) const;
+    struct Measured {
+        QFontMetricsF Metrics; ///< a font is looked up once
+        /// A cell is measured for its row's height, for its lines and for its place.
+        std::unordered_map<std::string, Twips> Widths;
+    };
 
-    mutable std::map<Key, QFontMetricsF> m_metrics; ///< a font is looked up once
+    Measured& Style(const TextStyle& style) const;
+
+    mutable std::map<Key, Measured> m_styles;
 };
 
 /// Paints one page, the only way that preview, printer and PDF have. The painter's units are twips and its
