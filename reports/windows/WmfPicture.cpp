@@ -9,7 +9,7 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr int mostMilliseconds = 2000;
+constexpr int mostMilliseconds = 1500;
 
 /// In the folder of the running program.
 QString Player() {

@@ -80,6 +80,8 @@ def pictures(folder):
     bitmap = bmp(2000, 2000, 8, bytes.fromhex("0001"), 1, (0, 0xFF0000))[14:]
     stretch = struct.pack("<IH11h", 14 + len(bitmap) // 2, 0x0F43, 0x20, 0xCC, 0, 2000, 2000, 0, 0, 100, 200, 0, 0) + bitmap
 
+    arc = struct.pack("<IH8h", 11, 0x0817, -1, 2, 0, 0, 0, 0x3EFF, 0, 0)
+
     def metafile(more, longest):
         records = bare[18:-6] + more + bare[-6:]
         return bare[:6] + struct.pack("<IHI", (18 + len(records)) // 2, 1, longest) + bare[16:18] + records
@@ -91,7 +93,7 @@ def pictures(folder):
         "WMF": wmf(True),
         "WMF of 60 ellipses": metafile(many, 10),
         "WMF with RLE of 2,000 x 2,000": metafile(stretch, 14 + len(bitmap) // 2),
-        "WMF of an endless arc, stopped": metafile(struct.pack("<IH8h", 11, 0x0817, -1, 2, 0, 0, 0, 0x3EFF, 0, 0), 11),
+        "WMF of an arc without an end, stopped": struct.pack("<HHHIHIH", 1, 9, 0x300, 23, 16, 11, 0) + arc + struct.pack("<IH", 3, 0),
     }
     for what, content in costly.items():
         logo.write_bytes(content)
