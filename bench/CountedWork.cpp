@@ -72,33 +72,32 @@ private:
     int m_nowhere;
 };
 
-std::function<void()> JsonLines() {
-    const PriceList list("", [](int price) {
-        return R"({"ecIncome": "$72,000", "ecMonthlyDebt": 350, "ecPctDown": "10%", "ecStdHome": )" +
-               std::to_string(price) + R"(, "ecGMHHome": "$)" + std::to_string(price + 6000) +
-               R"(", "ecStdUtil": 2400, "ecGMHUtil": 1700, "cboStdMortOption": "FHA", "cboMortTerm": "15 years"})"
-               "\n";
-    });
+template <typename Reader>
+std::function<void()> Comparing(const PriceList& list) {
     const auto comparison = std::make_shared<Comparison>(Bench::SampleSession());
     return [list, comparison] {
-        JsonLinesReader reader(*comparison);
+        Reader reader(*comparison);
         list.Compare(reader);
     };
 }
 
+std::function<void()> JsonLines() {
+    return Comparing<JsonLinesReader>(PriceList("", [](int price) {
+        return R"({"ecIncome": "$72,000", "ecMonthlyDebt": 350, "ecPctDown": "10%", "ecStdHome": )" +
+               std::to_string(price) + R"(, "ecGMHHome": "$)" + std::to_string(price + 6000) +
+               R"(", "ecStdUtil": 2400, "ecGMHUtil": 1700, "cboStdMortOption": "FHA", "cboMortTerm": "15 years"})"
+               "\n";
+    }));
+}
+
 std::function<void()> PriceRows() {
-    const PriceList list(
-        "ecIncome,ecMonthlyDebt,ecPctDown,ecStdHome,ecGMHHome,ecStdUtil,ecGMHUtil,cboStdMortOption,"
-        "cboMortTerm\n",
-        [](int price) {
-            return "\"$72,000\",350,10%," + std::to_string(price) + ",$" + std::to_string(price + 6000) +
-                   ",2400,1700,FHA,15 years\n";
-        });
-    const auto comparison = std::make_shared<Comparison>(Bench::SampleSession());
-    return [list, comparison] {
-        CsvReader reader(*comparison);
-        list.Compare(reader);
-    };
+    return Comparing<CsvReader>(
+        PriceList("ecIncome,ecMonthlyDebt,ecPctDown,ecStdHome,ecGMHHome,ecStdUtil,ecGMHUtil,cboStdMortOption,"
+                  "cboMortTerm\n",
+                  [](int price) {
+                      return "\"$72,000\",350,10%," + std::to_string(price) + ",$" +
+                             std::to_string(price + 6000) + ",2400,1700,FHA,15 years\n";
+                  }));
 }
 
 std::function<void()> Composing() {

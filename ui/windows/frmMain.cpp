@@ -223,7 +223,7 @@ void frmMain::changeEvent(QEvent* event) {
 
 void frmMain::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
-    // The emblem is made for print: to read it takes a fifth of the start, so the window comes first.
+    // Reading the emblem and drawing the icon would take a good part of the start, so the window comes first.
     if (!std::exchange(m_painted, true))
         QTimer::singleShot(0, this, &frmMain::ShowPictures);
 }
