@@ -18,6 +18,7 @@
 #include "reports/windows/PrintAction.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
+#include "ui/windows/FormStyle.h"
 #include "ui/windows/Pictures.h"
 #include "ui/windows/QtHost.h"
 #include "ui/windows/frmMain.h"
@@ -59,6 +60,7 @@ void ShapePlainly() {
 /// `file` is a comparison to open, "" for none.
 int ShowWindow(const std::filesystem::path& folder, const QString& file) {
     ShapePlainly();
+    QApplication::setStyle(new Ledgrove::FormStyle(QApplication::style()));
     Ledgrove::Session session;
     Ledgrove::QtHost host;
     if (const auto fault = Ledgrove::Module1::OpenMainScreen(session, host, folder)) {
