@@ -72,6 +72,7 @@ void RunCycle(Bench::RealWindow& window) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    FormStyle::Use();
     if (argc != 3)
         return 2;
     const bool isTimed = std::string_view(argv[1]) == "seconds";

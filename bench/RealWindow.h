@@ -4,6 +4,7 @@
 #include "app/windows/CurrentFile.h"
 #include "app/windows/MainMenu.h"
 #include "bench/Sample.h"
+#include "ui/windows/FormStyle.h"
 #include "ui/windows/ResultPanels.h"
 #include "ui/windows/frmMain.h"
 

@@ -38,6 +38,7 @@ double Change(Bench::RealWindow& window, QLineEdit& price, int round) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    FormStyle::Use();
     Bench::RealWindow window;
     QLineEdit& price = window.FieldNamed("ecStdHome");
     for (const int tab : {1, 3, 4}) {

@@ -10,7 +10,7 @@ namespace Ledgrove {
 namespace {
 
 /// Large enough that handing out costs little beside comparing, small enough for memory.
-constexpr std::size_t pieceSize = std::size_t{32} * 1024;
+constexpr std::size_t pieceSize = std::size_t{64} * 1024;
 
 /// Each thread has a state of its own: a comparison shares nothing with another.
 void ComparePieces(const Session& start, PieceQueue& queue, OutputBuffer& output) {

@@ -50,17 +50,9 @@ QString SampleFile(const std::filesystem::path& folder) {
     return QString::fromStdString((folder / "samples" / "first-home.ledgrove.json").string());
 }
 
-/// Kerning and ligatures, which Latin letters in a form do without, would take a tenth of the start.
-void ShapePlainly() {
-    QFont font = QApplication::font();
-    font.setStyleStrategy(QFont::PreferNoShaping);
-    QApplication::setFont(font);
-}
-
 /// `file` is a comparison to open, "" for none.
 int ShowWindow(const std::filesystem::path& folder, const QString& file) {
-    ShapePlainly();
-    QApplication::setStyle(new Ledgrove::FormStyle(QApplication::style()));
+    Ledgrove::FormStyle::Use();
     Ledgrove::Session session;
     Ledgrove::QtHost host;
     if (const auto fault = Ledgrove::Module1::OpenMainScreen(session, host, folder)) {

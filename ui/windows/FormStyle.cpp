@@ -64,6 +64,13 @@ public:
 FormStyle::FormStyle(QStyle* base)
     : QProxyStyle(base) {}
 
+void FormStyle::Use() {
+    QFont font = QApplication::font();
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    QApplication::setFont(font);
+    QApplication::setStyle(new FormStyle(QApplication::style()));
+}
+
 bool FormStyle::IsToolkitsOwn() const {
     return baseStyle()->name() == "fusion";
 }

@@ -16,8 +16,7 @@ using Ledgrove::FormStyle;
 namespace {
 
 constexpr QSize formSize(300, 400);
-constexpr int roundedCorners =
-    4 * 5; // pixels of a group's frame whose corners are not rounded, and of its inner edge
+constexpr int roundedCorners = 4 * 5; // pixels of a group's frame, which is not rounded
 
 /// What differs between the two pictures, of 255, at one pixel.
 int Difference(const QImage& one, const QImage& other, int x, int y) {
@@ -111,7 +110,7 @@ void FormStyleTest::AGroupsFrameIsNearlyTheToolkits() {
         QGroupBox group("Homes");
         group.setPalette(palette);
         const Pictures pictures = PaintedBoth(group, "fusion");
-        QVERIFY(PixelsThatDifferBy(2, pictures.Plain, pictures.Form) <= roundedCorners);
+        QVERIFY(PixelsThatDifferBy(8, pictures.Plain, pictures.Form) <= roundedCorners);
     }
 }
 
