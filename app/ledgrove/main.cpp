@@ -1,13 +1,18 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDBusConnection>
 #include <QFile>
+#include <QImage>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <cstdio>
 #include <filesystem>
 #include <fontconfig/fontconfig.h>
 #include <memory>
 #include <string_view>
 #include <thread>
+#include <unistd.h>
 #include <utility>
 
 #include "app/windows/ChartLoader.h"
@@ -50,8 +55,30 @@ QString SampleFile(const std::filesystem::path& folder) {
     return QString::fromStdString((folder / "samples" / "first-home.ledgrove.json").string());
 }
 
+/// Reads the list of the machine's fonts, for which the first text waits. The display is served first.
+void ReadFonts() {
+    [[maybe_unused]] const int priority = nice(10); // of this thread alone
+    FcInit();
+}
+
+/// Draws the visible labels' letters, which are kept for the first picture, while the window manager puts its
+/// frame around the window.
+void DrawLettersAhead(const QWidget& window) {
+    QImage paper(1, 1, QImage::Format_RGB32);
+    QPainter painter(&paper);
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        if (!label->isVisible())
+            continue;
+        painter.setFont(label->font());
+        painter.drawText(label->rect(), label->wordWrap() ? Qt::TextWordWrap : Qt::TextShowMnemonic,
+                         label->text());
+    }
+}
+
 /// `file` is a comparison to open, "" for none.
 int ShowWindow(const std::filesystem::path& folder, const QString& file) {
+    // Screen readers are found over the session's bus: it is connected beside the fonts.
+    const std::jthread bus([] { QDBusConnection::sessionBus(); });
     Ledgrove::FormStyle::Use();
     Ledgrove::Session session;
     Ledgrove::QtHost host;
@@ -80,8 +107,9 @@ int ShowWindow(const std::filesystem::path& folder, const QString& file) {
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
     current = new Ledgrove::CurrentFile(window, session, host,
                                         Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
-    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
     window.show();
+    DrawLettersAhead(window);
+    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
     if (!file.isEmpty())
         current->OpenNamed(file);
     return QCoreApplication::exec();
@@ -98,7 +126,7 @@ int main(int argc, char* argv[]) {
     const bool hasDisplay = HasDisplay(argc, argv);
     // The first text waits for the list of the machine's fonts: it is read beside the connection to the
     // display.
-    const std::jthread fonts = hasDisplay ? std::jthread(FcInit) : std::jthread();
+    const std::jthread fonts = hasDisplay ? std::jthread(ReadFonts) : std::jthread();
     const std::unique_ptr<QCoreApplication> application(hasDisplay ? new QApplication(argc, argv)
                                                                    : new QCoreApplication(argc, argv));
 
