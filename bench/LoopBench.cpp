@@ -3,6 +3,7 @@
 // memory (KiB) once warm and at the end, both at the same figures on the same tab.
 
 #include "bench/RealWindow.h"
+#include "ui/windows/FormStyle.h"
 
 #include <QElapsedTimer>
 

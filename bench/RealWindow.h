@@ -4,7 +4,6 @@
 #include "app/windows/CurrentFile.h"
 #include "app/windows/MainMenu.h"
 #include "bench/Sample.h"
-#include "ui/windows/FormStyle.h"
 #include "ui/windows/ResultPanels.h"
 #include "ui/windows/frmMain.h"
 

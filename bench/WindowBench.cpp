@@ -2,6 +2,7 @@
 // a line with the tab's number, the median, the 99th of 100 and the worst of 1,000, in milliseconds.
 
 #include "bench/RealWindow.h"
+#include "ui/windows/FormStyle.h"
 
 #include <QElapsedTimer>
 

@@ -77,14 +77,18 @@ bool FormStyle::IsToolkitsOwn() const {
 
 void FormStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
-    if (element == PE_FrameTabWidget && IsToolkitsOwn())
-        DrawTabFrame(*option, *painter, widget);
-    else if (element == PE_FrameLineEdit && IsToolkitsOwn())
-        DrawFieldFrame(*option, *painter, widget);
-    else if (element == PE_FrameGroupBox && IsToolkitsOwn())
-        DrawGroupFrame(*option, *painter, widget);
-    else
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (!IsToolkitsOwn())
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    switch (element) {
+    case PE_FrameTabWidget:
+        return DrawTabFrame(*option, *painter, widget);
+    case PE_FrameLineEdit:
+        return DrawFieldFrame(*option, *painter, widget);
+    case PE_FrameGroupBox:
+        return DrawGroupFrame(*option, *painter, widget);
+    default:
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
 }
 
 /// The colours, which go on in the tab above, are taken from a small frame of the base style.

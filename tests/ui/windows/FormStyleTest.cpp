@@ -8,7 +8,9 @@
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTest>
+#include <algorithm>
 #include <cstdlib>
+#include <initializer_list>
 #include <memory>
 
 using Ledgrove::FormStyle;

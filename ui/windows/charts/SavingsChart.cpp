@@ -23,6 +23,7 @@ SavingsChart::SavingsChart(QWidget* parent)
     years->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
     for (int year = 0; year <= ChartYears; year += 5)
         years->append(QString::number(year), year);
+    // Upright lines would be blended by several threads, for which every answer waited.
     years->setGridLineVisible(false);
     years->setRange(0, ChartYears + 0.5);
     AddAxes(years, Qt::AlignBottom, Qt::AlignLeft);
