@@ -4,7 +4,7 @@
 #include "bench/PlainComparison.h"
 
 #include "app/batch/InputRecord.h"
-#include "app/batch/RecordTables.h"
+#include "engine/Figures.h"
 #include "engine/MainScreen.h"
 
 #include <rapidjson/document.h>
@@ -106,13 +106,11 @@ void WriteLabels(Writer& writer, const std::array<double, 12>& figures) {
     writer.EndObject();
 }
 
-template <typename Record, std::size_t Count>
-void WriteRecord(Writer& writer, const Figure<Record> (&table)[Count],
-                 const std::array<double, 12>& figures) {
+void WriteRecord(Writer& writer, FigureRecord record, const std::array<double, 12>& figures) {
     writer.StartObject();
     std::size_t turn = 0;
-    for (const auto& [name, member] : table) {
-        Key(writer, name);
+    for (const FigureEntry& figure : FiguresOf(record)) {
+        Key(writer, figure.Name);
         WriteNumber(writer, figures[turn++ % figures.size()]);
     }
     writer.EndObject();
@@ -151,11 +149,11 @@ void WriteResult(Writer& writer, const rapidjson::Document& document, const Benc
     writer.Key("labels");
     WriteLabels(writer, figures);
     writer.Key("Scenario");
-    WriteRecord(writer, ScenarioFigures, figures);
+    WriteRecord(writer, FigureRecord::Scenario, figures);
     writer.Key("StdCase");
-    WriteRecord(writer, HomeFigures, figures);
+    WriteRecord(writer, FigureRecord::StdCase, figures);
     writer.Key("GMHCase");
-    WriteRecord(writer, HomeFigures, figures);
+    WriteRecord(writer, FigureRecord::GMHCase, figures);
     WriteRemarks(writer);
     writer.EndObject();
 }

@@ -1,6 +1,8 @@
 #include "bench/PlainComparison.h"
 
 #include "bench/Sample.h"
+#include "engine/Evaluate.h"
+#include "engine/ReadScreen.h"
 
 #include <benchmark/benchmark.h>
 
@@ -20,6 +22,18 @@ void PlainLoop(benchmark::State& state) {
     }
 }
 BENCHMARK(PlainLoop);
+
+/// The same figures and all others as values, with records, faults and decisions.
+void Evaluation(benchmark::State& state) {
+    const Session session = Bench::SampleSession();
+    Inputs inputs = Module1::ReadInputs(session.Screen);
+    Carried carried;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(inputs);
+        benchmark::DoNotOptimize(Module1::Evaluate(inputs, session, carried));
+    }
+}
+BENCHMARK(Evaluation);
 
 /// Texts in, all label texts out.
 void Recalculation(benchmark::State& state) {

@@ -85,12 +85,19 @@ class Measurements:
 
     # The engine
 
-    def recalculate(self):
+    @cached_property
+    def engine(self):
+        """Median nanoseconds by the benchmark's name."""
         output = self.place.say(self.place.program("recalculate_bench"), "--benchmark_format=json", "--benchmark_repetitions=5",
                                 "--benchmark_report_aggregates_only=true")
-        medians = {part["run_name"]: part["real_time"] for part in json.loads(output)["benchmarks"] if part["aggregate_name"] == "median"}
+        return {part["run_name"]: part["real_time"] for part in json.loads(output)["benchmarks"] if part["aggregate_name"] == "median"}
+
+    def evaluate(self):
+        return at_most(self.engine["Evaluation"], self.engine["PlainLoop"], 3, "ns")
+
+    def recalculate(self):
         # That it asks for no memory once warm is asserted by tests/engine/AllocationTest.cpp.
-        return at_most(medians["Recalculation"], medians["PlainLoop"], 15, "ns")
+        return at_most(self.engine["Recalculation"], self.engine["PlainLoop"], 15, "ns")
 
     # Price lists
 
@@ -209,6 +216,7 @@ ROWS = [
     ("start-memory", "its peak memory / an empty window", Measurements.start_memory),
     ("start-libraries", "of charts, help, printing loaded at start", Measurements.start_libraries),
     ("window", "Enter to labels and chart repainted, 1,000 times", Measurements.window),
+    ("evaluate", "one evaluation / a plain loop in double", Measurements.evaluate),
     ("recalculate", "one recalculation / a plain loop in double", Measurements.recalculate),
     ("jsonl", "compare --format jsonl, one core / a plain program", Measurements.jsonl),
     ("jsonl-size", "what it writes / what the plain program writes", Measurements.jsonl_size),

@@ -2,141 +2,156 @@
 
 #include "engine/Arithmetic.h"
 #include "engine/FinancialFunctions.h"
-#include "engine/NumberText.h"
+#include "engine/LoanRules.h"
+#include "engine/Rounding.h"
 
 namespace Ledgrove::Module1 {
 
 namespace {
 
-// Rows of the loan-type table whose plain ratios stand in where an EEM does not apply.
-constexpr int FHACode = 4;
-constexpr int VACode = 6;
-
-struct HomeLabels {
-    Label &PITI, &MortPayment, &UtilMonthly, &Price, &Down, &Down2, &Mortgage, &Mort, &MaxPayment, &MaxLoan,
-        &Qualifies;
-};
-
-HomeLabels LabelsOf(MainScreen& s, HomeCode code) {
-    if (code == HomeCode::Std)
-        return {s.lblStdPITI, s.lblStdMortPayment, s.lblStdUtilMo,   s.lblStdHome,
-                s.lblStdDown, s.lblstddown2,       s.lblStdMortgage, s.lblStdMort,
-                s.lblStdInc,  s.lblStdMaxHome,     s.lblStdQual};
-    return {s.lblGMHPITI, s.lblGMHMortPayment, s.lblGMHUtilMo,   s.lblGMHHome,
-            s.lblgmhDown, s.lblgmhdown2,       s.lblgmhMortgage, s.lblGMHMort,
-            s.lblGMHInc,  s.lblGMHMaxHome,     s.lblGMHQual};
-}
-
-/// 5 % of the base home's price within the program's limits; any other option leaves the last allowance in
-/// place.
-void SetEEMAllowance(Session& session, std::string_view option) {
-    const auto share = static_cast<float>(0.05 * static_cast<double>(session.StdCase.Cost));
-    float& allowance = session.Scenario.EEMAllowance;
-    if (option == "FHA EEM")
-        allowance = share >= 8000 ? 8000.0F : MaxOf(4000, share);
-    else if (option == "VA EEM")
-        allowance = share >= 6000 ? 6000.0F : MaxOf(3000, share);
-}
-
-struct Qualifying {
-    double MonthlyIncome;
-    double MonthlyDebt;
-    double MonthlySavings;
+/// What the steps of one home's affordability work on.
+struct QualifyingSteps {
+    const Rules& By;
+    const Scenario& Buyer;
+    HomeCase& Home;
+    HomeDecisions& Decided;
+    Arithmetic& Faults;
     double Rate; ///< per month
     double Periods;
 };
 
-Qualifying QualifyingInputs(const Session& session, const HomeCase& home) {
-    return {static_cast<double>(session.Scenario.AnnualIncome) / 12, session.Scenario.MonthlyDebt,
-            session.Scenario.UtilitySavings, static_cast<double>(home.IntRate) / 12,
-            session.Screen.xMortTerm * 12.0};
+struct AllowanceLimits {
+    float Least, Most;
+};
+
+/// 5 % of the base home's price within the program's limits; an option without an allowance leaves the last
+/// one in place.
+void SetEEMAllowance(Results& results, MortgageOption option) {
+    if (BenefitOf(option) != EEMBenefit::FinancedUpgrade)
+        return;
+    const AllowanceLimits limits =
+        option == MortgageOption::FHAEEM ? AllowanceLimits{4000, 8000} : AllowanceLimits{3000, 6000};
+    const auto share = static_cast<float>(0.05 * static_cast<double>(results.StdCase.Cost));
+    float& allowance = results.Scenario.EEMAllowance;
+    if (share >= limits.Most) {
+        allowance = limits.Most;
+        results.Decisions.Allowance = AllowanceRule::Most;
+    } else {
+        allowance = MaxOf(limits.Least, share);
+        results.Decisions.Allowance =
+            limits.Least > share ? AllowanceRule::Least : AllowanceRule::ShareOfPrice;
+    }
 }
 
-float OrdinaryPayment(const Session& session, float frontRatio, float backRatio, Arithmetic& arithmetic) {
-    const double income = session.Scenario.AnnualIncome;
-    return MinOf(arithmetic.Single(income * static_cast<double>(frontRatio) / 12),
-                 arithmetic.Single(income * static_cast<double>(backRatio) / 12 -
-                                   static_cast<double>(session.Scenario.MonthlyDebt)));
+/// The smaller of the two payments.
+float LimitedPayment(QualifyingSteps& steps, PaymentRule rule, double front, double back) {
+    const float byFront = steps.Faults.Single(front);
+    const float byBack = steps.Faults.Single(back);
+    steps.Decided.MaxPayment = rule;
+    steps.Decided.MaxPaymentRatio = byFront < byBack ? QualifyingRatio::FrontEnd : QualifyingRatio::BackEnd;
+    return MinOf(byFront, byBack);
+}
+
+float OrdinaryPayment(QualifyingSteps& steps, PaymentRule rule, float frontRatio, float backRatio) {
+    const double income = steps.Buyer.AnnualIncome;
+    return LimitedPayment(steps, rule, income * static_cast<double>(frontRatio) / 12,
+                          income * static_cast<double>(backRatio) / 12 -
+                              static_cast<double>(steps.Buyer.MonthlyDebt));
 }
 
 /// The first operand takes the whole monthly income, not its share: the EEM rule is applied so, on purpose.
-float StretchedPayment(const Qualifying& in, const HomeCase& home, Arithmetic& arithmetic) {
-    return MinOf(
-        arithmetic.Single(in.MonthlySavings * static_cast<double>(home.FrontRatio) + in.MonthlyIncome),
-        arithmetic.Single((in.MonthlyIncome + in.MonthlySavings) * static_cast<double>(home.BackRatio) -
-                          in.MonthlyDebt));
+float StretchedPayment(QualifyingSteps& steps) {
+    const double income = static_cast<double>(steps.Buyer.AnnualIncome) / 12;
+    const double savings = steps.Buyer.UtilitySavings;
+    return LimitedPayment(steps, PaymentRule::Stretched,
+                          savings * static_cast<double>(steps.Home.FrontRatio) + income,
+                          (income + savings) * static_cast<double>(steps.Home.BackRatio) -
+                              static_cast<double>(steps.Buyer.MonthlyDebt));
 }
 
-/// The loan that a payment carries after taxes, insurance and PMI.
-double LoanFor(const Qualifying& in, const HomeCase& home) {
-    return PV(in.Rate, in.Periods,
-              static_cast<double>(home.TIPMonthly) - static_cast<double>(home.MaxPayment));
+/// The loan that the largest payment carries after taxes, insurance and PMI.
+double LoanFromPayment(const QualifyingSteps& steps) {
+    return PV(steps.Rate, steps.Periods,
+              static_cast<double>(steps.Home.TIPMonthly) - static_cast<double>(steps.Home.MaxPayment));
+}
+
+void ComputeOrdinaryLoan(QualifyingSteps& steps) {
+    steps.Decided.MaxLoan = LoanRule::FromPayment;
+    steps.Home.MaxLoan = steps.Faults.Single(LoanFromPayment(steps));
+}
+
+/// The energy allowance adds at most the present value of the savings.
+void ComputeAllowanceLoan(QualifyingSteps& steps) {
+    HomeCase& home = steps.Home;
+    const float allowance = steps.Buyer.EEMAllowance;
+    home.MaxPayment = OrdinaryPayment(steps, PaymentRule::Ordinary, home.FrontRatio, home.BackRatio);
+    steps.Decided.MaxLoan = home.PVSavings < allowance ? LoanRule::WithSavings : LoanRule::WithAllowance;
+    home.MaxLoan =
+        steps.Faults.Single(LoanFromPayment(steps) + static_cast<double>(MinOf(home.PVSavings, allowance)));
 }
 
 /// The FHA and VA EEMs add the energy allowance when the savings are worth the upgrade and fall back to the
-/// plain loan type's ratios when they are not. The payment shown is the one that carries the whole loan.
-void ComputeAllowanceLoan(Session& session, HomeCase& home, int plainCode, Arithmetic& arithmetic) {
-    const Qualifying in = QualifyingInputs(session, home);
-    if (home.PVSavings >= session.Scenario.CostDifference) {
-        home.MaxPayment = OrdinaryPayment(session, home.FrontRatio, home.BackRatio, arithmetic);
-        home.MaxLoan = arithmetic.Single(
-            LoanFor(in, home) + static_cast<double>(MinOf(home.PVSavings, session.Scenario.EEMAllowance)));
+/// plain option's ratios when they are not. The payment shown is the one that carries the whole loan.
+void ComputeFinancedUpgrade(QualifyingSteps& steps, MortgageOption option, bool savingsPay) {
+    HomeCase& home = steps.Home;
+    if (savingsPay) {
+        ComputeAllowanceLoan(steps);
     } else {
-        const LoanType* plain = FindLoanType(session.LoanTypes, plainCode);
+        const LoanType* plain = FindLoanType(steps.By.LoanTypes, PlainPartner(option));
         if (!plain)
-            return arithmetic.Fault();
-        home.MaxPayment = OrdinaryPayment(session, plain->FrontRatio, plain->BackRatio, arithmetic);
-        home.MaxLoan = arithmetic.Single(LoanFor(in, home));
+            return steps.Faults.Fail(Fault::MissingLoanType);
+        home.MaxPayment =
+            OrdinaryPayment(steps, PaymentRule::PlainPartner, plain->FrontRatio, plain->BackRatio);
+        ComputeOrdinaryLoan(steps);
     }
-    home.MaxPayment = arithmetic.Single(PMT(in.Rate, in.Periods, -static_cast<double>(home.MaxLoan)));
+    steps.Decided.PaymentCarriesLoan = true;
+    home.MaxPayment = steps.Faults.Single(PMT(steps.Rate, steps.Periods, -static_cast<double>(home.MaxLoan)));
 }
 
-void ComputeMaximums(Session& session, HomeCase& home, std::string_view option, Arithmetic& arithmetic) {
-    if (option == "FHA EEM" || option == "VA EEM") {
-        ComputeAllowanceLoan(session, home, option == "FHA EEM" ? FHACode : VACode, arithmetic);
+/// `option` is what the rules go by: the base home's options are plain ones, and an unknown one is plain too.
+void ComputeMaximums(QualifyingSteps& steps, MortgageOption option) {
+    HomeCase& home = steps.Home;
+    const bool savingsPay = home.PVSavings >= steps.Buyer.CostDifference;
+    const EEMBenefit benefit = BenefitOf(option);
+    if (benefit == EEMBenefit::FinancedUpgrade) {
+        ComputeFinancedUpgrade(steps, option, savingsPay);
     } else {
-        const Qualifying in = QualifyingInputs(session, home);
-        const bool stretched = (option == "Freddie Mac EEM" || option == "Fannie Mae EEM") &&
-                               home.PVSavings >= session.Scenario.CostDifference;
-        home.MaxPayment = stretched ? StretchedPayment(in, home, arithmetic)
-                                    : OrdinaryPayment(session, home.FrontRatio, home.BackRatio, arithmetic);
-        home.MaxLoan = arithmetic.Single(LoanFor(in, home));
+        home.MaxPayment =
+            benefit == EEMBenefit::StretchedPayment && savingsPay
+                ? StretchedPayment(steps)
+                : OrdinaryPayment(steps, PaymentRule::Ordinary, home.FrontRatio, home.BackRatio);
+        ComputeOrdinaryLoan(steps);
     }
     home.MaxHome =
-        arithmetic.Single(static_cast<double>(home.MaxLoan) + static_cast<double>(home.DownPayment));
+        steps.Faults.Single(static_cast<double>(home.MaxLoan) + static_cast<double>(home.DownPayment));
 }
 
 } // namespace
 
-void ComputeAffordability(Session& session, HomeCode code) {
-    HomeCase& home = code == HomeCode::GMH ? session.GMHCase : session.StdCase;
-    const HomeLabels labels = LabelsOf(session.Screen, code);
-    MoneyText(home.PITI, labels.PITI.Text);
-    MoneyText(home.MortPayment, labels.MortPayment.Text);
-    MoneyText(home.UtilMonthly, labels.UtilMonthly.Text);
-
-    // The EEM rules are the labelled home's; the base home's options are plain ones.
-    std::string_view option;
-    if (code == HomeCode::GMH) {
-        option = session.Screen.cboGMHMortOption.Text();
-        SetEEMAllowance(session, option);
-    }
-    MoneyText(home.Cost, labels.Price.Text);
-    MoneyText(home.DownPayment, labels.Down.Text);
-    MoneyText(home.DownPayment, labels.Down2.Text);
-    MoneyText(home.LoanAmount, labels.Mortgage.Text);
-    MoneyText(home.LoanAmount, labels.Mort.Text);
+void ComputeAffordability(const Inputs& inputs, const Rules& rules, HomeCode code, Results& results) {
+    const bool labelled = code == HomeCode::GMH;
+    HomeCase& home = results.Home(code);
+    HomeDecisions& decided = results.Decided(code);
+    const auto option =
+        labelled ? inputs.GMH.Option.value_or(MortgageOption::Conventional) : MortgageOption::Conventional;
+    SetEEMAllowance(results, option);
 
     Arithmetic arithmetic;
-    ComputeMaximums(session, home, option, arithmetic);
+    QualifyingSteps steps{rules,
+                          results.Scenario,
+                          home,
+                          decided,
+                          arithmetic,
+                          static_cast<double>(home.IntRate) / 12,
+                          inputs.TermYears * 12.0};
+    ComputeMaximums(steps, option);
+    decided.AffordabilityFault = arithmetic.What();
     if (arithmetic.Faulted())
         home.MaxPayment = home.MaxLoan = home.MaxHome = 0;
-    MoneyText(home.MaxPayment, labels.MaxPayment.Text);
-    MoneyText(home.MaxLoan, labels.MaxLoan.Text);
 
-    // Read back from the labels: what is shown decides, and equal amounts do not qualify.
-    const bool qualifies = ParseFieldValue(labels.Mortgage.Text, 1) < ParseFieldValue(labels.MaxLoan.Text, 1);
-    labels.Qualifies.Text = qualifies ? "YES" : "*NO";
+    // The whole dollars as shown decide, and equal amounts do not qualify.
+    (labelled ? results.GMHQualifies : results.StdQualifies) =
+        ShownDollars(home.LoanAmount) < ShownDollars(home.MaxLoan);
 }
 
 } // namespace Ledgrove::Module1

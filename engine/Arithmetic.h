@@ -1,22 +1,27 @@
 #pragma once
 
+#include "engine/Decisions.h"
+
 #include <cmath>
 
 namespace Ledgrove {
 
-/// Carries a fault from the step of a calculation that made it to the place that says what follows. Floating
-/// point raises nothing by itself, so the steps that can fault go through here.
+/// Carries the first fault of a calculation from the step that made it to the place that says what follows.
+/// Floating point raises nothing by itself, so the steps that can fault go through here.
 class Arithmetic {
 public:
-    bool Faulted() const { return m_faulted; }
+    bool Faulted() const { return m_fault != Fault::None; }
+    Fault What() const { return m_fault; }
 
-    /// A fault that is no arithmetic, such as a missing loan type.
-    void Fault() { m_faulted = true; }
+    void Fail(Fault fault) {
+        if (!Faulted())
+            m_fault = fault;
+    }
 
-    /// `dividend` / `divisor`; a divisor of 0 is a fault and gives 0.
-    double Quotient(double dividend, double divisor) {
+    /// `dividend` / `divisor`; a divisor of 0 is the fault `whenZero` and gives 0.
+    double Quotient(double dividend, double divisor, Fault whenZero) {
         if (divisor == 0) {
-            m_faulted = true;
+            Fail(whenZero);
             return 0;
         }
         return dividend / divisor;
@@ -28,12 +33,12 @@ public:
         const auto single = static_cast<float>(value);
         if (std::isfinite(single))
             return single;
-        m_faulted = true;
+        Fail(Fault::OutOfRange);
         return 0;
     }
 
 private:
-    bool m_faulted = false;
+    Fault m_fault = Fault::None;
 };
 
 } // namespace Ledgrove

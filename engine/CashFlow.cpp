@@ -4,7 +4,7 @@
 
 #include "engine/Arithmetic.h"
 #include "engine/FinancialFunctions.h"
-#include "engine/NumberText.h"
+#include "engine/Rounding.h"
 
 namespace Ledgrove::Module1 {
 
@@ -16,41 +16,50 @@ double MiddleInterest(const HomeCase& home, double periods) {
                 -static_cast<double>(home.LoanAmount));
 }
 
-float TaxSavingsOf(const Session& session, double periods, Arithmetic& arithmetic) {
+float TaxSavingsOf(const Results& results, double periods, Arithmetic& arithmetic) {
     const double extraInterest =
-        MiddleInterest(session.GMHCase, periods) - MiddleInterest(session.StdCase, periods);
+        MiddleInterest(results.GMHCase, periods) - MiddleInterest(results.StdCase, periods);
     // Whoever stays longer than the mortgage runs has years without interest to deduct.
-    const double share = session.Assumptions.YearsInHome > session.Screen.xMortTerm ? 0.75 : 1.0;
-    return arithmetic.Single(extraInterest * static_cast<double>(session.Scenario.MarginalTaxRate) * share);
+    const double share = results.Decisions.StaysBeyondTerm ? 0.75 : 1.0;
+    return arithmetic.Single(extraInterest * static_cast<double>(results.Scenario.MarginalTaxRate) * share);
 }
 
 } // namespace
 
-float LookupTaxRate(const TaxSchedule& schedule, float income) {
+std::optional<std::size_t> FindTaxBracket(const TaxSchedule& schedule, float income) {
     const auto bracket = std::find_if(schedule.begin(), schedule.end(), [income](const TaxBracket& row) {
         return income > row.LowEnd && (income <= row.HighEnd || row.HighEnd == -1);
     });
-    return bracket == schedule.end() ? 0 : ParseFieldValue(PlainText(bracket->Rate), 100);
+    if (bracket == schedule.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(bracket - schedule.begin());
 }
 
-void ComputeCashFlow(Session& session) {
-    const HomeCase& base = session.StdCase;
-    const HomeCase& labelled = session.GMHCase;
-    Scenario& result = session.Scenario;
+float LookupTaxRate(const TaxSchedule& schedule, float income) {
+    const auto bracket = FindTaxBracket(schedule, income);
+    return bracket ? AsTyped(schedule[*bracket].Rate) : 0;
+}
+
+void ComputeCashFlow(const Inputs& inputs, const Rules& rules, Results& results) {
+    const HomeCase& base = results.StdCase;
+    const HomeCase& labelled = results.GMHCase;
+    Scenario& result = results.Scenario;
     Arithmetic arithmetic;
     const auto store = [&arithmetic](float& target, double value) {
         if (!arithmetic.Faulted())
             target = arithmetic.Single(value);
     };
-    const double periods = session.Screen.xMortTerm * 12.0;
+    const double periods = inputs.TermYears * 12.0;
     const double rate = static_cast<double>(labelled.IntRate) / 12;
+    const int yearsInHome = rules.Assumptions.YearsInHome;
+    results.Decisions.StaysBeyondTerm = yearsInHome > inputs.TermYears;
 
     store(result.MortgageSavings, static_cast<double>(base.PITI) - static_cast<double>(labelled.PITI));
     store(result.UtilitySavings,
           static_cast<double>(base.UtilMonthly) - static_cast<double>(labelled.UtilMonthly));
 
-    store(result.TaxSavings, static_cast<double>(TaxSavingsOf(session, periods, arithmetic)));
-    store(result.ShownTaxSavings, session.Screen.chkDoTax0 ? static_cast<double>(result.TaxSavings) : 0);
+    store(result.TaxSavings, static_cast<double>(TaxSavingsOf(results, periods, arithmetic)));
+    store(result.ShownTaxSavings, inputs.IncludeTaxes ? static_cast<double>(result.TaxSavings) : 0);
     store(result.NetBeforeTax,
           static_cast<double>(result.UtilitySavings) + static_cast<double>(result.MortgageSavings));
     store(result.NetMonthlyCashFlow,
@@ -63,10 +72,11 @@ void ComputeCashFlow(Session& session) {
 
     const double net = result.NetMonthlyCashFlow;
     store(result.SavingsAfter7Years, FV(rate, 84, -net));
-    store(result.SavingsAfterYearsInHome, FV(rate, session.Assumptions.YearsInHome * 12.0, -net));
+    store(result.SavingsAfterYearsInHome, FV(rate, yearsInHome * 12.0, -net));
     store(result.SavingsAfter30Years, FV(rate, 360, -net));
     store(result.PVNetBeforeTax, -PV(rate, periods, static_cast<double>(result.NetBeforeTax)));
     store(result.PVNetCashFlow, -PV(rate, periods, net));
+    results.Decisions.CashFlowFault = arithmetic.What();
 }
 
 } // namespace Ledgrove::Module1

@@ -31,12 +31,18 @@ double PMT(double rate, double periods, double presentValue) {
     return -presentValue * rate / DiscountShortfall(rate, periods);
 }
 
+double UnpaidBalance(double rate, double paid, double periods, double presentValue) {
+    const double left = periods - paid;
+    if (rate == 0)
+        return presentValue * (left / periods);
+    // What the payments still to come are worth, as a fraction of what all of them were worth.
+    return presentValue * (DiscountShortfall(rate, left) / DiscountShortfall(rate, periods));
+}
+
 double IPMT(double rate, double period, double periods, double presentValue) {
     if (rate == 0)
         return 0;
-    // The balance before the period is what the payments still to come are worth, a fraction of the loan.
-    const double unpaid = DiscountShortfall(rate, periods - period + 1) / DiscountShortfall(rate, periods);
-    return -presentValue * unpaid * rate;
+    return -UnpaidBalance(rate, period - 1, periods, presentValue) * rate;
 }
 
 } // namespace Ledgrove::Module1

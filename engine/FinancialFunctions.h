@@ -15,6 +15,9 @@ double FV(double rate, double periods, double payment);
 /// The level payment that repays `presentValue` in `periods`.
 double PMT(double rate, double periods, double presentValue);
 
+/// What is still owed of `presentValue` after `paid` (0 to `periods`) such payments, with its sign.
+double UnpaidBalance(double rate, double paid, double periods, double presentValue);
+
 /// The interest part of that payment in period `period` (1 to `periods`).
 double IPMT(double rate, double period, double periods, double presentValue);
 

@@ -1,100 +1,119 @@
 #include "engine/LoanRules.h"
 
-#include <cmath>
-#include <limits>
-
 #include "engine/Arithmetic.h"
 #include "engine/FinancialFunctions.h"
-#include "engine/NumberText.h"
+#include "engine/Rounding.h"
 
 namespace Ledgrove::Module1 {
 
 namespace {
 
-constexpr const char* EEMNotice = "The homebuyer may not qualify for the EEM you have selected because the "
-                                  "present value of the savings are less "
-                                  "than the cost of the energy efficiency upgrade.";
-
-/// A percentage assumption as a fraction, by way of its decimal text so that 1.5 becomes exactly what "1.5"
-/// means.
-float AssumptionFraction(float percent) {
-    return ParseFieldValue(PlainText(percent), 100);
-}
+/// What the steps of one home's case work on.
+struct CaseSteps {
+    const Inputs& In;
+    const Rules& By;
+    Results& All;
+    HomeCase& Home;
+    HomeDecisions& Decided;
+    Arithmetic& Faults;
+};
 
 void TakeRatios(HomeCase& home, const LoanType& loanType) {
     home.FrontRatio = loanType.FrontRatio;
     home.BackRatio = loanType.BackRatio;
 }
 
-float DownPaymentOn(const Scenario& scenario, float price, Arithmetic& arithmetic) {
-    if (!scenario.DownAsPercent)
+float DownPaymentOn(CaseSteps& steps, DownPaymentBase percentOf) {
+    const Scenario& scenario = steps.All.Scenario;
+    if (!scenario.DownAsPercent) {
+        steps.Decided.DownPayment = DownPaymentBase::FixedAmount;
         return scenario.FixedDown;
-    return arithmetic.Single(static_cast<double>(scenario.PctDown) * static_cast<double>(price));
+    }
+    steps.Decided.DownPayment = percentOf;
+    const float price = percentOf == DownPaymentBase::BasePrice ? steps.All.StdCase.Cost : steps.Home.Cost;
+    return steps.Faults.Single(static_cast<double>(scenario.PctDown) * static_cast<double>(price));
 }
 
-float PresentValueOfSavings(const Session& session, Arithmetic& arithmetic) {
-    const AssumptionSet& assumptions = session.Assumptions;
-    const double rate = assumptions.UsePVVars ? assumptions.PVRate : session.GMHCase.IntRate;
-    const double years =
-        assumptions.UsePVVars ? assumptions.PVTerm : static_cast<float>(session.Screen.xMortTerm);
-    return arithmetic.Single(
-        PV(rate / 12, years * 12, -static_cast<double>(session.Scenario.UtilitySavings)));
+float PresentValueOfSavings(CaseSteps& steps) {
+    const AssumptionSet& assumptions = steps.By.Assumptions;
+    const bool ownTerms = assumptions.UsePVVars;
+    steps.All.Decisions.PVSavings = ownTerms ? SavingsTerms::PVVariables : SavingsTerms::Loan;
+    const double rate = ownTerms ? assumptions.PVRate : steps.Home.IntRate;
+    const double years = ownTerms ? assumptions.PVTerm : static_cast<float>(steps.In.TermYears);
+    return steps.Faults.Single(
+        PV(rate / 12, years * 12, -static_cast<double>(steps.All.Scenario.UtilitySavings)));
 }
 
-/// Shown at most once per edit of the inputs that feed it.
-void ShowEEMNotice(Session& session, const LoanType& loanType, Host& host) {
-    if (!loanType.IsEEM || !session.Scenario.EEMNoticeFlag || session.GMHCase.PVSavings <= 0)
+/// The notice is due at most once per edit of the inputs that feed it.
+void SpendNoticeFlag(Results& results, const LoanType& loanType) {
+    if (!SpendsNoticeFlag(results, &loanType))
         return;
-    session.Scenario.EEMNoticeFlag = false;
+    results.Scenario.EEMNoticeFlag = false;
     // Equality included, although such a buyer's savings do pay for the upgrade.
-    if (session.GMHCase.PVSavings <= session.Scenario.CostDifference)
-        host.ShowMessage({ApplicationTitle, EEMNotice});
+    results.NoticeApplies = results.GMHCase.PVSavings <= results.Scenario.CostDifference;
 }
 
 /// The FHA and VA EEMs finance the whole upgrade when the savings are worth it: the down payment is then
 /// taken on the base home's price.
-float LabelledDownPayment(const Session& session, Arithmetic& arithmetic) {
-    const std::string_view option = session.Screen.cboGMHMortOption.Text();
-    const bool paysOnOwnPrice = option == "Freddie Mac EEM" || option == "Fannie Mae EEM" || option == "VA" ||
-                                option == "FHA" || option == "Conventional";
-    const bool upgradeFinanced =
-        !paysOnOwnPrice && session.GMHCase.PVSavings >= session.Scenario.CostDifference;
-    return DownPaymentOn(session.Scenario, upgradeFinanced ? session.StdCase.Cost : session.GMHCase.Cost,
-                         arithmetic);
+DownPaymentBase LabelledDownPaymentBase(const Results& results, MortgageOption option) {
+    const bool upgradeFinanced = BenefitOf(option) == EEMBenefit::FinancedUpgrade &&
+                                 results.GMHCase.PVSavings >= results.Scenario.CostDifference;
+    return upgradeFinanced ? DownPaymentBase::BasePrice : DownPaymentBase::OwnPrice;
 }
 
-/// Annual PMI as a fraction of the loan. A down payment exactly on a band's edge falls in the cheaper band.
-float PMIMultiplier(const AssumptionSet& assumptions, float downFraction) {
+/// A down payment exactly on a band's edge falls in the cheaper band.
+PMIBand BandOf(float downFraction) {
     if (downFraction < 0.05F)
-        return assumptions.PMIMult1;
+        return PMIBand::Below5;
     if (downFraction < 0.10F)
-        return assumptions.PMIMult2;
+        return PMIBand::Below10;
     if (downFraction < 0.15F)
+        return PMIBand::Below15;
+    return downFraction < 0.20F ? PMIBand::Below20 : PMIBand::NoPMI;
+}
+
+/// Annual PMI as a fraction of the loan.
+float PMIMultiplier(const AssumptionSet& assumptions, PMIBand band) {
+    switch (band) {
+    case PMIBand::Below5:
+        return assumptions.PMIMult1;
+    case PMIBand::Below10:
+        return assumptions.PMIMult2;
+    case PMIBand::Below15:
         return assumptions.PMIMult3;
-    if (downFraction < 0.20F)
+    case PMIBand::Below20:
         return assumptions.PMIMult4;
+    case PMIBand::None:
+    case PMIBand::NoPMI:
+        break;
+    }
     return 0;
 }
 
-float DownFraction(const Session& session, Arithmetic& arithmetic) {
-    if (session.Scenario.DownAsPercent)
-        return session.Scenario.PctDown;
+float DownFraction(CaseSteps& steps) {
+    const Scenario& scenario = steps.All.Scenario;
+    if (scenario.DownAsPercent)
+        return scenario.PctDown;
     // The base home's price for both homes, on purpose.
-    return arithmetic.Single(arithmetic.Quotient(session.Scenario.FixedDown, session.StdCase.Cost));
+    return steps.Faults.Single(
+        steps.Faults.Quotient(scenario.FixedDown, steps.All.StdCase.Cost, Fault::ZeroBasePrice));
 }
 
-void ComputePayment(const Session& session, HomeCase& home, Arithmetic& arithmetic) {
+void ComputePayment(CaseSteps& steps) {
+    HomeCase& home = steps.Home;
+    Arithmetic& arithmetic = steps.Faults;
+    const AssumptionSet& assumptions = steps.By.Assumptions;
     const double cost = home.Cost;
     home.LoanAmount = arithmetic.Single(cost - static_cast<double>(home.DownPayment));
     const double loan = home.LoanAmount;
-    home.MortPayment = arithmetic.Single(
-        PMT(static_cast<double>(home.IntRate) / 12, session.Screen.xMortTerm * 12.0, -loan));
+    home.MortPayment =
+        arithmetic.Single(PMT(static_cast<double>(home.IntRate) / 12, steps.In.TermYears * 12.0, -loan));
 
-    const double insRate = AssumptionFraction(session.Assumptions.InsurancePct);
-    const double taxRate = AssumptionFraction(session.Assumptions.RealEstateTaxPct);
-    home.InsMonthly = arithmetic.Single(insRate * cost / 12);
-    home.TaxMonthly = arithmetic.Single(taxRate * cost / 12);
-    const double multiplier = PMIMultiplier(session.Assumptions, DownFraction(session, arithmetic));
+    home.InsMonthly = arithmetic.Single(static_cast<double>(AsTyped(assumptions.InsurancePct)) * cost / 12);
+    home.TaxMonthly =
+        arithmetic.Single(static_cast<double>(AsTyped(assumptions.RealEstateTaxPct)) * cost / 12);
+    steps.Decided.PMI = BandOf(DownFraction(steps));
+    const double multiplier = PMIMultiplier(assumptions, steps.Decided.PMI);
     home.PMIMonthly = arithmetic.Single(multiplier * loan / 12);
 
     const double principalAndInterest = home.MortPayment;
@@ -106,56 +125,55 @@ void ComputePayment(const Session& session, HomeCase& home, Arithmetic& arithmet
     home.PITIU = arithmetic.Single(static_cast<double>(home.PITI) + static_cast<double>(home.UtilMonthly));
 }
 
-/// Cents first, halves to even, then whole dollars, halves away from zero. Beyond single precision not
-/// finite.
-double WholeDollars(double amount) {
-    const double cents = std::nearbyint(amount * 100) / 100;
-    constexpr double overflow = std::numeric_limits<double>::infinity();
-    // "#0" is the picture "#" with a text for zero.
-    return ReadNumber(FormatPicture(cents, "#0")).value_or(overflow);
-}
-
-void ComputeIncomeNeeded(const Scenario& scenario, HomeCase& home, HomeCode code, Arithmetic& arithmetic) {
+void ComputeIncomeNeeded(CaseSteps& steps, HomeCode code) {
+    HomeCase& home = steps.Home;
     const double piti = home.PITI;
-    const double debt = scenario.MonthlyDebt;
-    const double savings = scenario.UtilitySavings;
+    const double debt = steps.All.Scenario.MonthlyDebt;
+    const double savings = steps.All.Scenario.UtilitySavings;
+    const auto byRatio = [&steps](double amount, float ratio) {
+        return steps.Faults.Quotient(amount, ratio, Fault::ZeroRatio);
+    };
     double front = 0;
     double back = 0;
     if (code == HomeCode::Std) {
-        front = arithmetic.Quotient(piti, home.FrontRatio) * 12;
-        back = arithmetic.Quotient(debt + piti, home.BackRatio) * 12;
+        front = byRatio(piti, home.FrontRatio) * 12;
+        back = byRatio(debt + piti, home.BackRatio) * 12;
     } else {
         // Only the savings are divided by the front ratio, on purpose.
-        front = (piti - arithmetic.Quotient(savings, home.FrontRatio)) * 12;
-        back = arithmetic.Quotient(debt + piti - savings, home.BackRatio) * 12;
+        front = (piti - byRatio(savings, home.FrontRatio)) * 12;
+        back = byRatio(debt + piti - savings, home.BackRatio) * 12;
     }
-    home.IncomeNeeded = MaxOf(arithmetic.Single(WholeDollars(front)), arithmetic.Single(WholeDollars(back)));
+    const float byFront = steps.Faults.Single(WholeDollarsFromCents(front));
+    const float byBack = steps.Faults.Single(WholeDollarsFromCents(back));
+    home.IncomeNeeded = MaxOf(byFront, byBack);
+    steps.Decided.IncomeNeeded = byFront > byBack ? QualifyingRatio::FrontEnd : QualifyingRatio::BackEnd;
 }
 
-void ComputeCase(Session& session, HomeCode code, Host& host, Arithmetic& arithmetic) {
+void ComputeCase(CaseSteps& steps, HomeCode code) {
     const bool labelled = code == HomeCode::GMH;
-    HomeCase& home = labelled ? session.GMHCase : session.StdCase;
-    const PickList& option = labelled ? session.Screen.cboGMHMortOption : session.Screen.cboStdMortOption;
-    const LoanType* loanType = FindLoanType(session.LoanTypes, option.Code());
+    HomeCase& home = steps.Home;
+    const auto option = labelled ? steps.In.GMH.Option : steps.In.Std.Option;
+    const LoanType* loanType = FindLoanType(steps.By.LoanTypes, option);
     if (!loanType)
-        return arithmetic.Fault();
+        return steps.Faults.Fail(Fault::MissingLoanType);
+    TakeRatios(home, *loanType);
+    auto percentOf = DownPaymentBase::OwnPrice;
     if (labelled) {
-        TakeRatios(home, *loanType);
-        home.PVSavings = PresentValueOfSavings(session, arithmetic);
-        // A fault abandons the rest, and the rest may show a message.
-        if (arithmetic.Faulted())
+        home.PVSavings = PresentValueOfSavings(steps);
+        // A fault abandons the rest, and the rest may spend the notice flag.
+        if (steps.Faults.Faulted())
             return;
-        ShowEEMNotice(session, *loanType, host);
-        home.DownPayment = LabelledDownPayment(session, arithmetic);
-    } else {
-        home.DownPayment = DownPaymentOn(session.Scenario, home.Cost, arithmetic);
-        TakeRatios(home, *loanType);
+        SpendNoticeFlag(steps.All, *loanType);
+        percentOf = LabelledDownPaymentBase(steps.All, *option);
     }
-    if (home.Cost > 0)
-        ComputePayment(session, home, arithmetic);
-    else
+    home.DownPayment = DownPaymentOn(steps, percentOf);
+    if (home.Cost > 0) {
+        ComputePayment(steps);
+    } else {
         home.DownPayment = 0;
-    ComputeIncomeNeeded(session.Scenario, home, code, arithmetic);
+        steps.Decided.DownPayment = DownPaymentBase::None;
+    }
+    ComputeIncomeNeeded(steps, code);
 }
 
 void ClearFigures(HomeCase& home) {
@@ -166,16 +184,26 @@ void ClearFigures(HomeCase& home) {
 
 } // namespace
 
-const LoanType* FindLoanType(const LoanTypeList& loanTypes, int code) {
-    const auto index = static_cast<std::size_t>(code) - 1;
-    return code >= 1 && index < loanTypes.size() ? &loanTypes[index] : nullptr;
+const LoanType* FindLoanType(const LoanTypeList& loanTypes, std::optional<MortgageOption> option) {
+    if (!option)
+        return nullptr;
+    const auto index = static_cast<std::size_t>(CodeOf(*option)) - 1;
+    return index < loanTypes.size() ? &loanTypes[index] : nullptr;
 }
 
-void ComputeHomeCase(Session& session, HomeCode code, Host& host) {
+bool SpendsNoticeFlag(const Records& records, const LoanType* labelledLoanType) {
+    return records.Scenario.EEMNoticeFlag && labelledLoanType && labelledLoanType->IsEEM &&
+           records.GMHCase.PVSavings > 0;
+}
+
+void ComputeHomeCase(const Inputs& inputs, const Rules& rules, HomeCode code, Results& results) {
     Arithmetic arithmetic;
-    ComputeCase(session, code, host, arithmetic);
+    HomeDecisions& decided = results.Decided(code);
+    CaseSteps steps{inputs, rules, results, results.Home(code), decided, arithmetic};
+    ComputeCase(steps, code);
+    decided.CaseFault = arithmetic.What();
     if (arithmetic.Faulted())
-        ClearFigures(code == HomeCode::GMH ? session.GMHCase : session.StdCase);
+        ClearFigures(steps.Home);
 }
 
 } // namespace Ledgrove::Module1

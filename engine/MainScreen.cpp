@@ -87,11 +87,17 @@ constexpr ControlEntry<Label> labels[] = {
 constexpr PickItem terms[] = {{"10 years", 10}, {"15 years", 15}, {"20 years", 20}, {"25 years", 25},
                               {"30 years", 30}, {"35 years", 35}, {"40 years", 40}};
 
-constexpr PickItem baseOptions[] = {{"Conventional", 1}, {"FHA", 4}, {"VA", 6}};
-constexpr PickItem conventionalOptions[] = {
-    {"Conventional", 1}, {"Fannie Mae EEM", 2}, {"Freddie Mac EEM", 3}};
-constexpr PickItem fhaOptions[] = {{"FHA", 4}, {"FHA EEM", 5}};
-constexpr PickItem vaOptions[] = {{"VA", 6}, {"VA EEM", 7}};
+constexpr PickItem Item(std::string_view text, MortgageOption option) {
+    return {text, CodeOf(option)};
+}
+
+constexpr PickItem baseOptions[] = {Item("Conventional", MortgageOption::Conventional),
+                                    Item("FHA", MortgageOption::FHA), Item("VA", MortgageOption::VA)};
+constexpr PickItem conventionalOptions[] = {Item("Conventional", MortgageOption::Conventional),
+                                            Item("Fannie Mae EEM", MortgageOption::FannieMaeEEM),
+                                            Item("Freddie Mac EEM", MortgageOption::FreddieMacEEM)};
+constexpr PickItem fhaOptions[] = {Item("FHA", MortgageOption::FHA), Item("FHA EEM", MortgageOption::FHAEEM)};
+constexpr PickItem vaOptions[] = {Item("VA", MortgageOption::VA), Item("VA EEM", MortgageOption::VAEEM)};
 
 } // namespace
 
@@ -125,17 +131,14 @@ std::span<const PickItem> BaseOptionItems() {
     return baseOptions;
 }
 
-std::span<const PickItem> LabelledOptionItems(int baseCode) {
-    switch (baseCode) {
-    case 1:
+std::span<const PickItem> LabelledOptionItems(std::optional<MortgageOption> base) {
+    if (base == MortgageOption::Conventional)
         return conventionalOptions;
-    case 4:
+    if (base == MortgageOption::FHA)
         return fhaOptions;
-    case 6:
+    if (base == MortgageOption::VA)
         return vaOptions;
-    default:
-        return {};
-    }
+    return {};
 }
 
 } // namespace Ledgrove

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "engine/MortgageOption.h"
+
 // The main screen as plain data: one member per control, named as the control. The texts of the fields are
 // the only store of the inputs; the texts of the labels are what the tabs show, the report prints and a
 // script reads.
@@ -28,7 +30,7 @@ struct Field {
 
 struct PickItem {
     std::string_view Text;
-    int Code; ///< item data: the loan type's number, or the term in years
+    int Code; ///< item data: the mortgage option's number, or the term in years
 };
 
 struct PickList {
@@ -39,6 +41,8 @@ struct PickList {
         return HasSelection() ? Items[static_cast<std::size_t>(Selected)].Text : "";
     }
     int Code() const { return HasSelection() ? Items[static_cast<std::size_t>(Selected)].Code : 0; }
+    /// The chosen mortgage option; empty when none is chosen.
+    std::optional<MortgageOption> Option() const { return OptionOfCode(Code()); }
     /// The index of the item with exactly this text, -1 when there is none.
     int IndexOf(std::string_view text) const;
 
@@ -121,7 +125,7 @@ std::span<const PickItem> TermItems();
 /// The base home's mortgage options.
 std::span<const PickItem> BaseOptionItems();
 
-/// The labelled home's mortgage options that go with a base option's code; none for another code.
-std::span<const PickItem> LabelledOptionItems(int baseCode);
+/// The labelled home's mortgage options that go with a base option; none without one.
+std::span<const PickItem> LabelledOptionItems(std::optional<MortgageOption> base);
 
 } // namespace Ledgrove

@@ -5,10 +5,14 @@
 
 namespace Ledgrove::Module1 {
 
-/// Rebuilds the whole Scenario, both home records and every result label from the texts of the main screen's
-/// fields, and ends by letting pending events run. An empty or unreadable field counts as 0. The labelled
-/// home's EEM rule may show its notice.
+/// Reads the inputs from the texts of the main screen, evaluates them, shows the results in every result
+/// label, shows the EEM notice where it is due, and ends by letting pending events run. An empty or
+/// unreadable field counts as 0.
 void Recalculate(Session& session, Host& host);
+
+/// Whether a recalculation would change nothing: the inputs and the rules are those of the last one, and no
+/// notice is due.
+bool IsUpToDate(const Session& session);
 
 /// Shows the detail panel of the selected tab; the More Home panel also refreshes its feature captions.
 void ShowCurrentPanel(Session& session, Host& host);

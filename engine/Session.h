@@ -1,7 +1,8 @@
 #pragma once
 
 #include "engine/MainScreen.h"
-#include "engine/TypeDeclarations.h"
+#include "engine/Results.h"
+#include "engine/Rules.h"
 
 #include <filesystem>
 #include <string>
@@ -15,14 +16,9 @@ struct ReportHeader {
     std::string LogoFile = "Full Path To Logo File"; ///< full path; as here while none was ever named
 };
 
-/// The whole state of the program in one value.
-struct Session {
-    HomeCase StdCase;
-    HomeCase GMHCase;
-    struct Scenario Scenario;
-    AssumptionSet Assumptions;
-    LoanTypeList LoanTypes;
-    TaxSchedule TaxBrackets;
+/// The whole state of the program in one value: the results of the last recalculation, the rules it went by,
+/// and what the windows hold.
+struct Session : Results, Rules {
     FeatureTexts Features;
     std::filesystem::path Folder; ///< the program's folder, where its settings, help and pictures lie
     std::string HelpFile;         ///< file name, "" for none

@@ -8,6 +8,8 @@
 // rates are fractions (0.075 is 7.5 %) unless a comment says percent.
 namespace Ledgrove {
 
+enum class HomeCode { Std, GMH };
+
 /// One of the two compared homes. `StdCase` is the base home, `GMHCase` the energy-efficiency-labelled one.
 struct HomeCase {
     float Cost = 0; ///< sticker price
@@ -31,6 +33,8 @@ struct HomeCase {
     float PVSavings = 0;    ///< present value of the monthly utility savings, labelled home only
     float FrontRatio = 0;   ///< front-end (housing) qualifying ratio, fraction
     float BackRatio = 0;    ///< back-end (total debt) qualifying ratio, fraction
+
+    bool operator==(const HomeCase&) const = default;
 };
 
 /// The buyer's inputs and the comparison's results; savings and cash flow are per month.
@@ -56,8 +60,11 @@ struct Scenario {
     float SavingsAfter7Years = 0;
     float SavingsAfterYearsInHome = 0;
     float SavingsAfter30Years = 0;
-    bool DownAsPercent = true;  ///< true: the percent field is in force, false: the fixed amount
-    bool EEMNoticeFlag = false; ///< set by edits that can change EEM eligibility, cleared by the notice
+    bool DownAsPercent = true;    ///< true: the percent field is in force, false: the fixed amount
+    bool EEMNoticeFlag = false;   ///< set by edits that can change EEM eligibility, cleared by the notice
+    std::int16_t YearsInHome = 0; ///< the assumption that the results were computed with
+
+    bool operator==(const Scenario&) const = default;
 };
 
 /// The financial assumptions. There are no built-in defaults: everything is 0 until the settings file says

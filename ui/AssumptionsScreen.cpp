@@ -109,6 +109,8 @@ std::optional<SettingsFault> SaveAndReload(const AssumptionsScreen& dialog, Sess
     if (auto fault = SaveAll(file, dialog, session.TaxBrackets, loanTypes))
         return TakeBack(file, *before, *fault);
     session.LoanTypes = std::move(loanTypes);
+    // The shown results went by the former tables, until the next recalculation.
+    session.From.reset();
     if (auto fault = LoadTaxCats(file, session.TaxBrackets))
         return fault;
     return LoadAssumptions(file, session.Assumptions);
@@ -133,8 +135,10 @@ std::optional<SettingsFault> FillAssumptions(AssumptionsScreen& dialog, Session&
         dialog.PMI_Multiplier[row].Text = PlainText(multipliers[row]);
 
     std::optional<SettingsFault> fault;
-    if (session.LoanTypes.empty())
+    if (session.LoanTypes.empty()) {
         fault = LoadLoanTypes(SettingsFile(session.Folder), session.LoanTypes);
+        session.From.reset();
+    }
     FillRatioRows(dialog, session.LoanTypes);
     return fault;
 }

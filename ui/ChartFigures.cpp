@@ -109,9 +109,9 @@ ChartFigures MonthlyCostChart(const Session& session) {
 }
 
 /// "With the Base Home the mortgage of $180,000 is within the maximum loan of $242,484."
-std::string LoanSentence(const char* home, const HomeCase& figures, const std::string& qualifies) {
+std::string LoanSentence(const char* home, const HomeCase& figures, bool qualifies) {
     return std::string("With the ") + home + " the mortgage of " + Money(Amount(figures.LoanAmount)) +
-           (qualifies == "YES" ? " is within" : " is not within") + " the maximum loan of " +
+           (qualifies ? " is within" : " is not within") + " the maximum loan of " +
            Money(Amount(figures.MaxLoan)) + '.';
 }
 
@@ -124,8 +124,8 @@ ChartFigures AffordabilityChart(const Session& session) {
     chart.Categories = {baseHome, labelledHome};
     chart.Series = {{"Mortgage Amount", {Amount(base.LoanAmount), Amount(labelled.LoanAmount)}},
                     {"Maximum Loan Value", {Amount(base.MaxLoan), Amount(labelled.MaxLoan)}}};
-    chart.Sentence = LoanSentence(baseHome, base, session.Screen.lblStdQual.Text) + ' ' +
-                     LoanSentence(labelledHome, labelled, session.Screen.lblGMHQual.Text);
+    chart.Sentence = LoanSentence(baseHome, base, session.StdQualifies) + ' ' +
+                     LoanSentence(labelledHome, labelled, session.GMHQualifies);
     chart.Numbers = AllSeries(chart);
     SetScale(chart, 0, RangeOfValues(chart).Highest, fineSteps);
     return chart;

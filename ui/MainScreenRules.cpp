@@ -1,6 +1,5 @@
 #include "ui/MainScreenRules.h"
 
-#include "engine/LoanRules.h"
 #include "engine/Recalculate.h"
 #include "ui/DataCheck.h"
 
@@ -47,7 +46,7 @@ bool Select(PickList& list, std::string_view text) {
 
 void FinishLabelledOption(Session& session, Host& host) {
     const PickList& option = session.Screen.cboGMHMortOption;
-    if (const auto message = OptionMessage(option.Text()))
+    if (const auto message = OptionMessage(option.Option()))
         host.ShowMessage(*message);
     Recalculate(session, host);
 }
@@ -57,7 +56,7 @@ void FinishLabelledOption(Session& session, Host& host) {
 bool SetBaseOption(MainScreen& screen, std::string_view text) {
     if (!Select(screen.cboStdMortOption, text))
         return false;
-    screen.cboGMHMortOption.Items = LabelledOptionItems(screen.cboStdMortOption.Code());
+    screen.cboGMHMortOption.Items = LabelledOptionItems(screen.cboStdMortOption.Option());
     screen.cboGMHMortOption.Selected = 0;
     return true;
 }
@@ -65,7 +64,7 @@ bool SetBaseOption(MainScreen& screen, std::string_view text) {
 bool SetLabelledOption(Session& session, std::string_view text) {
     if (!Select(session.Screen.cboGMHMortOption, text))
         return false;
-    const LoanType* loanType = FindLoanType(session.LoanTypes, session.Screen.cboGMHMortOption.Code());
+    const LoanType* loanType = FindLoanType(session.LoanTypes, session.Screen.cboGMHMortOption.Option());
     if (loanType && loanType->IsEEM)
         session.Scenario.EEMNoticeFlag = true;
     return true;
@@ -89,8 +88,8 @@ void SetDownPayment(Session& session, int option) {
     screen.ecFixedDown.Colour = option == 0 ? TextColour::Grey : TextColour::Normal;
 }
 
-std::optional<Message> OptionMessage(std::string_view labelledOption) {
-    if (labelledOption != "Fannie Mae EEM")
+std::optional<Message> OptionMessage(std::optional<MortgageOption> labelledOption) {
+    if (labelledOption != MortgageOption::FannieMaeEEM)
         return std::nullopt;
     return Message{
         ApplicationTitle,

@@ -48,7 +48,7 @@ bool SetTerm(Session& session, std::string_view text);
 void SetDownPayment(Session& session, int option);
 
 /// The message that goes with choosing "Fannie Mae EEM"; nothing for other options.
-std::optional<Message> OptionMessage(std::string_view labelledOption);
+std::optional<Message> OptionMessage(std::optional<MortgageOption> labelledOption);
 
 // The clicks: the same with message, flag and recalculation as the window's user meets them.
 void ClickBaseOption(Session& session, Host& host, std::string_view text);

@@ -64,9 +64,7 @@ Comparison::Comparison(Session start)
 void Comparison::Reset() {
     // The tables stay as they are: no comparison changes them.
     m_state.Screen = m_start.Screen;
-    m_state.Scenario = m_start.Scenario;
-    m_state.StdCase = m_start.StdCase;
-    m_state.GMHCase = m_start.GMHCase;
+    static_cast<Results&>(m_state) = m_start;
     m_host.Clear();
 }
 
@@ -92,7 +90,7 @@ std::optional<Refusal> Comparison::PickOptions(const InputRecord& inputs) {
     if (labelled.Present) {
         if (!Module1::SetLabelledOption(m_state, labelled.Text))
             return UnknownItem("cboGMHMortOption", labelled, screen.cboGMHMortOption);
-        if (const auto message = Module1::OptionMessage(labelled.Text))
+        if (const auto message = Module1::OptionMessage(m_state.Screen.cboGMHMortOption.Option()))
             m_host.ShowMessage(*message);
     }
     const InputValue& term = inputs.At("cboMortTerm");

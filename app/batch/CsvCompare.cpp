@@ -3,50 +3,39 @@
 #include <algorithm>
 #include <csv.h>
 
+#include "engine/Figures.h"
 #include "engine/NumberText.h"
 
 namespace Ledgrove {
 
 namespace {
 
-struct ResultColumn {
-    std::string_view Name;
-    float (*Value)(const Session&);
+constexpr Figure resultColumns[] = {
+    Figure::StdDownPayment,
+    Figure::StdLoanAmount,
+    Figure::StdMortPayment,
+    Figure::StdPITI,
+    Figure::StdPITIU,
+    Figure::StdMaxPayment,
+    Figure::StdMaxLoan,
+    Figure::GMHDownPayment,
+    Figure::GMHLoanAmount,
+    Figure::GMHMortPayment,
+    Figure::GMHPITI,
+    Figure::GMHPITIU,
+    Figure::GMHMaxPayment,
+    Figure::GMHMaxLoan,
+    Figure::GMHPVSavings,
+    Figure::MortgageSavings,
+    Figure::UtilitySavings,
+    Figure::ShownTaxSavings,
+    Figure::NetMonthlyCashFlow,
+    Figure::ExtraCashToday,
+    Figure::PVNetCashFlow,
+    Figure::SavingsAfter7Years,
+    Figure::SavingsAfterYearsInHome,
+    Figure::SavingsAfter30Years,
 };
-
-#define LEDGROVE_COLUMN(record, name)                                                                        \
-    {                                                                                                        \
-#record "." #name, [](const Session& session) { return session.record.name; }                        \
-    }
-
-constexpr ResultColumn resultColumns[] = {
-    LEDGROVE_COLUMN(StdCase, DownPayment),
-    LEDGROVE_COLUMN(StdCase, LoanAmount),
-    LEDGROVE_COLUMN(StdCase, MortPayment),
-    LEDGROVE_COLUMN(StdCase, PITI),
-    LEDGROVE_COLUMN(StdCase, PITIU),
-    LEDGROVE_COLUMN(StdCase, MaxPayment),
-    LEDGROVE_COLUMN(StdCase, MaxLoan),
-    LEDGROVE_COLUMN(GMHCase, DownPayment),
-    LEDGROVE_COLUMN(GMHCase, LoanAmount),
-    LEDGROVE_COLUMN(GMHCase, MortPayment),
-    LEDGROVE_COLUMN(GMHCase, PITI),
-    LEDGROVE_COLUMN(GMHCase, PITIU),
-    LEDGROVE_COLUMN(GMHCase, MaxPayment),
-    LEDGROVE_COLUMN(GMHCase, MaxLoan),
-    LEDGROVE_COLUMN(GMHCase, PVSavings),
-    LEDGROVE_COLUMN(Scenario, MortgageSavings),
-    LEDGROVE_COLUMN(Scenario, UtilitySavings),
-    LEDGROVE_COLUMN(Scenario, ShownTaxSavings),
-    LEDGROVE_COLUMN(Scenario, NetMonthlyCashFlow),
-    LEDGROVE_COLUMN(Scenario, ExtraCashToday),
-    LEDGROVE_COLUMN(Scenario, PVNetCashFlow),
-    LEDGROVE_COLUMN(Scenario, SavingsAfter7Years),
-    LEDGROVE_COLUMN(Scenario, SavingsAfterYearsInHome),
-    LEDGROVE_COLUMN(Scenario, SavingsAfter30Years),
-};
-
-#undef LEDGROVE_COLUMN
 
 // Texts that follow the figures.
 constexpr std::string_view lblStdQualColumn = "lblStdQual";
@@ -91,8 +80,8 @@ void AppendCsvHeading(std::string& out, const std::vector<std::string>& heading)
         AppendCsvCell(out, name);
         out += ',';
     }
-    for (const ResultColumn& column : resultColumns)
-        out.append(column.Name).append(",");
+    for (const Figure column : resultColumns)
+        out.append(EntryOf(column).FullName).append(",");
     out.append(lblStdQualColumn)
         .append(",")
         .append(lblGMHQualColumn)
@@ -102,8 +91,8 @@ void AppendCsvHeading(std::string& out, const std::vector<std::string>& heading)
 }
 
 void AppendCsvResults(std::string& out, const Session& session) {
-    for (const ResultColumn& column : resultColumns) {
-        Module1::AppendCents(column.Value(session), out);
+    for (const Figure column : resultColumns) {
+        Module1::AppendCents(EntryOf(column).Value(session), out);
         out += ',';
     }
     out.append(session.Screen.lblStdQual.Text).append(",").append(session.Screen.lblGMHQual.Text).append(",");

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "app/batch/RecordTables.h"
+#include "engine/Figures.h"
 
 namespace Ledgrove {
 
@@ -147,22 +147,22 @@ std::string_view AppearanceText(const Label& label) {
     return appearances[static_cast<std::size_t>(label.Colour)][label.Visible ? 1 : 0];
 }
 
-template <typename Record, std::size_t Count>
-void AppendFigures(std::string& out, const Record& record, const Figure<Record> (&figures)[Count]) {
+/// The members of one record, without the brace that ends them.
+void AppendFigures(std::string& out, const Records& records, FigureRecord record) {
     char opening = '{';
-    for (const auto& [name, member] : figures) {
-        AppendKey(out, name, opening);
-        AppendNumber(out, record.*member);
+    for (const FigureEntry& figure : FiguresOf(record)) {
+        AppendKey(out, figure.Name, opening);
+        AppendNumber(out, figure.Value(records));
         opening = ',';
     }
 }
 
 void AppendScenario(std::string& out, const Session& session) {
-    AppendFigures(out, session.Scenario, ScenarioFigures);
+    AppendFigures(out, session, FigureRecord::Scenario);
     AppendKey(out, "DownAsPercent");
     AppendFlag(out, session.Scenario.DownAsPercent);
     AppendKey(out, "YearsInHome");
-    out += std::to_string(session.Assumptions.YearsInHome);
+    out += std::to_string(session.Scenario.YearsInHome);
     AppendKey(out, "EEM notice flag");
     AppendFlag(out, session.Scenario.EEMNoticeFlag);
     out += '}';
@@ -225,10 +225,10 @@ void ResultJson::Append(std::string& out, const Comparison& comparison) const {
     AppendKey(out, "Scenario");
     AppendScenario(out, session);
     AppendKey(out, "StdCase");
-    AppendFigures(out, session.StdCase, HomeFigures);
+    AppendFigures(out, session, FigureRecord::StdCase);
     out += '}';
     AppendKey(out, "GMHCase");
-    AppendFigures(out, session.GMHCase, HomeFigures);
+    AppendFigures(out, session, FigureRecord::GMHCase);
     out += '}';
     AppendKey(out, "messages");
     AppendMessages(out, comparison.Messages());

@@ -23,9 +23,7 @@ void PutScreen(Session& session, const Session& from) {
     session.Screen = from.Screen;
     session.Screen.SSTab1 = tab;
     session.Screen.DetlFrame = panels;
-    session.Scenario = from.Scenario;
-    session.StdCase = from.StdCase;
-    session.GMHCase = from.GMHCase;
+    static_cast<Results&>(session) = from;
     session.ChosenHouse = {};
 }
 
@@ -45,7 +43,7 @@ std::string NoComparison(const std::filesystem::path& file, const Refusal& refus
 
 /// Opening a file is not choosing an option, so what is said at that choice stays unsaid.
 void ShowNotices(const Comparison& comparison, Host& host) {
-    const auto atChoice = Module1::OptionMessage(comparison.State().Screen.cboGMHMortOption.Text());
+    const auto atChoice = Module1::OptionMessage(comparison.State().Screen.cboGMHMortOption.Option());
     for (const Message& message : comparison.Messages()) {
         if (!atChoice || message.Text != atChoice->Text)
             host.ShowMessage(message);

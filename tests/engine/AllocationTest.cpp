@@ -1,3 +1,5 @@
+#include "engine/Evaluate.h"
+#include "engine/ReadScreen.h"
 #include "engine/Recalculate.h"
 #include "tests/engine/TestSession.h"
 
@@ -65,6 +67,18 @@ TEST(AllocationTest, NorDoesOneWithAnotherLoan) {
     Module1::Recalculate(session, host);
     session.Screen.chkDoTax0 = false;
     EXPECT_EQ(RequestsOf(session, host), 0);
+}
+
+TEST(AllocationTest, AnEvaluationNeverAsksForMemory) {
+    const Session session = Testing::SampleSession();
+    Inputs inputs = Module1::ReadInputs(session.Screen);
+    Carried carried;
+    const long before = requests;
+    for (const float price : {206000.0F, 99000.0F, 3e38F, 0.0F}) {
+        inputs.GMH.Cost = price;
+        Module1::Evaluate(inputs, session, carried);
+    }
+    EXPECT_EQ(requests - before, 0);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "engine/CashFlow.h"
+#include "engine/ShowResults.h"
 
 #include "tests/engine/TestSession.h"
 
@@ -27,6 +27,7 @@ protected:
         scenario.SavingsAfter7Years = 1399;
         scenario.SavingsAfterYearsInHome = 1400;
         scenario.SavingsAfter30Years = 14600;
+        scenario.YearsInHome = 7;
         m_session.StdCase.Cost = 200000;
         m_session.GMHCase.Cost = 206000;
         m_session.StdCase.PITIU = 1665;
@@ -35,7 +36,7 @@ protected:
     }
 
     const MainScreen& Show() {
-        ShowCashFlowResults(m_session);
+        ShowCashFlowResults(m_session, m_session.Screen);
         return m_session.Screen;
     }
     const MainScreen& ShowWithoutTaxes() {
@@ -189,7 +190,7 @@ TEST_F(CashFlowDisplay, TheSummaryTellsTheSavingsOverTime) {
     EXPECT_EQ(screen.lbl30YrPre.Text, "$14,600");
     EXPECT_EQ(screen.lblTerm.Text, "30 Years");
     EXPECT_EQ(screen.lblYrsIn.Text, " Expected Savings After:   7 Years");
-    m_session.Assumptions.YearsInHome = 0;
+    m_session.Scenario.YearsInHome = 0;
     m_session.Screen.xMortTerm = 15;
     Show();
     EXPECT_EQ(screen.lblYrsIn.Text, " Expected Savings After:   0 Years");

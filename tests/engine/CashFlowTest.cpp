@@ -1,5 +1,7 @@
 #include "engine/CashFlow.h"
 
+#include "engine/ReadScreen.h"
+
 #include "tests/engine/TestSession.h"
 
 #include <gtest/gtest.h>
@@ -75,7 +77,7 @@ protected:
     }
 
     const Scenario& Compute() {
-        ComputeCashFlow(m_session);
+        ComputeCashFlow(ReadInputs(m_session.Screen), m_session, m_session);
         return m_session.Scenario;
     }
 

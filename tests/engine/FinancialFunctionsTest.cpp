@@ -52,6 +52,18 @@ TEST(FinancialFunctions, InterestAndPrincipalOfEveryPeriodRepayTheLoan) {
     EXPECT_NEAR(principal, loan, 1e-6);
 }
 
+TEST(FinancialFunctions, TheUnpaidBalanceIsWhatThePaymentsLeave) {
+    const double loan = 120000;
+    const double payment = PMT(0.005, 240, -loan);
+    double owed = loan;
+    for (int paid = 0; paid <= 240; ++paid) {
+        EXPECT_NEAR(UnpaidBalance(0.005, paid, 240, loan), owed, 1e-6) << paid;
+        owed -= payment - owed * 0.005;
+    }
+    EXPECT_DOUBLE_EQ(UnpaidBalance(0, 60, 240, 120000), 90000); // three quarters are left
+    EXPECT_DOUBLE_EQ(UnpaidBalance(0.005, 0, 240, -loan), -loan);
+}
+
 TEST(FinancialFunctions, NoPeriodsGiveNoFiniteAnswer) {
     EXPECT_FALSE(std::isfinite(PMT(0, 0, -1000)));
     EXPECT_FALSE(std::isfinite(PMT(0.005, 0, -1000)));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/LoanRules.h"
+#include "engine/ReadScreen.h"
 #include "tests/engine/TestSession.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +20,11 @@ protected:
         m_session.Scenario.CostDifference = 6000;
     }
 
-    void Compute(Module1::HomeCode code) { Module1::ComputeHomeCase(m_session, code, m_host); }
+    void Compute(HomeCode code) {
+        m_session.NoticeApplies = false;
+        Module1::ComputeHomeCase(Module1::ReadInputs(m_session.Screen), m_session, code, m_session);
+        m_notices += m_session.NoticeApplies ? 1 : 0;
+    }
     void SetSavings(float monthly) {
         m_session.StdCase.UtilMonthly = monthly;
         m_session.Scenario.UtilitySavings = monthly;
@@ -35,7 +40,7 @@ protected:
     }
 
     Session m_session = StartedSession();
-    ScriptedHost m_host;
+    int m_notices = 0; ///< how often the notice was due
 };
 
 } // namespace Ledgrove::Testing

@@ -19,13 +19,13 @@ TEST_F(LoanRules, MinAndMaxGiveTheSecondOnEqualOperands) {
 
 TEST_F(LoanRules, ALoanTypeIsFoundByItsPlaceAndNotItsNumber) {
     m_session.LoanTypes[1].Number = 99;
-    EXPECT_EQ(FindLoanType(m_session.LoanTypes, 2), &m_session.LoanTypes[1]);
-    EXPECT_EQ(FindLoanType(m_session.LoanTypes, 1), &m_session.LoanTypes.front());
-    EXPECT_EQ(FindLoanType(m_session.LoanTypes, 7), &m_session.LoanTypes.back());
-    EXPECT_EQ(FindLoanType(m_session.LoanTypes, 0), nullptr);
-    EXPECT_EQ(FindLoanType(m_session.LoanTypes, 8), nullptr);
-    EXPECT_EQ(FindLoanType(m_session.LoanTypes, -1), nullptr);
-    EXPECT_EQ(FindLoanType({}, 1), nullptr);
+    EXPECT_EQ(FindLoanType(m_session.LoanTypes, MortgageOption::FannieMaeEEM), &m_session.LoanTypes[1]);
+    EXPECT_EQ(FindLoanType(m_session.LoanTypes, MortgageOption::Conventional), &m_session.LoanTypes.front());
+    EXPECT_EQ(FindLoanType(m_session.LoanTypes, MortgageOption::VAEEM), &m_session.LoanTypes.back());
+    EXPECT_EQ(FindLoanType(m_session.LoanTypes, std::nullopt), nullptr);
+    m_session.LoanTypes.resize(6);
+    EXPECT_EQ(FindLoanType(m_session.LoanTypes, MortgageOption::VAEEM), nullptr);
+    EXPECT_EQ(FindLoanType({}, MortgageOption::Conventional), nullptr);
 }
 
 TEST_F(LoanRules, ComputeTheMonthlyCostOfTheBaseHome) {
@@ -45,7 +45,7 @@ TEST_F(LoanRules, ComputeTheMonthlyCostOfTheBaseHome) {
     EXPECT_EQ(home.FrontRatio, 0.280F);
     EXPECT_EQ(home.BackRatio, 0.360F);
     EXPECT_EQ(home.PVSavings, 0);
-    EXPECT_TRUE(m_host.Messages.empty());
+    EXPECT_EQ(m_notices, 0);
 }
 
 TEST_F(LoanRules, TakeEachHomesRatiosFromItsOwnOption) {

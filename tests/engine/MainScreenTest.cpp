@@ -139,15 +139,15 @@ TEST(OptionItems, OfTheBaseHomeArePlainTypes) {
 }
 
 TEST(OptionItems, OfTheLabelledHomeGoWithTheBaseChoice) {
-    EXPECT_THAT(TextsAndCodes(LabelledOptionItems(1)),
+    EXPECT_THAT(TextsAndCodes(LabelledOptionItems(MortgageOption::Conventional)),
                 ElementsAre(std::pair("Conventional", 1), std::pair("Fannie Mae EEM", 2),
                             std::pair("Freddie Mac EEM", 3)));
-    EXPECT_THAT(TextsAndCodes(LabelledOptionItems(4)),
+    EXPECT_THAT(TextsAndCodes(LabelledOptionItems(MortgageOption::FHA)),
                 ElementsAre(std::pair("FHA", 4), std::pair("FHA EEM", 5)));
-    EXPECT_THAT(TextsAndCodes(LabelledOptionItems(6)),
+    EXPECT_THAT(TextsAndCodes(LabelledOptionItems(MortgageOption::VA)),
                 ElementsAre(std::pair("VA", 6), std::pair("VA EEM", 7)));
-    EXPECT_TRUE(LabelledOptionItems(0).empty());
-    EXPECT_TRUE(LabelledOptionItems(2).empty());
+    EXPECT_TRUE(LabelledOptionItems(std::nullopt).empty());
+    EXPECT_TRUE(LabelledOptionItems(MortgageOption::FannieMaeEEM).empty());
 }
 
 TEST(PickList, ShowsItsSelectedItem) {
@@ -155,9 +155,11 @@ TEST(PickList, ShowsItsSelectedItem) {
     list.Items = BaseOptionItems();
     EXPECT_EQ(list.Text(), "");
     EXPECT_EQ(list.Code(), 0);
+    EXPECT_EQ(list.Option(), std::nullopt);
     list.Selected = 1;
     EXPECT_EQ(list.Text(), "FHA");
     EXPECT_EQ(list.Code(), 4);
+    EXPECT_EQ(list.Option(), MortgageOption::FHA);
     list.Selected = 3;
     EXPECT_EQ(list.Text(), "");
     EXPECT_EQ(list.Code(), 0);

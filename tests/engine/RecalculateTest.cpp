@@ -205,7 +205,7 @@ TEST_F(Recalculation, KeepsTheLastAllowanceForAnotherOption) {
 }
 
 TEST_F(Recalculation, FixedDownOnABasePriceOfZeroZeroesBothHomes) {
-    m_session.Scenario.DownAsPercent = false;
+    m_session.Screen.optDownPayment = 1;
     m_session.Screen.ecStdHome.Text = "$0";
     m_session.Screen.ecMonthlyDebt.Text = "$0";
     m_session.Screen.ecFixedDown.Text = "$10,000";
@@ -234,8 +234,17 @@ TEST_F(Recalculation, AHigherLabelledRateAddsMortgageInRedAndSavesTaxes) {
 TEST_F(Recalculation, ShowsTheEEMNoticeOncePerEdit) {
     m_session.Screen.ecGMHHome.Text = "$209,229"; // an upgrade of 9,229 against savings worth 9,228.96
     m_session.Scenario.EEMNoticeFlag = true;
+    std::string priceBehindTheNotice;
+    m_host.OnMessage = [&](const Message&) { priceBehindTheNotice = m_session.Screen.lblGMHHome.Text; };
     Run();
-    EXPECT_EQ(m_host.Messages.size(), 1U);
+    ASSERT_EQ(m_host.Messages.size(), 1U);
+    const Message& notice = m_host.Messages.front();
+    EXPECT_EQ(notice.Text, "The homebuyer may not qualify for the EEM you have selected because the present "
+                           "value of the savings are less than the cost of the energy efficiency upgrade.");
+    EXPECT_EQ(notice.Title, "Ledgrove");
+    EXPECT_EQ(notice.Icon, MessageIcon::None);
+    EXPECT_EQ(notice.Buttons, MessageButtons::Ok);
+    EXPECT_EQ(priceBehindTheNotice, "$209,229"); // the figures that it speaks of
     m_session.Screen.ecIncome.Text = "$80,000";
     Run();
     EXPECT_EQ(m_host.Messages.size(), 1U);
@@ -254,6 +263,31 @@ TEST_F(Recalculation, YieldsOnceAtItsEnd) {
     Run();
     EXPECT_EQ(m_host.PendingEventRuns, 1);
     EXPECT_EQ(netWhenYielding, "$13");
+}
+
+TEST_F(Recalculation, IsUpToDateUntilAnInputChanges) {
+    EXPECT_FALSE(IsUpToDate(m_session));
+    Run();
+    EXPECT_TRUE(IsUpToDate(m_session));
+    m_session.Screen.ecIncome.Text = "72000.00"; // the same amount in other words
+    EXPECT_TRUE(IsUpToDate(m_session));
+    m_session.Screen.ecIncome.Text = "$72,001";
+    EXPECT_FALSE(IsUpToDate(m_session));
+    Run();
+    m_session.Screen.chkDoTax0 = false;
+    EXPECT_FALSE(IsUpToDate(m_session));
+}
+
+TEST_F(Recalculation, IsNotUpToDateWhileTheNoticeFlagWaitsToBeSpent) {
+    Run();
+    m_session.Scenario.EEMNoticeFlag = true; // typed and typed back
+    EXPECT_FALSE(IsUpToDate(m_session));
+    Run();
+    EXPECT_TRUE(IsUpToDate(m_session));
+    ChooseOptions(m_session, "FHA", "FHA");
+    Run();
+    m_session.Scenario.EEMNoticeFlag = true; // an option that is not an EEM leaves it set
+    EXPECT_TRUE(IsUpToDate(m_session));
 }
 
 struct PanelRow {

@@ -90,7 +90,7 @@ inline void ChooseOptions(Session& session, std::string_view base, std::string_v
     MainScreen& screen = session.Screen;
     screen.cboStdMortOption.Items = BaseOptionItems();
     screen.cboStdMortOption.Selected = screen.cboStdMortOption.IndexOf(base);
-    screen.cboGMHMortOption.Items = LabelledOptionItems(screen.cboStdMortOption.Code());
+    screen.cboGMHMortOption.Items = LabelledOptionItems(screen.cboStdMortOption.Option());
     screen.cboGMHMortOption.Selected = screen.cboGMHMortOption.IndexOf(labelled);
 }
 

@@ -117,10 +117,11 @@ TEST_F(MainScreenClicks, FannieMaeExplainsItselfEveryTime) {
 }
 
 TEST_F(MainScreenClicks, NoOtherOptionHasAMessage) {
-    for (const char* option :
-         {"Conventional", "Freddie Mac EEM", "FHA", "FHA EEM", "VA", "VA EEM", "", "fannie mae eem"})
-        EXPECT_FALSE(OptionMessage(option)) << option;
-    EXPECT_TRUE(OptionMessage("Fannie Mae EEM"));
+    using enum MortgageOption;
+    for (const MortgageOption option : {Conventional, FreddieMacEEM, FHA, FHAEEM, VA, VAEEM})
+        EXPECT_FALSE(OptionMessage(option)) << CodeOf(option);
+    EXPECT_FALSE(OptionMessage(std::nullopt));
+    EXPECT_TRUE(OptionMessage(MortgageOption::FannieMaeEEM));
 }
 
 TEST_F(MainScreenClicks, TheMessageComesBeforeTheNotice) {

@@ -1,9 +1,29 @@
-#include "engine/CashFlow.h"
+#include "engine/ShowResults.h"
+
 #include "engine/NumberText.h"
 
 namespace Ledgrove::Module1 {
 
 namespace {
+
+struct HomeLabels {
+    Label &PITI, &MortPayment, &UtilMonthly, &Price, &Down, &Down2, &Mortgage, &Mort, &MaxPayment, &MaxLoan,
+        &Qualifies;
+};
+
+void ShowHome(const HomeCase& home, bool qualifies, const HomeLabels& labels) {
+    MoneyText(home.PITI, labels.PITI.Text);
+    MoneyText(home.MortPayment, labels.MortPayment.Text);
+    MoneyText(home.UtilMonthly, labels.UtilMonthly.Text);
+    MoneyText(home.Cost, labels.Price.Text);
+    MoneyText(home.DownPayment, labels.Down.Text);
+    labels.Down2.Text = labels.Down.Text;
+    MoneyText(home.LoanAmount, labels.Mortgage.Text);
+    labels.Mort.Text = labels.Mortgage.Text;
+    MoneyText(home.MaxPayment, labels.MaxPayment.Text);
+    MoneyText(home.MaxLoan, labels.MaxLoan.Text);
+    labels.Qualifies.Text = qualifies ? "YES" : "*NO";
+}
 
 float YearOf(double monthly) {
     return static_cast<float>(monthly * 12);
@@ -48,17 +68,17 @@ void ShowCashFlowPanel(MainScreen& screen, const Scenario& scenario) {
     ShowAmount(screen.lblNetCashYr, YearOf(net));
 }
 
-void ShowMoreHomePanel(MainScreen& screen, const Session& session, bool withTaxes) {
-    const Scenario& scenario = session.Scenario;
+void ShowMoreHomePanel(MainScreen& screen, const Results& results, bool withTaxes) {
+    const Scenario& scenario = results.Scenario;
     const float monthly = withTaxes ? scenario.NetMonthlyCashFlow : scenario.NetBeforeTax;
     const float today = withTaxes ? scenario.PVNetCashFlow : scenario.PVNetBeforeTax;
     // The same monthly housing budget for both homes, on purpose.
-    MoneyText(session.StdCase.PITIU, screen.lblMonthlyHCStd.Text);
-    MoneyText(session.StdCase.PITIU, screen.lblMonthlyHCGM.Text);
-    MoneyText(session.StdCase.Cost, screen.lblHouseValueStd.Text);
+    MoneyText(results.StdCase.PITIU, screen.lblMonthlyHCStd.Text);
+    MoneyText(results.StdCase.PITIU, screen.lblMonthlyHCGM.Text);
+    MoneyText(results.StdCase.Cost, screen.lblHouseValueStd.Text);
     MoneyText(monthly, screen.lblNetCashMoTx.Text);
     MoneyText(today, screen.lblExtrasTx.Text);
-    MoneyText(Sum(today, session.GMHCase.Cost), screen.lblHouseValueGM.Text);
+    MoneyText(Sum(today, results.GMHCase.Cost), screen.lblHouseValueGM.Text);
     std::string& sentence = screen.Label6.Text;
     sentence = screen.lblNetCashMoTx.Text;
     sentence += " more per month";
@@ -67,8 +87,8 @@ void ShowMoreHomePanel(MainScreen& screen, const Session& session, bool withTaxe
     sentence += " more today";
 }
 
-void ShowSummaryPanel(MainScreen& screen, const Session& session, bool withTaxes) {
-    const Scenario& scenario = session.Scenario;
+void ShowSummaryPanel(MainScreen& screen, const Results& results, bool withTaxes) {
+    const Scenario& scenario = results.Scenario;
     const float tax = scenario.ShownTaxSavings;
     screen.lblTaxSavmo2Text.Text = tax < 0 ? "Additional Taxes" : "Tax Savings";
     ShowAmount(screen.lbltaxsavmo2, tax);
@@ -76,8 +96,8 @@ void ShowSummaryPanel(MainScreen& screen, const Session& session, bool withTaxes
 
     // The labelled home's payment is shown after its tax savings, so that the two payments differ by the cash
     // flow.
-    MoneyText(session.StdCase.PITIU, screen.lblStdPITIU.Text);
-    MoneyText(Sum(session.GMHCase.PITIU, -tax), screen.lblGMHPITIU.Text);
+    MoneyText(results.StdCase.PITIU, screen.lblStdPITIU.Text);
+    MoneyText(Sum(results.GMHCase.PITIU, -tax), screen.lblGMHPITIU.Text);
     MoneyText(withTaxes ? scenario.NetMonthlyCashFlow : scenario.NetBeforeTax, screen.lblNetCashMo2.Text);
 
     MoneyText(scenario.SavingsAfterYearsInHome, screen.lblExpYrPre.Text);
@@ -86,23 +106,36 @@ void ShowSummaryPanel(MainScreen& screen, const Session& session, bool withTaxes
     MoneyText(scenario.SavingsAfter30Years, screen.lbl30YrPre.Text);
     screen.lblTerm.Text = "30 Years";
     screen.lblYrsIn.Text = " Expected Savings After:   ";
-    screen.lblYrsIn.Text += FormatPicture(static_cast<double>(session.Assumptions.YearsInHome), "#0");
+    screen.lblYrsIn.Text += FormatPicture(static_cast<double>(results.Scenario.YearsInHome), "#0");
     screen.lblYrsIn.Text += " Years";
 
-    const bool fannieMae = screen.cboGMHMortOption.Text() == "Fannie Mae EEM";
+    const bool fannieMae = screen.cboGMHMortOption.Option() == MortgageOption::FannieMaeEEM;
     screen.lblPV.Text = fannieMae ? "* PV of Savings" : "PV of Savings";
     screen.lblPVNote.Text = "* Fannie Mae refers to this as the Energy Savings Value";
     screen.lblPVNote.Visible = fannieMae;
-    ShowAmount(screen.lblPVofSavings, session.GMHCase.PVSavings);
+    ShowAmount(screen.lblPVofSavings, results.GMHCase.PVSavings);
 }
 
 } // namespace
 
-void ShowCashFlowResults(Session& session) {
-    MainScreen& screen = session.Screen;
-    ShowCashFlowPanel(screen, session.Scenario);
-    ShowMoreHomePanel(screen, session, screen.chkDoTax0);
-    ShowSummaryPanel(screen, session, screen.chkDoTax0);
+void ShowResults(const Results& results, MainScreen& screen) {
+    ShowAffordabilityResults(results, screen);
+    ShowCashFlowResults(results, screen);
+}
+
+void ShowAffordabilityResults(const Results& results, MainScreen& s) {
+    ShowHome(results.StdCase, results.StdQualifies,
+             {s.lblStdPITI, s.lblStdMortPayment, s.lblStdUtilMo, s.lblStdHome, s.lblStdDown, s.lblstddown2,
+              s.lblStdMortgage, s.lblStdMort, s.lblStdInc, s.lblStdMaxHome, s.lblStdQual});
+    ShowHome(results.GMHCase, results.GMHQualifies,
+             {s.lblGMHPITI, s.lblGMHMortPayment, s.lblGMHUtilMo, s.lblGMHHome, s.lblgmhDown, s.lblgmhdown2,
+              s.lblgmhMortgage, s.lblGMHMort, s.lblGMHInc, s.lblGMHMaxHome, s.lblGMHQual});
+}
+
+void ShowCashFlowResults(const Results& results, MainScreen& screen) {
+    ShowCashFlowPanel(screen, results.Scenario);
+    ShowMoreHomePanel(screen, results, screen.chkDoTax0);
+    ShowSummaryPanel(screen, results, screen.chkDoTax0);
 }
 
 } // namespace Ledgrove::Module1
