@@ -1,6 +1,6 @@
 #!/bin/sh
-# Puts Ledgrove into its user's home and the desktop's menu, brings an installed one up to date, or takes it out again.
-# Settings, and pictures that are the user's own, are never written over or removed.
+# Installs Ledgrove into the user's home and the desktop's menu, updates an installed Ledgrove, or removes it.
+# It never overwrites or removes the settings or files that the user has changed.
 set -eu
 
 id=org.ledgrove.Ledgrove
@@ -15,11 +15,11 @@ fail() {
 usage() {
     cat <<'EOF'
 usage: ./install.sh            installs Ledgrove for you, or updates it
-       ./install.sh --remove   removes it and leaves your settings
+       ./install.sh --remove   removes it and keeps your settings
 EOF
 }
 
-# The folders, all of this user.
+# All folders belong to the user who runs this script.
 [ -n "${HOME:-}" ] || fail "HOME is not set. Set it to your home folder $again"
 here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd -P)
 case "${XDG_DATA_HOME:-}" in
@@ -28,10 +28,10 @@ case "${XDG_DATA_HOME:-}" in
 esac
 bin=$HOME/.local/bin
 program=$data/ledgrove
-# What was installed, a file a line: its checksum and length as it came, and its name.
+# The installed files, one per line: checksum and length of the shipped file, and its name.
 list=$program/.installed
 
-# The files that a user may have made his own: touched only while they are as they came.
+# Files that a user may change: install.sh replaces or removes them only while they are unchanged.
 may_be_own() {
     case $1 in
     share/*) return 1 ;;
@@ -44,7 +44,7 @@ sum_of() {
     cksum <"$1" | tr '\t' ' '
 }
 
-# The checksum and length with which a file came, nothing for one that install.sh did not bring.
+# Checksum and length of a file as it was shipped; nothing for a file that install.sh did not install.
 sum_as_it_came() {
     [ -f "$list" ] || return 0
     while read -r sum length name; do
@@ -59,15 +59,15 @@ is_own() {
 }
 
 make_folder() {
-    mkdir -p -- "$1" || fail "The folder \"$1\" cannot be made. See that you may write there $again"
+    mkdir -p -- "$1" || fail "The folder \"$1\" cannot be made. Get permission to write there $again"
 }
 
-# A running program keeps the file that it began with, and an interrupted copy leaves the old one.
+# Renames a finished copy into place: a running program keeps its open file, and an interrupted copy leaves the old file.
 copy() {
     make_folder "$(dirname -- "$2")"
     if ! cp -- "$1" "$2.new" || ! chmod u+w -- "$2.new" || ! mv -f -- "$2.new" "$2"; then
         rm -f -- "$2.new"
-        fail "\"$2\" cannot be written. Make room there, or see that you may write, $again"
+        fail "\"$2\" cannot be written. Free some space there, or get permission to write, $again"
     fi
 }
 
@@ -76,30 +76,30 @@ check_links() {
         link=$bin/$name
         if [ -e "$link" ] || [ -L "$link" ]; then
             [ "$(readlink -- "$link" || true)" = "$program/$name" ] ||
-                fail "\"$link\" is something else than this Ledgrove. Move it away $again"
+                fail "\"$link\" is not a link to this Ledgrove. Move it away $again"
         fi
     done
 }
 
 check_source() {
-    [ -f "$here/share/files" ] || fail "\"$here/share/files\" is missing. Unpack Ledgrove afresh $again"
+    [ -f "$here/share/files" ] || fail "\"$here/share/files\" is missing. Unpack Ledgrove again $again"
     while read -r name; do
-        [ -f "$here/$name" ] || fail "\"$here/$name\" is missing. Unpack Ledgrove afresh $again"
+        [ -f "$here/$name" ] || fail "\"$here/$name\" is missing. Unpack Ledgrove again $again"
     done <"$here/share/files"
 }
 
-# Copies one file and notes how it came; says when the user's own stays.
+# Copies one file and prints its entry for the list; warns when it keeps a file that the user changed.
 install_file() {
     came=$(sum_as_it_came "$1")
     if [ "$1" = Ledgrove.ini ]; then
-        # An interrupted save left the settings in the temporary file: a fresh copy would hide them.
+        # After an interrupted save the settings are in the temporary file: a fresh copy would hide them.
         if [ ! -e "$program/$1" ] && [ ! -e "$program/Pennaro2.INI" ]; then
             copy "$here/$1" "$program/$1"
         fi
         return
     fi
     if is_own "$1" && ! cmp -s -- "$here/$1" "$program/$1"; then
-        echo "Your own \"$1\" stays." >&2
+        echo "Your own \"$1\" is kept." >&2
         [ -z "$came" ] || echo "$came $1"
         return
     fi
@@ -111,7 +111,7 @@ remove_file() {
     is_own "$1" || rm -f -- "$program/$1"
 }
 
-# What the version before this one had and this one has not.
+# Removes files that the installed version has and this one lacks.
 remove_dropped() {
     [ -f "$list" ] || return 0
     while read -r sum length name; do
@@ -121,7 +121,7 @@ remove_dropped() {
 
 copy_program() {
     make_folder "$program"
-    : >"$list.new" || fail "\"$program\" cannot be written to. See that you may write there $again"
+    : >"$list.new" || fail "\"$program\" cannot be written to. Get permission to write there $again"
     while read -r name; do
         install_file "$name" >>"$list.new"
     done <"$here/share/files"
@@ -129,7 +129,7 @@ copy_program() {
     mv -f -- "$list.new" "$list"
 }
 
-# A path as the entry's Exec line wants it: in quotes, then with every backslash doubled.
+# A path in the form of the entry's Exec line: in quotes, then with every backslash doubled.
 exec_path() {
     printf '%s\n' "$1" | sed -e 's/[\\"`$]/\\&/g' -e 's/\\/\\\\/g' -e 's/%/%%/g' -e 's/.*/"&"/'
 }
@@ -143,7 +143,7 @@ write_entry() {
         *) printf '%s\n' "$line" ;;
         esac
     done <"$program/share/applications/$id.desktop" >"$entry.new" ||
-        fail "\"$entry\" cannot be written. Make room there $again"
+        fail "\"$entry\" cannot be written. Free some space there $again"
     mv -f -- "$entry.new" "$entry"
 }
 
@@ -159,11 +159,11 @@ make_links() {
     make_folder "$bin"
     for name in ledgrove ledgrove-cli; do
         [ -L "$bin/$name" ] || ln -s -- "$program/$name" "$bin/$name" ||
-            fail "\"$bin/$name\" cannot be made. See that you may write there $again"
+            fail "\"$bin/$name\" cannot be made. Get permission to write there $again"
     done
 }
 
-# The desktop's own lists of what opens what; a desktop without these tools reads the files themselves.
+# The desktop's caches of file types and applications; a desktop without these tools reads the files directly.
 refresh_desktop() {
     if [ -d "$data/mime/packages" ] && command -v update-mime-database >/dev/null 2>&1; then
         update-mime-database "$data/mime" >/dev/null 2>&1 || true
@@ -211,7 +211,7 @@ remove_desktop() {
     remove_empty_lists
 }
 
-# The desktop's lists, where nothing is left to be listed.
+# Removes the desktop's caches that have become empty.
 remove_empty_lists() {
     rm -f -- "$data/mime/application/$type.xml"
     rmdir -- "$data/mime/application" "$data/mime/packages" 2>/dev/null || true
@@ -228,7 +228,7 @@ remove_empty_lists() {
     rmdir -- "$data/icons/hicolor" "$data/icons" "$data/mime" "$data/applications" 2>/dev/null || true
 }
 
-# Folders that have become empty, the innermost first.
+# Removes folders that have become empty, the innermost first.
 remove_folders() {
     find "$program" -depth -type d -exec rmdir -- {} + 2>/dev/null || true
 }

@@ -1,4 +1,4 @@
-"""The folder that users get: what is in it, that it runs from anywhere, and what install.sh does to a home."""
+"""The folder that users get: its contents, that it runs from anywhere, and what install.sh changes in a home."""
 import json
 import os
 import re
@@ -26,7 +26,7 @@ VERSION = re.search(r"project\(Ledgrove VERSION ([\d.]+)", (SOURCE / "CMakeLists
 
 
 def files(folder):
-    """The names of all that is no folder, links too."""
+    """The names of everything except folders; links count as files."""
     return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_symlink() or not path.is_dir()}
 
 
@@ -41,7 +41,7 @@ def run(*command, status=0, home=None, folder=None):
 class PackageTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        # A blank and a letter beyond ASCII: what people call their folders.
+        # Users' folder names hold blanks and letters beyond ASCII.
         cls.top = Path(tempfile.mkdtemp())
         cls.addClassCleanup(shutil.rmtree, cls.top)
         cls.pristine = cls.top / "as built"
@@ -59,7 +59,7 @@ class Contents(PackageTest):
         self.assertEqual(files(self.pristine), CONTENTS)
         self.assertEqual(set((self.pristine / "share/files").read_text().split()), CONTENTS)
 
-    def test_what_is_to_be_started_may_be(self):
+    def test_only_programs_are_executable(self):
         for name in CONTENTS - MODULES:
             self.assertEqual(os.access(self.pristine / name, os.X_OK) and bool((self.pristine / name).stat().st_mode & 1),
                              name in PROGRAMS | {"install.sh"}, name)
@@ -74,7 +74,7 @@ class Contents(PackageTest):
             for path in {str(BUILD), str(SOURCE), str(BUILD.resolve()), str(SOURCE.resolve())}:
                 self.assertNotIn(path.encode() + b"/", content, name)
 
-    def test_libraries_are_looked_for_where_the_system_has_them(self):
+    def test_programs_use_the_systems_library_paths(self):
         for name in PROGRAMS | MODULES:
             dynamic = run("readelf", "-d", self.pristine / name).stdout
             self.assertIn("NEEDED", dynamic)
@@ -96,7 +96,7 @@ class Contents(PackageTest):
 
 
 class Packages(PackageTest):
-    """Which Debian packages it takes."""
+    """The Debian packages that it needs."""
 
     def named(self):
         return re.search(r"apt-get install --no-install-recommends (.+)", (self.pristine / "README.md").read_text())[1].split()
@@ -128,7 +128,7 @@ class Packages(PackageTest):
 
 
 class InPlace(PackageTest):
-    def test_every_program_tells_the_version(self):
+    def test_every_program_prints_its_version(self):
         for name in PROGRAMS:
             self.assertEqual(run(self.folder / name, "--version").stdout.strip(), f"{name} {VERSION}")
         self.assertIn(f"# Ledgrove {VERSION}\n", (self.folder / "README.md").read_text())
@@ -142,7 +142,7 @@ class InPlace(PackageTest):
         run(self.folder / "ledgrove-cli", "chart", "--output", "a.svg", SAMPLE, folder=self.folder)
         self.assertEqual(ElementTree.parse(self.folder / "a.svg").getroot().tag, "{http://www.w3.org/2000/svg}svg")
 
-    def test_settings_are_kept_beside_the_program(self):
+    def test_settings_are_kept_in_the_programs_folder(self):
         before = files(self.temporary)
         run(self.folder / "ledgrove-cli", "settings", "set", "BUILDERNAME", "Häuser GmbH", folder="/")
         self.assertEqual(files(self.temporary), before)
@@ -201,7 +201,7 @@ class Installing(PackageTest):
         self.assertEqual(files(self.program), CONTENTS | {".installed"})
         for name in CONTENTS:
             self.assertEqual((self.program / name).read_bytes(), (self.folder / name).read_bytes(), name)
-        shutil.rmtree(self.folder)  # from now on nothing may need it
+        shutil.rmtree(self.folder)  # nothing may need the source folder after this
         run(self.link, "settings", "set", "BUILDERNAME", "Acme Homes", home=self.home)
         self.assertIn(b"BUILDERNAME=Acme Homes\r\n", self.settings.read_bytes())
         run(self.link, "report", "--output", self.home / "a.pdf", self.program / SAMPLE, home=self.home)
@@ -220,14 +220,14 @@ class Installing(PackageTest):
         entry = self.data / f"applications/{ID}.desktop"
         run("desktop-file-validate", entry)
         command = re.search(r"^Exec=(.+) %f$", entry.read_text(), re.M)[1]
-        # Undone as the desktop undoes it: the entry's own escapes, the quotes and what they guard, then the field codes.
+        # Decoded as the desktop does it: first the entry's escapes, then the quotes, then the field codes.
         text = command.replace("\\\\", "\\")
         self.assertEqual((text[0], text[-1]), ('"', '"'))
         self.assertEqual(re.sub(r"\\(.)", r"\1", text[1:-1]).replace("%%", "%"), str(self.program / "ledgrove"))
         for name in ICONS | {f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/mime/packages/{ID}.xml"}:
             self.assertEqual((self.data / name.removeprefix("share/")).read_bytes(), (self.pristine / name).read_bytes())
 
-    def test_an_update_keeps_what_is_the_users(self):
+    def test_an_update_keeps_the_users_files(self):
         self.install()
         run(self.link, "settings", "set", "BUILDERNAME", "Acme Homes", home=self.home)
         (self.program / "Pennaro2.INI").write_bytes(b"half a save")
@@ -237,7 +237,7 @@ class Installing(PackageTest):
         settings = self.settings.read_bytes()
         for name in ("LEDGROVE.HLP", "docs/guide.md", "ledgrove"):
             (self.program / name).write_bytes(b"of an older version")
-        # an unchanged picture follows the new version, and what that no longer has goes
+        # An update replaces an unchanged picture and removes a file that the new version lacks.
         (self.folder / "LedgroveEmblem.png").write_bytes(b"a newer emblem")
         (self.folder / "docs/cli.md").unlink()
         listed = self.folder / "share/files"
@@ -257,18 +257,18 @@ class Installing(PackageTest):
                                                "samples/mine.ledgrove.json", "logo.wmf"})
         self.assertEqual(self.settings.read_bytes(), settings)
 
-    def test_an_interrupted_save_is_not_hidden_by_fresh_settings(self):
+    def test_an_install_does_not_hide_an_interrupted_save(self):
         self.install()
         self.settings.rename(self.program / "Pennaro2.INI")
         self.install()
         self.assertFalse(self.settings.exists())
 
-    def test_removing_leaves_the_settings_alone_and_nothing_else(self):
+    def test_a_removal_leaves_only_the_settings(self):
         theirs = self.data / "applications/other.desktop"
         theirs.parent.mkdir(parents=True)
         theirs.write_text("[Desktop Entry]\nType=Application\nName=Other\nExec=other\n")
         self.install()
-        # by the copy that was installed: the folder it came from may be gone
+        # The installed copy does it, because the source folder may be gone.
         told = self.install("--remove", folder=self.program).stdout
         self.assertIn(f"still in \"{self.program}\"", told)
         self.assertEqual(self.left() - {".local/share/applications/mimeinfo.cache"},
@@ -279,7 +279,7 @@ class Installing(PackageTest):
         self.install("--remove")
         self.assertEqual(self.left(), {".local/share/ledgrove/Ledgrove.ini"})
 
-    def test_twice_is_as_once(self):
+    def test_a_second_install_changes_nothing(self):
         self.install()
         once = {name: (self.home / name).read_bytes() for name in self.left()}
         self.install()
@@ -294,25 +294,25 @@ class Installing(PackageTest):
         self.assertTrue((other / f"applications/{ID}.desktop").exists())
         self.assertEqual(self.left(), {".local/bin/ledgrove", ".local/bin/ledgrove-cli"})
 
-    def test_another_programs_file_in_the_way_is_told_before_anything_is_done(self):
+    def test_a_foreign_file_in_place_of_the_link_stops_the_install(self):
         self.link.parent.mkdir(parents=True)
         self.link.write_text("someone's script")
         told = self.install(status=1).stderr
-        self.assertIn(f"\"{self.link}\" is something else than this Ledgrove. Move it away", told)
+        self.assertIn(f"\"{self.link}\" is not a link to this Ledgrove. Move it away", told)
         self.assertEqual(self.left(), {".local/bin/ledgrove-cli"})
         self.assertEqual(self.link.read_text(), "someone's script")
 
-    def test_a_folder_with_a_file_missing_is_told_before_anything_is_done(self):
+    def test_a_missing_file_in_the_source_folder_stops_the_install(self):
         (self.folder / "ledgrove-report").unlink()
         self.assertIn(f"\"{self.folder}/ledgrove-report\" is missing. Unpack", self.install(status=1).stderr)
         self.assertEqual(self.left(), set())
 
-    def test_a_place_that_is_no_folder_is_told(self):
+    def test_a_file_in_place_of_the_program_folder_is_reported(self):
         self.data.mkdir(parents=True)
         self.program.write_text("a file")
         self.assertIn(f"The folder \"{self.program}\" cannot be made.", self.install(status=1).stderr)
 
-    def test_unknown_words_and_help(self):
+    def test_unknown_arguments_and_help(self):
         self.assertIn("usage:", self.install("--what", status=2).stderr)
         self.assertIn("--remove", self.install("--help").stdout)
         self.assertEqual(self.left(), set())
