@@ -1,5 +1,4 @@
-# One interface target carries the language level, the warnings and the floating-point rules, so that every
-# target is built alike.
+# One interface target sets the language level, the warnings and the floating-point rules for every target.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -12,15 +11,15 @@ add_library(ledgrove_compiler INTERFACE)
 target_include_directories(ledgrove_compiler INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(ledgrove_compiler INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow
-    # Amounts are float in records and double in formulas: every narrowing must be a visible step.
+    # Records hold amounts as float and formulas use double: every narrowing must be explicit.
     -Wconversion -Wdouble-promotion
-    # A fused multiply-add rounds once where two steps round twice; without it every machine gives the same cents.
+    # A fused multiply-add rounds once instead of twice. Without it, every machine gives the same cents.
     -ffp-contract=off)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # g++ 12 warns of overlapping copies inside std::string itself (GCC bug 105651).
+    # g++ 12 warns about overlapping copies inside std::string (GCC bug 105651).
     target_compile_options(ledgrove_compiler INTERFACE -Wno-restrict)
 endif()
-# What users run names no folder of the machine that built it.
+# Keeps the build machine's paths out of released programs.
 target_compile_options(ledgrove_compiler INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
 if(LEDGROVE_WERROR)
     target_compile_options(ledgrove_compiler INTERFACE -Werror)

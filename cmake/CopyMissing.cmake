@@ -1,8 +1,8 @@
-# Copies the files of the folder FROM that the folder TO does not have. The help is nobody's work but the program's and is
-# brought up to date.
+# Copies the files of the folder FROM that the folder TO does not have. The help is always replaced, because users do not
+# edit it.
 file(GLOB_RECURSE names RELATIVE "${FROM}" "${FROM}/*")
 foreach(name IN LISTS names)
-    # An interrupted save left the settings in the temporary file: a fresh copy would hide them.
+    # After an interrupted save the settings are in the temporary file: a fresh copy would hide them.
     if(name STREQUAL "Ledgrove.ini" AND EXISTS "${TO}/Pennaro2.INI")
         continue()
     endif()
