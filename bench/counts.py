@@ -1,4 +1,4 @@
-"""Instructions counted under callgrind: the same on a busy machine as on a quiet one."""
+"""Instruction counts from callgrind, which do not depend on the machine's load."""
 import json
 import re
 import subprocess
@@ -25,7 +25,7 @@ def counted(command, environment, place, *options):
     except FileNotFoundError as missing:
         raise NotMeasured("valgrind is not installed (scripts/packages bench)") from missing
     except subprocess.TimeoutExpired as late:
-        raise NotMeasured("it did not end in 15 minutes under callgrind") from late
+        raise NotMeasured("the program did not end within 15 minutes under callgrind") from late
     found = re.search(r"Collected : (\d+)", log.read_text())
     if not found or int(found[1]) == 0:
         raise NotMeasured(f"callgrind counted nothing of {Path(command[0]).name}")

@@ -1,4 +1,4 @@
-"""The start of a program on a display of its own: until its first picture is there, and what it has loaded by then."""
+"""The start of a program on a separate display: the time to its first picture, and the libraries it has loaded by then."""
 import contextlib
 import subprocess
 import sys
@@ -9,18 +9,18 @@ from timing import ROOT, NotMeasured, median
 
 sys.path.insert(0, str(ROOT / "tests/e2e"))
 
-LATER = ("modules/", "libQt6Charts", "libQt6PrintSupport", "libcups", "libwmf", "LEDGROVE.HLP")  # what may come on first use only
+LATER = ("modules/", "libQt6Charts", "libQt6PrintSupport", "libcups", "libwmf", "LEDGROVE.HLP")  # may be loaded only on first use
 PATIENCE = 120  # seconds
 
 
 @contextlib.contextmanager
 def display():
-    """A screen with a window manager, as the tests of the real window have it, and no screen reader."""
+    """The screen and window manager of the end-to-end tests, without a screen reader."""
     from desktop import Desktop, Gone
     try:
         desktop = Desktop()
     except Gone as missing:
-        raise NotMeasured(f"{missing} did not come") from missing
+        raise NotMeasured(f"{missing} did not start") from missing
     try:
         desktop.environment.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", None)
         yield desktop
@@ -29,7 +29,7 @@ def display():
 
 
 def painting(place, desktop):
-    """The environment in which a program tells its first picture and ends."""
+    """The environment in which a program reports its first picture and ends."""
     return desktop.environment | {"LD_PRELOAD": str(place.programs.parent / "bench/first-paint.so"), "START_NS": str(time.monotonic_ns())}
 
 
@@ -44,7 +44,7 @@ def first_paint(place, desktop, command):
 
 
 def starts(place, folder, rounds):
-    """Medians of (milliseconds, KiB), of the program and of the empty window, by turns."""
+    """Medians of (milliseconds, KiB) of the program and of the empty window, started in turn."""
     commands = ([place.program("ledgrove"), "--folder", str(folder)], [place.program("empty_window")])
     with display() as desktop:
         taken = [[] for _ in commands]
@@ -57,7 +57,7 @@ def starts(place, folder, rounds):
 
 
 def loaded_at_start(place, folder):
-    """Which of LATER the program has mapped once its window stands there and nobody has done anything."""
+    """The files of LATER that the program has mapped once its window has appeared, before any input."""
     with display() as desktop:
         process = desktop.start(place.program("ledgrove"), "--folder", folder)
         deadline = time.monotonic() + PATIENCE
@@ -66,7 +66,7 @@ def loaded_at_start(place, folder):
             if time.monotonic() > deadline or process.poll() is not None:
                 raise NotMeasured("the main window did not appear")
             time.sleep(0.1)
-        time.sleep(2)  # what the program does on its own once it is painted
+        time.sleep(2)  # lets the program finish its work after the first paint
         maps = Path(f"/proc/{process.pid}/maps").read_text().replace(str(place.programs), "")
     files = {line.split(maxsplit=5)[5] for line in maps.splitlines() if len(line.split(maxsplit=5)) == 6}
     return sorted({Path(file).name for file in files for name in LATER if Path(file).name.startswith(name) or file.startswith("/" + name)})

@@ -1,4 +1,4 @@
-"""Price lists: the same comparisons as JSON lines and as CSV, every one with a price of its own."""
+"""Price lists: the same comparisons as JSON lines and as CSV, each with a different price."""
 import csv
 import io
 import json
@@ -13,14 +13,14 @@ COLUMNS = ("ecIncome", "ecMonthlyDebt", "optDownPayment", "ecPctDown", "ecFixedD
 
 
 def as_typed(value):
-    """What stands in a cell for a value of JSON."""
+    """The text of a CSV cell for a JSON value."""
     if isinstance(value, bool):
         return "true" if value else "false"
     return str(value) or "0"
 
 
 class PriceLists:
-    """Made of the golden comparisons that are not refused, over and over."""
+    """Repeats the golden comparisons that are not refused."""
 
     def __init__(self, place, lines):
         self.place = place
@@ -31,7 +31,7 @@ class PriceLists:
         return [self.place.program("ledgrove-cli"), "compare", "--folder", ROOT / "data", "--format", style, *options]
 
     def cases(self):
-        """Each as its line of JSON and as texts by name."""
+        """Each comparison as its line of JSON and as a dictionary of texts."""
         if self._cases is None:
             golden = [line for line in (ROOT / "tests/golden/compare/cases.jsonl").read_text().splitlines() if line.startswith("{")]
             run = subprocess.run(list(map(str, self.command("jsonl"))), input="\n".join(golden), capture_output=True, text=True,
@@ -77,7 +77,7 @@ class PriceLists:
         return rows
 
     def check(self, command):
-        """Runs a comparison of the whole JSON list: whether every result is the one of its line, and the peak memory in KiB."""
+        """Runs a comparison of the whole JSON list. Returns the first line with a wrong result, if any, and the peak KiB."""
         first_wrong = None
         count = peak = 0
         with subprocess.Popen([*map(str, command)], stdout=subprocess.PIPE, bufsize=1 << 20) as process:

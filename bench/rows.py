@@ -1,4 +1,4 @@
-"""The rows of the table: what is measured, against which floor, and what is to be reached."""
+"""The rows of the table: what each one measures, its floor and its limit."""
 import json
 import shutil
 from dataclasses import dataclass
@@ -23,7 +23,7 @@ class Finding:
 
     @property
     def verdict(self):
-        return "reached" if self.reached else f"FALLS SHORT: {self.ratio if self.ratio != '-' else self.figure}"
+        return "reached" if self.reached else f"MISSED: {self.ratio if self.ratio != '-' else self.figure}"
 
 
 def at_most(figure, floor, limit, unit):
@@ -33,13 +33,13 @@ def at_most(figure, floor, limit, unit):
 
 
 def rate_at_least(figure, floor, limit, floor_name=""):
-    """Comparisons a second as a multiple of the floor's."""
+    """Comparisons per second as a multiple of the floor's."""
     ratio = figure / floor
     return Finding(f"{figure:,.0f}/s", f"{floor_name}{floor:,.0f}/s", f"{ratio:.2f} x", f">= {limit} x", ratio >= limit)
 
 
 class Measurements:
-    """One run. What several rows tell is measured once."""
+    """One run. It measures once what several rows share."""
 
     def __init__(self, place, lines, hour):
         self.place = place
@@ -49,7 +49,7 @@ class Measurements:
 
     @cached_property
     def data(self):
-        """A program folder of this run's own."""
+        """A separate program folder for this run."""
         return shutil.copytree(ROOT / "data", self.place.folder / "data")
 
     # The window
@@ -96,13 +96,13 @@ class Measurements:
         return at_most(self.engine["Evaluation"], self.engine["PlainLoop"], 3, "ns")
 
     def recalculate(self):
-        # That it asks for no memory once warm is asserted by tests/engine/AllocationTest.cpp.
+        # tests/engine/AllocationTest.cpp asserts that it allocates no memory after the warm-up.
         return at_most(self.engine["Recalculation"], self.engine["PlainLoop"], 15, "ns")
 
     # Price lists
 
     def rates(self, *commands):
-        """The best of three rounds, in comparisons a second."""
+        """The best of three rounds, in comparisons per second."""
         return [self.prices.lines / min(times) for times in self.place.by_turns(commands, 3, warm_ups=0)]
 
     def one_core(self):
@@ -114,12 +114,12 @@ class Measurements:
         return rate_at_least(own, floor, 0.8)
 
     def jsonl_size(self):
-        """The floor is one only while it writes as much."""
+        """The floor is valid only if it writes as much."""
         few = self.prices.json(20_000)
         own = len(self.place.say(*self.prices.command("jsonl", "--jobs", "1", few)))
         plain = len(self.place.say(self.place.program("plain_json"), few))
         ratio = own / plain
-        return Finding(f"{own / 20_000:,.0f} bytes a line", f"{plain / 20_000:,.0f} bytes a line", f"{ratio:.2f} x", "0.95 to 1.05 x",
+        return Finding(f"{own / 20_000:,.0f} bytes per line", f"{plain / 20_000:,.0f} bytes per line", f"{ratio:.2f} x", "0.95 to 1.05 x",
                        0.95 <= ratio <= 1.05)
 
     @cached_property
@@ -178,7 +178,7 @@ class Measurements:
         return self._milliseconds_at_most("preview_bench", 100)
 
     def _houses(self, number):
-        """Medians of three dialogs: opened, saved."""
+        """Medians of three dialogs: opening, saving."""
         return tuple(map(median, zip(*(self.place.figures("houses_bench", number)[0] for _ in range(3)))))
 
     @cached_property
@@ -210,29 +210,29 @@ class Measurements:
         return Finding(f"{count / 1e6:,.1f} million", f"{before / 1e6:,.1f} million", f"{ratio:.3f} x", "<= 1.05 x", ratio <= 1.05)
 
 
-# What --only names, what the row says, and what measures it.
+# The row's name for --only, its description, and the method that measures it.
 ROWS = [
     ("start", "start to painted window / an empty window", Measurements.start),
-    ("start-memory", "its peak memory / an empty window", Measurements.start_memory),
-    ("start-libraries", "of charts, help, printing loaded at start", Measurements.start_libraries),
+    ("start-memory", "peak memory at start / an empty window", Measurements.start_memory),
+    ("start-libraries", "libraries of charts, help, printing loaded at start", Measurements.start_libraries),
     ("window", "Enter to labels and chart repainted, 1,000 times", Measurements.window),
     ("evaluate", "one evaluation / a plain loop in double", Measurements.evaluate),
     ("recalculate", "one recalculation / a plain loop in double", Measurements.recalculate),
     ("jsonl", "compare --format jsonl, one core / a plain program", Measurements.jsonl),
-    ("jsonl-size", "what it writes / what the plain program writes", Measurements.jsonl_size),
-    ("jsonl-memory", "its peak memory", Measurements.jsonl_memory),
-    ("jsonl-order", "its output in the order of its input", Measurements.jsonl_order),
-    ("jobs", "the same with --jobs 2 / one core", Measurements.jobs),
-    ("jobs-order", "its output in the order of its input", Measurements.jobs_order),
+    ("jsonl-size", "jsonl: size of the output / of the plain program's", Measurements.jsonl_size),
+    ("jsonl-memory", "jsonl: peak memory", Measurements.jsonl_memory),
+    ("jsonl-order", "jsonl: output in the order of the input", Measurements.jsonl_order),
+    ("jobs", "jsonl with --jobs 2 / one core", Measurements.jobs),
+    ("jobs-order", "jobs: output in the order of the input", Measurements.jobs_order),
     ("csv", "compare --format csv / --format jsonl, one core", Measurements.csv),
     ("one", "one comparison, whole process / one line printed", Measurements.one),
     ("pdf", "report as PDF, whole process / three plain pages", Measurements.pdf),
     ("composing", "composing the report", Measurements.composing),
     ("preview", "preview of page 1", Measurements.preview),
-    ("houses-open", "10,000 saved houses, dialog open to usable", Measurements.houses_open),
+    ("houses-open", "10,000 saved houses, dialog opened and painted", Measurements.houses_open),
     ("houses-save", "10,000 saved houses, saved", Measurements.houses_save),
     ("houses-linear", "100,000 saved houses / 10,000", Measurements.houses_linear),
-    ("loop", "an hour's edits ten times over: heap in use", Measurements.loop),
+    ("loop", "ten hours of edits: heap in use", Measurements.loop),
 ]
 ROWS += [(f"count-{name}", f"instructions: {what} / recorded", lambda run, name=name: run.count(name))
          for name, what in counts.WORK.items()]

@@ -1,4 +1,4 @@
-"""Processes measured from outside: how long they take, how much memory they have, what they say."""
+"""Runs processes and measures their time, memory and output."""
 import os
 import signal
 import subprocess
@@ -7,11 +7,11 @@ import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-PATIENCE = 600  # seconds that a single process may take
+PATIENCE = 600  # seconds, the limit for a single process
 
 
 class NotMeasured(Exception):
-    """Why there is no figure."""
+    """Explains why there is no figure."""
 
 
 def median(values):
@@ -19,7 +19,7 @@ def median(values):
 
 
 class Place:
-    """Where the programs are, and a folder of this run's own that goes when it ends."""
+    """The programs' folder, and a temporary folder for this run."""
 
     def __init__(self, build):
         self.programs = Path(build).resolve() / "bin"
@@ -37,7 +37,7 @@ class Place:
         self._folder.cleanup()
 
     def say(self, *command, patience=PATIENCE):
-        """What a program writes."""
+        """The standard output of a program."""
         try:
             run = subprocess.run(list(map(str, command)), env=self.environment, capture_output=True, text=True, timeout=patience)
         except subprocess.TimeoutExpired as late:
@@ -47,11 +47,11 @@ class Place:
         return run.stdout
 
     def figures(self, name, *arguments, **options):
-        """The numbers that a measuring program writes, line by line."""
+        """The numbers that a benchmark program prints, line by line."""
         return [tuple(map(float, line.split())) for line in self.say(self.program(name), *arguments, **options).splitlines()]
 
     def seconds(self, command):
-        """From the start of the process to its end; what it writes goes nowhere."""
+        """From the start of the process to its end; its output is discarded."""
         command = list(map(str, command))
         nowhere = [(os.POSIX_SPAWN_OPEN, 1, "/dev/null", os.O_WRONLY, 0)]
         start = time.perf_counter()
@@ -68,8 +68,8 @@ class Place:
         return elapsed
 
     def by_turns(self, commands, rounds, warm_ups=2):
-        """The seconds of each command in each round, the commands one after the other in every round, so that what else the
-        machine does meets all alike."""
+        """The seconds of each command in each round. Every round runs all commands in turn, so that other load on the machine
+        slows all of them."""
         taken = [[] for _ in commands]
         for turn in range(warm_ups + rounds):
             for command, times in zip(commands, taken):
@@ -80,8 +80,8 @@ class Place:
 
 
 def peak_memory(pid):
-    """KiB so far. The system's usage record of a finished process is no substitute: it begins with the peak of the process
-    that started it."""
+    """Peak KiB so far. The system's usage record of a finished process cannot replace this: it includes the peak of the parent
+    process."""
     for line in Path(f"/proc/{pid}/status").read_text().splitlines():
         if line.startswith("VmHWM:"):
             return int(line.split()[1])
