@@ -1,4 +1,4 @@
-"""`ledgrove-cli chart` from outside: pictures without a display, with the comparison's figures in them."""
+"""`ledgrove-cli chart`: pictures without a display that show the comparison's figures."""
 import re
 import shutil
 import struct
@@ -34,7 +34,7 @@ class ChartTest(unittest.TestCase):
     def texts(self, root):
         return [text for element in root.iter(SVG + "text") for text in ["".join(element.itertext()).strip()] if text]
 
-    def test_each_tab_has_its_words(self):
+    def test_each_tab_has_its_description(self):
         description = {
             "cashflow": "Monthly cost: Base Home $1,665, GREENMARK Home $1,652, $13 less.",
             "affordability": "With the Base Home the mortgage of $180,000 is within the maximum loan of $242,484.",
@@ -49,13 +49,13 @@ class ChartTest(unittest.TestCase):
         for text in ("Monthly Cost of Both Homes", "Principal and Interest", "Tax Savings", "GREENMARK Home", "$1,500"):
             self.assertIn(text, drawn)
 
-    def test_years_are_pointed_out(self):
+    def test_years_are_marked(self):
         drawn = self.texts(self.svg(SAMPLE))
         self.assertIn("7 Years: $1,399", drawn)
         self.assertIn("30 Years: $14,600", drawn)
 
-    def test_stacks_have_the_height_of_their_amounts(self):
-        """The lowest part of the base home, $1,137.72, beside that of the labelled one, $1,175.65."""
+    def test_stacks_are_as_high_as_their_amounts(self):
+        """Compares the lowest part of the base home, $1,137.72, with that of the labelled home, $1,175.65."""
         root = self.svg("--tab", "cashflow", SAMPLE)
         heights = []
         for group in root.iter(SVG + "g"):
@@ -70,7 +70,7 @@ class ChartTest(unittest.TestCase):
         rows = [float(y) for _, y in re.findall(r"[ML]\s*(-?[\d.]+),(-?[\d.]+)", commands)]
         return max(rows) - min(rows) if rows else 0
 
-    def test_png_has_two_dots_to_the_pixel(self):
+    def test_png_has_two_dots_per_pixel(self):
         path = self.folder / "out.PNG"
         self.chart("--output", path, "--width", "400", "--height", "300", SAMPLE)
         head = path.read_bytes()[:24]
@@ -85,7 +85,7 @@ class ChartTest(unittest.TestCase):
         for tab in ("cashflow", "affordability", "summary"):
             self.assertIn("$0", self.svg("--tab", tab, given=b"{}").find(SVG + "desc").text)
 
-    def test_faults_are_told(self):
+    def test_faults_are_reported(self):
         output = ("--output", self.folder / "out.png")
         cases = ((("--output", "chart.gif"), b"{}", 2, "*.png or *.svg"),
                  ((*output, "--tab", "welcome"), b"{}", 2, "cashflow, affordability or summary"),
@@ -98,7 +98,7 @@ class ChartTest(unittest.TestCase):
             self.assertIn(words, self.chart(*arguments, given=given, status=status))
         self.assertFalse((self.folder / "out.png").exists())
 
-    def test_missing_settings_are_told(self):
+    def test_missing_settings_are_reported(self):
         (self.folder / "Ledgrove.ini").unlink()
         words = self.chart("--output", self.folder / "out.png", SAMPLE, status=2)
         self.assertIn("Ledgrove.ini", words)

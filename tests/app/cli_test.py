@@ -1,4 +1,4 @@
-"""The contract of ledgrove-cli, from outside: arguments and input in, output and exit status back."""
+"""The contract of ledgrove-cli: arguments and input in, output and exit status out."""
 import csv
 import io
 import json
@@ -57,7 +57,7 @@ class CompareJson(CliTest):
         fields = self.compare_json({"ecIncome": "", "ecStdRate": ""})["fields"]
         self.assertEqual((fields["ecIncome"], fields["ecStdRate"]), ("$0", "0.000%"))
 
-    def test_a_number_stands_for_its_text(self):
+    def test_a_number_is_read_as_its_text(self):
         self.assertEqual(self.compare_json({"ecStdRate": 6.875})["fields"]["ecStdRate"], "6.875%")
         self.assertEqual(self.refusal_of_raw('{"ecIncome": 1e3}')["value"], "1e3")
 
@@ -72,10 +72,10 @@ class CompareJson(CliTest):
         self.assertEqual(labels["lblStdPITI"]["text"], "$1,465")
         # the savings of 58.33 a month are worth 58.33 x (1 - (1 + 0.065/12)^-360) / (0.065/12) = 9229 over 30 years
         self.assertEqual(labels["lblPVofSavings"]["text"], "$9,229")
-        # more than the upgrade's 6,000, so the down payment is taken on the base price
+        # more than the upgrade's 6,000, so the down payment is a share of the base price
         self.assertEqual(labels["lblgmhDown"]["text"], "$20,000")
 
-    def test_every_part_of_the_result_is_there(self):
+    def test_the_result_has_every_part(self):
         result = self.compare_json(SAMPLE)
         self.assertEqual(list(result), ["fields", "labels", "Scenario", "StdCase", "GMHCase", "messages", "dataCheck"])
         self.assertEqual(len(result["StdCase"]), 21)
@@ -134,7 +134,7 @@ class CompareRefusals(CliTest):
         self.assertIn('"Conventional", "Fannie Mae EEM"', self.refusal({"cboGMHMortOption": "VA EEM"})["message"])
         self.assertEqual(self.refusal({"cboStdMortOption": "fha"})["value"], "fha")
 
-    def test_unknown_names_and_values_of_no_kind(self):
+    def test_unknown_names_and_values_of_the_wrong_type(self):
         self.assertEqual(self.refusal({"ecIncom": "5"})["control"], "ecIncom")
         for value in (None, [1], {"a": 1}):
             self.assertEqual(self.refusal({"ecIncome": value})["control"], "ecIncome")
@@ -147,7 +147,7 @@ class CompareRefusals(CliTest):
             refused = json.loads(self.compare("json", text.encode("latin-1"), status=1))
             self.assertIn("Write a JSON object", refused["error"]["message"], text)
 
-    def test_half_a_character_is_malformed(self):
+    def test_an_incomplete_character_is_malformed(self):
         for half in (r"\uDFF5", r"\uD800", r"\uD800x", r"\uD800\uD800"):
             for text in (f'{{"ecStdHome": "{half}"}}', f'{{"{half}": "1"}}'):
                 refused = json.loads(self.compare("json", text, status=1))
@@ -155,13 +155,13 @@ class CompareRefusals(CliTest):
         whole = json.loads(self.compare("json", r'{"ecStdHome": "\uD83C\uDFE0"}', status=1))
         self.assertEqual(whole["error"]["value"], "\U0001F3E0")
 
-    def test_deep_nesting_is_refused_not_followed(self):
+    def test_deep_nesting_is_refused(self):
         refused = json.loads(self.compare("json", '{"ecIncome":' + "[" * 200000 + "]" * 200000 + "}", status=1))
         self.assertEqual(refused["error"]["control"], "ecIncome")
 
 
 class CompareLines(CliTest):
-    def test_the_run_goes_on_after_a_refusal_and_keeps_order_and_line_numbers(self):
+    def test_the_run_continues_after_a_refusal_and_keeps_order_and_line_numbers(self):
         lines = [json.dumps({"ecIncome": "100"}), "nonsense", "", json.dumps({"ecIncome": "x"}),
                  json.dumps({"ecIncome": "300"})]
         results = [json.loads(line) for line in self.compare("jsonl", "\n".join(lines), status=1).splitlines()]
@@ -174,10 +174,10 @@ class CompareLines(CliTest):
         self.assertEqual(second, self.compare("jsonl", "{}").splitlines()[0])
         self.assertEqual(json.loads(second)["Scenario"]["EEMAllowance"], 0)
 
-    def test_a_mark_at_the_start_is_passed_over(self):
+    def test_a_byte_order_mark_is_ignored(self):
         self.compare("jsonl", b"\xef\xbb\xbf{}\n")
 
-    def test_a_line_beyond_all_measure_is_refused_and_the_next_one_read(self):
+    def test_a_line_that_is_too_long_is_refused_and_the_next_one_is_read(self):
         given = b'{"ecIncome":"' + b"9" * 3_000_000 + b'"}\n{}\n' + b"x" * 1_500_000
         results = [json.loads(line) for line in self.compare("jsonl", given, status=1).splitlines()]
         self.assertEqual([r.get("error", {}).get("line") for r in results], [1, None, 3])
@@ -239,7 +239,7 @@ class CompareCsv(CliTest):
         # 100,000 at the start-up rate of 6.5 % over the start-up term of 30 years
         self.assertEqual(rows[0]["StdCase.MortPayment"], "632.07")
 
-    def test_faulty_rows_carry_their_reason_and_the_list_goes_on(self):
+    def test_faulty_rows_carry_their_reason_and_the_list_continues(self):
         rows = self.rows("ecIncome,Model\n5,Lot 7\n", status=1)
         self.assertIn("Model: There is no input of this name", rows[0]["error"])
         rows = self.rows("ecIncome,ecStdHome\nabc,1\n1,2,3\n5,5\n", status=1)
@@ -257,9 +257,9 @@ class CompareCsv(CliTest):
             self.assertNotIn(cell[:1], "=@", cell)
         rows = list(csv.reader(io.StringIO(output)))
         self.assertEqual(rows[1][:2], ["'=cmd|' /C calc'!A0", "'@SUM(1)"])
-        self.assertEqual(rows[2][:2], ["-5", "'+x"])  # a negative number is no formula
+        self.assertEqual(rows[2][:2], ["-5", "'+x"])  # a negative number is not a formula
 
-    def test_blanks_in_front_hide_no_formula_and_are_kept(self):
+    def test_leading_blanks_are_kept_and_do_not_hide_a_formula(self):
         output = self.compare("csv", 'ecIncome,ecStdHome\n" =1+1","\n@SUM(1)"\n" 5 ", 6\n', status=1).decode()
         self.assertIn("' =1+1", output)
         rows = list(csv.reader(io.StringIO(output)))
@@ -270,7 +270,7 @@ class CompareCsv(CliTest):
         rows = self.rows('ecIncome,ecStdHome\n"1\n\n",5\n\nabc,5\n', status=1)
         self.assertTrue(rows[-1]["error"].startswith("Line 6: "), rows[-1]["error"])
 
-    def test_a_quote_that_is_never_closed_ends_with_a_sentence(self):
+    def test_a_quote_that_is_never_closed_is_reported(self):
         rows = self.rows('ecIncome\n"' + "1\n" * 1_200_000, status=1)
         self.assertIn("Close its quotes", rows[0]["error"])
 
@@ -301,7 +301,7 @@ class CompareText(CliTest):
         self.assertRegex(text, r"Extra Cash Today +\$0\n")
         self.assertIn("GREENMARK Home", text)
 
-    def test_text_is_the_format_without_any(self):
+    def test_text_is_the_default_format(self):
         run = self.run_cli("compare", "--folder", self.folder, given=json.dumps(SAMPLE))
         self.assertEqual(run.stdout, self.compare("text", json.dumps(SAMPLE)))
 
@@ -325,7 +325,7 @@ class UnusableCalls(CliTest):
             self.assertIn("Copy", sentence)
         self.assertEqual(list(self.folder.iterdir()), [])
 
-    def test_after_an_interrupted_save_nobody_creates_a_settings_file(self):
+    def test_no_settings_file_is_created_after_an_interrupted_save(self):
         self.settings.rename(self.folder / "Pennaro2.INI")
         for verb in (["compare"], ["settings", "get", "FEATURE1"], ["settings", "set", "FEATURE1", "x"]):
             self.assertIn("Pennaro2.INI", self.sentence(verb[0], "--folder", self.folder, *verb[1:]))
@@ -343,7 +343,7 @@ class UnusableCalls(CliTest):
         self.settings.write_bytes(b"\r\n".join(lines))
         self.assertIn(f"ine {number}", self.sentence("compare", "--folder", self.folder))
 
-    def test_unknown_words_and_formats(self):
+    def test_unknown_arguments_and_formats(self):
         self.assertIn("--format", self.sentence("compare", "--folder", self.folder, "--format", "xml"))
         for arguments in ([], ["bogus"], ["settings"], ["settings", "get"], ["compare", "--nope"]):
             self.assertNotEqual(self.sentence(*arguments), "")
@@ -353,7 +353,7 @@ class UnusableCalls(CliTest):
         self.assertIn(str(missing), self.sentence("compare", "--folder", self.folder, missing))
         self.assertIn(str(self.folder), self.sentence("compare", "--folder", self.folder, self.folder))
 
-    def test_output_that_cannot_be_written_is_told(self):
+    def test_output_that_cannot_be_written_is_reported(self):
         with open("/dev/full", "wb") as full:
             run = subprocess.run([PROGRAM, "compare", "--folder", self.folder, "--format", "jsonl"], input=b"{}",
                                  stdout=full, stderr=subprocess.PIPE, timeout=60)
@@ -370,7 +370,7 @@ class UnusableCalls(CliTest):
         self.assertIn(b"compare", self.run_cli("--help").stdout)
         self.assertRegex(self.run_cli("--version").stdout, rb"^ledgrove-cli \d+\.\d+")
 
-    def test_the_folder_is_the_programs_own_where_none_is_named(self):
+    def test_the_default_folder_is_the_programs_own(self):
         copy = self.folder / "ledgrove-cli"
         shutil.copy(PROGRAM, copy)
         run = subprocess.run([copy, "settings", "get", "FEATURE2"], capture_output=True, cwd="/", timeout=60)
@@ -381,7 +381,7 @@ class Settings(CliTest):
     def get(self, key):
         return self.settings_verb("get", key).stdout.decode().removesuffix("\n")
 
-    def test_get_gives_what_the_reader_gives(self):
+    def test_get_prints_the_value_that_the_program_reads(self):
         self.settings.write_bytes(b"BUILDERNAME=Old\r\nBUILDERNAME=  New \r\nFEATURE1=  both ends \r\n"
                                   b"PVSAVINGS_RATE=7.5%\r\nTAXCAT=100,10\r\nTAXCAT=-1,20\r\nOWN=x=y\r\n")
         self.assertEqual(self.get("BUILDERNAME"), "New")
@@ -432,7 +432,7 @@ class Settings(CliTest):
             self.assertIn(word, sentence)
         self.assertEqual(self.settings.read_bytes(), before)
 
-    def test_a_folder_may_stand_behind_the_verb(self):
+    def test_the_folder_may_follow_the_verb(self):
         run = self.run_cli("settings", "get", "FEATURE2", "--folder", self.folder)
         self.assertEqual(run.stdout, b"Larger deck\n")
 

@@ -1,4 +1,4 @@
-"""The examples of the documents do what the documents say."""
+"""Runs the examples of the documents and compares their output."""
 import re
 import shutil
 import subprocess
@@ -12,12 +12,12 @@ DOCUMENTS = ("README.md", "docs/cli.md", "docs/guide.md")
 
 
 def fenced(text):
-    """Blocks of a shell session: a line with "$ " in front is typed, what follows is answered."""
+    """Blocks of a shell session: lines that begin with "$ " are commands, the others are output."""
     return re.findall(r"^```console\n(.*?)^```$", text, re.M | re.S)
 
 
 def indented(text):
-    """Commands on lines of their own, four blanks in."""
+    """Commands on separate lines, indented by four blanks."""
     commands = [line.strip() for line in re.findall(r"^    (ledgrove-cli .*)$", text, re.M)]
     # A synopsis is not a command.
     return [command for command in commands if not re.search(r"\[|--help \|", command)]
@@ -28,7 +28,7 @@ class Examples(unittest.TestCase):
         self.folder = Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, self.folder)
         shutil.copytree(SOURCE / "data", self.folder / "data")
-        # A program folder of its own, so that an example may change the settings.
+        # Each test has its own program folder, because an example may change the settings.
         self.programs = self.folder / "program"
         shutil.copytree(SOURCE / "data", self.programs)
         for name in ("ledgrove-cli", "ledgrove-report", "ledgrove-chart"):
@@ -50,7 +50,7 @@ class Examples(unittest.TestCase):
                 count += 1
         self.assertGreaterEqual(count, 6)
 
-    def test_sessions_answer_as_shown(self):
+    def test_sessions_print_what_is_shown(self):
         count = 0
         for document in DOCUMENTS:
             for block in fenced((SOURCE / document).read_text()):
@@ -68,7 +68,7 @@ class Examples(unittest.TestCase):
             for option in set(re.findall(r"--[a-z]+", help_text)) - {"--help", "--version"}:
                 self.assertIn(option, text, f"{verb} {option}")
 
-    def test_links_lead_somewhere(self):
+    def test_links_have_targets(self):
         for path in (SOURCE / "README.md", *(SOURCE / "docs").glob("*.md")):
             for target in re.findall(r"\]\(([^)#]+)(?:#[^)]*)?\)", path.read_text()):
                 if "://" not in target:

@@ -1,9 +1,9 @@
-"""The help tells the truth: its links lead somewhere, it explains every control, and each figure of its worked examples is
-what the program works out from the example's inputs.
+"""The help is correct: its links have targets, it explains every control, and each figure of its worked examples is the
+program's result for the example's inputs.
 
 The help marks what is checked: data-inputs (a comparison in JSON) around an example, data-field, data-label and data-record
 on the figures in it, class="sum" on a sum that must be right as printed, data-default on a value of the settings file, and
-data-control and data-explains on what a passage explains."""
+data-control and data-explains for the control or label that a passage explains."""
 import json
 import re
 import subprocess
@@ -23,7 +23,7 @@ def words(element):
 
 
 def number_of(text):
-    """The number that a text shows, and what its last digit stands for."""
+    """The number that a text shows, and the value of its last digit."""
     shown = text.replace("−", "-").replace("$", "").replace(",", "").strip()
     percent = shown.endswith("%")
     shown = shown.rstrip("% ")
@@ -32,7 +32,7 @@ def number_of(text):
 
 
 def expression(element):
-    """A sum as Python reads it; what stands raised is an exponent."""
+    """A sum as a Python expression; superscripts are exponents."""
     text = element.text or ""
     for child in element:
         inner = expression(child)
@@ -47,11 +47,11 @@ class HelpTest(unittest.TestCase):
         settings = (DATA / "Ledgrove.ini").read_bytes().decode("cp1252")
         cls.lines = [line.partition("=")[::2] for line in settings.splitlines() if "=" in line]
         cls.file = DATA / dict(cls.lines)["HELPFILE"]
-        cls.root = ElementTree.parse(cls.file).getroot()  # a fault is told here: not well formed
+        cls.root = ElementTree.parse(cls.file).getroot()  # raises an error if the help is not well formed
         cls.results = {}
 
     def compare(self, inputs):
-        """The program's result for the inputs, the program being asked once for each."""
+        """The program's result for the inputs; each comparison runs only once."""
         if inputs not in self.results:
             run = subprocess.run([PROGRAM, "compare", "--folder", DATA, "--format", "json"], input=inputs.encode(),
                                  capture_output=True, timeout=60)
@@ -70,11 +70,11 @@ class Links(HelpTest):
     def anchors(self):
         return [element.get("name") for element in self.root.iter("a") if element.get("name")]
 
-    def test_every_anchor_is_there_once(self):
+    def test_every_anchor_is_unique(self):
         names = self.anchors()
         self.assertEqual(sorted(names), sorted(set(names)))
 
-    def test_every_topic_that_the_windows_ask_for_is_there(self):
+    def test_every_topic_that_the_windows_open_exists(self):
         asked = set(TAB_ANCHORS)
         for folder in ("ui", "reports", "app"):
             for path in (SOURCE / folder).rglob("*.cpp"):
@@ -93,14 +93,14 @@ class Links(HelpTest):
         topics = {anchor.get("name") for heading in self.root.iter("h2") for anchor in heading.iter("a")}
         self.assertEqual(topics - listed, set())
 
-    def test_it_needs_nothing_else(self):
+    def test_it_needs_no_other_file(self):
         for element in self.root.iter():
             self.assertNotIn(element.tag, ("img", "link", "script", "iframe", "object"))
 
-    def test_it_says_its_encoding_and_sets_no_colour(self):
+    def test_it_names_its_encoding_and_sets_no_colour(self):
         text = self.file.read_text(encoding="utf-8")
         self.assertIn("charset=utf-8", text)
-        self.assertIsNone(re.search(r"color|background", text))  # which would fail on a dark or a light palette
+        self.assertIsNone(re.search(r"color|background", text))  # a fixed colour would be unreadable on a dark or a light palette
 
 
 class Explanations(HelpTest):
@@ -145,7 +145,7 @@ class Explanations(HelpTest):
 
 class Examples(HelpTest):
     def figures(self, attribute):
-        """Each marked figure with its example's result, and its place for a message."""
+        """The name and text of each marked figure, with the result of its example."""
         for example in self.marked("data-inputs"):
             result = self.compare(example.get("data-inputs"))
             for element in self.marked(attribute, example):
@@ -156,7 +156,7 @@ class Examples(HelpTest):
         self.assertGreater(len(shown), 12)
         for name, text, result in shown:
             with self.subTest(name):
-                # the base home's rate is shown as typed until it is left
+                # the base home's rate keeps its typed form until the field loses the focus
                 self.assertEqual(text, result["fields"][name])
 
     def test_labels(self):
@@ -176,7 +176,7 @@ class Examples(HelpTest):
                 self.assertLessEqual(abs(value - result[record][member]), HALF_A_UNIT * unit,
                                      f"{text} for {result[record][member]}")
 
-    def test_no_figure_stands_outside_an_example(self):
+    def test_every_figure_is_inside_an_example(self):
         inside = [element for example in self.marked("data-inputs") for element in example.iter()]
         for attribute in ("data-field", "data-label", "data-record"):
             for element in self.marked(attribute):
@@ -195,7 +195,7 @@ class Examples(HelpTest):
 
 class Defaults(HelpTest):
     def values(self):
-        """The settings by the names under which the help quotes them: the number of a list's line, and of its field."""
+        """The settings by the names that the help uses; list keys include the number of the line and of the field."""
         found = {}
         counts = {}
         for key, value in self.lines:
@@ -215,7 +215,7 @@ class Defaults(HelpTest):
             key, text = element.get("data-default"), words(element)
             with self.subTest(key):
                 if re.fullmatch(r"[\d.]+", values[key]):
-                    # percents stand as such in the file, ratios as fractions
+                    # the file holds percents as percents and ratios as fractions
                     shown = number_of(text if key.startswith("LOANTYPE") else text.replace("%", ""))[0]
                     self.assertAlmostEqual(shown, float(values[key]), places=9)
                 else:

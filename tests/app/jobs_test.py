@@ -1,4 +1,4 @@
-"""`ledgrove-cli compare --jobs`: several threads give what one gives, in the same order, in the same memory."""
+"""`ledgrove-cli compare --jobs`: several threads give the same results in the same order, with bounded memory."""
 import json
 import os
 import random
@@ -26,12 +26,12 @@ class Jobs(unittest.TestCase):
         return run.returncode, run.stdout, run.stderr
 
     def price_list(self, lines):
-        """Homes of all prices, and every 50th line something else."""
+        """Homes of all prices; every 50th line is unusual."""
         chance = random.Random(7)
         odd = ["", "nonsense", '{"ecIncome": "abc"}', '{"ecHouse": 1}', "   ", '{"x":"' + "y" * (1 << 20) + '"}', "{}"]
         for number in range(lines):
             if number % 50 == 49:
-                # the very long line only now and then
+                # the very long line is rare, to save time
                 yield odd[chance.randrange(len(odd))] if number % 1000 == 999 else odd[chance.randrange(5)]
             else:
                 yield json.dumps({"ecIncome": chance.randrange(200000), "ecStdHome": number, "ecGMHHome": number + 5,
@@ -44,14 +44,14 @@ class Jobs(unittest.TestCase):
         for jobs in (2, 3, 8):
             self.assertEqual(self.compare(given, jobs), (1, expected, b""), jobs)
 
-    def test_results_stand_in_the_order_of_their_lines(self):
+    def test_results_keep_the_order_of_their_lines(self):
         given = "".join(json.dumps({"ecStdHome": number}) + "\n" for number in range(1, 4001)).encode()
         status, output, _ = self.compare(given, 4)
         self.assertEqual(status, 0)
         shown = [json.loads(line)["fields"]["ecStdHome"] for line in output.splitlines()]
         self.assertEqual(shown, [f"${number:,}" for number in range(1, 4001)])
 
-    def test_nothing_and_little(self):
+    def test_empty_and_short_inputs(self):
         for given in (b"", b"\n\n", b'{"ecIncome": 1}', b'{"ecIncome": 1}\n'):
             self.assertEqual(self.compare(given, 2), self.compare(given, 1), given)
 
@@ -78,11 +78,11 @@ class Jobs(unittest.TestCase):
                 self.assertEqual(running.returncode, 0)
                 return usage.ru_maxrss
 
-        # The results of a piece take about 4 MB, and how many pieces wait for their turn differs from run to run. All results of
-        # the longer list together take 300 MB.
+        # The results of a piece take about 4 MB, and the number of waiting pieces varies from run to run. All results of the
+        # longer list together take 300 MB.
         self.assertLessEqual(peak(50000) - peak(8000), 16 * 1024)  # KiB
 
-    def test_output_that_cannot_be_written_is_told(self):
+    def test_output_that_cannot_be_written_is_reported(self):
         given = b'{"ecIncome": 1}\n' * 5000
         with open("/dev/full", "wb") as full:
             run = subprocess.run(self.command(2), input=given, stdout=full, stderr=subprocess.PIPE, timeout=60)
@@ -98,7 +98,7 @@ class Jobs(unittest.TestCase):
             running.stdout.close()
             self.assertNotEqual(running.wait(20), 0)
 
-    def test_numbers_of_threads_that_make_no_sense(self):
+    def test_invalid_numbers_of_threads(self):
         for jobs in ("0", "-1", "many", "1000"):
             run = subprocess.run(self.command(jobs), input=b"{}", capture_output=True, timeout=20)
             self.assertEqual(run.returncode, 2, jobs)

@@ -1,4 +1,4 @@
-"""`ledgrove-cli report` from outside: the PDF holds what the screen shows, to the dollar."""
+"""`ledgrove-cli report`: the PDF shows the same figures as the screen, to the dollar."""
 import json
 import re
 import shutil
@@ -42,15 +42,15 @@ class ReportTest(unittest.TestCase):
 
     def pictures(self):
         rows = subprocess.run(["pdfimages", "-list", self.pdf], capture_output=True, check=True, text=True).stdout
-        return sum(row.split()[2] == "image" for row in rows.splitlines()[2:])  # transparency is listed apart
+        return sum(row.split()[2] == "image" for row in rows.splitlines()[2:])  # a separate row lists the transparency
 
     def assert_in_order(self, text, rows):
-        """Each row is a line of its parts, in order, with only blanks between; the rows follow each other."""
+        """Each row is one line with its parts in order and only blanks between them; the rows come in this order."""
         at = 0
         for row in rows:
             pattern = re.compile(r"\s+".join(re.escape(part) for part in row if part) + r"\s*$", re.M)
             found = pattern.search(text, at)
-            self.assertIsNotNone(found, f"{row} not found behind\n{text[:at][-200:]}")
+            self.assertIsNotNone(found, f"{row} not found after\n{text[:at][-200:]}")
             at = found.end()
 
 
@@ -106,7 +106,7 @@ class Contents(ReportTest):
         for case in cases[::len(cases) // SCENARIOS]:
             result = json.loads(self.run_cli("compare", "--folder", self.folder, "--format", "json",
                                              given=case.encode()).stdout)
-            # amounts beyond any house wrap in their cells
+            # very large amounts wrap in their cells
             if any(len(entry["text"]) > 40 and name != "Label6" and not name.startswith(("lblPVNote", "lblYrsIn"))
                    for name, entry in result["labels"].items()):
                 continue
@@ -116,7 +116,7 @@ class Contents(ReportTest):
             compared += 1
         self.assertGreaterEqual(compared, 20)
 
-    def test_sections_come_in_their_order_and_only_the_chosen_ones(self):
+    def test_only_the_chosen_sections_in_their_order(self):
         self.report(SAMPLE)
         text = self.text()
         places = [text.index(f"\n {name}\n") for name in SECTIONS]
@@ -144,7 +144,7 @@ class Contents(ReportTest):
 
 
 class Paper(ReportTest):
-    def test_letter_paper_upright_or_turned_with_a_title(self):
+    def test_letter_paper_in_both_orientations_with_a_title(self):
         self.report(SAMPLE)
         self.assertIn("612 x 792", self.info()["Page size"])
         self.assertEqual(self.info()["Title"], "Summary Report")
@@ -159,7 +159,7 @@ class Paper(ReportTest):
         for row in rows:
             self.assertRegex(row, r" yes +(yes|no) +(yes|no) +\d+ +\d+$")
 
-    def test_the_logo_choice_decides_on_the_second_picture(self):
+    def test_the_logo_option_selects_the_second_picture(self):
         for choice, count in (("none", 1), ("generic", 2), ("user", 1)):
             self.report("--logo", choice, SAMPLE)
             self.assertEqual(self.pictures(), count, choice)
@@ -202,7 +202,7 @@ class Calls(ReportTest):
         self.settings.unlink()
         self.assertIn(str(self.settings).encode(), self.report(SAMPLE, status=2).stderr)
 
-    def test_help_tells_of_the_verb(self):
+    def test_help_describes_the_verb(self):
         self.assertIn(b"--sections", self.run_cli("report", "--help").stdout)
         self.assertIn(b"report", self.run_cli("--help").stdout)
 

@@ -1,5 +1,5 @@
-"""A desktop of the tests' own: an X display with a window manager, a session bus with the accessibility registry, and the
-program in it, driven by real keys and clicks and read as a screen reader reads it."""
+"""A separate desktop for tests: an X display with a window manager, a session bus with the accessibility registry, and the
+program. Tests send it real keys and clicks and read it as a screen reader does."""
 import os
 import re
 import shutil
@@ -13,14 +13,14 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 
-PATIENCE = 15  # seconds until something that should appear counts as missing
+PATIENCE = 15  # seconds; an object that has not appeared by then is missing
 SCREEN = "1366x768x24"
-ENDS = (0, 1, 2, -signal.SIGTERM, -signal.SIGKILL)  # done, refused, or ended by a test
+ENDS = (0, 1, 2, -signal.SIGTERM, -signal.SIGKILL)  # success, refusals, and the signals that tests send
 REPORT = re.compile("Sanitizer|runtime error: ")
 
 
 class Gone(Exception):
-    """What was waited for did not come."""
+    """The awaited condition did not become true."""
 
 
 def wait_for(condition, what):
@@ -39,7 +39,7 @@ def wait_for(condition, what):
 
 
 class Desktop:
-    """Everything is started by this object and ended by it, by process id."""
+    """Starts all processes of the desktop and ends them by process id."""
 
     def __init__(self, screen=SCREEN):
         self.home = Path(tempfile.mkdtemp())
@@ -61,7 +61,7 @@ class Desktop:
             raise
 
     def said(self):
-        """What all programs have written to standard error since the last call."""
+        """The standard error of all programs since the last call."""
         text = self.errors.read_text(errors="replace")
         os.truncate(self.errors, 0)
         return text
@@ -134,7 +134,7 @@ class Desktop:
 
 
 class Program:
-    """One run of the program on a folder of its own."""
+    """One run of the program with a separate folder."""
 
     def __init__(self, desktop, program, folder):
         self.desktop = desktop
@@ -156,7 +156,7 @@ class Program:
                 return child
         return None
 
-    # Finding. Names are read afresh each time: the figures change.
+    # Finding. Every search reads the names again, because the figures change.
 
     def all(self, start=None):
         from gi.repository import Atspi
@@ -167,18 +167,18 @@ class Program:
             if node is None:
                 continue
             yield node
-            # The items of a closed pick list are children too, and there are many.
+            # Skips the items of closed pick lists: they are children too, and there are many.
             if node.get_role() != Atspi.Role.COMBO_BOX or node == top:
                 stack.extend(node.get_child_at_index(i) for i in reversed(range(node.get_child_count())))
 
     def window(self, title=None):
-        """From now on controls are looked for in the dialog of this title, or anywhere again."""
+        """Restricts later searches to the dialog with this title; None searches the whole program."""
         self.title = title
         if title:
             wait_for(self.front, f"the window {title}")
 
     def front(self):
-        """The dialog that was named, None for the whole program; message boxes are always looked for everywhere."""
+        """The dialog given to `window`, or None for the whole program. Searches for message boxes ignore it."""
         if self.title is None:
             return None
         for index in range(self.root.get_child_count()):
@@ -193,7 +193,7 @@ class Program:
         return node.get_state_set().contains(Atspi.StateType.SHOWING)
 
     def find(self, role, name=None, description=None, missing_ok=False):
-        """A control that is showing, in the window in front where one was named by `window`."""
+        """A visible control, in the dialog given to `window` if there is one."""
         def search():
             for node in self.all(self.front()):
                 if node.get_role_name() in (role if isinstance(role, tuple) else (role,)) and self.showing(node) \
@@ -232,11 +232,11 @@ class Program:
         return Atspi.Text.get_text(node, chosen.start_offset, chosen.end_offset)
 
     def result(self, description):
-        """The text of the result label described so."""
+        """The text of the result label with this description."""
         return self.find("label", description=description).get_name()
 
     def focused(self):
-        """The control with the focus; the tab in front always says it has it, and windows do too."""
+        """The control with the focus. The current tab and windows always report the focus, so they do not count."""
         from gi.repository import Atspi
         for node in self.all(self.front()):
             states = node.get_state_set()
@@ -265,18 +265,18 @@ class Program:
                      and self.showing(node)), None)
 
     def box(self):
-        """The message box that is open, with its text."""
+        """The open message box and its text."""
         node = wait_for(self.open_box, "a message box")
         texts = [child.get_name() for child in self.all(node) if child.get_role_name() == "label"]
         return node, "\n".join(text for text in texts if text)
 
     def no_box(self):
-        """Waits until no message box is open; a program that has ended shows none."""
+        """Waits until no message box is open or the program has ended."""
         wait_for(lambda: self.process.poll() is not None
                  or self.open_box() is None, "the message box closed")
 
     def answer(self, button="OK"):
-        """Presses a button of the open message box and waits until it is gone; gives title and text."""
+        """Presses a button of the open message box and waits until it closes; returns title and text."""
         node, text = self.box()
         title = node.get_name()
         press = wait_for(lambda: next((child for child in self.all(node) if child.get_role_name() == "push button"
@@ -287,7 +287,7 @@ class Program:
         return title, text
 
     def close(self):
-        """Ends the program where it still runs; fails where it crashed or a sanitizer has found something in it or its children."""
+        """Ends the program if it still runs; fails if it crashed or a sanitizer reported an error in it or its children."""
         self.process.terminate()
         self.process.wait(PATIENCE)
         said = self.desktop.said()

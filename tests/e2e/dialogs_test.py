@@ -1,5 +1,4 @@
-"""The three dialogs behind the main window's buttons, driven as their user drives them, each with the settings file read
-back afterwards."""
+"""The three dialogs that the main window's buttons open, in real use. Each test reads the settings file afterwards."""
 import shutil
 import sys
 import tempfile
@@ -13,7 +12,7 @@ HOUSES, ASSUMPTIONS, OPTIONS = "House Scenarios", "Financial Assumptions", "Opti
 
 
 def setUpModule():
-    # One for all: the accessibility library stays with the first bus it meets.
+    # All tests share one desktop, because the accessibility library keeps its first bus.
     DialogTest.desktop = Desktop()
     unittest.addModuleCleanup(DialogTest.desktop.close)
 
@@ -40,7 +39,7 @@ class DialogTest(unittest.TestCase):
         self.program.click(self.program.find("push button", button))
 
     def close_by(self, button):
-        """Presses the button and waits until the main window has the screen to itself."""
+        """Presses the button and waits until the dialog is closed."""
         title = self.program.title
         self.press(button)
         self.program.window()
@@ -144,7 +143,7 @@ class Houses(DialogTest):
         self.assertEqual(self.shown("ecStdHome"), "")
         self.program.find("label", "Custom")
 
-    def test_leaving_a_bad_edit_for_cancel_edit_is_not_told(self):
+    def test_cancel_edit_discards_a_bad_entry_without_a_message(self):
         self.open(HOUSES)
         self.press("Edit")
         self.enter("ecStdCost", "-5", key="End")
@@ -154,8 +153,8 @@ class Houses(DialogTest):
 
 
 class Assumptions(DialogTest):
-    def test_edited_by_keyboard_alone(self):
-        self.desktop.key("shift+Tab")  # from the first field to the last control, and on to the buttons
+    def test_editing_with_the_keyboard_only(self):
+        self.desktop.key("shift+Tab")  # moves from the first field to the last control, past the end to the buttons
         for _ in range(12):
             if self.program.focused() and self.program.focused().get_name() == ASSUMPTIONS:
                 break
@@ -185,7 +184,7 @@ class Assumptions(DialogTest):
         self.assertEqual(self.lines("PVSAVINGS_FLAG"), ["PVSAVINGS_FLAG=TRUE"])
         self.assertEqual(self.lines("TAXCAT")[-1], "TAXCAT=-1,35.00")
 
-    def test_the_next_low_end_follows_at_once(self):
+    def test_the_next_low_end_changes_at_once(self):
         self.open(ASSUMPTIONS)
         self.enter("ecHighEnd2", "150000", key="Tab")
         self.wait_shown("ecLowEnd3", "$150,001")
@@ -198,7 +197,7 @@ class Assumptions(DialogTest):
         self.program.click(self.program.find("text", description="ecYrsInHome"))
         self.wait_shown("ecRealEstateTaxPct", "50.00%")
 
-    def test_cancel_leaves_the_file_byte_for_byte(self):
+    def test_cancel_does_not_change_the_file(self):
         before = self.settings.read_bytes()
         self.open(ASSUMPTIONS)
         self.enter("ecYrsInHome", "25")

@@ -1,5 +1,4 @@
-"""Comparisons as files: saved, opened, lost or not on closing, listed as recent, exported; by keys, in the dialogs that a
-user meets."""
+"""Comparisons as files: saving, opening, unsaved changes on closing, recent files, export; with keys, in the real dialogs."""
 import csv
 import io
 import json
@@ -21,13 +20,13 @@ TYPED = (("Annual Income", "72000"), ("Monthly Debt", "350"), ("% Down, Down Pay
 
 
 def setUpModule():
-    # One for all: the accessibility library stays with the first bus it meets.
+    # All tests share one desktop, because the accessibility library keeps its first bus.
     FilesTest.desktop = Desktop()
     unittest.addModuleCleanup(FilesTest.desktop.close)
 
 
 class Started(Program):
-    """The program started with a file, as a double click starts it."""
+    """The program started with a file, as a double click does."""
 
     def __init__(self, desktop, folder, *files):
         self.desktop = desktop
@@ -84,7 +83,7 @@ class FilesTest(unittest.TestCase):
         self.program.window()
 
     def in_box(self, button):
-        """Presses a button of the message box that is open, by Tab and Space; gives its text."""
+        """Presses a button of the open message box with Tab and Space; returns the text of the message."""
         from gi.repository import Atspi
         node, text = self.program.box()
 
@@ -112,7 +111,7 @@ class FilesTest(unittest.TestCase):
 
 
 class Saving(FilesTest):
-    def test_a_comparison_survives_the_program(self):
+    def test_a_saved_comparison_opens_in_another_run(self):
         self.start_empty()
         self.type_comparison()
         self.wait_title("Ledgrove*")
@@ -139,11 +138,11 @@ class Saving(FilesTest):
         self.wait_title("a.ledgrove.json - Ledgrove")
         self.program.wait_focus("Annual Income")
         self.desktop.type("60000")
-        self.desktop.key("ctrl+s")  # takes the entry that is being typed, too
+        self.desktop.key("ctrl+s")  # also accepts the entry that is being typed
         wait_for(lambda: json.loads(file.read_text())["ecIncome"] == "$60,000", "the new income in the file")
         self.wait_title("a.ledgrove.json - Ledgrove")
 
-    def test_another_file_is_replaced_after_a_question_only(self):
+    def test_another_file_is_replaced_only_after_a_question(self):
         file = self.folder / "a.ledgrove.json"
         file.write_text("of someone else")
         self.start_empty()
@@ -171,10 +170,10 @@ class Opening(FilesTest):
         self.wait_title("von Hand.json - Ledgrove")
         self.assertEqual(self.program.text("or Fixed $, Down Payment"), "$30,000")
         labels = self.labels_of(file)
-        self.assertEqual(labels["lblStdMort"]["text"], "$255,000")  # 285,000 less 30,000
+        self.assertEqual(labels["lblStdMort"]["text"], "$255,000")  # 285,000 - 30,000
         self.check_tabs(labels)
 
-    def test_a_file_that_is_none_is_told(self):
+    def test_a_file_that_is_not_a_comparison_is_reported(self):
         file = self.folder / "bad.ledgrove.json"
         file.write_text('{"ecIncome": "much"}')
         self.start(file)
@@ -184,7 +183,7 @@ class Opening(FilesTest):
         self.wait_title("Ledgrove")
         self.assertEqual(self.program.text("Annual Income"), "")
 
-    def test_a_file_that_is_not_there_is_told(self):
+    def test_a_missing_file_is_reported(self):
         self.start(self.folder / "gone.ledgrove.json")
         self.assertIn("gone.ledgrove.json", self.in_box("OK"))
         self.wait_title("Ledgrove")
@@ -208,7 +207,7 @@ class Closing(FilesTest):
         self.wait_end()
         self.assertEqual(list(self.folder.glob("*.json")), [])
 
-    def test_save_saves_and_ends(self):
+    def test_save_writes_the_file_and_ends(self):
         self.start_typed()
         self.in_box("Save")
         self.name_file(SAVE, self.folder / "kept")
@@ -221,13 +220,13 @@ class Closing(FilesTest):
         self.program.window(SAVE)
         self.program.wait_focus("File name:")
         self.assertEqual(self.program.text("File name:"), "comparison.ledgrove.json")
-        # a home without a folder for documents
+        # The home folder has no documents folder.
         wait_for(lambda: self.program.find("combo box", str(self.desktop.home)), "the home folder to save in")
         self.desktop.key("Escape")
         self.wait_title("Ledgrove*")
         self.assertIsNone(self.program.process.poll())
 
-    def test_nothing_unsaved_nothing_asked(self):
+    def test_closing_without_changes_asks_nothing(self):
         file = self.folder / "a.ledgrove.json"
         file.write_text('{"ecIncome": 50000}')
         self.start(file)
@@ -238,7 +237,7 @@ class Closing(FilesTest):
 
 class Menus(FilesTest):
     def menu_items(self):
-        """The names in the menus that are open, without the bar's."""
+        """The names in the open menus, without the menu bar's."""
         return [node.get_name() for node in self.program.all() if node.get_role_name() == "menu item"
                 and self.program.showing(node) and node.get_parent().get_role_name() == "popup menu"]
 
@@ -264,7 +263,7 @@ class Menus(FilesTest):
         self.desktop.key("ctrl+q")
         self.wait_end()
 
-        self.start_empty()  # another run knows them
+        self.start_empty()  # a new run of the program still lists them
         self.assertEqual(self.open_recent(), [f"{number} {name}.ledgrove.json"
                                               for number, name in enumerate(("three", "two", "one"), 1)])
         self.desktop.key("2")
@@ -303,7 +302,7 @@ class Menus(FilesTest):
         table = self.folder / "table.csv"
         self.export("c", "Export CSV", table)
         wait_for(table.exists, "the table")
-        # its inputs given to ledgrove-cli as a price list make the same table
+        # ledgrove-cli gives the same table for these inputs as a price list
         saved = table.read_bytes()
         rows = list(csv.reader(saved.decode().splitlines()))
         results = rows[0].index("StdCase.DownPayment")

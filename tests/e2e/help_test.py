@@ -1,4 +1,4 @@
-"""The shipped help in its window, opened, read and left by keys alone."""
+"""The shipped help in its window, opened, read and closed with keys only."""
 import shutil
 import sys
 import tempfile
@@ -9,13 +9,13 @@ from desktop import Desktop, Program, wait_for
 
 PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
 HELP = "Ledgrove Help"
-# Of each tab, and a word of its topic that no other topic's first screen holds.
+# Each tab with the heading of its topic.
 TABS = (("Welcome", "Welcome: a first comparison"), ("Cash Flow", "Cash Flow"), ("More Home", "More Home"),
         ("Affordability", "Affordability"), ("Summary", "Summary"))
 
 
 def setUpModule():
-    # One for all: the accessibility library stays with the first bus it meets.
+    # All tests share one desktop, because the accessibility library keeps its first bus.
     HelpTest.desktop = Desktop()
     unittest.addModuleCleanup(HelpTest.desktop.close)
 
@@ -34,7 +34,7 @@ class HelpTest(unittest.TestCase):
         self.program.wait_focus("Annual Income")
 
     def help_window(self):
-        """The help as a screen reader meets it, None while it is closed."""
+        """The help window in the accessibility tree, or None while it is closed."""
         for index in range(self.program.root.get_child_count()):
             child = self.program.root.get_child_at_index(index)
             if child and child.get_name() == HELP and self.program.showing(child):
@@ -61,7 +61,7 @@ class HelpTest(unittest.TestCase):
         from gi.repository import Atspi
         node = self.part("label", "Help")
         box = node.get_extents(Atspi.CoordType.SCREEN)
-        # Only a point on a letter has a place in the text.
+        # Only a point on a character has an offset in the text.
         points = ((box.x + across, box.y + down) for down in range(6, 40, 4) for across in range(10, 70, 6))
         places = (Atspi.Text.get_offset_at_point(node, x, y, Atspi.CoordType.SCREEN) for x, y in points)
         at = next((place for place in places if place >= 0), None)
@@ -75,7 +75,7 @@ class HelpTest(unittest.TestCase):
         wait_for(lambda: self.first_line() == heading, f"the topic {heading}; it shows {self.first_line()}")
 
     def wait_focused(self, name):
-        """The focus on a control of the help."""
+        """Waits until a control of the help has the focus."""
         from gi.repository import Atspi
 
         def has():
@@ -103,7 +103,7 @@ class Topics(HelpTest):
             self.desktop.key("Escape")
             self.wait_closed()
 
-    def test_f1_in_a_dialog_opens_the_dialogs_topic_and_escape_leaves_the_dialog_open(self):
+    def test_f1_in_a_dialog_opens_its_topic_and_escape_keeps_the_dialog_open(self):
         self.program.click(self.program.find("push button", "Options"))
         self.program.window("Options")
         self.desktop.key("F1")
@@ -113,7 +113,7 @@ class Topics(HelpTest):
         self.wait_closed()
         self.program.window("Options")
 
-    def test_a_dead_help_file_is_told(self):
+    def test_an_unusable_help_file_is_reported(self):
         (self.folder / "LEDGROVE.HLP").write_bytes(bytes(range(256)) * 64)
         self.desktop.key("F1")
         self.assertIn("holds no text", self.program.answer()[1])
@@ -143,7 +143,7 @@ class Reading(HelpTest):
         self.desktop.key("ctrl+f")
         self.wait_focused("Find in the help")
         self.desktop.type("Glossary")
-        self.found("2 of 2")  # the first place is in the contents, above the topic that was read
+        self.found("2 of 2")  # the first match is in the contents, above the current topic
         self.desktop.key("Return")
         self.found("1 of 2")
         self.desktop.key("F3")

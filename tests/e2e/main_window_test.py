@@ -1,5 +1,4 @@
-"""The main window driven as its user drives it: real keys and clicks under a window manager, read as a screen reader
-reads it."""
+"""The main window in real use: real keys and clicks under a window manager, read as a screen reader reads it."""
 import shutil
 import sys
 import tempfile
@@ -36,17 +35,17 @@ class MainWindow(unittest.TestCase):
         return program
 
     def enter(self, program, name, text, key="Return"):
-        """Types into a field as a person does: click it, type over what is selected, commit."""
+        """Types into a field as a user does: click it, type over the selection, commit."""
         program.click(program.field(name))
         program.wait_focus(name)
         self.desktop.type(text)
         self.desktop.key(key)
 
     def pick(self, program, description, item):
-        """Opens a pick list with the mouse and clicks an item, which is not where the list stood before."""
+        """Opens a pick list with the mouse and clicks an item other than the current one."""
         box = program.find("combo box", description=description)
         program.click(box)
-        time.sleep(0.5)  # a release within the double-click time does not count as a choice
+        time.sleep(0.5)  # the list ignores a release within the double-click time
         entry = wait_for(lambda: next((n for n in program.all(box) if n.get_role_name() == "list item"
                                        and n.get_name() == item and program.showing(n)), None), f"item {item}")
         program.click(entry)
@@ -70,13 +69,13 @@ class MainWindow(unittest.TestCase):
         self.pick(program, OPTION_GMH, "FHA EEM")
         wait_for(lambda: self.picked(program, OPTION_GMH) == "FHA EEM", "FHA EEM")
 
-    def test_two_homes_typed_in_show_their_figures_on_all_tabs(self):
+    def test_all_tabs_show_the_figures_of_two_typed_homes(self):
         program = self.start()
         self.type_sample(program)
         program.wait_text(PRICE_GMH, "$206,000")
 
-        # 180,000 and 186,000 (the upgrade is financed whole) at 6.5 % over 30 years: 1137.72 and 1175.65; taxes and
-        # insurance of 1.55 % a year 258.33 and 266.08; PMI of 0.46 % a year 69.00 and 71.30
+        # 180,000 and 186,000 (the loan finances the whole upgrade) at 6.5 % over 30 years: 1137.72 and 1175.65; taxes and
+        # insurance of 1.55 % a year: 258.33 and 266.08; PMI of 0.46 % a year: 69.00 and 71.30
         self.tab(program, "Cash Flow")
         program.wait_result("Additional Mortgage, Monthly", "-$48")  # 1465.06 - 1513.03
         program.wait_result("Utility Savings, Monthly", "$58")  # 700 / 12
@@ -111,14 +110,14 @@ class MainWindow(unittest.TestCase):
         program.wait_focus("Annual Income")
         self.desktop.key("Down")
         program.wait_focus("Monthly Debt")
-        # the arrows also pass a pick list without changing it
+        # The arrow keys skip a pick list without changing it.
         self.desktop.key("alt+r")
         program.wait_focus(TERM)
         self.desktop.key("Down")
         wait_for(lambda: program.focused().get_description() != TERM, "the focus moved on")
         self.assertEqual(self.picked(program, TERM), "30 years")
 
-    def test_a_refused_text_keeps_the_focus_and_is_told_once(self):
+    def test_a_refused_text_keeps_the_focus_and_is_reported_once(self):
         program = self.start()
         self.desktop.type("abc")
         self.desktop.key("Tab")
@@ -128,13 +127,13 @@ class MainWindow(unittest.TestCase):
         self.desktop.type("-5")
         self.desktop.key("Return")
         self.assertEqual(program.answer(), ("Ledgrove", POSITIVE))
-        # leaving by a click on a button: told once, and the button does not act
+        # A click on a button leaves the field: one message, and the button does nothing.
         program.click(program.find("push button", "Disclaimer"))
         self.assertEqual(program.answer(), ("Ledgrove", POSITIVE))
         program.wait_focus("Annual Income")
         time.sleep(0.3)
         program.no_box()
-        # leaving by a click on a tab: the tab does not change
+        # A click on a tab leaves the field: the tab does not change.
         self.tab(program, "Summary")
         self.assertEqual(program.answer(), ("Ledgrove", POSITIVE))
         program.find("label", "Ledgrove Instructions")
@@ -163,7 +162,7 @@ class MainWindow(unittest.TestCase):
         self.enter(program, PCT_DOWN, "48000")
         program.wait_text(PCT_DOWN, "20.00%")  # 48,000 of 240,000
 
-    def test_pick_lists_refill_and_the_fannie_mae_message_comes_every_time(self):
+    def test_pick_lists_refill_and_the_fannie_mae_message_always_appears(self):
         program = self.start()
         for _ in range(2):
             self.pick(program, OPTION_GMH, "Fannie Mae EEM")
@@ -177,7 +176,7 @@ class MainWindow(unittest.TestCase):
         wait_for(lambda: self.picked(program, TERM) == "40 years", "40 years")
         program.wait_text("Term, GREENMARK Home", "40 years")
 
-    def test_the_eem_notice_comes_once_per_edit(self):
+    def test_the_eem_notice_appears_once_per_edit(self):
         program = self.start()
         self.type_sample(program)
         self.enter(program, PRICE_GMH, "260000")
@@ -210,7 +209,7 @@ class MainWindow(unittest.TestCase):
         self.assertTrue(text.startswith("Because actual home energy costs vary"))
         self.assertTrue(text.endswith("certified home energy rating or equivalent."))
 
-    def test_help_without_its_file_says_which_is_missing(self):
+    def test_help_without_its_file_names_the_missing_file(self):
         program = self.start()
         self.desktop.key("F1")
         self.assertIn("LEDGROVE.HLP", program.answer()[1])
@@ -236,7 +235,7 @@ class MainWindow(unittest.TestCase):
         wait_for(lambda: program.process.poll() is not None, "the end of the program")
         self.assertEqual(program.process.returncode, 0)
 
-    def test_a_missing_settings_file_ends_the_start_with_its_full_path(self):
+    def test_a_missing_settings_file_stops_the_start_with_its_full_path(self):
         (self.folder / "Ledgrove.ini").unlink()
         program = Program(self.desktop, PROGRAM, self.folder)
         self.addCleanup(program.close)

@@ -1,5 +1,5 @@
-"""A print server of the tests' own: a CUPS scheduler on this machine's loopback only, its printers writing into files. It
-keeps each job's document as it was sent."""
+"""A separate print server for tests: a CUPS scheduler that listens only on the loopback interface and prints to files. It
+keeps the document of each job."""
 import os
 import shutil
 import signal
@@ -55,11 +55,11 @@ def free_port():
 
 
 class PrintServer:
-    """Everything is started by this object and ended by it, by process id."""
+    """Starts the scheduler and ends it by process id."""
 
     def __init__(self):
         self.folder = Path(tempfile.mkdtemp())
-        # Run by root, the scheduler has its filters run by another user.
+        # When root runs the scheduler, its filters run as another user.
         self.folder.chmod(0o755)
         for name in ("cache", "spool", "spool/tmp", "out"):
             (self.folder / name).mkdir()
@@ -92,7 +92,7 @@ class PrintServer:
         self.run("lpadmin", "-x", name)
 
     def completed(self):
-        """Printer and number of every job that has been printed, the oldest first."""
+        """Printer and number of every printed job, the oldest first."""
         jobs = [line.split()[0].rsplit("-", 1) for line in self.run("lpstat", "-W", "completed", "-o").splitlines()]
         return sorted(((printer, int(number)) for printer, number in jobs), key=lambda job: job[1])
 
@@ -101,7 +101,7 @@ class PrintServer:
         return self.completed()[-1]
 
     def attribute(self, job, name):
-        """An attribute of the job as the server tells it."""
+        """An attribute of the job, from the server."""
         test = self.folder / "attributes.test"
         test.write_text('{\nOPERATION Get-Job-Attributes\nGROUP operation-attributes-tag\n'
                         'ATTR charset attributes-charset utf-8\nATTR language attributes-natural-language en\n'
@@ -117,7 +117,7 @@ class PrintServer:
         return self.folder / "spool" / f"d{job:05d}-001"
 
     def printed_pages(self, job):
-        """Sheets times copies, as the server counted them."""
+        """The server's page log lines for the job, which count pages times copies."""
         log = (self.folder / "page_log").read_text()
         return [line for line in log.splitlines() if line.split()[1] == str(job)]
 

@@ -1,5 +1,5 @@
-"""The report printed from the real window, on a print server of the tests' own and without one. What was printed is read back
-from the server and from the document that it was sent."""
+"""Prints the report from the real window, with a separate print server and without one. The tests read the server's records
+and the printed documents."""
 import re
 import shutil
 import subprocess
@@ -20,7 +20,7 @@ SECTIONS = ("Cash Flow", "More Home", "Affordability", "Summary", "Financial Ass
 
 
 def setUpModule():
-    # One for all: the accessibility library stays with the first bus it meets.
+    # All tests share one desktop, because the accessibility library keeps its first bus.
     PrintTest.desktop = Desktop()
     unittest.addModuleCleanup(PrintTest.desktop.close)
 
@@ -46,7 +46,7 @@ class PrintTest(unittest.TestCase):
             shutil.copy(SOURCE / "data" / name, self.folder)
 
     def start(self, server):
-        """The program on this print server, the sample typed in."""
+        """Starts the program with this print server and types the sample."""
         self.desktop.environment["CUPS_SERVER"] = server
         self.program = Program(self.desktop, PROGRAM, self.folder)
         self.addCleanup(self.program.close)
@@ -74,7 +74,7 @@ class PrintTest(unittest.TestCase):
         return self.program.find("combo box", description=description).get_name()
 
     def choose(self, description, key, item):
-        """Chooses an item by its first letter, in the list that Alt and `key` reach."""
+        """Chooses an item by its first letter, in the list that Alt and `key` select."""
         self.desktop.key("alt+" + key)
         self.program.wait_focus(description)
         self.desktop.type(item[0])
@@ -105,7 +105,7 @@ class WithServer(PrintTest):
         self.jobs_before = len(self.server.completed())
 
     def print(self):
-        """Presses "Print" and waits for the job; gives its printer and number."""
+        """Presses "Print" and waits for the job; returns its printer and number."""
         self.press("Print")
         return self.server.wait_job(self.jobs_before + 1)
 
@@ -127,14 +127,14 @@ class WithServer(PrintTest):
         self.assertEqual(self.server.attribute(job, "copies"), "2")
         self.assertEqual(self.server.attribute(job, "job-name"), "Summary Report")
         document = self.server.document(job)
-        self.assertEqual(pdf_pages(document), [(612, 792)] * 2)  # letter, 8.5 and 11 times 72
+        self.assertEqual(pdf_pages(document), [(612, 792)] * 2)  # letter: 8.5 and 11 times 72
         self.assertTrue(self.server.printed_pages(job)[-1].endswith("total 4"))  # two pages twice
         text = pdf_text(document)
         for part in ("Summary Report for Ledgrove", "Home Buyer Financial Information", "$206,000", "Conventional",
                      "GREENMARK - More Value For Less Cost", "Buy More Home", "Finished basement",
                      "GREENMARK Qualified Homes are Affordable", "Net Monthly Payment", "Front End Ratio", "Page 2"):
             self.assertIn(part, text)
-        # the window is there for more
+        # The preview stays open for more printing.
         wait_for(lambda: self.program.focused() and self.program.focused().get_name() == "Print", "Print again")
 
     def test_landscape_on_a4_at_the_other_printer(self):
@@ -184,7 +184,7 @@ class WithServer(PrintTest):
         self.print()
         self.assertEqual(len(self.server.completed()), self.jobs_before + 1)
 
-    def test_a_printer_that_is_gone_is_told(self):
+    def test_a_removed_printer_is_reported(self):
         self.server.add_printer("Attic", "lsb/usr/cupsfilters/Generic-PDF_Printer-PDF.ppd")
         self.start()
         self.preview()
@@ -202,7 +202,7 @@ class WithoutServer(PrintTest):
     def start(self):
         super().start(f"127.0.0.1:{free_port()}")
 
-    def test_there_is_only_pdf(self):
+    def test_only_pdf_is_offered(self):
         self.start()
         self.preview()
         self.assertEqual(self.chosen("Printer"), "Print to PDF")

@@ -1,11 +1,11 @@
-"""The window's result tabs as a screen reader reads them, beside what ledgrove-cli says of the same comparison."""
+"""Compares the window's result tabs, as a screen reader reads them, with ledgrove-cli's results of the same comparison."""
 import json
 import subprocess
 
 from desktop import ENDS, wait_for
 
 MONTHLY, YEARLY, BASE, GREEN = "Monthly", "Yearly", "Base Home", "GREENMARK Home"
-# Of each tab its rows: the caption, or the label that holds it, and the label of each column.
+# The rows of each tab: the caption, or the label that holds it, and the label of each column.
 TABS = {
     "Cash Flow": (
         ("lbladditionalmortgagetext", {MONTHLY: "lblAddMortMo", YEARLY: "lblAddMortYr"}),
@@ -38,12 +38,12 @@ TABS = {
         ("lblTerm", {GREEN: "lbl30YrPre"}),
         ("lblPV", {GREEN: "lblPVofSavings"}),
         ("PV of Savings", {"note": "lblPVNote"}))}
-# What the tabs hold besides: the inputs above them say these.
+# Labels that are not results: they belong to the inputs above the tabs.
 NO_RESULTS = {"House Scenarios"}
 
 
 def compare(program, folder, file="-", given=""):
-    """What `ledgrove-cli compare` makes of a file, or of the text `given`, with the settings of `folder`."""
+    """The result of `ledgrove-cli compare` for a file, or for the text `given`, with the settings of `folder`."""
     run = subprocess.run([program.with_name("ledgrove-cli"), "compare", "--folder", folder, "--format", "json", file],
                          input=given, capture_output=True, text=True, timeout=60)
     assert run.returncode in ENDS, run.stderr
@@ -51,7 +51,7 @@ def compare(program, folder, file="-", given=""):
 
 
 def expected(tab, labels):
-    """The words of a tab by what they are described as."""
+    """The texts of a tab by their accessible descriptions."""
     words = {}
     for caption, columns in TABS[tab]:
         if caption in labels:
@@ -63,28 +63,28 @@ def expected(tab, labels):
 
 
 def shown(program):
-    """The described labels that the window shows now."""
+    """The visible labels that have an accessible description."""
     return {node.get_description(): node.get_name() for node in program.all(program.front())
             if node.get_role_name() == "label" and node.get_description() and program.showing(node)
             and node.get_description() not in NO_RESULTS}
 
 
 def wait_shown(program, tab, labels):
-    """The tab in front says what ledgrove-cli does, word for word."""
+    """Waits until the current tab shows the same texts as ledgrove-cli."""
     words = expected(tab, labels)
     assert len(words) > 6, words
-    wait_for(lambda: shown(program) == words, f"{tab} saying {words}, it says {shown(program)}")
+    wait_for(lambda: shown(program) == words, f"{tab} showing {words}, it shows {shown(program)}")
 
 
 def go_to(program, name):
-    """Moves the focus with Tab, as who does not see where things are; gives the names met on the way."""
+    """Moves the focus with Tab, as a blind user does; returns the names on the way."""
     met = []
     while not met or name not in met[-1]:
         if len(met) > 60:
             raise AssertionError(f"{name} is not reached by Tab: {met}")
         before = program.focused()
         program.desktop.key("Tab")
-        wait_for(lambda: program.focused() is not None and program.focused() != before, f"the focus behind {met}")
+        wait_for(lambda: program.focused() is not None and program.focused() != before, f"the focus after {met}")
         node = program.focused()
         met.append((node.get_name(), node.get_description()))
     return met

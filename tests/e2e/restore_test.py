@@ -1,4 +1,4 @@
-"""What a save that was interrupted between delete and rename leaves, and how the window brings it back."""
+"""A save that was interrupted between delete and rename, and how the window restores its settings."""
 import shutil
 import sys
 import tempfile
@@ -12,7 +12,7 @@ QUESTION = "The last save was interrupted. Your settings are in Pennaro2.INI. Re
 
 
 def setUpModule():
-    # One for all: the accessibility library stays with the first bus it meets.
+    # All tests share one desktop, because the accessibility library keeps its first bus.
     RestoreTest.desktop = Desktop()
     unittest.addModuleCleanup(RestoreTest.desktop.close)
 
@@ -35,18 +35,18 @@ class RestoreTest(unittest.TestCase):
     def names(self):
         return sorted(path.name for path in self.folder.iterdir())
 
-    def test_yes_restores_and_goes_on(self):
+    def test_yes_restores_and_continues(self):
         program = self.start("Pennaro2.INI")
         self.assertEqual(program.answer("Yes"), ("Ledgrove", QUESTION))
         program.wait_focus("Annual Income")
         self.assertEqual(self.names(), ["Ledgrove.ini"])
         self.assertEqual(self.settings.read_bytes(), self.saved)
 
-    def test_no_ends_with_the_settings_where_they_are(self):
+    def test_no_ends_and_does_not_move_the_settings(self):
         program = self.start("Pennaro2.INI")
         self.assertEqual(program.box()[1], QUESTION)
         program.click(program.find("push button", "No"))
-        wait_for(lambda: program.box()[1] != QUESTION, "the sentence behind the question")
+        wait_for(lambda: program.box()[1] != QUESTION, "the message after the question")
         _, text = program.answer("OK")
         self.assertIn(str(self.folder / "Pennaro2.INI"), text)
         self.assertIn('Rename that file to "Ledgrove.ini"', text)
@@ -61,7 +61,7 @@ class RestoreTest(unittest.TestCase):
         program.wait_focus("Annual Income")
         self.assertEqual(self.names(), ["Ledgrove.ini"])
 
-    def test_nothing_is_asked_while_the_settings_are_there(self):
+    def test_no_question_while_the_settings_exist(self):
         (self.folder / "Pennaro2.INI").write_bytes(b"half a save")
         program = self.start("Ledgrove.ini")
         program.wait_focus("Annual Income")

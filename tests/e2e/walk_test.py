@@ -1,5 +1,5 @@
-"""A whole comparison by someone who sees nothing: keys alone, and what the accessibility tree says. No place on the screen is
-looked at or clicked. What is read is what `ledgrove-cli compare` says of the same inputs."""
+"""A whole comparison by a blind user: only keys and the accessibility tree, no screen positions and no clicks. The texts must
+match the results of `ledgrove-cli compare` for the same inputs."""
 import json
 import re
 import shutil
@@ -24,13 +24,13 @@ CHARTS = {"Cash Flow": "Monthly Cost of Both Homes", "Affordability": "Mortgage 
 
 
 def setUpModule():
-    # One for all: the accessibility library stays with the first bus it meets.
+    # All tests share one desktop, because the accessibility library keeps its first bus.
     WalkTest.desktop = Desktop()
     unittest.addModuleCleanup(WalkTest.desktop.close)
 
 
 def money(amount):
-    """Whole dollars; an amount here is never below 0."""
+    """Whole dollars; amounts in these tests are never below 0."""
     return f"${int(amount + 0.5):,}"
 
 
@@ -47,7 +47,7 @@ class WalkTest(unittest.TestCase):
         self.program.wait_focus("Annual Income")
 
     def told(self):
-        """Reads the message box that came, sees that Enter will do, and presses it."""
+        """Reads the open message box, checks that a button has the focus, and presses Enter."""
         from gi.repository import Atspi
         node, text = self.program.box()
         wait_for(lambda: any(child.get_role_name() == "push button" and child.get_name()
@@ -86,29 +86,29 @@ class WalkTest(unittest.TestCase):
         self.program.window(back_to)
         wait_for(lambda: not any(child.get_name() == title and self.program.showing(child)
                                  for child in self.windows()), f"{title} closed")
-        wait_for(self.program.focused, f"the focus behind {title}")
+        wait_for(self.program.focused, f"the focus after {title}")
 
     def windows(self):
         root = self.program.root
         return [root.get_child_at_index(index) for index in range(root.get_child_count())]
 
     def round_by_tab(self):
-        """Goes once around the dialog with Tab; every control has a name, gives role and name of each."""
+        """Goes once around the dialog with Tab. Every control must have a name; returns role and name of each."""
         met = []
         for _ in range(80):
             node = wait_for(self.program.focused, "a control with the focus")
             at = (node.get_role_name(), node.get_name(), node.get_description())
             if at in met:
                 return met
-            self.assertTrue(at[1] or at[2], f"a {at[0]} without a name behind {met}")
+            self.assertTrue(at[1] or at[2], f"a {at[0]} without a name after {met}")
             met.append(at)
             self.desktop.key("Tab")
-            wait_for(lambda: self.program.focused() is not None and self.program.focused() != node, f"more behind {at}")
-        raise AssertionError(f"no way around: {met}")
+            wait_for(lambda: self.program.focused() is not None and self.program.focused() != node, f"a control after {at}")
+        raise AssertionError(f"Tab does not return to the first control: {met}")
 
 
 class Comparison(WalkTest):
-    def test_every_tab_says_what_the_command_line_does(self):
+    def test_every_tab_shows_the_results_of_the_command_line(self):
         self.enter_inputs()
         self.check_tabs(compare(PROGRAM, self.folder, given=json.dumps(INPUTS)))
 
@@ -137,16 +137,16 @@ class Comparison(WalkTest):
         self.desktop.type("Fa")
         self.assertEqual(self.told(), ("Ledgrove", result["messages"][0]["text"].replace("\r", "\n")))
         self.assertEqual(self.program.focused().get_name(), "Fannie Mae EEM")
-        self.assertEqual(result["labels"]["lblStdMort"]["text"], "$170,000")  # 200,000 less 30,000
+        self.assertEqual(result["labels"]["lblStdMort"]["text"], "$170,000")  # 200,000 - 30,000
         self.check_tabs(result)
 
     def check_tabs(self, result):
         for number, tab in enumerate(TABS, 2):
             self.desktop.key(f"ctrl+{number}")
             wait_shown(self.program, tab, result["labels"])
-        self.program.no_box()  # nothing is missing, so nothing was told
+        self.program.no_box()  # nothing is missing, so there is no data check message
 
-    def test_every_chart_tells_its_figures(self):
+    def test_every_chart_describes_its_figures(self):
         self.enter_inputs()
         result = compare(PROGRAM, self.folder, given=json.dumps(INPUTS))
         label = {name: entry["text"] for name, entry in result["labels"].items()}
@@ -182,7 +182,7 @@ class Comparison(WalkTest):
         years = re.search(r"(\d+) Years", label["lblYrsIn"])[1]
         return [f"{label['lblExpYrPre']} after {years} years in the home, {label['lbl30YrPre']} after 30 years."]
 
-    def test_the_data_check_is_told(self):
+    def test_the_data_check_message_appears(self):
         self.desktop.key("ctrl+2")
         title, text = self.told()
         self.assertEqual(title, "Ledgrove Data Check")
@@ -197,7 +197,7 @@ class Comparison(WalkTest):
         from gi.repository import Atspi
         return tab.get_state_set().contains(Atspi.StateType.FOCUSED)
 
-    def test_a_refusal_is_told_and_the_field_waits(self):
+    def test_a_refusal_shows_a_message_and_keeps_the_field(self):
         for text in ("abc", "-5"):
             self.desktop.type(text)
             self.desktop.key("Tab")
@@ -209,7 +209,7 @@ class Comparison(WalkTest):
         self.desktop.key("Tab")
         self.program.wait_focus("Monthly Debt")
 
-    def test_the_way_around_the_window_names_every_control(self):
+    def test_tab_reaches_every_control_of_the_window(self):
         met = self.names_around()
         for name in NAMES.values():
             self.assertIn(name, met)
@@ -220,7 +220,7 @@ class Comparison(WalkTest):
 
     def names_around(self):
         names = [name for name, _ in go_to(self.program, "Annual Income")]
-        self.assertEqual(names.count(""), 1)  # the tabs, which tell their own name
+        self.assertEqual(names.count(""), 1)  # only the tab bar has no name of its own
         return names
 
 
@@ -297,7 +297,7 @@ class Dialogs(WalkTest):
         version = re.search(r"project\(Ledgrove VERSION ([\d.]+)", (SOURCE / "CMakeLists.txt").read_text())[1]
         self.assertTrue(text.startswith(f"Ledgrove {version}\n"), text)
 
-    def test_the_help_is_read_and_left(self):
+    def test_the_help_opens_is_read_and_closes(self):
         from gi.repository import Atspi
         self.desktop.key("F1")
         window = wait_for(lambda: next((node for node in self.windows() if node.get_name() == "Ledgrove Help"), None),

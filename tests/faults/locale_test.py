@@ -1,4 +1,4 @@
-"""The machine's language changes nothing in settings, comparisons, price lists and reports: locale_test.py CLI SOURCE."""
+"""The system's language changes nothing in settings, comparisons, price lists and reports: locale_test.py CLI SOURCE."""
 import os
 import shutil
 import subprocess
@@ -9,13 +9,13 @@ from pathlib import Path
 
 CLI, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
 SAMPLE = SOURCE / "data/samples/first-home.ledgrove.json"
-# Comma as the decimal point; blanks between thousands; other digits, written from right to left.
+# Languages with a decimal comma, with blanks between thousands, and with other digits and right-to-left text.
 LANGUAGES = ("de_DE", "fr_FR", "ar_EG")
 LIST = b"ecIncome,ecStdHome,ecGMHHome,cboMortTerm\n72000.50,\"$200,000\",206000,30 years\n\"1.234,5\",1,2,30 years\n"
 
 
 def made_locales(folder):
-    """Those that this machine can make; their definitions are a package of their own."""
+    """The locales that this system can build; their definitions are in a separate package."""
     for language in LANGUAGES:
         run = subprocess.run(["localedef", "-i", language, "-f", "UTF-8", folder / f"{language}.UTF-8"],
                              capture_output=True, check=False)
@@ -35,7 +35,7 @@ class Locales(unittest.TestCase):
         return run.returncode, run.stdout
 
     def everything(self, language):
-        """What each program gives and writes, by name."""
+        """The output and files of each program, by name."""
         data = self.folder / "data"
         shutil.copytree(SOURCE / "data", data)
         given = ("--folder", data)
@@ -65,7 +65,7 @@ class Locales(unittest.TestCase):
         self.assertEqual(plain["json"][0], 0)
         self.assertEqual(plain["get"], (0, b"1.25\n"))
         for language in languages:
-            # A locale that was not taken would prove nothing.
+            # Checks that the locale is active; the test would prove nothing without it.
             point = subprocess.run(["locale", "decimal_point"], capture_output=True, check=True,
                                    env={**os.environ, "LOCPATH": str(self.folder), "LC_ALL": language}).stdout
             self.assertNotEqual((language, point.strip()), ("de_DE.UTF-8", b"."))

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""What hard inputs cost: measure.py PROGRAMS, the folder with ledgrove-cli and ledgrove-report. Prints each beside its limit.
+"""The cost of difficult inputs: measure.py PROGRAMS, the folder with ledgrove-cli and ledgrove-report. Prints each with its limit.
 
-Figures are worth something on a quiet machine; what the files must hold afterwards is for the tests."""
+The figures need a quiet machine; the tests check the contents of the files."""
 import os
 import shutil
 import struct
@@ -33,7 +33,7 @@ def cost(command, status=0):
 
 
 def tell(what, figure, limit, reached):
-    print(f"{what:<58} {figure:<22} {limit:<22} {'reached' if reached else 'FALLS SHORT'}", flush=True)
+    print(f"{what:<58} {figure:<22} {limit:<22} {'reached' if reached else 'MISSED'}", flush=True)
 
 
 def settings(folder):
@@ -47,7 +47,7 @@ def settings(folder):
         change = cost([PROGRAMS / "ledgrove-cli", "settings", "--folder", folder, "set", "BUILDERNAME", "Acme"])
         compare = cost([PROGRAMS / "ledgrove-cli", "compare", "--folder", folder, SAMPLE])
         worst = max(change[0], compare[0])
-        tell(f"settings with {what}: saved, comparison run", f"{change[0]:.2f} s, {compare[0]:.2f} s", "at most 2 s",
+        tell(f"settings with {what}: save, comparison", f"{change[0]:.2f} s, {compare[0]:.2f} s", "at most 2 s",
              worst <= 2 and path.read_bytes().endswith(more))
 
 
@@ -68,7 +68,7 @@ def long_report(folder):
 
 
 def pictures(folder):
-    """Each file is below a kilobyte; the cost is what it adds to a report without a logo."""
+    """Each file is below a kilobyte; its cost is the difference to a report without a logo."""
     shutil.copy(ROOT / "data/Ledgrove.ini", folder)
     logo = folder / "logo.bmp"
     report = [PROGRAMS / "ledgrove-cli", "report", "--folder", folder, "--output", folder / "logo.pdf", SAMPLE]

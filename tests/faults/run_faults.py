@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Stops and fails every system call of every save, lets copies of the program save at once, and fills a small disk.
+"""Stops and fails every system call of every save, lets several copies of the program save at once, and fills a small disk.
 
 usage: run_faults.py FAULT_WRITER LEDGROVE_CLI [SAVE_PROGRAM] [--full] [--rounds N]
 
-Prints its figures; the exit status is 1 where anything was lost, silent or crashed. --full tries every error at every
-call instead of one in turn."""
+Prints its figures; the exit status is 1 if data was lost, a fault was not reported or a program crashed. --full tries every
+error at every call instead of one in turn."""
 import argparse
 import itertools
 import os
@@ -21,11 +21,11 @@ from pathlib import Path
 from writers import INI, OLD, TEMPORARY, all_writers, large_writers
 
 ERRORS = ("EIO", "ENOSPC", "EACCES", "EROFS", "EDQUOT")
-# Memory and the end of the process are no file's business; a failed allocation ends any program.
+# These calls concern memory and processes, not files; a failed allocation ends any program.
 LEFT_ALONE = {"brk", "mmap", "munmap", "mprotect", "exit_group", "futex", "getrandom", "clock_nanosleep"}
-# Through pipes of its own a sanitizer asks the system which memory can be read.
+# A sanitizer uses its own pipes to ask the system which memory is readable.
 SANITIZERS_OWN = re.compile(r"\d+ +(pipe2|(read|write|close)\(([3-9]|\d{2,})<pipe:)")
-STATUSES = (0, 1, 2)  # of the programs; a sanitizer that found something ends them with another
+STATUSES = (0, 1, 2)  # of the programs; a sanitizer report ends them with another status
 PATIENCE = 60
 WORKERS = 2
 
@@ -35,7 +35,7 @@ def run(command, **options):
 
 
 class Trial:
-    """One run of a writer in a folder of its own."""
+    """One run of a writer in a separate folder."""
 
     def __init__(self, writer):
         self.writer = writer
@@ -59,7 +59,7 @@ class Trial:
         return path.read_bytes() if path.exists() else None
 
     def faults(self, kind, ended):
-        """What is wrong with what the run left: lost, silent, crashed, untidy."""
+        """The faults of the run: lost, silent, crashed, untidy."""
         writer, names = self.writer, {path.name for path in self.folder.iterdir()}
         content = self.content(writer.file)
         first, last = writer.states[0], writer.states[-1]
@@ -68,7 +68,7 @@ class Trial:
             yield "lost"
         if content is not None and content not in writer.states:
             yield "lost"
-        # A file that is made from another may be missing only where that one is untouched.
+        # A file that is made from another file may be missing only if the other one is unchanged.
         if content is None and first is None and any(self.content(name) != old for name, old in writer.before.items()):
             yield "lost"
         killed = ended.returncode in (-9, 137)
@@ -80,7 +80,7 @@ class Trial:
                 yield "silent"
             if ended.returncode != 0 and not said.endswith("."):
                 yield "silent"
-            # Where only the temporary file holds the settings, the sentence must say so.
+            # If only the temporary file holds the settings, the message must name it.
             if ended.returncode != 0 and first is not None and content is None and TEMPORARY not in said:
                 yield "silent"
         known = (writer.file, *writer.before, *writer.leftovers)
@@ -91,7 +91,7 @@ class Trial:
 
 
 def calls_of(writer):
-    """The writer's system calls from the first that concerns its folder: name and how many of that name came before."""
+    """The writer's system calls from the first one that concerns its folder: name, and its count among calls of that name."""
     with Trial(writer) as trial, tempfile.NamedTemporaryFile("r") as log:
         ended = trial.run("strace", "-f", "-y", "-qq", "-o", log.name)
         if ended.returncode != 0 or trial.content(writer.file) != writer.states[-1]:
@@ -110,8 +110,8 @@ def calls_of(writer):
 
 
 def plans_of(writer, full):
-    """(kind, call, injection) for each run. A call that reads or writes also says that it did only
-    a byte, or nothing, without an error."""
+    """(kind, call, injection) for each run. A call that reads or writes also returns 1 or 0 bytes
+    without an error."""
     turn = itertools.cycle(ERRORS)
     for name, number in calls_of(writer):
         if name == "exit_group":
@@ -121,10 +121,10 @@ def plans_of(writer, full):
             continue
         for error in ERRORS if full else (next(turn),):
             yield name, name, f"inject={name}:error={error}:when={number}"
-            # A disk that is full stays full. Only the sentence must still come out.
+            # A full disk stays full, so every later call of this name fails. Only writes stay possible, for the message.
             if name != "write":
                 yield name, name, f"inject={name}:error={error}:when={number}+"
-        # Nobody can tell where a pipe's bytes went, and only settings are measured after they are written.
+        # A program cannot check the bytes that it wrote to a pipe, and only settings are checked after the write.
         if name == "read" or name == "write" and writer.says is None and writer.file == INI:
             for told in (0, 1):
                 yield name, name, f"inject={name}:retval={told}:when={number}"
@@ -133,7 +133,7 @@ def plans_of(writer, full):
 def one_run(writer, plan):
     kind, call, injection = plan
     with Trial(writer) as trial, tempfile.NamedTemporaryFile("r") as log:
-        # Not with --seccomp-bpf, under which the signal goes astray.
+        # Without --seccomp-bpf, which loses the signal.
         ended = trial.run("strace", "-f", "-qq", "-o", log.name, "-e", f"trace={call}", "-e", injection)
         happened = ended.returncode in (-9, 137) if kind == "kill" else "(INJECTED)" in log.read()
         if not happened:
@@ -155,12 +155,12 @@ def inject_everywhere(writers, full):
     kills = sum(plan[0] == "kill" for _, plan in plans)
     interrupted = sum(fault == "restored" for fault, _ in results)
     print(f"system calls stopped: {kills}, failed: {len(plans) - kills}, of {len(writers)} writers; "
-          f"{interrupted} left the settings in the temporary file alone, all restored")
+          f"{interrupted} left the settings only in the temporary file, all restored")
     return [(fault, text) for fault, text in results if fault != "restored"]
 
 
 def without_locks(writers):
-    """A file system that knows no locks: everything is saved and read all the same."""
+    """On a file system without locks, all saves and reads work."""
     for writer in writers:
         for error in ("ENOLCK", "EOPNOTSUPP", "EBADF"):
             with Trial(writer) as trial:
@@ -170,7 +170,7 @@ def without_locks(writers):
 
 
 def at_once(program, rounds):
-    """Two copies save and a third reads, all the time."""
+    """Two copies save while a third reads."""
     with tempfile.TemporaryDirectory(prefix="ledgrove-faults-") as name:
         folder = Path(name)
         (folder / INI).write_bytes(OLD + b"COUNTA=0\r\nCOUNTB=0\r\n")
@@ -181,7 +181,7 @@ def at_once(program, rounds):
         try:
             outputs = [process.communicate(timeout=PATIENCE * 4) for process in writers]
             if any(process.returncode for process in writers):
-                running[2].terminate()  # it would wait for the end of both for ever
+                running[2].terminate()  # it would wait forever for both writers
             outputs.append(running[2].communicate(timeout=PATIENCE))
         finally:
             for process in running:
@@ -198,7 +198,7 @@ def at_once(program, rounds):
 
 
 def on_a_full_disk(programs):
-    """Runs this script again where it may mount a small disk of its own."""
+    """Runs this script again in a mount namespace, where it may mount a small disk."""
     inside = [sys.executable, __file__, *programs, "--inside"]
     as_root = [] if os.geteuid() == 0 else ["--map-root-user"]
     ended = run(["unshare", "--mount", *as_root, *inside])
@@ -216,7 +216,7 @@ def inside(programs):
         subprocess.run(["mount", "-t", "tmpfs", "-o", "size=64k", "ledgrove-faults", name], check=True)
         faults, tried, refused = [], 0, 0
         try:
-            # Beside ever less room: from enough for a second file to none at all.
+            # With less and less free space: from enough for a second file to none.
             for writer, pages in itertools.product(large_writers(*programs), range(17)):
                 for path in folder.iterdir():
                     path.unlink()
@@ -264,7 +264,7 @@ def main():
     if arguments.inside:
         inside(programs)
         return 0
-    # The search for leaks cannot run in a traced program.
+    # The leak check cannot run in a traced program.
     os.environ["ASAN_OPTIONS"] = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
     writers = all_writers(*programs)
     found = inject_everywhere(writers, arguments.full)

@@ -1,12 +1,12 @@
-"""The saves and readings that the faults are tried on: a folder as it is before, the command, and the folder's states that are no loss.
+"""The saves and reads for the fault tests: the folder before, the command, and the states of the folder that are not a loss.
 
-The states are worked out here from the rewrite rules, not taken from what a program wrote."""
+The states follow from the rewrite rules; they are not copied from a program's output."""
 from dataclasses import dataclass, field
 from pathlib import Path
 
 INI, TEMPORARY = "Ledgrove.ini", "Pennaro2.INI"
 
-# Between the lines of every key stands one of no key, with bytes that are no text.
+# Between the lines of known keys there are lines without a key, with bytes that are not text.
 LINES = (b"BUILDERNAME=Acme", b"NOTE=\xe9\x81\x00\xff", b"LOGOFILE=/old.bmp", b"LOGOOPTION=1", b"FEATURE1=Finished basement",
          b"# kept", b"FEATURE2=Larger deck", b"TAXCAT=45200,15", b"TAXCAT=109250,28", b"", b"ASSUMPTION1=1.5",
          b"ASSUMPTION2=0.35", b"PVSAVINGS_RATE=7.5", b"PVSAVINGS_TERM=30", b"PVSAVINGS_FLAG=FALSE", b"YEARS_IN_HOME=7",
@@ -19,7 +19,7 @@ def joined(lines):
 
 
 def replaced(lines, **values):
-    """Every line of the key gets the value; a key without a line is appended."""
+    """Sets the value in every line of the key; appends a key that has no line."""
     out = list(lines)
     for key, value in values.items():
         start = key.encode() + b"="
@@ -38,7 +38,7 @@ def turned(lines, old_to_new):
 
 
 TAXED = turned(LINES, {b"TAXCAT=45200,15": b"TAXCAT=50000,16.00", b"TAXCAT=109250,28": b"TAXCAT=99000,29.00"})
-# The assumptions dialog's three saves, one after the other. Its last bracket is shown without its high end and keeps it.
+# The three consecutive saves of the assumptions dialog. The dialog hides the high end of the last bracket and keeps it.
 RETAXED = turned(LINES, {b"TAXCAT=45200,15": b"TAXCAT=45200,15.00", b"TAXCAT=109250,28": b"TAXCAT=109250,28.00"})
 ASSUMED = replaced(RETAXED, ASSUMPTION1=b"1.75", ASSUMPTION2=b"0.45", PVSAVINGS_RATE=b"5.25", PVSAVINGS_TERM=b"15",
                    PVSAVINGS_FLAG=b"TRUE", YEARS_IN_HOME=b"9", PMI_MULT1=b"0", PMI_MULT2=b"0", PMI_MULT3=b"0", PMI_MULT4=b"0")
@@ -54,18 +54,18 @@ OLD = joined(LINES)
 
 @dataclass
 class Writer:
-    """A save of one file. `states` are the file's contents from the one before to the finished one; None is no file.
+    """A save of one file. `states` are the file's contents from the first to the last; None means no file.
 
-    A writer with another scheme names its files and, as `rescued`, where else a whole state may lie after a kill."""
+    A writer with another scheme names its files; `rescued` names the other files that may hold a complete state after a kill."""
     name: str
     command: list
     states: list
     before: dict = field(default_factory=lambda: {INI: OLD})
     file: str = INI
     rescued: tuple = (TEMPORARY,)
-    leftovers: tuple = (TEMPORARY,)  # what a killed save may leave beside the file, as patterns
-    restore: list = ()  # the command that brings back what an interrupted save left
-    says: bytes | None = None  # what a reader prints when it says that all went well
+    leftovers: tuple = (TEMPORARY,)  # patterns of other files that a killed save may leave
+    restore: list = ()  # the command that restores the settings of an interrupted save
+    says: bytes | None = None  # the output of a reader that succeeds
 
     def prepare(self, folder: Path):
         for name, content in self.before.items():
@@ -73,19 +73,19 @@ class Writer:
 
 
 COMPARISON, OLD_COMPARISON = "doe.ledgrove.json", b'{"ecIncome": "$1"}\n'
-# More than a buffer of the toolkit's, so that it is written in several steps.
+# Longer than Qt's file buffer, so Qt writes it in several steps.
 NEW_COMPARISON = b'{"ecIncome": "$72,000"}' + b" " * 20000 + b"\n"
 
 
 def comparison(save_program, before):
-    """The save of a comparison: a new file without a name, or under a random one, takes the place of the old."""
+    """The save of a comparison: a new file, unnamed or with a random name, replaces the old one."""
     return Writer("comparison" if before else "new comparison",
                   [save_program, f"FOLDER/{COMPARISON}", NEW_COMPARISON.decode()], [before, NEW_COMPARISON],
                   before={COMPARISON: before} if before else {}, file=COMPARISON, rescued=(), leftovers=(COMPARISON + ".*",))
 
 
 def large_writers(fault_writer, ledgrove_cli, save_program=None):
-    """Saves of six pages, for small disks."""
+    """Saves of six memory pages, for small disks."""
     unknown = b"".join(b"UNKNOWN%04d=x\r\n" % line for line in range(1400))
     yield Writer("setting", [fault_writer, "setting", "FOLDER"], [OLD + unknown, joined(NAMED) + unknown],
                  before={INI: OLD + unknown})

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the seeds of a fuzz target into a folder: make_corpora.py TARGET FOLDER. The same files each time."""
+"""Writes the seeds of a fuzz target into a folder: make_corpora.py TARGET FOLDER. The files are the same each time."""
 import struct
 import sys
 from pathlib import Path
@@ -26,7 +26,7 @@ def numbers():
     for index, text in enumerate(texts):
         for picture in pictures[index % 3::3]:
             value = values[index % len(values)]
-            # The number's first bytes are a single too.
+            # The target also reads the number's first bytes as a single-precision value.
             number = struct.pack("<d", value) if index % 2 else struct.pack("<ff", min(value, 3e38), 1.5)
             yield number + picture.encode() + b"\0" + text.encode()
 
@@ -112,7 +112,7 @@ def pictures():
 
 
 def metafile():
-    """By function index and words; the target puts the frame around."""
+    """Records by function index and words; the target adds the frame."""
     def record(index, *words):
         return bytes([index, len(words)]) + struct.pack(f"<{len(words)}h", *words)
     window = record(23, 0, 0) + record(24, 100, 200)

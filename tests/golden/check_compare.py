@@ -1,20 +1,20 @@
 #!/usr/bin/env python3
-"""Runs ledgrove-cli over the golden comparisons and holds its results against values worked out independently.
+"""Runs ledgrove-cli over the golden comparisons and compares its results with values calculated independently.
 
-Texts, colours, visibility, messages and data check must be equal. Figures agree to a relative 2e-6 or to the last bits
-of a single before a subtraction; a money text may then differ by a dollar, and only at a half-dollar boundary.
-Closes with "N passed, N failed".
+Texts, colours, visibility, messages and data check must be equal. Figures must agree to a relative 2e-6, or to the last
+bits of a single-precision value before a subtraction; a money text may then differ by a dollar, but only at a half-dollar
+boundary. The last line is "N passed, N failed".
 """
 import json
 import math
 import subprocess
 import sys
 
-SINGLE_BITS = 4 * 2.0**-23  # a few last bits of a single
+SINGLE_BITS = 4 * 2.0**-23  # the last few bits of a single-precision value
 
 
 def magnitude(result):
-    """The largest amount a difference was taken of: its last bits are the differences' absolute tolerance."""
+    """The largest amount that a difference may come from; its last bits give the absolute tolerance of differences."""
     amounts = [0.0]
     for record in ("StdCase", "GMHCase", "Scenario"):
         amounts += [abs(v) for v in result[record].values() if not isinstance(v, bool)]
@@ -30,7 +30,7 @@ def money(text):
 
 
 def same_text(got, wanted):
-    """Equal, or sums that stand a dollar apart because a figure lies on a half dollar."""
+    """Equal, or amounts a dollar apart because a figure is on a half dollar."""
     if got == wanted:
         return True
     try:

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What every source file must keep to: the formatter's shape, a readable length, and its own floor's libraries."""
+"""Rules for every source file: clang-format's layout, a limited length, and only includes that its layer allows."""
 import re
 import subprocess
 import sys
@@ -23,7 +23,7 @@ def format_faults(paths):
 
 
 def include_faults(path):
-    """A core includes no toolkit, and no file includes a higher floor."""
+    """A core does not include Qt, and no file includes a higher layer."""
     place = path.relative_to(ROOT).parts
     if place[0] not in FLOORS:
         return
@@ -33,7 +33,7 @@ def include_faults(path):
         if not may_use_toolkit and re.match(r"Q[A-Z]|Qt", include):
             yield f"{path}: includes {include}; only windows/ may"
         if include.split("/")[0] in higher:
-            yield f"{path}: includes {include} from a higher floor"
+            yield f"{path}: includes {include} from a higher layer"
 
 
 def main():
@@ -43,7 +43,7 @@ def main():
         faults += include_faults(path)
         length = path.read_text().count("\n")
         if length > LONGEST:
-            faults.append(f"{path}: {length} lines; look for the seam")
+            faults.append(f"{path}: {length} lines; split the file")
     print("\n".join(faults))
     print(f"{len(paths)} files, {len(faults)} faults")
     return 1 if faults or not paths else 0
