@@ -1,5 +1,6 @@
-// Pieces of the program's work whose instructions are counted: "recalculate", "jsonl", "csv" or "report" as
-// the argument says, done once to warm up and once within CountedWork, where the counting is turned on.
+// Runs one piece of the program's work for counting its instructions: "recalculate", "jsonl", "csv" or
+// "report", the argument. It runs the work once as a warm-up and once inside CountedWork, where callgrind
+// counts.
 
 #include "bench/Sample.h"
 
@@ -21,7 +22,7 @@
 
 using namespace Ledgrove;
 
-/// By this name the counting is turned on and off.
+/// callgrind turns the counting on and off by this name.
 extern "C" [[gnu::noinline]] void CountedWork(const std::function<void()>& work) {
     work();
     asm volatile("" ::: "memory");
@@ -43,7 +44,7 @@ std::function<void()> Recalculating() {
     };
 }
 
-/// A list of a thousand homes that lies in memory.
+/// A list of a thousand homes in memory.
 class PriceList {
 public:
     using Row = std::function<std::string(int price)>;
@@ -125,7 +126,7 @@ std::function<void()> WorkNamed(std::string_view name) {
         return PriceRows();
     if (name == "report")
         return Composing();
-    std::fprintf(stderr, "There is no such work.\n");
+    std::fprintf(stderr, "The argument must be recalculate, jsonl, csv or report.\n");
     std::exit(2);
 }
 

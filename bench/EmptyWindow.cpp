@@ -1,4 +1,4 @@
-// The floor for the program's start: a window of the toolkit with nothing in it.
+// The floor for the program's start: an empty Qt window.
 
 #include <QApplication>
 #include <QWidget>

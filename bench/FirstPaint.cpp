@@ -1,6 +1,6 @@
-// Preloaded into a program of the X window system: when its first picture goes to the display, writes the
+// Preloaded into an X program: when the program sends its first picture to the display, this writes the
 // milliseconds since START_NS (of the monotonic clock) and the peak memory in KiB, and ends the program. So
-// every program is measured alike, and none needs to know of it.
+// all programs are measured in the same way, without changes to them.
 
 #include <cstdio>
 #include <cstdlib>
@@ -18,7 +18,7 @@ long long Now() {
     return static_cast<long long>(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
 }
 
-/// In KiB. What the system's usage record says begins with the peak of the program that started this one.
+/// In KiB. The system's usage record is not used, because it includes the peak of the parent process.
 long PeakMemory() {
     std::ifstream status("/proc/self/status");
     const std::string wanted = "VmHWM:";
@@ -40,7 +40,7 @@ long PeakMemory() {
 
 } // namespace
 
-// The two ways in which a window's content is put: through shared memory and through the connection.
+// The two ways in which a program sends a window's content: through shared memory and through the connection.
 extern "C" void xcb_shm_put_image() {
     Tell();
 }

@@ -1,5 +1,5 @@
-// The house scenario dialog with as many saved houses as the argument says, in milliseconds: from reading
-// them to the dialog painted, and saved.
+// The house scenario dialog with the number of saved houses that the argument gives. Prints milliseconds:
+// from reading the houses to the painted dialog, and for the save.
 
 #include "app/batch/Comparison.h"
 #include "bench/Sample.h"

@@ -1,6 +1,6 @@
-// A person at the window for long: figure after figure typed and entered, tab after tab, painted each time.
-// "edits N" or "seconds N" says how long. Prints the number of edits, and heap in use (bytes) and resident
-// memory (KiB) once warm and at the end, both at the same figures on the same tab.
+// A long session: types and enters figure after figure, tab after tab, and paints each time. "edits N" or
+// "seconds N" gives the length. Prints the number of edits, then heap in use (bytes) and resident memory
+// (KiB), after the warm-up and at the end, both with the same figures on the same tab.
 
 #include "bench/RealWindow.h"
 #include "ui/windows/FormStyle.h"
@@ -19,7 +19,7 @@ using namespace Ledgrove;
 
 namespace {
 
-/// What is entered into a field by turns.
+/// The two values that are entered into a field in turn.
 struct Entry {
     const char* Field;
     const char* Texts[2];
@@ -36,7 +36,7 @@ constexpr std::array<Entry, 10> entries{{{"ecIncome", {"96000", "72000"}},
                                          {"ecGMHRate", {"5.75%", "6.5"}},
                                          {"ecStdStr", {"2", "0"}}}};
 
-/// Once round, everything is as it was.
+/// After one cycle, every field has its first value again.
 constexpr long cycle = static_cast<long>(entries.size()) * 2 * TabCount;
 
 struct Memory {
@@ -53,7 +53,7 @@ Memory InUse() {
     return {heap.uordblks + heap.hblkhd, resident * (sysconf(_SC_PAGESIZE) / 1024)};
 }
 
-/// Each tab has every field changed and changed back.
+/// Changes every field and changes it back, on each tab.
 void RunCycle(Bench::RealWindow& window) {
     for (int tab = 0; tab < TabCount; ++tab) {
         window.ShowTab(tab);

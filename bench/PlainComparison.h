@@ -3,7 +3,7 @@
 #include <cmath>
 
 // The bare arithmetic of one comparison in double, formula by formula, without texts, records or fault
-// handling: the floor that the program's own recalculation is measured against.
+// handling: the floor for the program's recalculation.
 namespace Ledgrove::Bench {
 
 struct PlainInput {

@@ -1,5 +1,6 @@
-// A plain program that reads the same price list and writes JSON of the same shape and size: a document for
-// each line, the bare arithmetic, a writer for the results. The floor for `compare --format jsonl`.
+// The floor for `compare --format jsonl`: a plain program that reads the same price list and writes JSON of
+// the same shape and size. It parses each line into a document, does the bare arithmetic and writes the
+// results.
 
 #include "bench/PlainComparison.h"
 
@@ -49,7 +50,7 @@ void Key(Writer& writer, std::string_view name) {
     writer.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
 }
 
-/// "$1,234".
+/// Text such as "$1,234".
 std::string Money(double amount) {
     std::array<char, 32> digits;
     const double rounded = std::isfinite(amount) ? std::fabs(std::round(amount)) : 0;
@@ -72,7 +73,7 @@ void WriteNumber(Writer& writer, double value) {
     writer.RawValue(text.data(), static_cast<std::size_t>(end.ptr - text.data()), rapidjson::kNumberType);
 }
 
-/// Every input, those that were not given too.
+/// Every input, including those that the line does not give.
 void WriteFields(Writer& writer, const rapidjson::Document& document) {
     writer.StartObject();
     for (const std::string_view name : InputNames) {
@@ -116,7 +117,7 @@ void WriteRecord(Writer& writer, FigureRecord record, const std::array<double, 1
     writer.EndObject();
 }
 
-/// About as long as the messages and the data check of most lines are.
+/// About as long as the messages and the data check of most lines.
 void WriteRemarks(Writer& writer) {
     writer.Key("messages");
     writer.StartArray();

@@ -1,5 +1,5 @@
-// The floor for the report as a whole process: a program that paints three pages of plain tables as PDF,
-// about as many texts (170), rules (190) and shades (12) in the same fonts as the sample's full report has.
+// The floor for the report as a whole process: a program that paints three pages of plain tables as PDF, with
+// about as many texts (170), rules (190) and shades (12), in the same fonts, as the sample's full report.
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -7,7 +7,7 @@
 
 namespace {
 
-// In twips, 1440 to the inch, as the report.
+// In twips, 1440 per inch, as in the report.
 constexpr int left = 720;
 constexpr int top = 1440;
 constexpr int columnWidth = 3600;

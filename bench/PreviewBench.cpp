@@ -1,4 +1,5 @@
-// From "&Preview" to the first page of the sample's full report painted, in milliseconds: the median of some.
+// The time from "&Preview" to the painted first page of the sample's full report: the median of several runs,
+// in milliseconds.
 
 #include "bench/Sample.h"
 #include "reports/modPrint.h"

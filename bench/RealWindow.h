@@ -16,7 +16,7 @@
 
 namespace Ledgrove::Bench {
 
-/// Nobody is there to be told, and nothing is kept.
+/// Shows no messages and saves nothing.
 class SilentHost : public Host {
 public:
     MessageAnswer ShowMessage(const Message& message) override {
@@ -25,7 +25,7 @@ public:
     void RunPendingEvents() override {}
 };
 
-/// The main window as the program has it, with menu bar, current file and charts, on the sample.
+/// The program's main window with menu bar, current file and charts, showing the sample.
 class RealWindow : public QObject {
 public:
     RealWindow()
@@ -47,15 +47,15 @@ public:
 
     QLineEdit& FieldNamed(const QString& name) const { return *m_window.findChild<QLineEdit*>(name); }
 
-    /// Types `text` over what the field shows, and leaves Enter to the caller.
+    /// Replaces the field's text with `text`; the caller sends Enter.
     static void Type(QLineEdit& field, const QString& text) {
         field.setFocus();
         field.selectAll();
         QTest::keyClicks(&field, text);
     }
 
-    /// Lets the window work until nothing is left to paint. A chart's picture follows its figures by some
-    /// events, so one quiet turn is not the end.
+    /// Lets the window process events until no paint is pending. The chart is painted a few events after its
+    /// figures change, so one quiet turn is not enough.
     void PaintAll() {
         for (int quietTurns = 0; quietTurns < 3; ++quietTurns) {
             const int before = m_paints;

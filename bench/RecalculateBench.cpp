@@ -35,7 +35,7 @@ void Evaluation(benchmark::State& state) {
 }
 BENCHMARK(Evaluation);
 
-/// Texts in, all label texts out.
+/// From the input texts to all label texts.
 void Recalculation(benchmark::State& state) {
     Session session = Bench::SampleSession();
     CollectingHost host;

@@ -1,4 +1,4 @@
-// Composing the full report of the sample, in milliseconds: the median of many.
+// The time to compose the sample's full report: the median of many runs, in milliseconds.
 
 #include "app/batch/Comparison.h"
 #include "bench/Sample.h"

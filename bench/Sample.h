@@ -11,7 +11,7 @@
 
 namespace Ledgrove::Bench {
 
-/// The sample comparison on the shipped settings, as a person would have typed it, not yet recalculated.
+/// The sample comparison with the shipped settings, as a person would type it, not yet recalculated.
 inline Session SampleSession() {
     Session session;
     CollectingHost host;

@@ -1,5 +1,6 @@
-// From Enter in a field to every label and the chart of the shown tab painted, for each tab that has a chart:
-// a line with the tab's number, the median, the 99th of 100 and the worst of 1,000, in milliseconds.
+// The time from Enter in a field until every label and the chart of the current tab are painted. Prints a
+// line for each tab that has a chart: its number, the median, the 99th percentile and the worst of 1,000, in
+// milliseconds.
 
 #include "bench/RealWindow.h"
 #include "ui/windows/FormStyle.h"
@@ -17,12 +18,12 @@ namespace {
 constexpr int warmUps = 20;
 constexpr int rounds = 1000;
 
-/// Dear and cheap by turns, and never the same twice: every label, bar and scale changes.
+/// Alternates high and low prices and never repeats one, so every label, bar and scale changes.
 QString PriceOf(int round) {
     return QString::number((round % 2 ? 240000 : 180000) + round);
 }
 
-/// One change, in milliseconds. Negative when it left the chart as it was.
+/// The time for one change, in milliseconds. Negative when the chart was not repainted.
 double Change(Bench::RealWindow& window, QLineEdit& price, int round) {
     Bench::RealWindow::Type(price, PriceOf(round));
     window.PaintAll();
@@ -48,7 +49,7 @@ int main(int argc, char** argv) {
         for (int round = 0; round < warmUps + rounds; ++round) {
             const double elapsed = Change(window, price, round);
             if (elapsed < 0) {
-                std::fprintf(stderr, "The chart of tab %d was not painted again.\n", tab);
+                std::fprintf(stderr, "The chart of tab %d was not repainted.\n", tab);
                 return 1;
             }
             if (round >= warmUps)
