@@ -7,7 +7,7 @@
 
 namespace Ledgrove::Testing {
 
-/// The rows of a CSV file below tests/golden, without its heading row. Cells may be quoted and hold commas.
+/// The rows of a CSV file in tests/golden, without the heading row. Cells may be quoted and contain commas.
 inline std::vector<std::vector<std::string>> ReadReferenceTable(const std::string& name) {
     std::ifstream file(std::string(LEDGROVE_SOURCE_DIR) + "/tests/golden/" + name);
     if (!file)

@@ -13,8 +13,8 @@ namespace {
 
 using namespace Ledgrove::Testing;
 
-/// $60,000 a year, 30 years without interest, so that a payment carries 360 times itself; no taxes,
-/// insurance, PMI or debt.
+/// $60,000 a year and 30 years without interest, so a payment supports a loan of 360 times its amount; no
+/// taxes, insurance, PMI or debt.
 class Affordability : public testing::Test {
 protected:
     Affordability() {
@@ -45,7 +45,7 @@ protected:
 TEST_F(Affordability, TheFrontRatioLimitsABuyerWithoutDebt) {
     EXPECT_FLOAT_EQ(Std().MaxPayment, 1250); // 60,000 x 0.25 / 12 against 60,000 x 0.5 / 12 = 2,500
     EXPECT_FLOAT_EQ(Std().MaxLoan, 450000);  // 1,250 x 360
-    EXPECT_FLOAT_EQ(GMH().MaxPayment, 1250); // "Conventional" is an ordinary type
+    EXPECT_FLOAT_EQ(GMH().MaxPayment, 1250); // "Conventional" follows the ordinary rule
     EXPECT_FLOAT_EQ(GMH().MaxLoan, 450000);
 }
 
@@ -107,10 +107,10 @@ INSTANTIATE_TEST_SUITE_P(Options, StretchedAffordability,
                                          StretchRow{"Freddie Mac EEM", 8999, 1250},
                                          StretchRow{"Conventional", 20000, 1250}));
 
-TEST_F(Affordability, TheStretchedFrontLimitTakesTheWholeMonthlyIncome) {
+TEST_F(Affordability, TheStretchedFrontLimitUsesTheWholeMonthlyIncome) {
     ChooseOptions(m_session, "Conventional", "Fannie Mae EEM");
     m_session.Scenario.UtilitySavings = 100;
-    m_session.GMHCase.BackRatio = 1;         // 5,100, so that the front limit decides
+    m_session.GMHCase.BackRatio = 1;         // 5,100, so the front limit is the smaller one
     EXPECT_FLOAT_EQ(GMH().MaxPayment, 5025); // 100 x 0.25 + 60,000 / 12
 }
 
@@ -140,13 +140,13 @@ TEST_F(AllowanceLoan, CountsSavingsThatAreWorthTheUpgradeExactly) {
     EXPECT_FLOAT_EQ(GMH().MaxLoan, 453000);
 }
 
-TEST_F(AllowanceLoan, TakesDebtAgainstTheBackRatio) {
+TEST_F(AllowanceLoan, CountsDebtAgainstTheBackRatio) {
     m_session.GMHCase.PVSavings = 3600;
     m_session.Scenario.MonthlyDebt = 1500;
     EXPECT_FLOAT_EQ(GMH().MaxLoan, 363600); // (2,500 - 1,500) x 360 + 3,600
 }
 
-TEST_F(AllowanceLoan, ShowsThePaymentThatCarriesTheLoanWithoutTaxesAndInsurance) {
+TEST_F(AllowanceLoan, ShowsThePaymentForTheLoanWithoutTaxesAndInsurance) {
     m_session.GMHCase.PVSavings = 3600;
     m_session.GMHCase.TIPMonthly = 250;
     EXPECT_FLOAT_EQ(GMH().MaxLoan, 363600); // (1,250 - 250) x 360 + 3,600
@@ -157,7 +157,7 @@ TEST_F(AllowanceLoan, FallsBackToThePlainTypesRatiosWhenTheSavingsAreTooSmall) {
     m_session.LoanTypes[3].FrontRatio = 0.20F;
     m_session.LoanTypes[5].FrontRatio = 0.10F;
     m_session.GMHCase.PVSavings = 2999;
-    EXPECT_FLOAT_EQ(GMH().MaxLoan, 360000); // FHA: 60,000 x 0.2 / 12 x 360, nothing added
+    EXPECT_FLOAT_EQ(GMH().MaxLoan, 360000); // FHA: 60,000 x 0.2 / 12 x 360, without an allowance
     EXPECT_FLOAT_EQ(m_session.GMHCase.MaxPayment, 1000);
 
     ChooseOptions(m_session, "VA", "VA EEM");
@@ -166,7 +166,7 @@ TEST_F(AllowanceLoan, FallsBackToThePlainTypesRatiosWhenTheSavingsAreTooSmall) {
     EXPECT_FLOAT_EQ(GMH().MaxLoan, 90000);
 }
 
-TEST_F(AllowanceLoan, WithoutThePlainTypeIsAFault) {
+TEST_F(AllowanceLoan, AMissingPlainTypeIsAFault) {
     m_session.LoanTypes.resize(3);
     m_session.GMHCase.PVSavings = 2999;
     EXPECT_EQ(GMH().MaxPayment, 0);
@@ -219,7 +219,7 @@ struct QualificationRow {
 
 class Qualification : public Affordability, public testing::WithParamInterface<QualificationRow> {};
 
-// The largest loan is $450,000. What the labels show decides: $449,999.60 shows the same $450,000.
+// The largest loan is $450,000. The labels decide: $449,999.60 also shows $450,000.
 TEST_P(Qualification, ComparesWhatTheLabelsShow) {
     m_session.StdCase.LoanAmount = m_session.GMHCase.LoanAmount = GetParam().LoanAmount;
     Std();

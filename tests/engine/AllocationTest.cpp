@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <new>
 
-// Every request for memory of this program is counted, which is why these tests are a program of their own.
+// These tests are a separate program, because they replace operator new to count every allocation.
 namespace {
 
 long requests = 0;
@@ -45,10 +45,10 @@ TEST(AllocationTest, TheCounterCounts) {
     EXPECT_GE(requests - before, 1);
 }
 
-TEST(AllocationTest, AWarmRecalculationAsksForNoMemory) {
+TEST(AllocationTest, AWarmRecalculationAllocatesNothing) {
     Session session = Testing::SampleSession();
     Testing::ScriptedHost host;
-    // The longest texts come first, "Additional Taxes" among them: from then on every label has room.
+    // The longest texts come first, such as "Additional Taxes", so that every label has capacity after that.
     for (const char* price : {"$1,206,000", "$99,000"}) {
         session.Screen.ecGMHHome.Text = price;
         Module1::Recalculate(session, host);
@@ -59,7 +59,7 @@ TEST(AllocationTest, AWarmRecalculationAsksForNoMemory) {
     }
 }
 
-TEST(AllocationTest, NorDoesOneWithAnotherLoan) {
+TEST(AllocationTest, AnotherLoanAllocatesNothing) {
     Session session = Testing::SampleSession();
     Testing::ScriptedHost host;
     Module1::Recalculate(session, host);

@@ -12,7 +12,7 @@ namespace {
 
 using namespace Ledgrove::Testing;
 
-/// Figures set by hand; the display only shows them.
+/// Sets the figures by hand, because the display only shows them.
 class CashFlowDisplay : public testing::Test {
 protected:
     CashFlowDisplay() {
@@ -78,7 +78,7 @@ TEST_F(CashFlowDisplay, TheYearIsTwelveTimesTheUnroundedMonth) {
     EXPECT_EQ(m_session.Screen.lblUtilSavYr.Text, "$700"); // 58.34 x 12 = 700.08
 }
 
-TEST_F(CashFlowDisplay, LossesAreRedAndNamedSo) {
+TEST_F(CashFlowDisplay, LossesAreRedWithTheirOwnCaption) {
     Scenario& scenario = m_session.Scenario;
     scenario.MortgageSavings = scenario.UtilitySavings = -5;
     scenario.TaxSavings = scenario.ShownTaxSavings = -1;
@@ -184,7 +184,7 @@ TEST_F(CashFlowDisplay, TheSummaryAddsUp) {
     EXPECT_EQ(screen.lblNetCashMo2.Text, "$10");
 }
 
-TEST_F(CashFlowDisplay, TheSummaryTellsTheSavingsOverTime) {
+TEST_F(CashFlowDisplay, TheSummaryShowsTheSavingsOverTime) {
     const MainScreen& screen = Show();
     EXPECT_EQ(screen.lblExpYrPre.Text, "$1,400");
     EXPECT_EQ(screen.lbl30YrPre.Text, "$14,600");
@@ -205,7 +205,7 @@ TEST_F(CashFlowDisplay, ExpectedSavingsTakeTheColourOfTheSeventhYear) {
     EXPECT_EQ(Show().lblExpYrPre.Colour, TextColour::Red);
 }
 
-TEST_F(CashFlowDisplay, FannieMaesNameForTheSavingsIsNoted) {
+TEST_F(CashFlowDisplay, ANoteGivesFannieMaesNameForTheSavings) {
     ChooseOptions(m_session, "Conventional", "Fannie Mae EEM");
     const MainScreen& screen = Show();
     EXPECT_EQ(screen.lblPV.Text, "* PV of Savings");
@@ -218,7 +218,7 @@ TEST_F(CashFlowDisplay, FannieMaesNameForTheSavingsIsNoted) {
     EXPECT_FALSE(screen.lblPVNote.Visible);
 }
 
-TEST_F(CashFlowDisplay, AnAmountThatCannotBeShownSaysSo) {
+TEST_F(CashFlowDisplay, AnAmountThatCannotBeShownIsReported) {
     m_session.Scenario.MortgageSavings = -3e38F;
     EXPECT_EQ(Show().lblAddMortYr.Text, "FormatError");
 }

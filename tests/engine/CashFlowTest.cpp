@@ -33,7 +33,7 @@ INSTANTIATE_TEST_SUITE_P(Incomes, TaxRates,
                                          TaxRow{435750, 0.24F}, TaxRow{544650, 0.32F}, TaxRow{544651, 0.35F},
                                          TaxRow{3e38F, 0.35F}));
 
-TEST(LookupTaxRate, NoBracketIsNoTax) {
+TEST(LookupTaxRate, WithoutBracketsThereIsNoTax) {
     EXPECT_EQ(LookupTaxRate({}, 50000), 0);
     EXPECT_EQ(LookupTaxRate(ShippedTaxSchedule(), -1), 0);
     const TaxSchedule limited = {{10000, 20000, 15}};
@@ -46,7 +46,7 @@ TEST(LookupTaxRate, TheFirstMatchingBracketWins) {
     EXPECT_EQ(LookupTaxRate({{-1, 50000, 10}, {20000, -1, 20}}, 30000), 0.10F);
 }
 
-TEST(LookupTaxRate, TakesTheRateAtItsDecimalText) {
+TEST(LookupTaxRate, UsesTheDecimalTextOfTheRate) {
     EXPECT_EQ(LookupTaxRate({{-1, -1, 39.6F}}, 1), 0.396F);
 }
 
@@ -103,13 +103,13 @@ TEST_F(CashFlow, ClosingCostsReduceTheExtraCash) {
 TEST_F(CashFlow, WithoutInterestSavingsAddUp) {
     const Scenario& result = Compute();
     EXPECT_EQ(result.SavingsAfter7Years, 840);      // 10 x 84
-    EXPECT_EQ(result.SavingsAfterYearsInHome, 840); // 7 years as well
+    EXPECT_EQ(result.SavingsAfterYearsInHome, 840); // also 7 years
     EXPECT_EQ(result.SavingsAfter30Years, 3600);    // 10 x 360
     EXPECT_EQ(result.PVNetBeforeTax, 1200);         // 10 x 120
     EXPECT_EQ(result.PVNetCashFlow, 1200);
 }
 
-TEST_F(CashFlow, YearsInHomeOnlyMoveTheirOwnFigure) {
+TEST_F(CashFlow, YearsInHomeChangeOnlyTheirOwnFigure) {
     m_session.Assumptions.YearsInHome = 3;
     const Scenario& result = Compute();
     EXPECT_EQ(result.SavingsAfterYearsInHome, 360); // 10 x 36
@@ -161,7 +161,7 @@ TEST_F(CashFlow, AHigherLabelledRatePaysMoreInterest) {
     EXPECT_NEAR(Compute().TaxSavings, 8.38394, 1e-4); // (779.6359 - 709.7697) x 0.12
 }
 
-TEST_F(CashFlow, TheTaxBoxDecidesOnlyTheShownTaxSavings) {
+TEST_F(CashFlow, TheTaxBoxChangesOnlyTheShownTaxSavings) {
     WithInterest();
     const Scenario checked = Compute();
     m_session.Screen.chkDoTax0 = false;
@@ -189,7 +189,7 @@ TEST_F(CashFlow, IdenticalHomesGiveZeroes) {
 }
 
 TEST_F(CashFlow, AFaultKeepsWhatWasComputedBeforeIt) {
-    m_session.GMHCase.IntRate = 1e10F; // (1 + 1e10 / 12)^84 is beyond any number
+    m_session.GMHCase.IntRate = 1e10F; // (1 + 1e10 / 12)^84 overflows
     const Scenario& result = Compute();
     EXPECT_EQ(result.MortgageSavings, -40);
     EXPECT_EQ(result.PriceDifference, 6000);
@@ -201,7 +201,7 @@ TEST_F(CashFlow, AFaultKeepsWhatWasComputedBeforeIt) {
     EXPECT_EQ(result.PVNetCashFlow, 0);
 }
 
-TEST_F(CashFlow, ATermOfZeroEndsAtTheTaxSavings) {
+TEST_F(CashFlow, ATermOfZeroFaultsAtTheTaxSavings) {
     WithInterest();
     m_session.Screen.xMortTerm = 0;
     const Scenario& result = Compute();
@@ -212,7 +212,7 @@ TEST_F(CashFlow, ATermOfZeroEndsAtTheTaxSavings) {
     EXPECT_EQ(result.PriceDifference, 0);
 }
 
-TEST_F(CashFlow, TheLongestTermIsNoOverflow) {
+TEST_F(CashFlow, TheLongestTermDoesNotOverflow) {
     m_session.Screen.xMortTerm = std::numeric_limits<std::int32_t>::max();
     EXPECT_TRUE(std::isfinite(Compute().PVNetCashFlow));
 }

@@ -17,7 +17,7 @@ TEST_F(SavingsPresentValue, UsesTheLabelledLoan) {
     EXPECT_FLOAT_EQ(m_session.GMHCase.PVSavings, 7910.54117F); // 50 x (1 - (1 + r)^-360) / r, r = 0.065 / 12
 }
 
-TEST_F(SavingsPresentValue, UsesItsOwnRateAndTermWhenAsked) {
+TEST_F(SavingsPresentValue, UsesItsOwnRateAndTermWhenChosen) {
     SetSavings(50);
     m_session.Assumptions.UsePVVars = true;
     m_session.Assumptions.PVRate = 0.06F;
@@ -66,7 +66,7 @@ TEST_F(EEMNotice, IsShownOnEqualAmountsToo) {
     EXPECT_EQ(m_notices, 1);
 }
 
-TEST_F(EEMNotice, IsSpentSilentlyWhenTheSavingsAreWorthMore) {
+TEST_F(EEMNotice, IsSkippedWhenTheSavingsAreWorthMore) {
     SetSavingsWorth(18360);
     Compute(HomeCode::GMH);
     EXPECT_EQ(m_notices, 0);
@@ -90,7 +90,7 @@ TEST_F(EEMNotice, WaitsForAnEEM) {
     EXPECT_TRUE(m_session.Scenario.EEMNoticeFlag);
 }
 
-TEST_F(EEMNotice, IsNotTheBaseHomes) {
+TEST_F(EEMNotice, IgnoresTheBaseHomesOption) {
     m_session.LoanTypes[0].IsEEM = true;
     SetSavingsWorth(3600);
     Compute(HomeCode::Std);
@@ -99,7 +99,7 @@ TEST_F(EEMNotice, IsNotTheBaseHomes) {
 }
 
 TEST_F(EEMNotice, IsNotReachedAfterAFault) {
-    SetSavings(std::numeric_limits<float>::max()); // x 360 is beyond single precision
+    SetSavings(std::numeric_limits<float>::max()); // x 360 overflows single precision
     m_session.GMHCase.IntRate = noInterest;
     m_session.Scenario.CostDifference = std::numeric_limits<float>::max();
     Compute(HomeCode::GMH);
@@ -110,7 +110,7 @@ TEST_F(EEMNotice, IsNotReachedAfterAFault) {
 struct DownPaymentRow {
     const char *Base, *Labelled;
     float SavingsWorth;
-    float DownPayment; ///< 10 % of 218,000, or of 200,000 where the upgrade of 18,000 is financed
+    float DownPayment; ///< 10 % of 218,000, or of 200,000 where the loan finances the upgrade of 18,000
 };
 
 class LabelledDownPaymentRule : public LoanRules {};
@@ -118,7 +118,7 @@ class LabelledDownPaymentRule : public LoanRules {};
 class LabelledDownPayment : public LabelledDownPaymentRule,
                             public testing::WithParamInterface<DownPaymentRow> {};
 
-TEST_P(LabelledDownPayment, IsTakenOnTheBasePriceWhereTheSavingsPayForTheUpgrade) {
+TEST_P(LabelledDownPayment, UsesTheBasePriceWhenTheSavingsPayForTheUpgrade) {
     const DownPaymentRow& row = GetParam();
     ChooseOptions(m_session, row.Base, row.Labelled);
     m_session.GMHCase.Cost = 218000;
@@ -142,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(Options, LabelledDownPayment,
                                          DownPaymentRow{"VA", "VA EEM", 18000, 20000},
                                          DownPaymentRow{"VA", "VA EEM", 17640, 21800}));
 
-TEST_F(LabelledDownPaymentRule, FHAEEMWithSavingsWorthTheUpgradeGivesTheNoticeAndFinancesIt) {
+TEST_F(LabelledDownPaymentRule, FHAEEMWithSavingsEqualToTheUpgradeShowsTheNoticeAndFinancesIt) {
     ChooseOptions(m_session, "FHA", "FHA EEM");
     m_session.Scenario.EEMNoticeFlag = true;
     m_session.Scenario.PctDown = 0.10F;

@@ -19,8 +19,8 @@ double Compute(const std::string& function, double rate, double periods, double 
     return IPMT(rate, period, periods, amount);
 }
 
-// Values computed by a spreadsheet. It loses digits in the interest of the last period and above 3 % a month
-// itself.
+// The reference values come from a spreadsheet, which is less exact for the interest of the last period and
+// for rates above 3 % a month.
 TEST(FinancialFunctions, AgreeWithAnIndependentImplementation) {
     const auto rows = Ledgrove::Testing::ReadReferenceTable("financial_functions.csv");
     ASSERT_EQ(rows.size(), 12715U);
@@ -64,14 +64,14 @@ TEST(FinancialFunctions, TheUnpaidBalanceIsWhatThePaymentsLeave) {
     EXPECT_DOUBLE_EQ(UnpaidBalance(0.005, 0, 240, -loan), -loan);
 }
 
-TEST(FinancialFunctions, NoPeriodsGiveNoFiniteAnswer) {
+TEST(FinancialFunctions, ZeroPeriodsGiveNoFiniteResult) {
     EXPECT_FALSE(std::isfinite(PMT(0, 0, -1000)));
     EXPECT_FALSE(std::isfinite(PMT(0.005, 0, -1000)));
     EXPECT_FALSE(std::isfinite(IPMT(0.005, 0, 0, -1000)));
 }
 
-TEST(FinancialFunctions, TinyRatesKeepTheirDigits) {
-    // To first order PV = n - r n (n + 1) / 2: 360 - 1e-12 x 360 x 361 / 2
+TEST(FinancialFunctions, TinyRatesKeepTheirPrecision) {
+    // To first order, PV = n - r n (n + 1) / 2: 360 - 1e-12 x 360 x 361 / 2
     EXPECT_NEAR(PV(1e-12, 360, -1), 360 - 6.498e-8, 1e-11);
 }
 

@@ -11,7 +11,7 @@ protected:
     LoanFault() {
         SetSavings(50);
         m_session.Scenario.PctDown = 0.10F;
-        // What a home held before must not outlive a fault.
+        // A fault must clear the earlier values of a home.
         for (HomeCase* home : {&m_session.StdCase, &m_session.GMHCase})
             home->DownPayment = home->LoanAmount = home->MortPayment = home->InsMonthly = home->TaxMonthly =
                 home->PMIMonthly = home->PITI = home->PITIU = home->IncomeNeeded = home->TIPMonthly =
@@ -52,7 +52,7 @@ TEST_F(LoanFault, ABackRatioOfZero) {
     ExpectBothZeroed();
 }
 
-TEST_F(LoanFault, AZeroRatioWithoutAnythingToDivide) {
+TEST_F(LoanFault, AZeroRatioWithAZeroDividend) {
     m_session.LoanTypes[0].FrontRatio = 0;
     m_session.StdCase.Cost = m_session.GMHCase.Cost = 0;
     SetSavings(0);
@@ -60,7 +60,8 @@ TEST_F(LoanFault, AZeroRatioWithoutAnythingToDivide) {
 }
 
 TEST_F(LoanFault, AFixedDownPaymentOnABasePriceOfZero) {
-    m_session.StdCase = HomeCase(); // as a recalculation clears it; its own steps do not divide by its price
+    m_session.StdCase =
+        HomeCase(); // as at the start of a recalculation; the home's own steps do not divide by its price
     m_session.Scenario.DownAsPercent = false;
     m_session.Scenario.FixedDown = 10000;
     ExpectBothZeroed();
@@ -88,7 +89,7 @@ TEST_F(LoanFault, APaymentBeyondSinglePrecision) {
 }
 
 TEST_F(LoanFault, ASumBeyondSinglePrecision) {
-    // Tax and insurance of 1,200 % a year are the price each month: twice 3e38 is beyond single precision.
+    // Tax and insurance of 1,200 % a year equal the price each month: twice 3e38 overflows single precision.
     m_session.StdCase.Cost = m_session.GMHCase.Cost = 3e38F;
     m_session.Assumptions.RealEstateTaxPct = m_session.Assumptions.InsurancePct = 1200;
     ExpectBothZeroed();
@@ -109,7 +110,7 @@ TEST_F(LoanFault, ATermOfZero) {
     ExpectBothZeroed();
 }
 
-TEST_F(LoanFault, OfOneHomeLeavesTheOtherAlone) {
+TEST_F(LoanFault, OfOneHomeDoesNotChangeTheOther) {
     ChooseOptions(m_session, "FHA", "FHA EEM");
     m_session.LoanTypes[4].FrontRatio = 0;
     Compute(HomeCode::Std);

@@ -29,7 +29,7 @@ protected:
         m_session.StdCase.UtilMonthly = monthly;
         m_session.Scenario.UtilitySavings = monthly;
     }
-    /// Without interest a saving is worth itself times 360 months.
+    /// Without interest, the present value of a saving is 360 times the monthly amount.
     void SetSavingsWorth(float amount) {
         m_session.GMHCase.IntRate = noInterest;
         SetSavings(amount / 360);

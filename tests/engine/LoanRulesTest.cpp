@@ -8,7 +8,7 @@ namespace {
 
 using namespace Ledgrove::Testing;
 
-TEST_F(LoanRules, MinAndMaxGiveTheSecondOnEqualOperands) {
+TEST_F(LoanRules, MinAndMaxReturnTheSecondOfEqualOperands) {
     EXPECT_EQ(MinOf(1, 2), 1);
     EXPECT_EQ(MinOf(2, 1), 1);
     EXPECT_EQ(MaxOf(1, 2), 2);
@@ -17,7 +17,7 @@ TEST_F(LoanRules, MinAndMaxGiveTheSecondOnEqualOperands) {
     EXPECT_TRUE(std::signbit(MaxOf(0.0F, -0.0F)));
 }
 
-TEST_F(LoanRules, ALoanTypeIsFoundByItsPlaceAndNotItsNumber) {
+TEST_F(LoanRules, ALoanTypeIsFoundByItsPositionNotItsNumber) {
     m_session.LoanTypes[1].Number = 99;
     EXPECT_EQ(FindLoanType(m_session.LoanTypes, MortgageOption::FannieMaeEEM), &m_session.LoanTypes[1]);
     EXPECT_EQ(FindLoanType(m_session.LoanTypes, MortgageOption::Conventional), &m_session.LoanTypes.front());
@@ -72,8 +72,8 @@ TEST_F(LoanRules, TheTermIsTheScreensTermInYears) {
     EXPECT_FLOAT_EQ(m_session.StdCase.MortPayment, 1666.66667F); // 200,000 / 120
 }
 
-TEST_F(LoanRules, AnAssumptionIsTakenAtSevenDigitsOfItsText) {
-    // 0.12345678 is read as "0.1234568" %, so that 1.2e9 x 0.001234568 / 12 = 123,456.80 and not 123,456.78.
+TEST_F(LoanRules, AnAssumptionIsReadAsTextWithSevenDigits) {
+    // 0.12345678 becomes the text "0.1234568" %, so 1.2e9 x 0.001234568 / 12 = 123,456.80 and not 123,456.78.
     m_session.Assumptions.InsurancePct = 0.12345678F;
     m_session.StdCase.Cost = 1.2e9F;
     Compute(HomeCode::Std);
@@ -140,7 +140,7 @@ struct FixedBand {
 
 class FixedPMIBands : public LoanRules, public testing::WithParamInterface<FixedBand> {};
 
-// As a double 20,000 / 100,000 lies below the single 0.2; compared in single precision it is 20 %.
+// As a double, 20,000 / 100,000 is below the single-precision 0.2; in single precision it is 20 %.
 TEST_P(FixedPMIBands, FollowTheShareOfTheBasePriceForBothHomes) {
     m_session.StdCase.Cost = 100000;
     m_session.GMHCase.Cost = 103000;
@@ -160,7 +160,7 @@ INSTANTIATE_TEST_SUITE_P(FixedDown, FixedPMIBands,
                                          FixedBand{14999, 0.0046}, FixedBand{15000, 0.0023},
                                          FixedBand{19999, 0.0023}, FixedBand{20000, 0}));
 
-TEST_F(LoanRules, IncomeNeededOfTheBaseHomeIsTheLargerOfItsTwo) {
+TEST_F(LoanRules, IncomeNeededOfTheBaseHomeIsTheLargerOfTwoAmounts) {
     NoTaxesAndInsurance();
     m_session.StdCase.IntRate = noInterest;
     m_session.StdCase.Cost = 180000; // PITI 180,000 / 360 = 500
@@ -179,7 +179,7 @@ TEST_F(LoanRules, IncomeNeededOfTheLabelledHomeDividesOnlyTheSavingsByTheFrontRa
     m_session.GMHCase.Cost = 180000; // PITI 500
     m_session.LoanTypes[0].BackRatio = 100;
     Compute(HomeCode::GMH);
-    EXPECT_EQ(m_session.GMHCase.IncomeNeeded, 4800); // (500 - 28 / 0.28) x 12; the other is 56.64
+    EXPECT_EQ(m_session.GMHCase.IncomeNeeded, 4800); // (500 - 28 / 0.28) x 12; the other amount is 56.64
     m_session.LoanTypes[0].BackRatio = 0.5F;
     m_session.Scenario.MonthlyDebt = 128;
     Compute(HomeCode::GMH);
@@ -193,7 +193,7 @@ struct IncomeRounding {
 
 class IncomeNeededRounding : public LoanRules, public testing::WithParamInterface<IncomeRounding> {};
 
-// With ratios of 0.5 and 1 and no interest, the income needed is the price / 360 x 24.
+// With ratios of 0.5 and 1 and without interest, the income needed is the price / 360 x 24.
 TEST_P(IncomeNeededRounding, GoesToCentsAndThenToDollars) {
     NoTaxesAndInsurance();
     m_session.LoanTypes[0].FrontRatio = 0.5F;
@@ -207,7 +207,7 @@ TEST_P(IncomeNeededRounding, GoesToCentsAndThenToDollars) {
 INSTANTIATE_TEST_SUITE_P(Prices, IncomeNeededRounding,
                          testing::Values(IncomeRounding{15007.41F, 1000},  // 1,000.494 is 1,000.49
                                          IncomeRounding{15007.44F, 1001},  // 1,000.496 is 1,000.50
-                                         IncomeRounding{15007.5F, 1001},   // 1,000.50, away from zero
+                                         IncomeRounding{15007.5F, 1001},   // 1,000.50 rounds away from zero
                                          IncomeRounding{15022.5F, 1002})); // 1,001.50
 
 } // namespace

@@ -20,7 +20,7 @@ std::vector<std::string_view> Names(std::span<const ControlEntry<Control>> table
     return names;
 }
 
-/// How far behind the record's start the controls of a table stand, without doubles.
+/// The offsets of a table's controls in the record, without duplicates.
 template <typename Control>
 std::set<std::ptrdiff_t> Places(std::span<const ControlEntry<Control>> table) {
     const MainScreen screen;
@@ -67,7 +67,8 @@ TEST(MainScreenTables, FieldsAreInTabOrder) {
     EXPECT_THAT(Names(PickListTable()), ElementsAre("cboMortTerm", "cboStdMortOption", "cboGMHMortOption"));
 }
 
-// The fields stand first in the record and the labels last, so a member that its table forgot leaves a gap.
+// The fields come first in the record and the labels last, so a member that is missing from its table leaves
+// a gap.
 TEST(MainScreenTables, ListEveryMemberOfTheRecord) {
     const auto fields = Places(FieldTable());
     const auto lists = Places(PickListTable());
@@ -99,13 +100,13 @@ TEST(MainScreenTables, HoldTheMembersThatTheyName) {
             << entry.Name;
 }
 
-TEST(MainScreenTables, ResultLabelsAreAllButTheHouseName) {
+TEST(MainScreenTables, ResultLabelsAreAllLabelsExceptTheHouseName) {
     auto names = Names(ResultLabelTable());
     names.push_back("lblHomeName");
     EXPECT_EQ(names, Names(LabelTable()));
 }
 
-TEST(MainScreenTables, NoFieldOfAFreshScreenHoldsText) {
+TEST(MainScreenTables, EveryFieldOfANewScreenIsEmpty) {
     const MainScreen screen;
     for (const auto& entry : FieldTable())
         EXPECT_EQ((screen.*entry.Member).Text, "") << entry.Name;
@@ -120,7 +121,7 @@ TEST(MainScreen, FiveFieldsFeedTheEEMRule) {
     EXPECT_THAT(marked, ElementsAre("ecStdHome", "ecGMHHome", "ecStdUtil", "ecGMHUtil", "ecGMHRate"));
 }
 
-TEST(MainScreen, StartsOnTheFirstTabWithItsPanelAlone) {
+TEST(MainScreen, StartsOnTheFirstTabWithOnlyItsPanel) {
     const MainScreen screen;
     EXPECT_EQ(screen.SSTab1, 0);
     EXPECT_THAT(screen.DetlFrame, ElementsAre(true, false, false, false, false));
@@ -138,7 +139,7 @@ TEST(OptionItems, OfTheBaseHomeArePlainTypes) {
                 ElementsAre(std::pair("Conventional", 1), std::pair("FHA", 4), std::pair("VA", 6)));
 }
 
-TEST(OptionItems, OfTheLabelledHomeGoWithTheBaseChoice) {
+TEST(OptionItems, OfTheLabelledHomeMatchTheBaseChoice) {
     EXPECT_THAT(TextsAndCodes(LabelledOptionItems(MortgageOption::Conventional)),
                 ElementsAre(std::pair("Conventional", 1), std::pair("Fannie Mae EEM", 2),
                             std::pair("Freddie Mac EEM", 3)));

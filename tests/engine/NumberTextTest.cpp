@@ -19,7 +19,7 @@ struct Reading {
 
 class ReadNumberRows : public testing::TestWithParam<Reading> {};
 
-TEST_P(ReadNumberRows, ReadsWhatPeopleType) {
+TEST_P(ReadNumberRows, ReadsTypedNumbers) {
     EXPECT_EQ(ReadNumber(GetParam().Text), GetParam().Value);
 }
 
@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Reading{"5%", std::nullopt}, Reading{"5\xC2\xA0", std::nullopt},
                     Reading{"350000000000000000000000000000000000000", std::nullopt}));
 
-TEST(ReadNumber, ManyDigitsOfAFractionAreStillANumber) {
+TEST(ReadNumber, AcceptsManyDecimalPlaces) {
     EXPECT_EQ(ReadNumber("0." + std::string(400, '0') + "1"), 0.0);
     EXPECT_EQ(ReadNumber(std::string(400, '0') + "7"), 7.0);
     EXPECT_EQ(ReadNumber(std::string(400, '9')), std::nullopt);
@@ -91,23 +91,24 @@ TEST(ShortestText, ReadsBackAsTheSameSingle) {
     EXPECT_EQ(ShortestText(0.0F), "0");
 }
 
-// 5,440 rows in which two independent programs agree.
+// 5,440 rows on which two independent programs agree.
 TEST(FormatPicture, AgreesWithIndependentImplementations) {
     const auto rows = Ledgrove::Testing::ReadReferenceTable("pictures.csv");
     ASSERT_EQ(rows.size(), 5440U);
     for (const auto& row : rows)
-        ASSERT_EQ(FormatPicture(std::stod(row[1]), row[0]), row[2]) << row[1] << " in " << row[0];
+        ASSERT_EQ(FormatPicture(std::stod(row[1]), row[0]), row[2])
+            << row[1] << " with the format " << row[0];
 }
 
-TEST(FormatPicture, RoundsTheDecimalValueAtFifteenDigits) {
+TEST(FormatPicture, RoundsTheDecimalValueWithFifteenDigits) {
     EXPECT_EQ(FormatPicture(1.005, "#0.00"), "1.01"); // the double is 1.00499999999999989...
     EXPECT_EQ(FormatPicture(0.5, "#0"), "1");
     EXPECT_EQ(FormatPicture(-0.5, "$#,##0"), "-$1");
     EXPECT_EQ(FormatPicture(-0.49, "$#,##0"), "$0");
 }
 
-TEST(FormatPicture, TakesASingleAtItsShortestDecimalText) {
-    EXPECT_EQ(FormatPicture(0.2825F, "##0.000"), "0.283"); // as a double 0.28249999880790710
+TEST(FormatPicture, UsesTheShortestDecimalTextOfASingle) {
+    EXPECT_EQ(FormatPicture(0.2825F, "##0.000"), "0.283"); // as a double, 0.28249999880790710
     EXPECT_EQ(FormatPicture(8.5F, ".0"), "8.5");
 }
 
@@ -116,7 +117,7 @@ TEST(FormatPicture, ShowsALargeSingleWithItsOwnDigits) {
     EXPECT_EQ(FormatPicture(16777216.0F, "$##,###,##0"), "$16,777,216");
 }
 
-TEST(FormatPicture, OfNoFiniteNumberIsEmpty) {
+TEST(FormatPicture, IsEmptyForNonFiniteNumbers) {
     EXPECT_EQ(FormatPicture(std::numeric_limits<double>::infinity(), "#0"), "");
     EXPECT_EQ(FormatPicture(std::numeric_limits<float>::quiet_NaN(), "#0"), "");
 }
@@ -133,7 +134,7 @@ TEST(MoneyText, ShowsWholeDollarsWithGrouping) {
     EXPECT_EQ(MoneyText(12345678.0F), "$12,345,678");
 }
 
-TEST(MoneyText, NeverFailsOutward) {
+TEST(MoneyText, NeverFails) {
     EXPECT_EQ(MoneyText(std::numeric_limits<float>::infinity()), "FormatError");
     EXPECT_EQ(MoneyText(std::numeric_limits<float>::quiet_NaN()), "FormatError");
 }
@@ -147,18 +148,18 @@ std::string Cents(float amount) {
 TEST(NumberTextTest, CentsAreAppended) {
     EXPECT_EQ(Cents(0.0F), "0.00");
     EXPECT_EQ(Cents(1137.7224F), "1137.72");
-    EXPECT_EQ(Cents(-48.005F), "-48.01"); // the decimal text decides, half a cent goes away from zero
+    EXPECT_EQ(Cents(-48.005F), "-48.01"); // the decimal text counts, and half a cent rounds away from zero
     EXPECT_EQ(Cents(1.005F), "1.01");
     EXPECT_EQ(Cents(-0.004F), "0.00");
     EXPECT_EQ(Cents(0.125F), "0.13");
     EXPECT_EQ(Cents(999.995F), "1000.00");
     EXPECT_EQ(Cents(180000.0F), "180000.00");
-    EXPECT_EQ(Cents(200000.1F), "200000.10"); // the single is 200000.09375
+    EXPECT_EQ(Cents(200000.1F), "200000.10"); // the single-precision value is 200000.09375
     EXPECT_EQ(Cents(3e20F), FormatPicture(3e20F, "0.00"));
 }
 
-/// The quick way gives what the general way gives, wherever it is taken.
-TEST(NumberTextTest, CentsAreThoseOfThePicture) {
+/// The fast path must give the same result as the general path.
+TEST(NumberTextTest, CentsMatchThePictureFormat) {
     std::uint32_t bits = 1;
     for (int round = 0; round < 200000; ++round) {
         bits = bits * 1664525U + 1013904223U;

@@ -30,14 +30,14 @@ std::array<float, 21> Figures(const HomeCase& home) {
             home.BackRatio};
 }
 
-// The labels of the sample; the figures behind them stand in the next tests.
+// The labels of the sample; the next tests check the figures that have no label.
 TEST_F(Recalculation, OfTheSampleShowsEveryResult) {
     Run();
     const std::map<std::string_view, const char*> wanted = {
         {"lblStdPITI", "$1,465"},        // 1,137.72 + 108.33 + 150.00 + 69.00
         {"lblGMHPITI", "$1,513"},        // 1,175.65 + 111.58 + 154.50 + 71.30
         {"lblStdMortPayment", "$1,138"}, // 180,000 at 6.5 % over 360 months
-        {"lblGMHMortPayment", "$1,176"}, // 186,000: the upgrade is financed
+        {"lblGMHMortPayment", "$1,176"}, // 186,000: the loan finances the upgrade
         {"lblStdUtilMo", "$200"},        // 2,400 / 12
         {"lblGMHUtilMo", "$142"},        // 1,700 / 12
         {"lblStdHome", "$200,000"},      {"lblGMHHome", "$206,000"},
@@ -151,7 +151,7 @@ TEST_F(Recalculation, DoesNotClampACheaperLabelledHome) {
     EXPECT_EQ(m_session.Scenario.PriceDifference, -10000);
 }
 
-TEST_F(Recalculation, OfAnotherIncomeLeavesThePaymentsAlone) {
+TEST_F(Recalculation, OfAnotherIncomeDoesNotChangeThePayments) {
     Run();
     const Session before = m_session;
     m_session.Screen.ecIncome.Text = "$150,000";
@@ -257,7 +257,7 @@ TEST_F(Recalculation, ShowsNoEEMNoticeForAnUpgradeThatPays) {
     EXPECT_TRUE(m_host.Messages.empty());
 }
 
-TEST_F(Recalculation, YieldsOnceAtItsEnd) {
+TEST_F(Recalculation, YieldsOnceAtTheEnd) {
     std::string netWhenYielding;
     m_host.OnPendingEvents = [&] { netWhenYielding = m_session.Screen.lblNetCashMo.Text; };
     Run();
@@ -292,7 +292,7 @@ TEST_F(Recalculation, IsNotUpToDateWhileTheNoticeFlagWaitsToBeSpent) {
 
 struct PanelRow {
     int Tab;
-    std::vector<bool> VisibleAtYields; ///< of the tab's own panel, the recalculation's last yield included
+    std::vector<bool> VisibleAtYields; ///< of the tab's own panel, including the recalculation's last yield
 };
 
 class Panels : public Recalculation, public testing::WithParamInterface<PanelRow> {};
@@ -349,18 +349,18 @@ TEST_F(FeatureCaptions, AreEmptyWhenTheFirstTextIsBlank) {
     }
 }
 
-TEST_F(FeatureCaptions, MayShowTheFirstTextAlone) {
+TEST_F(FeatureCaptions, MayShowOnlyTheFirstText) {
     m_session.Features.Feature2 = " ";
     EXPECT_EQ(Captions(), Texts("Finished basement", " "));
 }
 
-TEST_F(FeatureCaptions, AreClearedWhenThereIsNothingToSpend) {
+TEST_F(FeatureCaptions, AreClearedWhenBothAmountsAreZero) {
     m_session.Screen.ecGMHHome.Text = m_session.Screen.ecStdHome.Text;
     m_session.Screen.ecGMHUtil.Text = m_session.Screen.ecStdUtil.Text;
     EXPECT_EQ(Captions(), Texts("", ""));
 }
 
-TEST_F(FeatureCaptions, StayWhileOneOfTheTwoAmountsIsNotZero) {
+TEST_F(FeatureCaptions, StayWhileOneAmountIsNotZero) {
     m_session.Scenario.PVNetCashFlow = 1;
     RefreshFeatureCaptions(m_session);
     EXPECT_EQ(m_session.Screen.lblfeature1.Text, "Finished basement");

@@ -10,11 +10,10 @@
 #include <string>
 #include <vector>
 
-// A session built by hand, without a settings file, and the outside world as a script.
+// A session built in memory, without a settings file, and a scripted host.
 namespace Ledgrove::Testing {
 
-/// Records what the core asks of the outside. Questions are answered in the order of `Answers`, with Ok once
-/// there are none left.
+/// Records what the core requests from its host. Questions get the answers of `Answers` in order, then Ok.
 class ScriptedHost : public Host {
 public:
     std::vector<Message> Messages;
@@ -41,7 +40,7 @@ public:
     }
 };
 
-/// The seven loan types as shipped; pick-list code k is the k-th.
+/// The seven shipped loan types; pick-list code k is the k-th.
 inline LoanTypeList ShippedLoanTypes() {
     struct Row {
         const char* Name;
@@ -85,7 +84,7 @@ inline AssumptionSet ShippedAssumptions() {
     return assumptions;
 }
 
-/// Chooses both mortgage options; the labelled one must go with the base one.
+/// Chooses both mortgage options; the labelled option must match the base option.
 inline void ChooseOptions(Session& session, std::string_view base, std::string_view labelled) {
     MainScreen& screen = session.Screen;
     screen.cboStdMortOption.Items = BaseOptionItems();
@@ -116,7 +115,7 @@ inline Session StartedSession() {
     return session;
 }
 
-/// A buyer with $72,000 a year and $350 of debt, 10 % down; homes at $200,000 and $206,000 with utility bills
+/// A buyer with $72,000 a year, $350 of debt and 10 % down; homes at $200,000 and $206,000 with utility bills
 /// of $2,400 and $1,700.
 inline void FillSample(MainScreen& screen) {
     screen.ecIncome.Text = "$72,000";

@@ -20,7 +20,7 @@ protected:
         return path;
     }
 
-    /// The session with the sample typed in as a person would.
+    /// The session with the sample typed as a person would type it.
     Session Typed() {
         Session session = m_start;
         const Session sample = Testing::SampleSession();
@@ -66,7 +66,7 @@ TEST_F(ComparisonFileTest, TheTextNamesEveryInputThatIsFilled) {
 )");
 }
 
-TEST_F(ComparisonFileTest, WhatWasSavedOpensWithTheSameFigures) {
+TEST_F(ComparisonFileTest, ASavedComparisonOpensWithTheSameFigures) {
     const Session typed = Typed();
     Session opened = m_start;
     ASSERT_EQ(Open(ComparisonText(typed.Screen), opened), std::nullopt);
@@ -77,7 +77,7 @@ TEST_F(ComparisonFileTest, WhatWasSavedOpensWithTheSameFigures) {
     EXPECT_FALSE(opened.Screen.chkDoTax0);
 }
 
-// $300,000 on a home of $200,000 is 150 %, which typed again would be taken for $150.
+// $300,000 on a home of $200,000 is 150 %. Typed again, 150 % would be read as $150.
 TEST_F(ComparisonFileTest, APercentageMadeFromDollarsIsSavedAsDollars) {
     Session session = Typed();
     session.Screen.ecPctDown.Text = "300000";
@@ -99,7 +99,7 @@ TEST_F(ComparisonFileTest, EmptyFieldsStayEmpty) {
     EXPECT_THAT(ComparisonText(opened.Screen), Not(HasSubstr("ecStdHome")));
 }
 
-TEST_F(ComparisonFileTest, TheTabAndTheTablesStayWhileAFileIsOpened) {
+TEST_F(ComparisonFileTest, OpeningAFileKeepsTheTabAndTheTables) {
     Session session = m_start;
     Module1::ClickTab(session, m_host, 4);
     session.Assumptions.RealEstateTaxPct = 1.8F;
@@ -130,7 +130,7 @@ TEST_F(ComparisonFileTest, AFaultyFileChangesNothing) {
     }
 }
 
-TEST_F(ComparisonFileTest, AMissingFileIsTold) {
+TEST_F(ComparisonFileTest, AMissingFileIsReported) {
     Session session = m_start;
     const auto fault = OpenComparison(Folder() / "gone.ledgrove.json", session, m_start, m_host);
     ASSERT_TRUE(fault);
@@ -138,7 +138,7 @@ TEST_F(ComparisonFileTest, AMissingFileIsTold) {
     EXPECT_TRUE(OpenComparison(Folder(), session, m_start, m_host));
 }
 
-TEST_F(ComparisonFileTest, OpeningIsNotChoosingTheOption) {
+TEST_F(ComparisonFileTest, OpeningDoesNotCountAsChoosingTheOption) {
     Session session = m_start;
     ASSERT_EQ(Open(R"({"cboGMHMortOption": "Fannie Mae EEM"})", session), std::nullopt);
     EXPECT_TRUE(m_host.Messages.empty());
@@ -152,7 +152,7 @@ TEST_F(ComparisonFileTest, TheSampleOpens) {
     EXPECT_EQ(session.Screen.lblStdPITIU.Text, "$1,665");
 }
 
-TEST_F(ComparisonFileTest, ANewComparisonIsAsAtTheStart) {
+TEST_F(ComparisonFileTest, ANewComparisonHasTheStartValues) {
     Session session = Typed();
     session.Screen.lblHomeName.Text = "The Alder";
     NewComparison(session, m_start, m_host);

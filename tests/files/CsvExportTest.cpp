@@ -18,7 +18,7 @@ std::vector<std::string> Cells(const std::string& line) {
     return cells;
 }
 
-/// The text with the commas outside quotes as tabs and without the quotes.
+/// The text with the commas outside quotes replaced by tabs, and without the quotes.
 std::string Plain(const std::string& csv) {
     std::string plain;
     bool quoted = false;
@@ -31,7 +31,7 @@ std::string Plain(const std::string& csv) {
     return plain;
 }
 
-TEST(CsvExportTest, InputsAndMainResultsStandUnderTheirNames) {
+TEST(CsvExportTest, InputsAndMainResultsHaveTheirNamesAsHeadings) {
     Session session = Testing::SampleSession();
     Testing::ScriptedHost host;
     Module1::Recalculate(session, host);

@@ -43,7 +43,7 @@ TEST(TabTextTest, ASpreadsheetGetsCells) {
                               "Net Monthly Cash Flow\t$13\t$158\n");
 }
 
-TEST(TabTextTest, EveryTabSaysWhatItShows) {
+TEST(TabTextTest, EveryTabGivesTheTextsThatItShows) {
     EXPECT_THAT(Aligned(0), HasSubstr("1. Enter Homebuyer Annual Income"));
     EXPECT_THAT(Aligned(2), HasSubstr("Finished basement"));
     EXPECT_THAT(Aligned(3), HasSubstr("Maximum Loan Value"));
@@ -72,7 +72,7 @@ TEST(TabTextTest, NoTextBreaksOutOfItsCell) {
     EXPECT_THAT(SpreadsheetText(TabContent(screen, 2)), HasSubstr("a b c\n"));
 }
 
-TEST(TabTextTest, LettersOfSeveralBytesTakeOnePlace) {
+TEST(TabTextTest, CharactersOfSeveralBytesTakeOneColumn) {
     MainScreen screen = SampleScreen();
     screen.lblnetcashflowtext.Text = "Überschuß";
     EXPECT_THAT(AlignedText(TabContent(screen, 1)),

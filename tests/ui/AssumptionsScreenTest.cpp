@@ -16,7 +16,7 @@ using namespace Module1;
 using testing::HasSubstr;
 using Testing::ScriptedHost;
 
-/// The program started on a settings file, and the dialog filled from it.
+/// Starts the program's state from a settings file and fills the dialog from it.
 class AssumptionsScreenTest : public SettingsTest {
 protected:
     void Start(std::string_view settings) {
@@ -89,7 +89,7 @@ TEST_F(AssumptionsScreenTest, MissingAssumptionsShowZeros) {
     EXPECT_EQ(m_dialog.PMI_Multiplier[1].Text, "0");
 
     m_session.Screen.ecStdHome.Text = "$100,000";
-    Recalculate(m_session, m_host); // nothing down
+    Recalculate(m_session, m_host); // no down payment
     EXPECT_EQ(m_session.StdCase.LoanAmount, 100000);
     EXPECT_EQ(m_session.StdCase.PMIMonthly, 0);
     EXPECT_EQ(m_session.StdCase.TaxMonthly, 0);
@@ -135,7 +135,7 @@ TEST_F(AssumptionsScreenTest, ConfirmingUntouchedChangesOnlyNumberFormats) {
         std::sort(lines.begin(), lines.end());
         return lines;
     };
-    EXPECT_EQ(sorted(Bytes()), sorted(wanted)); // the loan types stand at the end now
+    EXPECT_EQ(sorted(Bytes()), sorted(wanted)); // the loan types are now at the end
     EXPECT_EQ(m_session.TaxBrackets.back().HighEnd, -1);
     EXPECT_EQ(m_session.TaxBrackets.back().Rate, 35);
     const std::string first = Bytes();
@@ -163,7 +163,7 @@ TEST_F(AssumptionsScreenTest, ConfirmingUntouchedChangesNoResult) {
     for (const auto& entry : LabelTable())
         second.push_back((screen.*entry.Member).Text);
     EXPECT_EQ(first, second);
-    EXPECT_FLOAT_EQ(m_session.Scenario.MarginalTaxRate, 0.35F); // the top bracket has kept its rate
+    EXPECT_FLOAT_EQ(m_session.Scenario.MarginalTaxRate, 0.35F); // the top bracket keeps its rate
 }
 
 TEST_F(AssumptionsScreenTest, ATypedRatioIsSavedAsAFractionAndRecalculates) {
@@ -206,7 +206,7 @@ TEST_F(AssumptionsScreenTest, LeavingAHighEndMovesTheNextLowEndAtOnce) {
     EXPECT_EQ(m_dialog.ecLowEnd[2].Text, "$50,001");
 }
 
-TEST_F(AssumptionsScreenTest, ARefusedHighEndMovesNothing) {
+TEST_F(AssumptionsScreenTest, ARefusedHighEndChangesNothing) {
     StartShipped();
     m_dialog.ecHighEnd[1].Text = "abc";
     EXPECT_EQ(LeaveHighEnd(m_context, m_dialog, 1), EntryOutcome::Refused);
@@ -214,7 +214,7 @@ TEST_F(AssumptionsScreenTest, ARefusedHighEndMovesNothing) {
     ASSERT_EQ(m_host.Messages.size(), 1U);
 }
 
-TEST_F(AssumptionsScreenTest, TheLastHighEndAddressesNoSeventhRow) {
+TEST_F(AssumptionsScreenTest, TheLastHighEndDoesNotTouchASeventhRow) {
     StartShipped();
     m_dialog.ecHighEnd[5].Text = "900000";
     EXPECT_EQ(LeaveHighEnd(m_context, m_dialog, 5), EntryOutcome::Accepted);
@@ -229,7 +229,7 @@ TEST_F(AssumptionsScreenTest, ALowEndIsFormattedWithoutACheck) {
     EXPECT_TRUE(m_host.Messages.empty());
 }
 
-TEST_F(AssumptionsScreenTest, TheSavingsRateIsShownAsItStandsHoweverItIsLeft) {
+TEST_F(AssumptionsScreenTest, TheSavingsRateKeepsItsTextOnEveryExit) {
     StartShipped();
     m_dialog.ecPV_Rate.Text = "0.5";
     EXPECT_EQ(LeaveFieldAs(m_context, m_dialog.ecPV_Rate, "Percent", "WholePercent"), EntryOutcome::Accepted);
@@ -256,7 +256,7 @@ TEST_F(AssumptionsScreenTest, TheUpgradeIsThePriceDifference) {
     EXPECT_EQ(m_dialog.ecExpUpgrValue.Text, "-$1,500");
 }
 
-TEST_F(AssumptionsScreenTest, AFailedSaveLeavesFileAndMemoryAsTheyWere) {
+TEST_F(AssumptionsScreenTest, AFailedSaveChangesNeitherFileNorMemory) {
     StartShipped();
     const std::string before = Bytes();
     m_dialog.FER[0].Text = "99%";
@@ -269,11 +269,11 @@ TEST_F(AssumptionsScreenTest, AFailedSaveLeavesFileAndMemoryAsTheyWere) {
     EXPECT_EQ(m_session.Assumptions.YearsInHome, 7);
 }
 
-TEST_F(AssumptionsScreenTest, WhatTheFirstWriterSavedIsTakenBackWhenALaterOneFails) {
+TEST_F(AssumptionsScreenTest, TheFirstWritersSaveIsUndoneWhenALaterOneFails) {
     StartShipped();
     const std::string before = Bytes();
-    m_dialog.ecHighEnd[0].Text = "$60,000";     // saved by the first writer
-    m_dialog.PMI_Multiplier[0].Text = "1\n2=3"; // refused by the second: a line break
+    m_dialog.ecHighEnd[0].Text = "$60,000";     // the first writer saves this
+    m_dialog.PMI_Multiplier[0].Text = "1\n2=3"; // the second refuses this: a line break
     const auto fault = Confirm();
     ASSERT_TRUE(fault);
     EXPECT_EQ(Bytes(), before);

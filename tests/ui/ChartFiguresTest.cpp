@@ -37,8 +37,8 @@ TEST(ChartFiguresTest, ThreeTabsHaveAChart) {
     EXPECT_EQ(ChartOfTab(4), ChartKind::Savings);
 }
 
-// $180,000 and $186,000 over 360 months at 6.5 % / 12: $1,137.72 and $1,175.65 a month. Taxes 0.9 %,
-// insurance 0.65 % of the price, PMI 0.46 % of the loan, each over 12.
+// $180,000 and $186,000 over 360 months at 6.5 % / 12: $1,137.72 and $1,175.65 a month. Taxes are 0.9 % and
+// insurance 0.65 % of the price, PMI 0.46 % of the loan, each divided by 12.
 TEST(ChartFiguresTest, TheMonthlyCostIsStackedByItsParts) {
     const ChartFigures chart = MakeChart(ChartKind::MonthlyCost, Computed(SampleSession()));
     EXPECT_THAT(chart.Categories, ElementsAre("Base Home", "GREENMARK Home"));
@@ -81,7 +81,7 @@ TEST(ChartFiguresTest, TaxSavingsArePlacedBelowZero) {
 
 TEST(ChartFiguresTest, AdditionalTaxesAreStackedOnTop) {
     Session session = SampleSession();
-    // The labelled home's loan is the smaller one, and so is its interest.
+    // The labelled home has the smaller loan and so the smaller interest.
     session.Screen.ecGMHHome.Text = "$150,000";
     const ChartFigures chart = MakeChart(ChartKind::MonthlyCost, Computed(session));
     EXPECT_GT(SeriesNamed(chart, "Additional Taxes").Values[1], 0);
@@ -95,7 +95,7 @@ TEST(ChartFiguresTest, WithoutTaxesThereAreNoTaxSavings) {
     EXPECT_EQ(SeriesNamed(chart, "Tax Savings").Values[1], 0);
 }
 
-TEST(ChartFiguresTest, TheMortgageStandsBesideTheMaximumLoan) {
+TEST(ChartFiguresTest, TheMortgageIsNextToTheMaximumLoan) {
     const Session session = Computed(SampleSession());
     const ChartFigures chart = MakeChart(ChartKind::Affordability, session);
     EXPECT_THAT(SeriesNamed(chart, "Mortgage Amount").Values, ElementsAre(180000, 186000));
@@ -105,7 +105,7 @@ TEST(ChartFiguresTest, TheMortgageStandsBesideTheMaximumLoan) {
               "the GREENMARK Home the mortgage of $186,000 is within the maximum loan of $267,880.");
 }
 
-TEST(ChartFiguresTest, WhoDoesNotQualifyIsTold) {
+TEST(ChartFiguresTest, TheDescriptionNamesALoanThatDoesNotQualify) {
     Session session = SampleSession();
     session.Screen.ecIncome.Text = "$30,000";
     const ChartFigures chart = MakeChart(ChartKind::Affordability, Computed(session));
@@ -113,7 +113,7 @@ TEST(ChartFiguresTest, WhoDoesNotQualifyIsTold) {
                 testing::HasSubstr("With the Base Home the mortgage of $180,000 is not within"));
 }
 
-/// The same month by month: each month's interest, then its payment.
+/// The same sum month by month: each month's interest, then its payment.
 double PutAside(double payment, double yearlyRate, int years) {
     double sum = 0;
     for (int month = 0; month < years * 12; ++month)
@@ -132,7 +132,7 @@ TEST(ChartFiguresTest, SavingsGrowMonthByMonth) {
         EXPECT_NEAR(values[static_cast<std::size_t>(year)], PutAside(net, 0.065, year), 0.05) << year;
 }
 
-TEST(ChartFiguresTest, TheYearsOfTheSummaryArePointedOut) {
+TEST(ChartFiguresTest, TheYearsOfTheSummaryAreMarked) {
     Session session = SampleSession();
     session.Assumptions.YearsInHome = 12;
     const ChartFigures chart = MakeChart(ChartKind::Savings, Computed(session));
@@ -145,14 +145,14 @@ TEST(ChartFiguresTest, TheYearsOfTheSummaryArePointedOut) {
     EXPECT_THAT(chart.Sentence, testing::HasSubstr("after 12 years in the home"));
 }
 
-TEST(ChartFiguresTest, AYearIsPointedOutOnce) {
+TEST(ChartFiguresTest, AYearIsMarkedOnce) {
     const ChartFigures chart = MakeChart(ChartKind::Savings, Computed(SampleSession()));
     ASSERT_EQ(chart.Marks.size(), 2U);
     EXPECT_EQ(chart.Marks[0].Year, 7);
     EXPECT_EQ(chart.Marks[1].Year, 30);
 }
 
-TEST(ChartFiguresTest, YearsBeyondTheChartAreOnlyTold) {
+TEST(ChartFiguresTest, YearsBeyondTheChartAreOnlyDescribed) {
     Session session = SampleSession();
     session.Assumptions.YearsInHome = 35;
     const ChartFigures chart = MakeChart(ChartKind::Savings, Computed(session));
@@ -160,7 +160,7 @@ TEST(ChartFiguresTest, YearsBeyondTheChartAreOnlyTold) {
     EXPECT_THAT(chart.Sentence, testing::HasSubstr("after 35 years in the home"));
 }
 
-TEST(ChartFiguresTest, LossesLieBelowZero) {
+TEST(ChartFiguresTest, LossesAreBelowZero) {
     Session session = SampleSession();
     session.Screen.ecGMHUtil.Text = "$2,400";
     const ChartFigures chart = MakeChart(ChartKind::Savings, Computed(session));
@@ -169,7 +169,7 @@ TEST(ChartFiguresTest, LossesLieBelowZero) {
     EXPECT_GE(chart.Highest, 0);
 }
 
-TEST(ChartFiguresTest, WhatCannotBeComputedIsDrawnAsZero) {
+TEST(ChartFiguresTest, AnUncomputableFigureIsDrawnAsZero) {
     Session session = Computed(SampleSession());
     session.GMHCase.IntRate = 1e30F;
     const ChartFigures chart = MakeChart(ChartKind::Savings, session);
@@ -203,7 +203,7 @@ TEST(ChartScaleTest, StepsAreRound) {
     EXPECT_THAT(TickTexts(0, 0, 5), ElementsAre("$0", "$1"));
 }
 
-TEST(ChartScaleTest, ValuesBelowZeroGetTheirOwnRoomOnly) {
+TEST(ChartScaleTest, ValuesBelowZeroGetOnlyTheSpaceTheyNeed) {
     ChartFigures chart;
     SetScale(chart, -3, 1665, 5);
     EXPECT_NEAR(chart.Lowest, -3.15, 1e-9);

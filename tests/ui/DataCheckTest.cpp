@@ -36,7 +36,7 @@ struct Entry {
 };
 
 struct CheckRow {
-    std::vector<Entry> Entries; ///< into the sample, of which the check has nothing to say
+    std::vector<Entry> Entries; ///< changes to the sample, for which the check has no remark
     std::vector<const char*> Remarks;
 };
 
@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Missing, DataCheck,
                                          CheckRow{{{"ecIncome", "$0"}}, {incomeMissing}},
                                          CheckRow{{{"ecIncome", "$1"}}, {}}));
 
-// 220,000 is 1.1 times 200,000. In single precision, 1.1 times 16,000,001 is 17,600,002 as well.
+// 220,000 is 1.1 times 200,000. In single precision, 1.1 times 16,000,001 is also 17,600,002.
 INSTANTIATE_TEST_SUITE_P(
     Prices, DataCheck,
     testing::Values(CheckRow{{{"ecGMHHome", "$200,000"}}, {}},
@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(UtilityBills, DataCheck,
                          testing::Values(CheckRow{{{"ecGMHUtil", "$2,400"}}, {}},
                                          CheckRow{{{"ecGMHUtil", "$2,401"}}, {lowerBaseBill}}));
 
-// Neither a labelled rate of 0 nor a base rate below 0 is "missing".
+// A labelled rate of 0 and a base rate below 0 are not "missing".
 INSTANTIATE_TEST_SUITE_P(RateSigns, DataCheck,
                          testing::Values(CheckRow{{{"ecGMHRate", "0.000%"}}, {tooLow, quarterMore}},
                                          CheckRow{{{"ecGMHRate", "-0.001%"}},
@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CheckRow{{{"ecStdRate", "21%"}, {"ecGMHRate", "6%"}}, {above20, tooLow, quarterMore}}));
 
 // 1.25 x 6.5 = 8.125; 1.25 x 10 = 12.5 and 1.25 x 1.04 = 1.3 are not less. In single precision 1.25 x 0.06 is
-// 0.0749999955 and so less than 0.075, which is 0.0750000030 there.
+// 0.0749999955, which is less than 0.075, stored as 0.0750000030.
 INSTANTIATE_TEST_SUITE_P(
     RateDifferences, DataCheck,
     testing::Values(CheckRow{{{"ecStdRate", "6.499"}}, {higherRate}},
@@ -134,7 +134,7 @@ TEST(DataCheckText, OfEmptyFieldsListsWhatIsMissing) {
         "missing.\rAnnual Income is missing.\r\r");
 }
 
-TEST(DataCheckText, HoldsEveryRemarkOfItsOrderThatCanStandTogether) {
+TEST(DataCheckText, KeepsTheOrderOfAllRemarksThatCanOccurTogether) {
     Session session = SampleSession();
     MainScreen& screen = session.Screen;
     screen.ecStdHome.Text = "$0";
@@ -166,14 +166,14 @@ TEST(RunDataCheck, ShowsOneMessageEachTime) {
     EXPECT_EQ(session.Screen.ecIncome.Text, "");
 }
 
-TEST(RunDataCheck, IsSilentWithNothingToSay) {
+TEST(RunDataCheck, IsSilentWithoutRemarks) {
     const Session session = SampleSession();
     ScriptedHost host;
     RunDataCheck(session.Screen, host);
     EXPECT_TRUE(host.Messages.empty());
 }
 
-TEST(CheckHousePair, LooksAtPricesAndBillsOnly) {
+TEST(CheckHousePair, ChecksOnlyPricesAndBills) {
     EXPECT_EQ(CheckHousePair({}),
               std::string(stdCostMissing) + gmhCostMissing + stdUtilMissing + gmhUtilMissing);
     EXPECT_EQ(CheckHousePair({200000, 199000, 1000, 1001}), std::string(cheaper) + lowerBaseBill);

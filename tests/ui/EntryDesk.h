@@ -10,14 +10,14 @@
 
 namespace Ledgrove::Testing {
 
-/// The keyboard focus as a script: writes down what it is asked for.
+/// A scripted keyboard focus that records the requests.
 class ScriptedFocus : public EntryFocus {
 public:
     ScriptedFocus(const Session& session, std::vector<std::string>& log)
         : m_session(session)
         , m_log(log) {}
 
-    std::string Focused = "ecGMHHome"; ///< the name that the entry rules are told
+    std::string Focused = "ecGMHHome"; ///< the name that the entry rules get
 
     std::string FocusedControl() const override { return Focused; }
     void ReturnFocusTo(const Field& field) override { m_log.push_back("focus " + NameOf(field)); }
@@ -37,9 +37,9 @@ private:
     std::vector<std::string>& m_log;
 };
 
-/// The sample comparison with everything that entry does to the outside in one log: "focus NAME", "message
-/// TEXT", "select", "next", and "recalculated" for each time pending events run (once per recalculation on
-/// the Welcome tab).
+/// The sample comparison with one log of everything that an entry requests: "focus NAME", "message TEXT",
+/// "select", "next", and "recalculated" for each time pending events run (once per recalculation on the
+/// Welcome tab).
 class EntryDesk : public testing::Test {
 protected:
     using Log = std::vector<std::string>;

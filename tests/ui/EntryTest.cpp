@@ -21,7 +21,7 @@ struct ComplaintRow {
 
 class Complaints : public testing::TestWithParam<ComplaintRow> {};
 
-TEST_P(Complaints, TellWhatIsWrong) {
+TEST_P(Complaints, SayWhatIsWrong) {
     EXPECT_EQ(FieldComplaint(GetParam().Text, GetParam().Type), GetParam().Complaint);
 }
 
@@ -54,7 +54,7 @@ TEST_F(Validation, AcceptsANumberWithoutTouchingTheFocus) {
     EXPECT_THAT(m_log, IsEmpty());
 }
 
-TEST_F(Validation, TurnsAnEmptyFieldIntoZero) {
+TEST_F(Validation, SetsAnEmptyFieldToZero) {
     Screen().ecIncome.Text.clear();
     EXPECT_TRUE(Validate(Screen().ecIncome, "Dollar"));
     EXPECT_EQ(Screen().ecIncome.Text, "0");
@@ -85,13 +85,13 @@ TEST_F(Validation, ComplainsInAMessageBoxOfTheProgram) {
     EXPECT_EQ(m_host.Messages[0].Buttons, MessageButtons::Ok);
 }
 
-TEST_F(Validation, QuietlyReturnsTheFocusAllTheSame) {
+TEST_F(Validation, ReturnsTheFocusWithoutAMessage) {
     Screen().ecIncome.Text = "lots";
     EXPECT_FALSE(Validate(Screen().ecIncome, "Dollar", Complaint::Quiet));
     EXPECT_THAT(m_log, ElementsAre("focus ecIncome", "select"));
 }
 
-TEST_F(Validation, NeverHoldsBackFromACancelOrExitButton) {
+TEST_F(Validation, NeverKeepsTheFocusFromACancelOrExitButton) {
     for (const char* name : {"bCancel", "bCancelEdit", "bExit", "bExitNow"}) {
         m_focus.Focused = name;
         for (const char* text : {"-5", "abc", ""}) {
@@ -103,7 +103,7 @@ TEST_F(Validation, NeverHoldsBackFromACancelOrExitButton) {
     EXPECT_THAT(m_log, IsEmpty());
 }
 
-TEST_F(Validation, HoldsBackFromEveryOtherControl) {
+TEST_F(Validation, KeepsTheFocusFromEveryOtherControl) {
     Screen().ecIncome.Text = "-5";
     for (const char* name : {"", "ecIncome", "bOK", "bCance", "bcancel", "cmdCancel", "bExi", "BExit"}) {
         m_focus.Focused = name;
@@ -151,7 +151,7 @@ TEST_F(EntryKeys, EnterCommitsAndMovesOn) {
     EXPECT_THAT(m_log, ElementsAre("recalculated", "next"));
 }
 
-TEST_F(EntryKeys, TabCommitsAndLeavesTheMovingToTheKeyItself) {
+TEST_F(EntryKeys, TabCommitsAndTheToolkitMovesTheFocus) {
     Screen().ecIncome.Text = "80000";
     Press(KeyCode::Tab, Screen().ecIncome);
     EXPECT_EQ(Screen().ecIncome.Text, "$80,000");
@@ -195,7 +195,7 @@ TEST_F(EntryKeys, ADialogsFieldRecalculatesTheMainScreenToo) {
     EXPECT_THAT(m_log, ElementsAre("recalculated", "next"));
 }
 
-TEST_F(EntryKeys, TheNoticeOfAnEditComesOnce) {
+TEST_F(EntryKeys, TheNoticeOfAnEditAppearsOnce) {
     SetFieldText(m_session, Screen().ecGMHHome, "220000"); // an upgrade of 20,000 for savings worth 9,229
     Press(KeyCode::Enter, Screen().ecGMHHome);
     EXPECT_EQ(m_host.Messages.size(), 1U);
@@ -238,7 +238,7 @@ TEST_F(LostFocus, TowardsCancelNeverComplains) {
     EXPECT_THAT(m_log, IsEmpty());
 }
 
-TEST_F(LostFocus, MayHaveNothingToFollow) {
+TEST_F(LostFocus, MayHaveNoFurtherSteps) {
     Field price;
     price.Text = "5000";
     LeaveField(m_context, price, "Dollar", AfterEdit::Nothing);
@@ -257,7 +257,7 @@ TEST_F(LostFocus, TheHouseIsCheckedAfterTheRecalculation) {
     EXPECT_EQ(Screen().lblHomeName.Text, "Custom");
 }
 
-TEST_F(LostFocus, OfOtherFieldsDoesNotLookAtTheHouse) {
+TEST_F(LostFocus, OfOtherFieldsDoesNotCheckTheHouse) {
     m_session.ChosenHouse = {"The Alder", 1, 2, 3, 4};
     Screen().lblHomeName.Text = "The Alder";
     LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate);
@@ -266,7 +266,7 @@ TEST_F(LostFocus, OfOtherFieldsDoesNotLookAtTheHouse) {
 
 using FieldText = EntryDesk;
 
-TEST_F(FieldText, AChangeOfTheMarkedFieldsAloneSetsTheNoticeFlag) {
+TEST_F(FieldText, OnlyAChangeOfAMarkedFieldSetsTheNoticeFlag) {
     const std::set<std::string_view> marked = {"ecStdHome", "ecGMHHome", "ecStdUtil", "ecGMHUtil",
                                                "ecGMHRate"};
     for (const auto& entry : FieldTable()) {
@@ -276,7 +276,7 @@ TEST_F(FieldText, AChangeOfTheMarkedFieldsAloneSetsTheNoticeFlag) {
     }
 }
 
-TEST_F(FieldText, TheTextThatTheFieldHoldsIsNoChange) {
+TEST_F(FieldText, SettingTheSameTextIsNotAChange) {
     SetFieldText(m_session, Screen().ecGMHHome, "$206,000");
     FormatField(m_session, Screen().ecGMHHome, "Dollar");
     EXPECT_FALSE(m_session.Scenario.EEMNoticeFlag);
@@ -306,14 +306,14 @@ protected:
     }
 };
 
-TEST_F(CustomHouse, KeepsItsNameWhileAllFourAmountsAreItsOwn) {
+TEST_F(CustomHouse, KeepsItsNameWhileAllFourAmountsAreUnchanged) {
     Screen().ecGMHUtil.Text = "1700.00";
     Screen().ecIncome.Text = "1";
     CheckCustomHouse(m_session);
     EXPECT_EQ(Screen().lblHomeName.Text, "The Alder");
 }
 
-TEST_F(CustomHouse, LosesItsNameWithAnyOfThem) {
+TEST_F(CustomHouse, LosesItsNameWhenAnyAmountChanges) {
     for (Field MainScreen::*member :
          {&MainScreen::ecStdHome, &MainScreen::ecGMHHome, &MainScreen::ecStdUtil, &MainScreen::ecGMHUtil}) {
         Session session = m_session;

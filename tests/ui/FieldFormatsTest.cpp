@@ -16,7 +16,7 @@ void PrintTo(const FormatRow& row, std::ostream* out) {
 
 class FieldFormats : public testing::TestWithParam<FormatRow> {};
 
-TEST_P(FieldFormats, ShowWhatWasTyped) {
+TEST_P(FieldFormats, ShowTypedValues) {
     EXPECT_EQ(FormatFieldText(GetParam().Typed, GetParam().Type), GetParam().Shown);
 }
 
@@ -95,8 +95,8 @@ INSTANTIATE_TEST_SUITE_P(NoNumberIsZero, FieldFormats,
                                          FormatRow{"Whole", "5 000", "0"},
                                          FormatRow{"WholePercent", "%", "0.00%"}));
 
-// What a picture makes is accepted again and stays, but for "Either" and "Either2", where a shown percentage
-// reads as a small amount.
+// A field accepts the text that a picture format makes and keeps it unchanged. Exceptions are "Either" and
+// "Either2", where a shown percentage is read as a small amount.
 TEST(FieldFormats, ShowTheirOwnTextsUnchanged) {
     for (const char* type : {"Dollar", "IntRate", "Percent", "Percent2", "Whole", "WholePercent"})
         for (const char* typed : {"0", "0.5", "7", "1234.5", "150000"}) {

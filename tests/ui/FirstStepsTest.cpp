@@ -7,7 +7,7 @@
 namespace Ledgrove {
 namespace {
 
-TEST(FirstStepsTest, LeadThroughTheInputsToTheResults) {
+TEST(FirstStepsTest, LeadFromTheInputsToTheResults) {
     MainScreen screen = Testing::StartedSession().Screen;
     const std::pair<const char*, Field MainScreen::*> inputs[] = {
         {"ecIncome", &MainScreen::ecIncome},   {"ecStdHome", &MainScreen::ecStdHome},
@@ -20,19 +20,19 @@ TEST(FirstStepsTest, LeadThroughTheInputsToTheResults) {
     EXPECT_EQ(NextFirstStep(screen).Control, "SSTab1");
 }
 
-TEST(FirstStepsTest, AskForTheDownPaymentThatIsInForce) {
+TEST(FirstStepsTest, AskForTheSelectedDownPayment) {
     MainScreen screen = Testing::SampleSession().Screen;
     screen.optDownPayment = 1;
     EXPECT_EQ(NextFirstStep(screen).Control, "ecFixedDown");
 }
 
-TEST(FirstStepsTest, NothingDownIsADownPayment) {
+TEST(FirstStepsTest, ZeroDownIsADownPayment) {
     MainScreen screen = Testing::SampleSession().Screen;
     screen.ecPctDown.Text = "0.00%";
     EXPECT_EQ(NextFirstStep(screen).Control, "SSTab1");
 }
 
-TEST(FirstStepsTest, AFieldPassedThroughIsUntouched) {
+TEST(FirstStepsTest, AFieldThatTheFocusOnlyVisitedIsUntouched) {
     MainScreen screen = Testing::StartedSession().Screen;
     EXPECT_TRUE(IsUntouched(screen));
     screen.ecIncome.Text = "$0";

@@ -12,7 +12,7 @@ namespace {
 using namespace Module1;
 using Testing::ScriptedHost;
 
-/// A settings file with three houses, and a main screen with other amounts.
+/// A settings file with three houses, and a main screen with different amounts.
 class HouseScenariosTest : public SettingsTest {
 protected:
     HouseScenariosTest() {
@@ -115,7 +115,7 @@ TEST_F(HouseScenariosTest, ANewHouseTakesTheMainScreensAmounts) {
     EXPECT_TRUE(m_host.Messages.empty());
 }
 
-TEST_F(HouseScenariosTest, ATakenNameIsRefusedButNotInOtherCase) {
+TEST_F(HouseScenariosTest, ATakenNameIsRefusedUnlessTheCaseDiffers) {
     Open();
     EXPECT_TRUE(AddHouse(m_dialog, m_session, m_host, "Lot 7"));
     EXPECT_FALSE(AddHouse(m_dialog, m_session, m_host, "Lot 7"));
@@ -126,14 +126,16 @@ TEST_F(HouseScenariosTest, ATakenNameIsRefusedButNotInOtherCase) {
     EXPECT_EQ(m_dialog.Houses.size(), 5U);
 }
 
-TEST_F(HouseScenariosTest, NamesThatWouldBreakTheirLineAreRefused) {
+TEST_F(HouseScenariosTest, NamesThatDoNotFitTheirLineAreRefused) {
     EXPECT_EQ(HouseNameComplaint({}, ""), "No Name Entered. Add Aborted");
     EXPECT_EQ(HouseNameComplaint({}, "  "), "No Name Entered. Add Aborted");
     EXPECT_EQ(HouseNameComplaint({}, "Lot 7, east"), "A name cannot contain a comma.");
     EXPECT_EQ(HouseNameComplaint({}, "Lot\n7"), "A name cannot contain a line break.");
     EXPECT_EQ(HouseNameComplaint({}, "Lot\r7"), "A name cannot contain a line break.");
-    EXPECT_THAT(HouseNameComplaint({}, "\xE5\xAE\xB6"), HasSubstr("\xE5\xAE\xB6")); // the character for house
-    EXPECT_EQ(HouseNameComplaint({}, "Caf\xC3\xA9 \xE2\x82\xAC"), ""); // e acute and euro have bytes
+    EXPECT_THAT(HouseNameComplaint({}, "\xE5\xAE\xB6"),
+                HasSubstr("\xE5\xAE\xB6")); // the Chinese character for house
+    EXPECT_EQ(HouseNameComplaint({}, "Caf\xC3\xA9 \xE2\x82\xAC"),
+              ""); // e with an acute accent and the euro sign are in Windows-1252
 }
 
 TEST_F(HouseScenariosTest, AnEditThatLooksRightIsStoredWithoutAsking) {
@@ -198,7 +200,7 @@ TEST_F(HouseScenariosTest, DeletingMovesLaterHousesUpAndSelectsTheFirst) {
     EXPECT_EQ(m_dialog.ecStdCost.Text, "$150,000");
 }
 
-TEST_F(HouseScenariosTest, DeletingIsAskedFirst) {
+TEST_F(HouseScenariosTest, DeletingAsksFirst) {
     Open();
     m_host.Answers = {MessageAnswer::No};
     DeleteHouse(m_dialog, m_host);
@@ -214,7 +216,7 @@ TEST_F(HouseScenariosTest, AfterTheLastHouseTheFieldsAreEmpty) {
     EXPECT_THAT(Shown(), ElementsAre("", "", "", ""));
 }
 
-TEST_F(HouseScenariosTest, ChoosingCopiesTheHouseWhichAnEditedPriceMakesCustom) {
+TEST_F(HouseScenariosTest, ChoosingCopiesTheHouseAndAnEditedPriceMakesItCustom) {
     Open();
     SelectHouse(m_dialog, 1);
     ChooseHouse(m_dialog, m_session);
@@ -242,7 +244,7 @@ TEST_F(HouseScenariosTest, AFailedSaveNamesTheFileAndLeavesItWhole) {
     EXPECT_EQ(Bytes(), before);
 }
 
-TEST_F(HouseScenariosTest, AMarkThatCannotBeWrittenIsToldAndStopsNothing) {
+TEST_F(HouseScenariosTest, AnUnwritableOpenMarkIsReportedAndStopsNothing) {
     std::filesystem::create_directory(Folder() / "Pennaro2.INI");
     Open();
     EXPECT_EQ(m_dialog.Houses.size(), 3U);

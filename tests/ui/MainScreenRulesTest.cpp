@@ -73,7 +73,7 @@ TEST_P(BaseOption, RefillsTheLabelledHomesListAndChoosesItsFirst) {
     EXPECT_EQ(Screen().cboGMHMortOption.Text(), GetParam().Labelled.front());
     EXPECT_TRUE(m_host.Messages.empty());
     EXPECT_FALSE(m_session.Scenario.EEMNoticeFlag);
-    EXPECT_EQ(m_host.PendingEventRuns, 1); // of one recalculation
+    EXPECT_EQ(m_host.PendingEventRuns, 1); // from one recalculation
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -102,7 +102,7 @@ TEST_F(MainScreenClicks, AnUnknownOptionChangesNothing) {
     EXPECT_FALSE(SetTerm(m_session, "30"));
 }
 
-TEST_F(MainScreenClicks, FannieMaeExplainsItselfEveryTime) {
+TEST_F(MainScreenClicks, FannieMaeShowsItsMessageEveryTime) {
     ClickBaseOption(m_session, m_host, "Conventional");
     Screen().ecGMHHome.Text = "$206,000";
     for (std::size_t times = 1; times <= 2; ++times) {
@@ -152,7 +152,7 @@ TEST_F(MainScreenClicks, OnlyAnEEMOptionSetsTheNoticeFlag) {
     }
 }
 
-TEST_F(MainScreenClicks, TheLoanTypeTableSaysWhatAnEEMIs) {
+TEST_F(MainScreenClicks, TheLoanTypeTableDefinesTheEEMs) {
     m_session.LoanTypes[4].IsEEM = false;
     SetLabelledOption(m_session, "FHA EEM");
     EXPECT_FALSE(m_session.Scenario.EEMNoticeFlag);
@@ -161,13 +161,13 @@ TEST_F(MainScreenClicks, TheLoanTypeTableSaysWhatAnEEMIs) {
     EXPECT_FALSE(m_session.Scenario.EEMNoticeFlag);
 }
 
-TEST_F(MainScreenClicks, APlainOptionKeepsAWaitingNotice) {
+TEST_F(MainScreenClicks, APlainOptionKeepsAPendingNotice) {
     m_session.Scenario.EEMNoticeFlag = true;
     SetLabelledOption(m_session, "FHA");
     EXPECT_TRUE(m_session.Scenario.EEMNoticeFlag);
 }
 
-TEST_F(MainScreenClicks, ATermIsTakenWithItsTextAndRecalculated) {
+TEST_F(MainScreenClicks, ATermSetsItsTextAndRecalculates) {
     ClickTerm(m_session, m_host, "40 years");
     EXPECT_EQ(Screen().xMortTerm, 40);
     EXPECT_EQ(Screen().cboMortTerm.Text(), "40 years");
@@ -192,7 +192,7 @@ TEST_F(MainScreenClicks, TheTermsYearsAreTheFirstTwoCharacters) {
     }
 }
 
-TEST_F(MainScreenClicks, TheDownPaymentFieldOutOfForceIsGrey) {
+TEST_F(MainScreenClicks, TheUnselectedDownPaymentFieldIsGrey) {
     Screen().ecFixedDown.Text = "$30,000";
     ClickDownPayment(m_session, m_host, 1);
     EXPECT_EQ(Screen().optDownPayment, 1);
@@ -225,9 +225,9 @@ TEST_F(MainScreenClicks, TheTaxBoxHidesTheSummarysTaxesAndRecalculates) {
 class TabClicks : public MainScreenClicks {
 protected:
     TabClicks() {
-        Screen().ecIncome.Text = "$0"; // so that the data check has something to say
+        Screen().ecIncome.Text = "$0"; // so that the data check has a remark
     }
-    /// How many data checks spoke up to now.
+    /// The number of data check messages so far.
     std::size_t Checks() const {
         for (const Message& message : m_host.Messages)
             EXPECT_EQ(message.Title, "Ledgrove Data Check");
@@ -235,7 +235,7 @@ protected:
     }
 };
 
-TEST_F(TabClicks, ShowTheNewPanelInPlaceOfTheOld) {
+TEST_F(TabClicks, ReplaceTheOldPanelWithTheNewOne) {
     for (const int tab : {1, 2, 3, 4, 0, 3}) {
         ClickTab(m_session, m_host, tab);
         EXPECT_EQ(Screen().SSTab1, tab);
@@ -265,13 +265,12 @@ TEST_F(TabClicks, HideTheOldPanelBeforeTheCheckAndShowTheNewOneAfterIt) {
     EXPECT_EQ(Checks(), 1U);
 }
 
-TEST_F(TabClicks, EndByLettingPendingEventsRun) {
+TEST_F(TabClicks, EndByRunningPendingEvents) {
     bool shownAtLast = false;
     m_host.OnPendingEvents = [&] {
         shownAtLast = Screen().DetlFrame[static_cast<std::size_t>(Screen().SSTab1)];
     };
-    const int runs[] = {1, 2, 2, 2,
-                        1}; // the panels of Cash Flow, More Home and Affordability yield themselves
+    const int runs[] = {1, 2, 2, 2, 1}; // the panels of Cash Flow, More Home and Affordability also yield
     for (const int tab : {1, 2, 3, 4, 0}) {
         m_host.PendingEventRuns = 0;
         ClickTab(m_session, m_host, tab);

@@ -23,7 +23,7 @@ protected:
     OptionsScreen m_dialog;
 };
 
-TEST_F(OptionsScreenTest, ShowsTheFeaturesAndOneBlankForAMissingOne) {
+TEST_F(OptionsScreenTest, ShowsTheFeaturesAndABlankForAMissingOne) {
     Open("FEATURE1=Deck\r\n");
     EXPECT_EQ(m_dialog.ecFeat1.Text, "Deck");
     EXPECT_EQ(m_dialog.ecFeat2.Text, " ");
@@ -62,7 +62,7 @@ TEST_F(OptionsScreenTest, TheCaptionsShowTheTextsOnlyWithAMonthlyDifference) {
     EXPECT_EQ(m_session.Features.Feature2, "Porch");
 }
 
-TEST_F(OptionsScreenTest, AnUnnamedLogoKeepsItsPlaceholder) {
+TEST_F(OptionsScreenTest, ALogoWithoutANameKeepsItsPlaceholder) {
     Open("LOGOFILE=   \r\n");
     EXPECT_EQ(m_session.Header.LogoFile, "Full Path To Logo File");
     EXPECT_EQ(m_session.Header.BuilderName, "Partner Name");

@@ -66,7 +66,7 @@ TEST_F(PercentDown, ANewEntryAbove100IsConvertedAgain) {
     EXPECT_EQ(Enter("500"), "0.25%");
 }
 
-TEST_F(PercentDown, WithoutABasePriceTheAmountIsLeftAlone) {
+TEST_F(PercentDown, WithoutABasePriceTheAmountStays) {
     for (const char* price : {"", "$0", "abc"}) {
         Screen().ecStdHome.Text = price;
         EXPECT_EQ(Enter("30000"), "30000.00%");
@@ -90,7 +90,7 @@ TEST_F(PercentDown, APointTypedIntoTheEmptyFieldGives4846) {
     EXPECT_EQ(Screen().ecPctDown.Text, "4846");
 }
 
-TEST_F(PercentDown, AnyOtherKeyOrAFilledFieldTypesItself) {
+TEST_F(PercentDown, OtherKeysAndFilledFieldsTypeNormally) {
     Screen().ecPctDown.Text.clear();
     for (const char key : {'5', '0', ',', ' '})
         EXPECT_FALSE(TakePercentDownPoint(m_session, key));
@@ -100,7 +100,7 @@ TEST_F(PercentDown, AnyOtherKeyOrAFilledFieldTypesItself) {
     EXPECT_EQ(Screen().ecPctDown.Text, "1");
 }
 
-TEST_F(PercentDown, TheTypedPointIsThenAnAmount) {
+TEST_F(PercentDown, TheTypedPointIsReadAsAnAmount) {
     Screen().ecPctDown.Text.clear();
     TakePercentDownPoint(m_session, '.');
     LeaveField(m_context, Screen().ecPctDown, "Percent", AfterEdit::Recalculate);

@@ -53,13 +53,13 @@ TEST_F(StartUp, ReadsTheTablesAndTheHeader) {
     EXPECT_EQ(m_session.Assumptions.YearsInHome, 7);
     EXPECT_EQ(m_session.Features.Feature1, " Finished basement");
     EXPECT_EQ(m_session.Features.Feature2, "Larger deck");
-    EXPECT_EQ(m_session.Screen.lblfeature1.Text, ""); // nothing to spend yet
+    EXPECT_EQ(m_session.Screen.lblfeature1.Text, ""); // both amounts are still zero
     EXPECT_EQ(m_session.HelpFile, "LEDGROVE.HLP");
     EXPECT_EQ(m_session.Header.LogoFile, "/pictures/acme.bmp");
     EXPECT_EQ(m_session.Header.BuilderName, "Acme Homes");
 }
 
-TEST_F(StartUp, ShowsTheWelcomeTabAlone) {
+TEST_F(StartUp, ShowsOnlyTheWelcomeTab) {
     Given(settings);
     ASSERT_FALSE(Load());
     EXPECT_EQ(m_session.Screen.SSTab1, 0);
@@ -112,10 +112,10 @@ TEST_F(StartUp, RunsAFirstRecalculationWithoutAMessage) {
     EXPECT_EQ(m_session.Screen.lblNetCashMo.Text, "$0");
     EXPECT_EQ(m_session.Screen.lblYrsIn.Text, " Expected Savings After:   7 Years");
     EXPECT_TRUE(m_host.Messages.empty());
-    EXPECT_GE(m_host.PendingEventRuns, 2); // of the recalculation, and at the end
+    EXPECT_GE(m_host.PendingEventRuns, 2); // from the recalculation, and at the end
 }
 
-TEST_F(StartUp, ForgetsWhatTheSessionHeld) {
+TEST_F(StartUp, ClearsTheSession) {
     Given(settings);
     m_session = SampleSession();
     m_session.Scenario.EEMAllowance = 8000;
@@ -183,7 +183,7 @@ TEST_F(StartUp, NoLeavesTheInterruptedSaveAsItIs) {
     EXPECT_EQ(ReadBytes(Folder() / "Pennaro2.INI"), settings);
 }
 
-TEST_F(StartUp, OnlyAnInterruptedSaveIsAskedAbout) {
+TEST_F(StartUp, AsksOnlyAboutAnInterruptedSave) {
     ASSERT_TRUE(OpenMainScreen(m_session, m_host, Folder()));
     Given(settings);
     WriteBytes(Folder() / "Pennaro2.INI", "BUILDERNAME=half");
@@ -192,7 +192,7 @@ TEST_F(StartUp, OnlyAnInterruptedSaveIsAskedAbout) {
     EXPECT_TRUE(m_host.Messages.empty());
 }
 
-TEST_F(StartUp, ABadLoanTypeEndsItWithItsLine) {
+TEST_F(StartUp, ABadLoanTypeStopsTheStartAndNamesItsLine) {
     Given("BUILDERNAME=Acme\r\nLOANTYPE=1,Conventional,,0.280,0.360,,,,FALSE\r\nLOANTYPE=2,Fannie Mae "
           "EEM,,much,0.380,,,,TRUE\r\n");
     const auto fault = Load();
@@ -203,7 +203,7 @@ TEST_F(StartUp, ABadLoanTypeEndsItWithItsLine) {
     EXPECT_THAT(Sentence(*fault), HasSubstr("Line 3 "));
 }
 
-TEST_F(StartUp, ABadTaxBracketOrAssumptionEndsOnlyItsOwnReading) {
+TEST_F(StartUp, ABadTaxBracketOrAssumptionStopsOnlyItsOwnReader) {
     Given("LOANTYPE=1,Conventional,,0.280,0.360,,,,FALSE\r\nTAXCAT=57000,10\r\nTAXCAT=x,12\r\nASSUMPTION1="
           "high\r\n"
           "YEARS_IN_HOME=7\r\nBUILDERNAME=Acme\r\n");
