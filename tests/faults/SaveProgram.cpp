@@ -1,5 +1,5 @@
-// Saves a text as the named file, as the window saves a comparison, to be stopped and failed from outside.
-// Exit status 1 with a sentence on standard error where that fails.
+// Saves a text under the given file name as the window saves a comparison, so that a test can stop or fail
+// the save. On failure it prints a message to standard error and ends with status 1.
 
 #include <QCoreApplication>
 #include <cstdio>

@@ -1,5 +1,5 @@
-// One save, as the window makes it, in a process of its own that a test can stop or fail at any of its system
-// calls. Exit status: 0 saved, 1 not saved (a sentence on standard error says why), 2 wrong call.
+// Makes one save as the window does, in a separate process that a test can stop or fail at any system call.
+// Exit status: 0 saved, 1 not saved (standard error gives the reason), 2 wrong arguments.
 
 #include <cstdlib>
 #include <functional>
@@ -26,7 +26,7 @@ enum ExitStatus { Saved = 0, NotSaved = 1, WrongCall = 2 };
 
 using Fault = std::optional<SettingsFault>;
 
-/// Messages are told as the window would tell them.
+/// Prints messages to standard error; the window would show them.
 class TellingHost : public Host {
 public:
     MessageAnswer ShowMessage(const Message& message) override {
@@ -126,14 +126,14 @@ int Read(const std::string& folder) {
     return lines ? Saved : Tell(lines.Fault());
 }
 
-/// The value of the key, which stands once.
+/// The value of a key that has one line.
 std::string ValueIn(const FileLines& lines, const std::string& key) {
     const auto line = LastLineOf(lines, key);
     return line ? std::string(ValueOf(lines[*line].Text, key)) : "none";
 }
 
-// Who is told that the file is in use has lost nothing and tries again. On a busy machine two that save
-// without a pause can keep a third waiting for as long as they like.
+// A "file in use" fault loses nothing, so the program tries again. On a busy machine, two programs that save
+// without a pause can keep a third one waiting.
 
 Outcome<FileLines> ReadWhenFree(const SettingsFile& file) {
     auto lines = file.ReadLines();
@@ -149,7 +149,7 @@ Fault SaveWhenFree(const SettingsFile& file, const std::string& key, int value) 
     return fault;
 }
 
-/// Counts a key of its own up, and looks each time whether its last save is still there.
+/// Increments its own key and checks each time that its last save is still there.
 int CountUp(const std::string& folder, const std::string& key, int rounds) {
     const SettingsFile file(folder);
     for (int round = 1; round <= rounds; ++round) {
@@ -166,7 +166,7 @@ int CountUp(const std::string& folder, const std::string& key, int rounds) {
     return Saved;
 }
 
-/// Reads until both counters are at their end; no read may fail, lose lines or see a counter go back.
+/// Reads until both counters have reached their end. No read may fail, lose lines or see a counter decrease.
 int Watch(const std::string& folder, int rounds) {
     const SettingsFile file(folder);
     std::size_t lineCount = 0;

@@ -9,7 +9,7 @@
 
 namespace Ledgrove::Fuzz {
 
-/// A comparison on the settings that the program is shipped with.
+/// A comparison with the shipped settings.
 inline Comparison& ShippedComparison() {
     static Comparison comparison = [] {
         Session session;
@@ -21,12 +21,12 @@ inline Comparison& ShippedComparison() {
     return comparison;
 }
 
-/// What a reader makes of the input, and its output.
+/// Runs a reader on the input and returns its output.
 template <typename Reader, typename... Options>
 std::string OutputOf(std::string_view input, Options... options) {
     static const MemoryFile in;
     static const MemoryFile out;
-    static OutputBuffer output(out.Descriptor()); // a quarter of a megabyte, to be set aside once
+    static OutputBuffer output(out.Descriptor()); // a quarter of a megabyte, allocated once
     in.SetContent(input);
     out.SetContent("");
     Reader reader(ShippedComparison(), options...);

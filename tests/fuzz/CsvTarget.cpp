@@ -1,4 +1,4 @@
-// Any text as a price list.
+// Reads any text as a price list.
 
 #include "CompareSession.h"
 #include "Fuzz.h"
@@ -14,8 +14,8 @@ using namespace Ledgrove;
 using Fuzz::Require;
 
 struct Table {
-    std::size_t Cells = 0;   ///< of the row being read
-    std::size_t Columns = 0; ///< of the heading
+    std::size_t Cells = 0;   ///< in the current row
+    std::size_t Columns = 0; ///< in the heading row
 };
 
 void TakeCell(void* text, std::size_t size, void* table) {

@@ -11,12 +11,12 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-/// What a fuzzer and the replay program call with each input.
+/// The function that a fuzzer and the replay program call with each input.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace Ledgrove::Fuzz {
 
-/// Ends the program where a property does not hold, so that the input is kept.
+/// Ends the program if a property does not hold, so that the fuzzer keeps the input.
 inline void Require(bool holds, const char* property) {
     if (holds)
         return;
@@ -28,7 +28,7 @@ inline std::string_view TextOf(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
 
-/// Takes pieces off the front of the input. An input that is used up gives empty ones.
+/// Takes pieces from the start of the input. When the input is used up, the pieces are empty.
 class Pieces {
 public:
     explicit Pieces(std::string_view input)
@@ -57,7 +57,7 @@ private:
     std::string_view m_rest;
 };
 
-/// A file in memory, for what reads and writes descriptors.
+/// A file in memory, for code that reads or writes file descriptors.
 class MemoryFile {
 public:
     MemoryFile()

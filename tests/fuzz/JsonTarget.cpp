@@ -1,4 +1,4 @@
-// Any text as the JSON of one comparison, or of one a line.
+// Reads any text as the JSON of one comparison, or as one comparison per line.
 
 #include "CompareSession.h"
 #include "Fuzz.h"

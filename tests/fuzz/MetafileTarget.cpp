@@ -1,4 +1,4 @@
-// Any records in a metafile whose frame is right, so that they reach the library behind the check.
+// Puts any records into a metafile with a valid frame, so that they pass the check and reach the library.
 
 #include "Fuzz.h"
 
@@ -55,6 +55,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Fuzz::Pieces pieces(Fuzz::TextOf(data, size));
     const QByteArray bytes = MetafileOf(pieces);
     const QImage image = ReadWmf(bytes, 64);
-    Fuzz::Require(image.width() <= 64 && image.height() <= 64, "no side is longer than was asked for");
+    Fuzz::Require(image.width() <= 64 && image.height() <= 64, "no side exceeds the requested length");
     return 0;
 }

@@ -1,4 +1,4 @@
-// Any text as a number, in any field format; any number through any picture.
+// Reads any text as a number in any field format, and shows any number in any picture format.
 
 #include "Fuzz.h"
 
@@ -20,8 +20,8 @@ constexpr std::array formats = {"Dollar",  "IntRate", "Percent", "Percent2",    
 void CheckText(std::string_view text) {
     for (const char* format : formats) {
         const std::string shown = Module1::FormatFieldText(text, format);
-        // What a field shows must be readable when it is left again; below 0 it is refused before it is
-        // shown.
+        // When a field loses the focus again, its shown text must be readable. Numbers below 0 are refused
+        // before they are shown.
         if (Module1::ReadStrippedNumber(text).value_or(-1) >= 0)
             Require(Module1::ReadStrippedNumber(shown).has_value(), "a shown number is a number");
     }

@@ -1,4 +1,4 @@
-// Any bytes as a picture file.
+// Reads any bytes as a picture file.
 
 #include "Fuzz.h"
 
@@ -9,13 +9,13 @@
 #include <QCoreApplication>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    // The toolkit tells each broken picture on standard error.
+    // Qt reports each broken picture on standard error.
     static const auto quiet =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     static_cast<void>(quiet);
     const auto bytes =
         QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    // Small, since the library paints what it reads, and painting is not what is looked at here.
+    // Small, because the library also paints the picture and this target only tests reading.
     const QImage image = Ledgrove::IsWmf(bytes) ? Ledgrove::ReadWmf(bytes, 64) : Ledgrove::ReadPicture(bytes);
     const qint64 pixels = qint64{image.width()} * image.height();
     Ledgrove::Fuzz::Require(pixels <= 12'000'000, "no picture is huge");

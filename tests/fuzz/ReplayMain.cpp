@@ -1,4 +1,4 @@
-// Feeds every file of the named folders to the target, as a fuzzer would.
+// Passes every file of the given folders to the target, as a fuzzer would.
 
 #include "Fuzz.h"
 
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
         for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
             std::ifstream stream(entry.path(), std::ios::binary);
             const std::string bytes(std::istreambuf_iterator<char>(stream), {});
-            // An input that ends the program is the last one named.
+            // Prints the name first and flushes it, so the last name is the input that ended the program.
             std::cout << entry.path().filename().string() << std::endl;
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
             ++count;

@@ -1,4 +1,4 @@
-// Any texts in the labels and fields that the report prints, and any table.
+// Fills the labels and fields that the report prints with any texts, and prints any table.
 
 #include "Fuzz.h"
 
@@ -21,8 +21,8 @@ void CheckTables(std::string_view format, std::string_view header, std::string_v
     document.AddTable(format, header, body, 0xC0C0C0);
     document.Paragraph(body);
     document.End();
-    // A row takes at least a line, and a line at least a character.
-    Require(document.PageCount() <= 1 + (header.size() + body.size()) * 2, "a table has an end");
+    // A row needs at least one line, and a line at least one character.
+    Require(document.PageCount() <= 1 + (header.size() + body.size()) * 2, "a table ends");
 }
 
 void CheckCell(std::string_view text) {
@@ -30,7 +30,7 @@ void CheckCell(std::string_view text) {
     Require(rows.empty() || (rows.size() == 1 && rows.front().size() == 1), "a cell's text is one cell");
 }
 
-/// Puts the pieces into everything that the report prints.
+/// Fills everything that the report prints with the pieces.
 void FillScreen(Session& session, AssumptionsScreen& dialog, Fuzz::Pieces& pieces) {
     session.Header.BuilderName = pieces.Until('\n');
     session.Header.HomeBuyer = pieces.Until('\n');
@@ -62,7 +62,7 @@ void CheckReport(std::uint8_t choice, std::string_view input) {
     document.Start();
     modPrint::WriteReport(document, {session, dialog, sections, "emblem.png", ""});
     document.End();
-    Require(document.PageCount() >= 1 && document.PageCount() <= 20 + input.size(), "a report has an end");
+    Require(document.PageCount() >= 1 && document.PageCount() <= 20 + input.size(), "a report ends");
 }
 
 } // namespace

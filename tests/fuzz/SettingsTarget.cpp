@@ -1,4 +1,4 @@
-// Any bytes as a settings file: read by every reader and rewritten by every kind of rule.
+// Uses any bytes as a settings file: every reader reads it and every kind of rule rewrites it.
 
 #include "Fuzz.h"
 
@@ -45,7 +45,7 @@ void ReadAll(const FileLines& lines) {
     }
 }
 
-/// As the dialogs save, one plan for each kind.
+/// The rewrite plans of the dialogs, one of each kind.
 RewritePlan PlanOf(std::uint8_t choice) {
     switch (choice % 5) {
     case 0:
@@ -78,8 +78,8 @@ std::string UnknownTexts(const RewritePlan& plan, const FileLines& lines) {
 void CheckRewrite(const RewritePlan& plan, const FileLines& lines) {
     const std::string once = RewrittenBytes(lines, plan);
     const FileLines after = SplitLines(once);
-    Require(UnknownTexts(plan, after) == UnknownTexts(plan, lines), "lines of no key keep their bytes");
-    Require(RewrittenBytes(after, plan) == once, "saving the same twice changes nothing more");
+    Require(UnknownTexts(plan, after) == UnknownTexts(plan, lines), "unknown lines keep their bytes");
+    Require(RewrittenBytes(after, plan) == once, "a second save changes nothing");
 }
 
 } // namespace
@@ -91,7 +91,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string joined;
     for (const FileLine& line : lines)
         joined.append(line.Text).append(line.End);
-    Require(joined == pieces.Rest(), "lines and their ends are the file");
+    Require(joined == pieces.Rest(), "lines and line endings make up the file");
     ReadAll(lines);
     CheckRewrite(plan, lines);
     return 0;

@@ -35,7 +35,7 @@ TEST_F(AssumptionsFileTest, PercentSignsInThePVRateAreIgnored) {
     EXPECT_EQ(Load().PVRate, 0.075f);
 }
 
-TEST_F(AssumptionsFileTest, TheFlagIsTrueForItsExactTextOnly) {
+TEST_F(AssumptionsFileTest, TheFlagIsTrueOnlyForItsExactText) {
     for (const char* text : {"true", "TRUE ", " TRUE", "1", ""}) {
         Given(std::string("PVSAVINGS_FLAG=") + text + "\r\n");
         AssumptionSet before;
@@ -44,7 +44,7 @@ TEST_F(AssumptionsFileTest, TheFlagIsTrueForItsExactTextOnly) {
     }
 }
 
-TEST_F(AssumptionsFileTest, ValuesWithoutALineKeepWhatTheyHeld) {
+TEST_F(AssumptionsFileTest, ValuesWithoutALineDoNotChange) {
     Given("ASSUMPTION2=0.65\r\nLOANTYPE=1,Conventional,,0.280,0.360,,,,FALSE\r\nTAXCAT=1,1\r\n");
     AssumptionSet before;
     before.RealEstateTaxPct = 1.25f;
@@ -76,7 +76,7 @@ TEST_F(AssumptionsFileTest, TheLastLineOfAKeyCounts) {
     EXPECT_EQ(Load().RealEstateTaxPct, 2.0f);
 }
 
-TEST_F(AssumptionsFileTest, AValueThatIsNoNumberEndsTheReadingSilently) {
+TEST_F(AssumptionsFileTest, AValueThatIsNotANumberStopsTheReaderSilently) {
     for (const char* bad : {"ASSUMPTION2=x", "ASSUMPTION2=", "ASSUMPTION2=1%", "PVSAVINGS_RATE=x",
                             "PVSAVINGS_TERM=30 years", "YEARS_IN_HOME=40000", "PMI_MULT2=-"}) {
         Given(std::string("ASSUMPTION1=1.5\r\n") + bad + "\r\nPMI_MULT1=0.0087\r\nASSUMPTION1=9\r\n");
@@ -121,7 +121,7 @@ TEST_F(AssumptionsFileTest, WritingAppendsMissingKeysInOrderWithTheFlagFalse) {
               "PMI_MULT3=0.0046\r\nPMI_MULT4=0.0023\r\n");
 }
 
-TEST_F(AssumptionsFileTest, TheNextSaveWritesTheRealChoice) {
+TEST_F(AssumptionsFileTest, TheNextSaveWritesTheChosenFlag) {
     Given("");
     EXPECT_EQ(WriteAssumpsToFile(File(), dialogTexts), std::nullopt);
     EXPECT_FALSE(Load().UsePVVars);
@@ -146,7 +146,7 @@ TEST_F(AssumptionsFileTest, WritingReplacesInPlaceAndKeepsUnknownLines) {
 }
 
 TEST_F(AssumptionsFileTest, OtherFieldsAreWrittenAsShown) {
-    // Percent signs go from the three percent fields only.
+    // The writer removes percent signs only from the three percent fields.
     Given("PVSAVINGS_TERM=1\r\nPMI_MULT1=1\r\n");
     AssumptionTexts texts = dialogTexts;
     texts.PVTerm = " 25 %";

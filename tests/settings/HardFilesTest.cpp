@@ -11,21 +11,22 @@ namespace {
 
 using namespace std::string_literals;
 
-/// Files that no program of ours would write: they are read, and what is not ours keeps its bytes.
+/// Files that the program would not write itself. It must read them and keep the bytes of lines that it does
+/// not know.
 class HardFilesTest : public SettingsTest {
 protected:
-    /// Saves one key, which stands in the middle, and expects all around it unchanged.
+    /// Saves one key in the middle of the file and expects that everything around it is unchanged.
     void ExpectKept(const std::string& before, const std::string& after) {
         Given(before + "KEY=1\r\n" + after);
         EXPECT_EQ(Rewrite(File(), {{ReplaceOrAppend("KEY", "2")}, {}}), std::nullopt);
-        EXPECT_TRUE(Bytes() == before + "KEY=2\r\n" + after) << "other bytes than before";
+        EXPECT_TRUE(Bytes() == before + "KEY=2\r\n" + after) << "the save changed other bytes";
     }
 };
 
 TEST_F(HardFilesTest, EveryByteIsKept) {
     std::string bytes;
     for (int byte = 0; byte < 256; ++byte) {
-        // In pairs, since CR and LF together are one line end.
+        // In pairs, because CR and LF together are one line ending.
         bytes += static_cast<char>(byte);
         bytes += "|"s + static_cast<char>(byte) + static_cast<char>(255 - byte) + "\n";
     }
@@ -37,17 +38,17 @@ TEST_F(HardFilesTest, ALineOfAMegabyteIsKept) {
     ExpectKept(text + "\n", "\0"s + text);
 }
 
-TEST_F(HardFilesTest, OtherLineEndsAreKept) {
+TEST_F(HardFilesTest, OtherLineEndingsAreKept) {
     ExpectKept("X=1\rY=2\r\rZ=3\r", "X=1\rY=2\r");
     ExpectKept("X=1\nY=2\n\nZ=3\n", "X=1\nY=2\n");
     ExpectKept("\n\r\n\r\r\n", "\r\r\r\n\n");
 }
 
-TEST_F(HardFilesTest, ALastLineWithoutEndIsKept) {
+TEST_F(HardFilesTest, ALastLineWithoutLineEndingIsKept) {
     ExpectKept("X=1\r\n", "Y=2");
 }
 
-TEST_F(HardFilesTest, AUtf8MarkIsKeptAndTheLinesBehindItAreRead) {
+TEST_F(HardFilesTest, AUtf8MarkIsKeptAndTheLinesAfterItAreRead) {
     ExpectKept("\xEF\xBB\xBFX=1\r\n", "Y=\xC3\xA9\r\n");
     const auto lines = File().ReadLines();
     ASSERT_TRUE(lines);
@@ -61,7 +62,7 @@ TEST_F(HardFilesTest, AHundredThousandLinesAreKept) {
     ExpectKept(bytes, bytes);
 }
 
-TEST_F(HardFilesTest, TenThousandHousesComeBackAsTheyWere) {
+TEST_F(HardFilesTest, TenThousandHousesAreUnchanged) {
     HouseList houses;
     for (int number = 0; number < 10'000; ++number) {
         const auto amount = static_cast<float>(number);

@@ -14,7 +14,7 @@ TEST_F(HeaderSettingsTest, TheLastBuilderNameCounts) {
     EXPECT_EQ(*GetBuilderName(File()), "New");
 }
 
-TEST_F(HeaderSettingsTest, TheCharacterBehindTheKeyIsNotChecked) {
+TEST_F(HeaderSettingsTest, TheCharacterAfterTheKeyIsNotChecked) {
     Given("BUILDERNAMEXAcme\r\n");
     EXPECT_EQ(*GetBuilderName(File()), "Acme");
 }
@@ -47,7 +47,7 @@ TEST_F(HeaderSettingsTest, FeaturesKeepTheirBlanksOthersDoNot) {
     EXPECT_EQ(*GetHelpFile(File()), "LEDGROVE.HLP");
 }
 
-TEST_F(HeaderSettingsTest, ALongerKeyIsTakenForTheShorter) {
+TEST_F(HeaderSettingsTest, ALongerKeyIsReadAsTheShorterOne) {
     Given("FEATURE12=x\r\n");
     FeatureTexts features;
     EXPECT_EQ(GetFeatures(File(), features), std::nullopt);
@@ -76,7 +76,7 @@ TEST_F(HeaderSettingsTest, FeaturesAfterAnInterruptedSaveCreateNothing) {
     EXPECT_FALSE(Exists(File().Path()));
 }
 
-TEST_F(HeaderSettingsTest, SingleKeyReadersPassAMissingFileOn) {
+TEST_F(HeaderSettingsTest, SingleKeyReadersReportAMissingFile) {
     EXPECT_EQ(GetBuilderName(File()).Fault().What, Kind::Missing);
     EXPECT_EQ(GetLogoFile(File()).Fault().What, Kind::Missing);
     EXPECT_EQ(GetLogoOption(File()).Fault().What, Kind::Missing);
@@ -101,7 +101,7 @@ TEST_F(HeaderSettingsTest, LogoOptionHasNoDefault) {
     EXPECT_EQ(option.Fault().Text, "LOGOOPTION");
 }
 
-TEST_F(HeaderSettingsTest, LogoOptionThatIsNoNumberIsAFault) {
+TEST_F(HeaderSettingsTest, LogoOptionThatIsNotANumberIsAFault) {
     for (const char* value : {"", "two", "40000"}) {
         Given(std::string("X=1\r\nLOGOOPTION=") + value + "\r\n");
         const auto option = GetLogoOption(File());

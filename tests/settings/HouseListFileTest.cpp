@@ -11,7 +11,7 @@ TEST_F(HouseListFileTest, ReadsNameAndAmountsInFileOrder) {
     Given("HOMELIST=Lot 7,200000,2400,206000,1700\r\nX=1\r\nHOMELIST= lot 7 ,$1,.5,2.5,0\r\n");
     HouseList houses(1);
     ASSERT_EQ(LoadHomeList(File(), houses), std::nullopt);
-    ASSERT_EQ(houses.size(), 3u); // appended to the one that was there
+    ASSERT_EQ(houses.size(), 3u); // appended to the existing house
     EXPECT_EQ(houses[1].Name, "Lot 7");
     EXPECT_EQ(houses[1].StdCost, 200000.0f);
     EXPECT_EQ(houses[1].StdUtil, 2400.0f);
@@ -32,7 +32,7 @@ TEST_F(HouseListFileTest, AShortLineRepeatsItsLastFieldOrKeepsZeros) {
     EXPECT_EQ(houses[2].Name, "");
 }
 
-TEST_F(HouseListFileTest, AnAmountThatIsNoNumberIsAFaultThatNamesItsLine) {
+TEST_F(HouseListFileTest, AnAmountThatIsNotANumberIsAFaultThatNamesItsLine) {
     Given("HOMELIST=A,1,2,3,4\r\nHOMELIST=only a name\r\n");
     HouseList houses;
     const auto fault = LoadHomeList(File(), houses);
@@ -42,7 +42,7 @@ TEST_F(HouseListFileTest, AnAmountThatIsNoNumberIsAFaultThatNamesItsLine) {
     EXPECT_EQ(fault->Text, "HOMELIST=only a name");
 }
 
-TEST_F(HouseListFileTest, AMissingFileIsPassedOn) {
+TEST_F(HouseListFileTest, AMissingFileIsReported) {
     HouseList houses;
     const auto fault = LoadHomeList(File(), houses);
     ASSERT_TRUE(fault);
@@ -52,7 +52,7 @@ TEST_F(HouseListFileTest, AMissingFileIsPassedOn) {
 
 TEST_F(HouseListFileTest, WritingReplacesTheListAndClosesTheDialog) {
     Given("HOMELIST=old,1,1,1,1\r\nHOMESELECTIONDIALOG=OPEN\r\nX=1\r\nHOMELIST=old,2,2,2,2\r\n");
-    // Halves go away from zero: 2400.5 is written as 2401.
+    // Halves round away from zero: 2400.5 is written as 2401.
     const HouseList houses = {{"Caf\xC3\xA9", 200000.0f, 2400.5f, 1206000.0f, 1700.4f}, {"B", 0, 0, 0, 0}};
     EXPECT_EQ(WriteHomeList(File(), houses), std::nullopt);
     EXPECT_EQ(Bytes(), "HOMESELECTIONDIALOG=CLOSED\r\nX=1\r\nHOMELIST=Caf\xE9,200000,2401,1206000,1700\r\n"
@@ -71,7 +71,7 @@ TEST_F(HouseListFileTest, AnEmptyListLeavesNoLine) {
     EXPECT_EQ(Bytes(), "HOMESELECTIONDIALOG=CLOSED\r\n");
 }
 
-TEST_F(HouseListFileTest, ANameTheFileCannotHoldIsRefusedAndNothingIsWritten) {
+TEST_F(HouseListFileTest, ANameThatCannotBeEncodedIsRefusedAndNothingIsWritten) {
     Given("HOMELIST=old,1,1,1,1\r\n");
     const auto fault = WriteHomeList(File(), {{"A\xE2\x86\x92", 1, 2, 3, 4}});
     ASSERT_TRUE(fault);
@@ -80,7 +80,7 @@ TEST_F(HouseListFileTest, ANameTheFileCannotHoldIsRefusedAndNothingIsWritten) {
     EXPECT_EQ(Bytes(), "HOMELIST=old,1,1,1,1\r\n");
 }
 
-TEST_F(HouseListFileTest, TenThousandHousesComeBackAsTheyWere) {
+TEST_F(HouseListFileTest, TenThousandHousesReadBackUnchanged) {
     HouseList houses;
     for (int i = 0; i < 10000; ++i)
         houses.push_back(

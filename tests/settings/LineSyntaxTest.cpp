@@ -18,7 +18,7 @@ TEST(LineSyntax, ALineBelongsToAKeyItBeginsWith) {
     EXPECT_FALSE(BelongsTo("BUILDER", "BUILDERNAME"));
 }
 
-TEST(LineSyntax, TheCharacterBehindTheKeyIsSkippedWhateverItIs) {
+TEST(LineSyntax, AnyCharacterAfterTheKeyIsSkipped) {
     EXPECT_EQ(ValueOf("BUILDERNAME=Acme", "BUILDERNAME"), "Acme");
     EXPECT_EQ(ValueOf("BUILDERNAMEXAcme", "BUILDERNAME"), "Acme");
     EXPECT_EQ(ValueOf("FEATURE12=x", "FEATURE1"), "=x");
@@ -26,13 +26,13 @@ TEST(LineSyntax, TheCharacterBehindTheKeyIsSkippedWhateverItIs) {
     EXPECT_EQ(ValueOf("BUILDERNAME", "BUILDERNAME"), "");
 }
 
-TEST(LineSyntax, TheLastLineOfAKeyDecides) {
+TEST(LineSyntax, TheLastLineOfAKeyCounts) {
     const FileLines lines = SplitLines("A=1\nB=2\nA=3\nC=4\n");
     EXPECT_EQ(LastLineOf(lines, "A"), 2u);
     EXPECT_EQ(LastLineOf(lines, "D"), std::nullopt);
 }
 
-TEST(LineSyntax, TrimmingTakesBlanksOnly) {
+TEST(LineSyntax, TrimmingRemovesOnlyBlanks) {
     EXPECT_EQ(Trimmed("  a b  "), "a b");
     EXPECT_EQ(Trimmed("   "), "");
     EXPECT_EQ(Trimmed("\ta\t"), "\ta\t");
@@ -48,7 +48,7 @@ std::vector<std::string> Fields(std::string_view value, std::size_t count) {
 
 using Texts = std::vector<std::string>;
 
-TEST(FieldSplitter, FieldsStandBetweenCommas) {
+TEST(FieldSplitter, CommasSeparateFields) {
     EXPECT_EQ(Fields("a, b,c", 3), (Texts{"a", " b", "c"}));
     EXPECT_EQ(Fields(",,c", 3), (Texts{"", "", "c"}));
 }
@@ -58,7 +58,7 @@ TEST(FieldSplitter, AShortLineRepeatsItsLastField) {
     EXPECT_EQ(Fields("a,b", 4), (Texts{"a", "b", "b", "b"}));
 }
 
-TEST(FieldSplitter, BehindALastCommaThereIsNothing) {
+TEST(FieldSplitter, ThereIsNoFieldAfterTheLastComma) {
     EXPECT_EQ(Fields("45200,", 3), (Texts{"45200", "(none)", "(none)"}));
     EXPECT_EQ(Fields("", 2), (Texts{"(none)", "(none)"}));
 }

@@ -35,7 +35,7 @@ TEST_F(LoanTypesFileTest, ReadsTheNineFields) {
     EXPECT_FALSE(loanTypes[1].IsEEM);
 }
 
-TEST_F(LoanTypesFileTest, TheFlagIsTrueForItsExactTextOnly) {
+TEST_F(LoanTypesFileTest, TheFlagIsTrueOnlyForItsExactText) {
     for (const char* text : {"true", "TRUE ", "1"}) {
         Given(std::string("LOANTYPE=1,A,,0.28,0.36,,,,") + text + "\r\n");
         LoanTypeList loanTypes;
@@ -82,7 +82,7 @@ TEST_F(LoanTypesFileTest, ALineThatDoesNotConvertIsAFaultThatNamesIt) {
     }
 }
 
-TEST_F(LoanTypesFileTest, AMissingFileIsPassedOn) {
+TEST_F(LoanTypesFileTest, AMissingFileIsReported) {
     LoanTypeList loanTypes;
     const auto fault = LoadLoanTypes(File(), loanTypes);
     ASSERT_TRUE(fault);
@@ -96,14 +96,14 @@ TEST_F(LoanTypesFileTest, WritingDropsTheOldLinesAndAppendsTheRecords) {
     first.Number = 4;
     first.Name = "FHA";
     first.Text3 = "3";
-    first.FrontRatio = 0.33f; // as typed "33%"
+    first.FrontRatio = 0.33f; // as from the typed "33%"
     first.BackRatio = 0.4305f;
     first.Text6 = "6";
     first.Text7 = "7";
     first.Text8 = "8";
     first.IsEEM = true;
     EXPECT_EQ(WriteLoanTypes(File(), {first, LoanType{}}), std::nullopt);
-    // 0.4305 is a half at three places and goes away from zero.
+    // 0.4305 is halfway at three places and rounds away from zero.
     EXPECT_EQ(Bytes(), "X=1\r\nY=2\r\nLOANTYPE=4,FHA,3,0.330,0.431,6,7,8,TRUE\r\n"
                        "LOANTYPE=0,,,0.000,0.000,,,,FALSE\r\n");
 }

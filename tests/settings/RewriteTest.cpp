@@ -16,7 +16,7 @@ TEST_F(RewriteTest, ReplacesEveryLineOfTheKeyInPlace) {
     EXPECT_EQ(Bytes(), "X=1\r\nA=new\r\nY=2\r\nA=new\r\n");
 }
 
-TEST_F(RewriteTest, AppendsUnseenKeysInOrderAndThenWhatIsAlwaysAppended) {
+TEST_F(RewriteTest, AppendsMissingKeysInOrderThenTheFixedLines) {
     Given("B=old\r\n");
     EXPECT_EQ(Rewrite(File(), {{ReplaceOrAppend("A", "1"), ReplaceOrAppend("B", "2"), ReplaceOnly("C", "3"),
                                 ReplaceOrAppend("D", "4")},
@@ -25,7 +25,7 @@ TEST_F(RewriteTest, AppendsUnseenKeysInOrderAndThenWhatIsAlwaysAppended) {
     EXPECT_EQ(Bytes(), "B=2\r\nA=1\r\nD=4\r\nZ=8\r\nZ=9\r\n");
 }
 
-TEST_F(RewriteTest, TheFirstRuleThatMatchesDecides) {
+TEST_F(RewriteTest, TheFirstMatchingRuleApplies) {
     Given("KEY12=x\r\n");
     EXPECT_EQ(Rewrite(File(), {{ReplaceOrAppend("KEY1", "one"), ReplaceOrAppend("KEY12", "twelve")}, {}}),
               std::nullopt);
@@ -45,14 +45,14 @@ TEST_F(RewriteTest, DropsLines) {
     EXPECT_EQ(Bytes(), "X=1\r\nL=3\r\n");
 }
 
-TEST_F(RewriteTest, KeptLinesKeepTheirBytesAndTheirEnds) {
+TEST_F(RewriteTest, KeptLinesKeepTheirBytesAndLineEndings) {
     const std::string unknown = "\xEF\xBB\xBF mark\n\r\n\xE9\x81 \0 bytes\rlast"s;
     Given("A=1\n" + unknown);
     EXPECT_EQ(Rewrite(File(), {{ReplaceOrAppend("A", "2")}, {}}), std::nullopt);
     EXPECT_EQ(Bytes(), "A=2\r\n" + unknown);
 }
 
-TEST_F(RewriteTest, ALastLineWithoutEndGetsOneOnlyWhenSomethingFollows) {
+TEST_F(RewriteTest, ALastLineGetsALineEndingOnlyWhenALineFollows) {
     Given("X=1\nY=2");
     EXPECT_EQ(Rewrite(File(), {{ReplaceOnly("A", "1")}, {}}), std::nullopt);
     EXPECT_EQ(Bytes(), "X=1\nY=2");
@@ -75,7 +75,7 @@ TEST_F(RewriteTest, WritesWindows1252) {
     EXPECT_EQ(Bytes(), "K\xC9Y=2\r\n");
 }
 
-TEST_F(RewriteTest, RefusesWhatALineCannotHoldBeforeAnythingIsWritten) {
+TEST_F(RewriteTest, RefusesAnInvalidLineBeforeAnythingIsWritten) {
     Given("A=1\r\n");
     for (const char* value : {"a\nb", "a\rb", "\xE2\x86\x92", "\xFF"}) {
         const auto fault = Rewrite(File(), {{ReplaceOrAppend("A", "2")}, {SettingLine("B", value)}});

@@ -36,7 +36,7 @@ protected:
     }
 };
 
-/// No file of this process grows beyond the limit meanwhile.
+/// Limits the size of files that this process writes.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t bytes)
@@ -57,7 +57,7 @@ private:
     void (*m_handler)(int);
 };
 
-TEST_F(SavingTest, AFileThatDoesNotFitLeavesTheOldOneAndNoTemporaryFile) {
+TEST_F(SavingTest, ATooLargeSaveLeavesTheOldFileAndNoTemporaryFile) {
     Given("A=1\r\n");
     {
         const FileSizeLimit limit(100);
@@ -98,7 +98,7 @@ TEST_F(SavingTest, ALinkStaysAndItsFileIsRewrittenInItsOwnFolder) {
     EXPECT_EQ(FilesIn(program), 2U);
     EXPECT_EQ(FilesIn(shared), 1U);
 
-    // Interrupted between delete and rename, it is found beside the file that is gone.
+    // After an interruption between delete and rename, the temporary file is found in the target's folder.
     std::filesystem::rename(shared / "common.ini", shared / "Pennaro2.INI");
     const auto lines = file.ReadLines(SettingsFile::WhenMissing::CreateEmpty);
     ASSERT_FALSE(lines);
@@ -126,7 +126,7 @@ TEST_F(SavingTest, ALinkInPlaceOfTheTemporaryFileIsNotWrittenThrough) {
     EXPECT_EQ(ReadBytes(Folder() / "letter.txt"), "Dear Ann");
 }
 
-TEST_F(SavingTest, ALinkThatGoesRoundIsUnreadable) {
+TEST_F(SavingTest, ACircularLinkIsUnreadable) {
     std::filesystem::create_symlink("Ledgrove.ini", File().Path());
     const auto fault = SetA(File());
     ASSERT_TRUE(fault);
@@ -150,14 +150,14 @@ TEST_F(SavingTest, AnInterruptedSaveIsRestored) {
     EXPECT_EQ(FilesIn(Folder()), 1U);
 }
 
-TEST_F(SavingTest, RestoringLeavesAFileThatIsThere) {
+TEST_F(SavingTest, RestoringKeepsAnExistingFile) {
     Given("A=1\r\n");
     WriteBytes(File().TemporaryPath(), "A=half");
     EXPECT_EQ(File().RestoreInterruptedSave(), std::nullopt);
     EXPECT_EQ(Bytes(), "A=1\r\n");
 }
 
-TEST_F(SavingTest, WhatIsNoFileIsNotRestored) {
+TEST_F(SavingTest, OnlyAFileIsRestored) {
     std::filesystem::create_directory(File().TemporaryPath());
     const auto fault = File().RestoreInterruptedSave();
     ASSERT_TRUE(fault);
@@ -165,13 +165,13 @@ TEST_F(SavingTest, WhatIsNoFileIsNotRestored) {
     EXPECT_FALSE(Exists(File().Path()));
 }
 
-TEST_F(SavingTest, WithNothingToRestoreTheFaultSaysSo) {
+TEST_F(SavingTest, NothingToRestoreIsAFault) {
     const auto fault = File().RestoreInterruptedSave();
     ASSERT_TRUE(fault);
     EXPECT_EQ(fault->Reason, "No such file or directory");
 }
 
-TEST_F(SavingTest, WhileAnotherHoldsTheFileItIsReadButNotSaved) {
+TEST_F(SavingTest, AFileThatAnotherCopyHoldsIsReadButNotSaved) {
     Given("A=1\r\n");
     const SettingsFile impatient(Folder(), 5ms);
     {
@@ -188,8 +188,8 @@ TEST_F(SavingTest, WhileAnotherHoldsTheFileItIsReadButNotSaved) {
     EXPECT_EQ(SetA(impatient), std::nullopt);
 }
 
-TEST_F(SavingTest, TheMomentWithoutAFileIsNotMissing) {
-    // As another copy of the program leaves it between delete and rename.
+TEST_F(SavingTest, AShortGapWithoutAFileDoesNotCountAsMissing) {
+    // The state between another copy's delete and rename.
     WriteBytes(File().TemporaryPath(), "A=1\r\n");
     const auto held = File().Hold();
     ASSERT_TRUE(held);
@@ -205,7 +205,7 @@ TEST_F(SavingTest, TheMomentWithoutAFileIsNotMissing) {
 TEST_F(SavingTest, AReaderThatGetsNoLockWaitsForTheFile) {
     Given("A=1\r\n");
     const FolderLock others(Folder(), FolderLock::Sharing::Exclusive, 0ms);
-    // Copies that save one after the other: half of the time there is no file.
+    // Copies that save one after the other: the file is missing half of the time.
     std::atomic<bool> saved = false;
     const std::jthread saving([this, &saved] {
         for (int i = 0; i < 20'000; ++i) {
@@ -219,7 +219,7 @@ TEST_F(SavingTest, AReaderThatGetsNoLockWaitsForTheFile) {
         ASSERT_TRUE(impatient.ReadLines());
 }
 
-TEST_F(SavingTest, ReadersDoNotKeepEachOtherOut) {
+TEST_F(SavingTest, ReadersDoNotBlockEachOther) {
     Given("A=1\r\n");
     const FolderLock first(Folder(), FolderLock::Sharing::Shared, 0ms);
     const FolderLock second(Folder(), FolderLock::Sharing::Shared, 0ms);

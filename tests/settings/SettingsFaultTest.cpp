@@ -47,8 +47,8 @@ TEST(SettingsFaultSentence, ABadLineIsNamedWithItsNumberAndText) {
         "Correct that line.");
 }
 
-TEST(SettingsFaultSentence, ALongOrWildLineIsShownAsAnExcerpt) {
-    // 79 letters and a two-byte character: a cut at 80 bytes would split it.
+TEST(SettingsFaultSentence, ALongOrUnprintableLineIsShownAsAnExcerpt) {
+    // 79 letters and a two-byte character: a cut at 80 bytes would split the character.
     const std::string text = std::string(79, 'x') + "\xC3\xA9 and more";
     EXPECT_THAT(Sentence({Kind::BadLine, "/x/Ledgrove.ini", "r", 1, text}),
                 testing::HasSubstr('"' + std::string(79, 'x') + "...\""));

@@ -23,7 +23,7 @@ TEST(SplitLines, AcceptsCrLfLfAndCr) {
     EXPECT_EQ(Shown(SplitLines("A\r\nB\nC\rD\r\n")), "[A|\r\n][B|\n][C|\r][D|\r\n]");
 }
 
-TEST(SplitLines, ALastLineNeedsNoEnd) {
+TEST(SplitLines, TheLastLineNeedsNoLineEnding) {
     EXPECT_EQ(Shown(SplitLines("A\r\nB")), "[A|\r\n][B|]");
     EXPECT_EQ(Shown(SplitLines("A\r\n")), "[A|\r\n]");
     EXPECT_EQ(Shown(SplitLines("")), "");
@@ -36,7 +36,7 @@ TEST(SplitLines, EmptyLinesAndNulBytesArePartOfTheText) {
 
 class SettingsFileTest : public SettingsTest {};
 
-TEST_F(SettingsFileTest, PathsAreFullAndLieInTheFolder) {
+TEST_F(SettingsFileTest, PathsAreAbsoluteAndInTheFolder) {
     EXPECT_EQ(File().Path(), Folder() / "Ledgrove.ini");
     EXPECT_EQ(File().TemporaryPath(), Folder() / "Pennaro2.INI");
     EXPECT_EQ(SettingsFile("./some/dir").Path(), std::filesystem::current_path() / "some/dir/Ledgrove.ini");
@@ -104,10 +104,10 @@ TEST_F(SettingsFileTest, APipeInPlaceOfTheFileIsRefusedWithoutWaiting) {
     EXPECT_EQ(lines.Fault().What, Kind::Unreadable);
 }
 
-TEST_F(SettingsFileTest, AReadErrorIsNoEndOfFile) {
-    // The memory of a process opens like a file, but there is nothing to read at its address 0.
+TEST_F(SettingsFileTest, AReadErrorIsNotTheEndOfTheFile) {
+    // The memory of a process opens like a file, but its address 0 cannot be read.
     if (!Exists("/proc/self/mem"))
-        GTEST_SKIP() << "this system has no file whose reading fails";
+        GTEST_SKIP() << "this system has no file that fails on reading";
     std::filesystem::create_symlink("/proc/self/mem", File().Path());
     const auto lines = File().ReadLines();
     ASSERT_FALSE(lines);
@@ -122,7 +122,7 @@ TEST_F(SettingsFileTest, ReplacingLeavesTheNewContentAndNoTemporaryFile) {
     EXPECT_FALSE(Exists(File().TemporaryPath()));
 }
 
-TEST_F(SettingsFileTest, ReplacingWritesALeftTemporaryFileAnew) {
+TEST_F(SettingsFileTest, ReplacingOverwritesALeftoverTemporaryFile) {
     Given("old");
     WriteBytes(File().TemporaryPath(), "a longer text left by a save that was interrupted");
     EXPECT_EQ(File().ReplaceContent("new"), std::nullopt);

@@ -19,7 +19,7 @@ protected:
     }
 };
 
-TEST_F(SettingsTextTest, GivesTextsAsTheirReadersDo) {
+TEST_F(SettingsTextTest, GivesTheTextsThatTheProgramReads) {
     Given("BUILDERNAME= Caf\xE9 \r\nFEATURE1= x \r\nLOGOOPTION= 1.9\r\nHELPFILE= A.HLP\r\nLOGOFILE= b.bmp "
           "\r\n");
     EXPECT_EQ(Get("BUILDERNAME"), "Caf\xC3\xA9");
@@ -52,7 +52,7 @@ TEST_F(SettingsTextTest, GivesNumbersPlainAndInTheFilesUnit) {
     EXPECT_EQ(Get("PVSAVINGS_FLAG"), "TRUE");
 }
 
-TEST_F(SettingsTextTest, WhatIsGottenCanBeSet) {
+TEST_F(SettingsTextTest, AValueFromGetCanBeSet) {
     Given("PVSAVINGS_RATE=6.24%\r\n");
     ASSERT_EQ(Module1::WriteSetting(File(), "PVSAVINGS_RATE", Get("PVSAVINGS_RATE")), std::nullopt);
     EXPECT_EQ(Bytes(), "PVSAVINGS_RATE=6.24\r\n");
@@ -74,16 +74,16 @@ TEST_F(SettingsTextTest, AnUnknownKeyGivesItsLastLine) {
         EXPECT_THAT(Get(key), HasSubstr("has no line for")) << key;
 }
 
-TEST_F(SettingsTextTest, AValueThatIsNoNumberIsASentenceThatNamesTheLine) {
+TEST_F(SettingsTextTest, AValueThatIsNotANumberGivesASentenceThatNamesTheLine) {
     Given("X=1\r\nASSUMPTION2=abc\r\nPMI_MULT1=0.0087\r\nLOGOOPTION=x\r\n");
     EXPECT_THAT(Get("ASSUMPTION2"), HasSubstr("Line 2 of the settings file"));
     EXPECT_THAT(Get("LOGOOPTION"), HasSubstr("Line 4 of the settings file"));
-    // The reader never gets to this one, so its value is not the line's.
+    // The reader stops at line 2 and never reads PMI_MULT1, so it has no value to show.
     EXPECT_THAT(Get("PMI_MULT1"), HasSubstr("Line 2 of the settings file"));
     EXPECT_EQ(Get("PMI_MULT2"), "0");
 }
 
-TEST_F(SettingsTextTest, AMissingLogoOptionIsASentence) {
+TEST_F(SettingsTextTest, AMissingLogoOptionGivesASentence) {
     Given("X=1\r\n");
     EXPECT_THAT(Get("LOGOOPTION"), HasSubstr("has no line for \"LOGOOPTION\""));
 }
@@ -110,7 +110,7 @@ struct BadRequest {
 
 class CheckSetRequestRefusal : public testing::TestWithParam<BadRequest> {};
 
-TEST_P(CheckSetRequestRefusal, IsASentenceThatNamesTheTrouble) {
+TEST_P(CheckSetRequestRefusal, IsASentenceThatNamesTheProblem) {
     const auto sentence = CheckSetRequest(GetParam().Key, GetParam().Value);
     ASSERT_TRUE(sentence);
     EXPECT_THAT(*sentence, HasSubstr(GetParam().Says));

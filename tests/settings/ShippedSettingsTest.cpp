@@ -12,7 +12,7 @@
 namespace Ledgrove::Module1 {
 namespace {
 
-/// The file that comes with the program, copied so that no test can change it.
+/// The shipped settings file, copied so that no test can change it.
 class ShippedSettingsTest : public SettingsTest {
 protected:
     ShippedSettingsTest() {
@@ -42,7 +42,7 @@ TEST_F(ShippedSettingsTest, HeaderAndFeatures) {
     EXPECT_EQ(features.Feature2, "Larger deck");
 }
 
-TEST_F(ShippedSettingsTest, LoanTypesStandInTheOrderOfThePickLists) {
+TEST_F(ShippedSettingsTest, LoanTypesAreInTheOrderOfThePickLists) {
     struct Expected {
         const char* Name;
         float Front;
@@ -110,7 +110,8 @@ TEST_F(ShippedSettingsTest, ThreeSampleHousesWhoseLabelledHomeCostsMoreAndUsesLe
         names.insert(house.Name);
         EXPECT_GT(house.StdCost, 0.0f);
         EXPECT_GT(house.GMHCost, house.StdCost);
-        EXPECT_LT(house.GMHCost, house.StdCost * 1.1f); // more than 10 % dearer would bring a note
+        EXPECT_LT(house.GMHCost,
+                  house.StdCost * 1.1f); // a difference above 10 % would cause a data check note
         EXPECT_GT(house.StdUtil, house.GMHUtil);
         EXPECT_GT(house.GMHUtil, 0.0f);
     }

@@ -26,7 +26,7 @@ protected:
     }
 };
 
-TEST_F(TaxScheduleFileTest, EachLowEndIsTheHighEndBefore) {
+TEST_F(TaxScheduleFileTest, EachLowEndIsThePreviousHighEnd) {
     Given("TAXCAT=45200,15\r\nX=1\r\nTAXCAT=109250,28\r\n");
     EXPECT_EQ(Load(), (Brackets{{-1.0f, 45200.0f, 15.0f}, {45200.0f, 109250.0f, 28.0f}}));
 }
@@ -41,7 +41,7 @@ TEST_F(TaxScheduleFileTest, ALineThatEndsInACommaHasNoRate) {
     EXPECT_EQ(Load(), (Brackets{{-1.0f, 45200.0f, 0.0f}}));
 }
 
-TEST_F(TaxScheduleFileTest, TextBehindASecondCommaIsIgnored) {
+TEST_F(TaxScheduleFileTest, TextAfterASecondCommaIsIgnored) {
     Given("TAXCAT=45200,15,old\r\n");
     EXPECT_EQ(Load(), (Brackets{{-1.0f, 45200.0f, 15.0f}}));
 }
@@ -51,17 +51,17 @@ TEST_F(TaxScheduleFileTest, AnEmptyValueIsABracketOfZeros) {
     EXPECT_EQ(Load(), (Brackets{{-1.0f, 0.0f, 0.0f}, {0.0f, 100.0f, 5.0f}}));
 }
 
-TEST_F(TaxScheduleFileTest, AValueThatIsNoNumberEndsTheReading) {
+TEST_F(TaxScheduleFileTest, AValueThatIsNotANumberStopsTheReader) {
     Given("TAXCAT=100,10\r\nTAXCAT=200,ten\r\nTAXCAT=300,30\r\n");
     EXPECT_EQ(Load(), (Brackets{{-1.0f, 100.0f, 10.0f}, {100.0f, 200.0f, 0.0f}}));
 }
 
-TEST_F(TaxScheduleFileTest, AFirstLineWithoutHighEndStillGivesTheFirstLowEnd) {
+TEST_F(TaxScheduleFileTest, AFirstLineWithoutHighEndStillSetsTheFirstLowEnd) {
     Given("TAXCAT=,15\r\nTAXCAT=100,10\r\n");
     EXPECT_EQ(Load(), (Brackets{{-1.0f, 0.0f, 0.0f}}));
 }
 
-TEST_F(TaxScheduleFileTest, WithoutLinesTheScheduleKeepsWhatItHeld) {
+TEST_F(TaxScheduleFileTest, WithoutLinesTheScheduleDoesNotChange) {
     Given("X=1\r\n");
     TaxSchedule schedule = {{-1.0f, 100.0f, 10.0f}};
     EXPECT_EQ(LoadTaxCats(File(), schedule), std::nullopt);
@@ -133,7 +133,7 @@ TEST_F(TaxScheduleFileTest, TheLastLoadedBracketKeepsItsHiddenHighEnd) {
 }
 
 TEST_F(TaxScheduleFileTest, AHiddenHighEndLosesNoDigit) {
-    // 16777215 is the largest odd whole number a single holds; seven digits would make it 16777220.
+    // 16777215 is the largest odd whole number in single precision; seven digits would turn it into 16777220.
     Given("TAXCAT=16777215,10\r\n");
     TaxSchedule loaded;
     ASSERT_EQ(LoadTaxCats(File(), loaded), std::nullopt);

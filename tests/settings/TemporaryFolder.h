@@ -26,7 +26,7 @@ inline void WriteBytes(const std::filesystem::path& path, std::string_view bytes
     stream << bytes;
 }
 
-/// A test with a program folder of its own, gone when the test ends.
+/// A test with its own temporary program folder.
 class SettingsTest : public testing::Test {
 protected:
     SettingsTest()
@@ -41,7 +41,7 @@ protected:
     const SettingsFile& File() const { return m_file; }
 
     void Given(std::string_view bytes) const { WriteBytes(m_file.Path(), bytes); }
-    /// The settings file's bytes; "(missing)" where it is not there.
+    /// The settings file's bytes, or "(missing)".
     std::string Bytes() const { return ReadBytes(m_file.Path()).value_or("(missing)"); }
     bool Exists(const std::filesystem::path& path) const {
         return std::filesystem::exists(std::filesystem::symlink_status(path));

@@ -13,15 +13,15 @@ TEST(Windows1252, DecodesItsOwnRangeToUtf8) {
               "\xE2\x82\xAC \xE2\x80\x9Cx\xE2\x80\x9D"); // euro, curly quotes
 }
 
-TEST(Windows1252, UndefinedBytesBecomeTheControlsOfTheirNumber) {
+TEST(Windows1252, UndefinedBytesBecomeTheControlCharactersOfTheirCode) {
     EXPECT_EQ(DecodeWindows1252("\x81\x8D\x8F\x90\x9D"), "\xC2\x81\xC2\x8D\xC2\x8F\xC2\x90\xC2\x9D");
 }
 
-TEST(Windows1252, EveryByteComesBack) {
+TEST(Windows1252, EveryByteConvertsBack) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte)
         all += static_cast<char>(byte);
-    // Twenty times over, the text is longer than any one conversion step.
+    // Repeated twenty times, the text is longer than one conversion step.
     std::string bytes;
     for (int i = 0; i < 20; ++i)
         bytes += all;
@@ -40,7 +40,7 @@ struct Refusal {
 
 class Windows1252Refusal : public testing::TestWithParam<Refusal> {};
 
-TEST_P(Windows1252Refusal, NamesTheFirstCharacterThatHasNoByte) {
+TEST_P(Windows1252Refusal, NamesTheFirstCharacterOutsideWindows1252) {
     const auto encoded = EncodeWindows1252(GetParam().Text);
 
     const auto* character = std::get_if<UnencodableCharacter>(&encoded);
@@ -55,11 +55,11 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"caf\xC3\xA9 \xE2\x86\x92 x", "\xE2\x86\x92", "the character \"\xE2\x86\x92\" (U+2192)"},
         Refusal{"\xC4\x80", "\xC4\x80", "the character \"\xC4\x80\" (U+0100)"},
         Refusal{"a\xF0\x9F\x8F\xA0", "\xF0\x9F\x8F\xA0", "the character \"\xF0\x9F\x8F\xA0\" (U+1F3E0)"},
-        // U+0080 is no character of the set: its byte 80 is the euro sign.
+        // U+0080 is not in Windows-1252: the byte 80 is the euro sign.
         Refusal{"\xC2\x80", "\xC2\x80", "the character \"\xC2\x80\" (U+0080)"},
         Refusal{"x\xFFy", "\xFF", "the byte FF (not UTF-8)"},
-        Refusal{"\xE0\x80\x80", "\xE0", "the byte E0 (not UTF-8)"}, // longer than need be
-        Refusal{"\xED\xA0\x80", "\xED", "the byte ED (not UTF-8)"}, // half of a pair
+        Refusal{"\xE0\x80\x80", "\xE0", "the byte E0 (not UTF-8)"}, // an overlong encoding
+        Refusal{"\xED\xA0\x80", "\xED", "the byte ED (not UTF-8)"}, // half of a surrogate pair
 
         Refusal{"cut short \xE2\x86", "\xE2", "the byte E2 (not UTF-8)"}));
 
