@@ -63,7 +63,7 @@ std::optional<int> CopiesIn(std::string_view text) {
 
 std::string CopiesComplaint(std::string_view text) {
     return "The report was not printed: \"" + std::string(text) +
-           "\" is no number of copies. Type a whole number from 1 to " + std::to_string(mostCopies) + ".";
+           "\" is not a number of copies. Type a whole number from 1 to " + std::to_string(mostCopies) + ".";
 }
 
 std::string ProgressText(std::size_t page, std::string_view title, const PrinterDevice& device) {

@@ -19,8 +19,8 @@ std::vector<PrinterDevice> LoadedPrinters::Devices() {
         auto* const factory = qobject_cast<PrintServerFactory*>(loader.instance());
         if (!factory) {
             const QString sentence =
-                QString("The printers of this machine cannot be reached, since \"%1\" does "
-                        "not load: %2 \"Print to PDF\" does without.")
+                QString("The printers of this computer are not available, because \"%1\" does "
+                        "not load: %2 \"Print to PDF\" still works.")
                     .arg(file, loader.errorString());
             m_outside.ShowMessage({ApplicationTitle, sentence.toStdString(), MessageIcon::Exclamation});
             return {};
@@ -36,7 +36,7 @@ PrinterDetails LoadedPrinters::Details(const std::string& printer) {
 }
 
 std::string LoadedPrinters::Send(const PrintJob& job) {
-    return m_server ? m_server->Send(job) : "the printers of this machine cannot be reached";
+    return m_server ? m_server->Send(job) : "the printers of this computer are not available";
 }
 
 } // namespace Ledgrove

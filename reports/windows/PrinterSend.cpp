@@ -9,7 +9,7 @@ namespace {
 QString NotTaken(const PrinterSending& sending, std::string reason) {
     while (reason.ends_with('.'))
         reason.pop_back();
-    return QString("%1 was not printed: the printer \"%2\" did not take it (%3). Choose another "
+    return QString("%1 was not printed: the printer \"%2\" did not accept it (%3). Choose another "
                    "printer, or try again when this one is ready.")
         .arg(sending.What, QString::fromStdString(sending.Job.Printer), QString::fromStdString(reason));
 }
@@ -19,7 +19,7 @@ QString NotTaken(const PrinterSending& sending, std::string reason) {
 QString SendToPrinter(const PrinterSending& sending, PrintServer& server) {
     const QTemporaryDir folder;
     if (!folder.isValid())
-        return QString("%1 was not printed: there is no room for it in the folder of temporary files (%2).")
+        return QString("%1 was not printed: no temporary folder could be created (%2).")
             .arg(sending.What, folder.errorString());
     const QString file = folder.filePath("print.pdf");
     const QString fault = sending.Write(file);

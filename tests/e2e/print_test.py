@@ -193,7 +193,7 @@ class WithServer(PrintTest):
         self.press("Print")
         title, text = self.program.answer()
         self.assertEqual(title, "Ledgrove")
-        self.assertRegex(text, r'^The report was not printed: the printer "Attic" did not take it \(.+[^.]\)\. Choose')
+        self.assertRegex(text, r'^The report was not printed: the printer "Attic" did not accept it \(.+[^.]\)\. Choose')
         self.choose("Printer", "r", "Office")
         self.assertEqual(self.print()[0], "Office")
 

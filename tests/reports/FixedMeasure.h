@@ -7,8 +7,8 @@
 
 namespace Ledgrove::Testing {
 
-/// Every character is as wide as every other, ten twips for each point of its size unless told otherwise, and
-/// a line twenty high: positions can be worked out by hand.
+/// All characters have the same width, by default ten twips per point, and a line is twenty twips per point
+/// high. So tests can calculate positions by hand.
 class FixedMeasure : public TextMeasure {
 public:
     explicit FixedMeasure(Twips widthPerPoint = 10)
@@ -44,7 +44,7 @@ inline std::vector<std::string> TextsOf(const PrintPage& page) {
     return texts;
 }
 
-/// The first run of exactly this text, on any page; an empty run when there is none.
+/// The first run with exactly this text, on any page; an empty run if there is none.
 inline TextRun FindText(const PrintDocument& document, std::string_view text) {
     for (std::size_t number = 1; number <= document.PageCount(); ++number)
         for (const TextRun& run : ItemsOf<TextRun>(document.Page(number)))

@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char* unnamed = "Full Path To Logo File";
 
-/// A run of the program on a folder of its own.
+/// A run of the program with a separate folder.
 class HeaderOptionsTest : public SettingsTest {
 protected:
     HeaderOptionsTest() { m_session.Folder = Folder(); }
@@ -21,7 +21,7 @@ protected:
     Session m_session;
 };
 
-TEST_F(HeaderOptionsTest, FillingTakesTheBuyerFromTheRunAndTheRestFromTheFile) {
+TEST_F(HeaderOptionsTest, FillingUsesTheRunsBuyerAndTheFilesOtherValues) {
     Given("BUILDERNAME= Acme Homes \r\nLOGOOPTION=2\r\nLOGOFILE= /logos/a.bmp \r\nFEATURE1=Deck\r\n");
     m_session.Header = {"not this", "Kim Park", "nor this"};
     const HeaderOptions dialog = Filled();
@@ -53,7 +53,7 @@ TEST_F(HeaderOptionsTest, AMissingBuilderNameIsThePartnersName) {
     EXPECT_EQ(Filled().ecBuilderName.Text, "Partner Name");
 }
 
-TEST_F(HeaderOptionsTest, ALogoChoiceThatIsNoneOfTheListCountsAsNone) {
+TEST_F(HeaderOptionsTest, ALogoOptionOutsideTheListCountsAsNone) {
     for (const char* line : {"", "LOGOOPTION=\r\n", "LOGOOPTION=x\r\n", "LOGOOPTION=3\r\n",
                              "LOGOOPTION=-1\r\n", "LOGOOPTION=99999\r\n"}) {
         Given(line);
@@ -88,11 +88,11 @@ TEST_F(HeaderOptionsTest, TheUsersLogoIsTheFileOfTheField) {
     dialog.cboUserLogoOptions = 2;
     dialog.ecLogoFile.Text = "/logos/a.bmp";
     EXPECT_EQ(ViewOfLogo(dialog, "/home/ledgrove"), (LogoView{true, "/logos/a.bmp"}));
-    dialog.ecLogoFile.Text = "logos/a.bmp"; // from the program's folder on
+    dialog.ecLogoFile.Text = "logos/a.bmp"; // relative to the program's folder
     EXPECT_EQ(ViewOfLogo(dialog, "/home/ledgrove"), (LogoView{true, "/home/ledgrove/logos/a.bmp"}));
 }
 
-TEST_F(HeaderOptionsTest, AUsersLogoThatWasNeverNamedIsNotLoaded) {
+TEST_F(HeaderOptionsTest, AUsersLogoWithoutANameIsNotLoaded) {
     HeaderOptions dialog;
     dialog.cboUserLogoOptions = 2;
     for (const char* text : {unnamed, ""}) {
@@ -116,7 +116,7 @@ TEST_F(HeaderOptionsTest, ConfirmingSavesTheHeaderAndTheFeaturesInPlace) {
     EXPECT_EQ(m_session.Header.LogoFile, "/logos/a.bmp");
 }
 
-TEST_F(HeaderOptionsTest, ConfirmingAppendsWhatIsMissingButNeverTheLogoChoice) {
+TEST_F(HeaderOptionsTest, ConfirmingAppendsMissingLinesButNeverTheLogoOption) {
     Given("X=1\r\n");
     HeaderOptions dialog = Filled();
     dialog.cboUserLogoOptions = 1;
@@ -126,7 +126,7 @@ TEST_F(HeaderOptionsTest, ConfirmingAppendsWhatIsMissingButNeverTheLogoChoice) {
     EXPECT_EQ(StoredLogoOption(m_session), 0);
 }
 
-TEST_F(HeaderOptionsTest, TheSameRunRemembersTheBuyerANewOneDoesNot) {
+TEST_F(HeaderOptionsTest, OnlyTheSameRunRemembersTheBuyer) {
     Given("BUILDERNAME=Old\r\nLOGOOPTION=0\r\n");
     HeaderOptions dialog = Filled();
     dialog.txtHomeBuyer.Text = "Kim Park";
@@ -147,7 +147,7 @@ TEST_F(HeaderOptionsTest, AFailedSaveChangesNeitherRunNorFile) {
     Given("BUILDERNAME=Old\r\n");
     m_session.Header = {"Old", "Buyer", unnamed};
     HeaderOptions dialog = Filled();
-    dialog.ecBuilderName.Text = "Sun \xE2\x98\x80"; // no character of the file's encoding
+    dialog.ecBuilderName.Text = "Sun \xE2\x98\x80"; // a character outside the file's encoding
     dialog.txtHomeBuyer.Text = "Kim Park";
     EXPECT_TRUE(ConfirmHeaderOptions(dialog, m_session));
     EXPECT_EQ(Bytes(), "BUILDERNAME=Old\r\n");
@@ -158,7 +158,7 @@ TEST_F(HeaderOptionsTest, AFailedSaveChangesNeitherRunNorFile) {
 TEST_F(HeaderOptionsTest, ReloadingTheFeaturesShowsTheStoredTexts) {
     Given("FEATURE1=Deck\r\nFEATURE2=Porch\r\n");
     m_session.Features = {"Old 1", "Old 2"};
-    m_session.Scenario.PVNetCashFlow = 100; // there is something to spend
+    m_session.Scenario.PVNetCashFlow = 100; // the tab shows the features only for an amount other than zero
     ReloadFeatureCaptions(m_session);
     EXPECT_EQ(m_session.Features.Feature2, "Porch");
     EXPECT_EQ(m_session.Screen.lblfeature1.Text, "Deck");

@@ -48,14 +48,14 @@ TEST(ReadPicture, ReadsRunLengthEncodedBmp) {
     }
 }
 
-TEST(ReadPicture, PixelsThatTheRunsLeaveOutAreBackground) {
+TEST(ReadPicture, PixelsThatTheRunsSkipAreBackground) {
     const QImage image = ReadPicture(MakeBmp({4, 2, 8, 1}, QByteArray::fromHex("0001")));
     ASSERT_EQ(image.size(), QSize(4, 2));
     for (int x = 0; x < 4; ++x)
         EXPECT_EQ(image.pixel(x, 0), qRgb(0, 0, 0));
 }
 
-TEST(ReadPicture, TakesTheLargestImageOfAnIcon) {
+TEST(ReadPicture, ReadsTheLargestImageOfAnIcon) {
     const QImage image = ReadPicture(MakeIcon({16, 48, 32}));
     ASSERT_EQ(image.size(), QSize(48, 48));
     EXPECT_EQ(qRed(image.pixel(10, 10)), 48);
@@ -70,8 +70,8 @@ TEST(ReadPicture, ReadsMetafilesWithAndWithoutPlaceableHeader) {
     }
 }
 
-TEST(ReadPicture, AMetafileThatDrawsForeverIsNone) {
-    // An arc over all the plane takes the library seconds, twenty of them most of a minute.
+TEST(ReadPicture, AMetafileThatDrawsForeverIsNotRead) {
+    // The library takes seconds for one arc over the whole coordinate range, and nearly a minute for twenty.
     QByteArray arc;
     Append<quint32>(arc, 11);
     Append<quint16>(arc, 0x0817);
@@ -84,17 +84,17 @@ TEST(ReadPicture, AMetafileThatDrawsForeverIsNone) {
 
 class CutPicture : public testing::TestWithParam<QByteArray> {};
 
-TEST_P(CutPicture, GivesNoPictureOrAWholeImage) {
+TEST_P(CutPicture, GivesNoPictureOrACompleteImage) {
     const QByteArray& whole = GetParam();
     const QImage reference = ReadPicture(whole);
     ASSERT_FALSE(reference.isNull());
     for (qsizetype length = 0; length < whole.size(); ++length) {
         const QImage image = ReadPicture(whole.left(length));
-        // What a file is cut of behind its last pixel may be missed; its pixels are then all right.
+        // A file may lack bytes after its last pixel; its pixels must then be correct.
         if (!image.isNull() && image.size() == reference.size()) {
             EXPECT_EQ(image.convertToFormat(QImage::Format_RGB32),
                       reference.convertToFormat(QImage::Format_RGB32))
-                << "cut at " << length << " of " << whole.size();
+                << "cut after " << length << " of " << whole.size();
         }
     }
 }
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(Formats, CutPicture,
                                          MakeBmp({4, 2, 8, 1}, runs8), MakeBmp({4, 2, 4, 2}, runs4),
                                          MakeIcon({16})));
 
-TEST(ReadPicture, ACutBmpIsNone) {
+TEST(ReadPicture, ATruncatedBmpIsNotRead) {
     const QByteArray whole = MakePlainBmp(100, 100, 0x336699);
     EXPECT_TRUE(ReadPicture(whole.left(whole.size() - 1)).isNull());
     EXPECT_TRUE(ReadPicture(whole.left(whole.size() / 2)).isNull());
@@ -113,21 +113,21 @@ TEST(ReadPicture, ACutBmpIsNone) {
     EXPECT_TRUE(ReadPicture(runs.left(runs.size() - 4)).isNull());
 }
 
-TEST(ReadPicture, ImpossibleSizesAreNone) {
+TEST(ReadPicture, ImpossibleSizesAreNotRead) {
     for (const BmpShape& shape : {BmpShape{0, 5, 24}, BmpShape{-5, 5, 24}, BmpShape{60000, 60000, 24},
                                   BmpShape{2000000000, 2000000000, 32}, BmpShape{5, 5, 0}, BmpShape{5, 5, 77},
                                   BmpShape{60000, 60000, 8, 1}, BmpShape{4, 2, 24, 1}})
         EXPECT_TRUE(ReadPicture(MakeBmp(shape, QByteArray(64, '\0'))).isNull())
             << shape.Width << 'x' << shape.Height;
-    // A few bytes that claim more pixels than memory should hold.
+    // A few bytes that claim too many pixels.
     EXPECT_TRUE(ReadPicture(MakeBmp({4000, 4000, 8, 1}, QByteArray::fromHex("0001"))).isNull());
     EXPECT_TRUE(ReadPicture(MakeBmp({2001, 2000, 8, 1}, QByteArray::fromHex("0001"))).isNull());
     EXPECT_FALSE(ReadPicture(MakeBmp({2000, 2000, 8, 1}, QByteArray::fromHex("0001"))).isNull());
-    EXPECT_TRUE(
-        ReadPicture(MakeBmp({4, 2, 8, 1}, QByteArray::fromHex("FF000001"))).isNull()); // runs off the line
+    EXPECT_TRUE(ReadPicture(MakeBmp({4, 2, 8, 1}, QByteArray::fromHex("FF000001")))
+                    .isNull()); // the runs go past the end of the line
 }
 
-/// An icon whose directory names the same PNG of this size so many times, as one of 16 by 16.
+/// An icon whose directory names the same PNG of this size `times` times, always as an image of 16 by 16.
 QByteArray MakePngIcon(const QSize& size, int times) {
     QImage image(size, QImage::Format_Mono);
     image.fill(1);
@@ -147,25 +147,25 @@ QByteArray MakePngIcon(const QSize& size, int times) {
     return bytes + png;
 }
 
-TEST(ReadPicture, AnIconOfPngsIsReadAsFarAsItIsSmall) {
+TEST(ReadPicture, AnIconOfPngsIsReadUpToALimit) {
     EXPECT_EQ(ReadPicture(MakePngIcon({300, 200}, 2)).size(), QSize(300, 200));
     EXPECT_TRUE(ReadPicture(MakePngIcon({2001, 2000}, 1)).isNull());
-    EXPECT_EQ(ReadPicture(MakePngIcon({1000, 1000}, 1000)).size(), QSize(1000, 1000)); // the first four
+    EXPECT_EQ(ReadPicture(MakePngIcon({1000, 1000}, 1000)).size(), QSize(1000, 1000)); // only the first four
 }
 
-TEST(ReadPicture, AnIconWithoutTheImagesThatItClaimsIsNone) {
+TEST(ReadPicture, AnIconWithoutItsClaimedImagesIsNotRead) {
     for (const char* bytes : {"0000010001e2", "0000010004c6", "00000100ffff1010"})
         EXPECT_TRUE(ReadPicture(QByteArray::fromHex(bytes)).isNull()) << bytes;
-    // Two are claimed and one is there.
+    // The directory claims two images and the file has one.
     EXPECT_EQ(ReadPicture(MakeIcon({16}).replace(4, 1, "\x02")).size(), QSize(16, 16));
 }
 
-TEST(ReadPicture, AnythingElseIsNone) {
+TEST(ReadPicture, OtherFilesAreNotRead) {
     for (const char* text : {"", "B", "BM", "GIF89a", "plain text", "\xD7\xCD\xC6\x9A", "\x89PNG\r\n"})
         EXPECT_TRUE(ReadPicture(text).isNull()) << text;
 }
 
-TEST(LoadPicture, TellsByContentWhateverTheNameSays) {
+TEST(LoadPicture, DetectsTheFormatByContentNotByName) {
     const QTemporaryDir folder;
     const QString name = folder.filePath("logo.wmf");
     QFile file(name);
@@ -175,7 +175,7 @@ TEST(LoadPicture, TellsByContentWhateverTheNameSays) {
     EXPECT_EQ(LoadPicture(name.toStdString()).size(), QSize(3, 3));
 }
 
-TEST(LoadPicture, WhatIsNoFileIsNone) {
+TEST(LoadPicture, OnlyAFileIsRead) {
     const QTemporaryDir folder;
     EXPECT_TRUE(LoadPicture(folder.filePath("none.bmp").toStdString()).isNull());
     EXPECT_TRUE(LoadPicture(folder.path().toStdString()).isNull());
@@ -196,7 +196,7 @@ TEST(PictureStore, ReadsAFileOnce) {
     EXPECT_FALSE(store.Load(name.toStdString()).isNull());
 }
 
-TEST(ShippedPictures, AreThereAndLargeEnoughForPrint) {
+TEST(ShippedPictures, ExistAndAreLargeEnoughForPrint) {
     const std::string data = LEDGROVE_SOURCE_DIR "/data/";
     for (const char* name : {"GenericHouseLogo.bmp", "LedgroveEmblem.png"}) {
         const QImage image = LoadPicture(data + name);

@@ -7,7 +7,7 @@ namespace {
 
 const Paper a4{"iso_a4_210x297mm", 11906, 16838}; // 210 mm x 297 mm at 1440 / 25.4 twips
 
-TEST(ZoomStep, GoesAlongTheListAndStaysAtItsEnds) {
+TEST(ZoomStep, MovesAlongTheListAndStopsAtItsEnds) {
     EXPECT_STREQ(ZoomItems[ZoomAtActivation], "60");
     EXPECT_EQ(ZoomStep(ZoomAtActivation, 1), 3);
     EXPECT_EQ(ZoomStep(ZoomAtActivation, -1), 1);
@@ -20,7 +20,7 @@ TEST(PageButtonAt, IsHiddenForOnePage) {
     EXPECT_TRUE(PageButtonAt(1, 2).Visible);
 }
 
-TEST(PageButtonAt, LeadsToTheSecondPageFromTheFirstAndElseToTheFirst) {
+TEST(PageButtonAt, LeadsFromTheFirstPageToTheSecondAndElseToTheFirst) {
     EXPECT_STREQ(PageButtonAt(1, 3).Caption, "Page 2");
     EXPECT_EQ(PageButtonAt(1, 3).Leads, 2U);
     for (const std::size_t page : {2U, 3U}) {
@@ -29,12 +29,12 @@ TEST(PageButtonAt, LeadsToTheSecondPageFromTheFirstAndElseToTheFirst) {
     }
 }
 
-TEST(StatusText, PutsTwoBlanksBeforeTheResolution) {
+TEST(StatusText, HasTwoBlanksBeforeTheResolution) {
     EXPECT_EQ(StatusText({"Office", "ipp://printserver/office", "Laser 600"}, {600, {}}),
               "DPI:  600\nPort: ipp://printserver/office\nDriver: Laser 600");
 }
 
-TEST(StatusText, SaysThatAResolutionIsNotKnown) {
+TEST(StatusText, ReportsAnUnknownResolution) {
     EXPECT_EQ(StatusText({"Raw", "socket://lab", ""}, {}), "DPI: not known\nPort: socket://lab\nDriver: ");
 }
 
@@ -63,21 +63,22 @@ TEST(SizeText, IsInInchesWithOneDecimal) {
     EXPECT_EQ(SizeText(SheetOf(a4, PageOrientation::Portrait)), "8.3x11.7"); // 8.268 x 11.693
 }
 
-TEST(CopiesIn, TakesWholeNumbersAsTheyAreShown) {
+TEST(CopiesIn, ReadsWholeNumbersAsShown) {
     EXPECT_EQ(CopiesIn("1"), 1);
     EXPECT_EQ(CopiesIn(" 25 "), 25);
     EXPECT_EQ(CopiesIn("1,200"), 1200);
     EXPECT_EQ(CopiesIn("9999"), 9999);
 }
 
-TEST(CopiesIn, TakesNothingElse) {
+TEST(CopiesIn, RefusesOtherTexts) {
     for (const char* text : {"", "0", "-1", "2.5", "12%", "10000", "1e3", "many"})
         EXPECT_EQ(CopiesIn(text), std::nullopt) << text;
 }
 
 TEST(CopiesComplaint, NamesTheTextAndWhatToType) {
-    EXPECT_EQ(CopiesComplaint("0"), "The report was not printed: \"0\" is no number of copies. Type a whole "
-                                    "number from 1 to 9999.");
+    EXPECT_EQ(CopiesComplaint("0"),
+              "The report was not printed: \"0\" is not a number of copies. Type a whole "
+              "number from 1 to 9999.");
 }
 
 TEST(ProgressText, NamesPageReportAndPrinter) {

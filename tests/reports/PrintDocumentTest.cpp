@@ -11,7 +11,7 @@ using namespace Testing;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A letter page with ten-point text: characters 100 twips wide, lines 200 high.
+/// A letter page with ten-point text: characters are 100 twips wide and lines 200 twips high.
 class PrintDocumentTest : public testing::Test {
 protected:
     PrintDocumentTest() { m_document.FontSize = 10; }
@@ -29,7 +29,7 @@ TEST_F(PrintDocumentTest, StartsWithThePenAtTheTopLeftMarginCorner) {
     EXPECT_EQ(m_document.PageCount(), 1U);
 }
 
-TEST_F(PrintDocumentTest, IsWrittenOnOnlyWhileItIsOpen) {
+TEST_F(PrintDocumentTest, AcceptsTextOnlyWhileOpen) {
     EXPECT_FALSE(m_document.Text("a"));
     EXPECT_FALSE(m_document.Paragraph("a"));
     EXPECT_FALSE(m_document.NewPage());
@@ -73,11 +73,11 @@ TEST_F(PrintDocumentTest, AParagraphEndsTheLine) {
     EXPECT_EQ(m_document.CurrentY, 1320);
 }
 
-TEST_F(PrintDocumentTest, CentredTextStandsBetweenTheMargins) {
+TEST_F(PrintDocumentTest, CentredTextIsInTheMiddleBetweenTheMargins) {
     m_document.TextAlign = 1;
     m_document.Start();
     m_document.Paragraph("abcd");
-    EXPECT_EQ(Runs()[0].X, 6120 - 200); // the paper's middle less half the width
+    EXPECT_EQ(Runs()[0].X, 6120 - 200); // the paper's middle minus half the width
     m_document.Text("ab");
     m_document.Text("cd");
     EXPECT_EQ(Runs()[1].X, 5920);
@@ -86,7 +86,7 @@ TEST_F(PrintDocumentTest, CentredTextStandsBetweenTheMargins) {
 
 TEST_F(PrintDocumentTest, TextTooWideForTheLineIsWrapped) {
     m_document.Start();
-    // 108 characters fit between the margins of 10,800 twips
+    // 108 characters fit between the margins, which are 10,800 twips apart
     m_document.Paragraph(std::string(100, 'a') + " " + std::string(20, 'b'));
     ASSERT_EQ(Runs().size(), 2U);
     EXPECT_EQ(Runs()[1].Text, std::string(20, 'b'));
@@ -94,7 +94,7 @@ TEST_F(PrintDocumentTest, TextTooWideForTheLineIsWrapped) {
     EXPECT_EQ(m_document.CurrentY, 1120);
 }
 
-TEST_F(PrintDocumentTest, TextKeepsClearOfThePicturesBesideIt) {
+TEST_F(PrintDocumentTest, TextDoesNotOverlapThePicturesNextToIt) {
     m_document.TextAlign = 1;
     m_document.Start();
     m_document.Picture("left.png", {720, 720, 2628, 2340});
@@ -106,7 +106,7 @@ TEST_F(PrintDocumentTest, TextKeepsClearOfThePicturesBesideIt) {
     EXPECT_EQ(Runs().size(), 2U);
 }
 
-TEST_F(PrintDocumentTest, TextThatDoesNotFitThePageGoesToTheNext) {
+TEST_F(PrintDocumentTest, TextThatDoesNotFitMovesToTheNextPage) {
     m_document.Start();
     m_document.CurrentY = 15840 - 720 - 200;
     m_document.Paragraph("last");
@@ -151,7 +151,7 @@ TEST_F(PrintDocumentTest, LandscapeTurnsThePaper) {
     EXPECT_EQ(turned.MarginLeft, 720);
 }
 
-/// Tables of ten-point text: a row of one line is 200 twips and its padding high.
+/// Tables of ten-point text: the height of a one-line row is 200 twips plus its padding.
 class PrintTableTest : public PrintDocumentTest {
 protected:
     PrintTableTest() { m_document.Start(); }
@@ -183,7 +183,7 @@ TEST_F(PrintTableTest, TheHeaderIsTheFirstRowAndMayBeShaded) {
     EXPECT_EQ(shade.Box, (PrintBox{720, 720, 720 + 7560, 720 + row}));
     m_document.AddTable("7560;", "Head", "a;b;;", PrintGrey);
     EXPECT_EQ(m_document.CurrentY, 720 + 5 * row);
-    EXPECT_EQ(ItemsOf<FilledRectangle>(m_document.Page(1)).size(), 2U); // the header row alone
+    EXPECT_EQ(ItemsOf<FilledRectangle>(m_document.Page(1)).size(), 2U); // only the header row
 }
 
 TEST_F(PrintTableTest, AFormatWithoutItsSemicolonIsReadTheSameWay) {
@@ -196,7 +196,7 @@ TEST_F(PrintTableTest, AFormatWithoutItsSemicolonIsReadTheSameWay) {
         EXPECT_EQ(open[cell].X, closed[cell].X);
 }
 
-TEST_F(PrintTableTest, APenSetBackWritesOverWhatIsThere) {
+TEST_F(PrintTableTest, APenMovedBackPrintsOverExistingText) {
     m_document.AddTable("1000|1000;", "", "label|");
     const Twips below = m_document.CurrentY;
     m_document.CurrentY = 720;
@@ -208,12 +208,12 @@ TEST_F(PrintTableTest, APenSetBackWritesOverWhatIsThere) {
 
 TEST_F(PrintTableTest, LongTextWrapsInsideItsColumn) {
     const Twips row = RowHeight();
-    m_document.AddTable("720|1000;", "", "aaa bbb|c"); // six characters fit into 720 less the padding
+    m_document.AddTable("720|1000;", "", "aaa bbb|c"); // six characters fit into 720 minus the padding
     EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("aaa", "bbb", "c"));
     EXPECT_EQ(m_document.CurrentY, 720 + row + 200);
 }
 
-TEST_F(PrintTableTest, ACaptionRunsOverIntoTheFreePartOfItsNeighbour) {
+TEST_F(PrintTableTest, ACaptionMayUseTheFreePartOfTheNextCell) {
     m_document.AddTable("1440|>3780|>2340;", "", " Expected Savings After:   7 Years|$1,399;");
     EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre(" Expected Savings After:   7 Years", "$1,399"));
     const auto runs = Runs();
@@ -229,11 +229,11 @@ TEST_F(PrintTableTest, ARowThatDoesNotFitMovesToTheNextPage) {
     EXPECT_THAT(TextsOf(m_document.Page(2)), ElementsAre("b"));
 }
 
-TEST_F(PrintTableTest, ARowHigherThanAnyPageGoesOverSeveral) {
+TEST_F(PrintTableTest, ARowHigherThanAPageContinuesOnTheNextPages) {
     std::string words;
     for (int word = 0; word < 400; ++word)
         words += "abcdef ";
-    m_document.AddTable("720;", "", words); // one word a line: 400 lines of 200 twips
+    m_document.AddTable("720;", "", words); // one word per line: 400 lines of 200 twips
     EXPECT_GT(m_document.PageCount(), 5U);
     std::size_t written = 0;
     for (std::size_t page = 1; page <= m_document.PageCount(); ++page)
@@ -249,11 +249,11 @@ TEST_F(PrintTableTest, AFrameIsDrawnOnlyWithBorderFour) {
     const Twips top = m_document.CurrentY;
     m_document.AddTable("1000;", "", "a;b");
     const auto lines = ItemsOf<RuledLine>(m_document.Page(1));
-    // over each row a rule, at each side of each row a line, and one below
+    // a rule above each row, a line at each side of each row, and a rule below the table
     ASSERT_EQ(lines.size(), 7U);
     EXPECT_EQ(lines.front().Ends.Y1, top);
     EXPECT_EQ(lines.back().Ends.Y1, m_document.CurrentY);
-    EXPECT_NE(lines[3].Colour, lines[0].Colour); // the rule between rows is light
+    EXPECT_NE(lines[3].Colour, lines[0].Colour); // the rules between rows are light
 }
 
 } // namespace

@@ -48,14 +48,14 @@ protected:
         return texts;
     }
 
-    /// The texts from `first` up to, not including, `last`; to the end without one.
+    /// The texts from `first` up to but not including `last`, or to the end if there is no `last`.
     std::vector<std::string> TextsBetween(const std::string& first, const std::string& last = "") const {
         const auto texts = Texts();
         const auto from = std::find(texts.begin(), texts.end(), first);
         return {from, last.empty() ? texts.end() : std::find(from, texts.end(), last)};
     }
 
-    /// The page a text stands on, 0 for none.
+    /// The page with this text, 0 for none.
     std::size_t PageOf(std::string_view text) const {
         for (std::size_t page = 1; page <= m_document.PageCount(); ++page)
             for (const std::string& found : TextsOf(m_document.Page(page)))
@@ -73,7 +73,7 @@ protected:
     PrintDocument m_document{m_measure};
 };
 
-TEST_F(ReportTest, WithoutSectionsHoldsTitleBannerAndTwoTablesOnOnePage) {
+TEST_F(ReportTest, WithoutSectionsHasTitleBannerAndTwoTablesOnOnePage) {
     m_session.Header.BuilderName = "Acme Homes";
     m_session.Header.HomeBuyer = "Pat Doe";
     Compose({});
@@ -100,7 +100,7 @@ TEST_F(ReportTest, EmptyNamesOmitTheirLines) {
     }
 }
 
-TEST_F(ReportTest, SectionsComeInTheirFixedOrderSummaryLast) {
+TEST_F(ReportTest, SectionsHaveAFixedOrderWithTheSummaryLast) {
     Compose(allSections);
     std::vector<std::string> banners;
     for (const std::string& text : Texts())
@@ -123,7 +123,7 @@ TEST_F(ReportTest, BannersAreWhiteOnGreyBarsFromMarginToMargin) {
     EXPECT_EQ(banner.Style.FontSize, 12);
     EXPECT_FALSE(banner.Style.Bold);
     EXPECT_EQ(banner.X, 720);
-    // a line of 12 points and the bar's height below the banner's top stands the title bar
+    // The title bar is below the banner's top by a line of 12 points and the bar's height.
     EXPECT_EQ(bars[2].Box.Y1, bars[1].Box.Y1 + 240 + 360);
 }
 
@@ -135,7 +135,7 @@ TEST_F(ReportTest, BoldLabelsAndPlainFiguresShareALine) {
     EXPECT_TRUE(label.Style.Bold);
     EXPECT_FALSE(value.Style.Bold);
     EXPECT_EQ(value.Style.FontSize, 9);
-    EXPECT_EQ(value.X + value.Width, 720 + 1000 + 2160 + 1900 - 60); // right in the third column
+    EXPECT_EQ(value.X + value.Width, 720 + 1000 + 2160 + 1900 - 60); // right-aligned in the third column
 }
 
 TEST_F(ReportTest, TheDownPaymentIsShownAsEntered) {
@@ -159,7 +159,7 @@ TEST_F(ReportTest, TheCashFlowSectionShowsTheTabsCaptionsAndFigures) {
     EXPECT_FALSE(FindText(m_document, s.lblutilitysavingstext.Text).Style.Bold);
 }
 
-TEST_F(ReportTest, TheMoreHomeSectionShowsWhatTheDifferenceBuys) {
+TEST_F(ReportTest, TheMoreHomeSectionShowsTheValueOfTheDifference) {
     m_session.Screen.lblfeature1.Text = "Deck; large|wide";
     m_session.Screen.lblfeature2.Text = "2500";
     Compose(Only(&ReportSections::MoreHome));
@@ -185,7 +185,7 @@ TEST_F(ReportTest, TheAffordabilitySectionEndsWithItsFootnote) {
                     "*Ledgrove only provides estimates & does not account for LTV - check with your bank"));
 }
 
-TEST_F(ReportTest, TheSummarySectionSaysNoneForTheBaseHomesTaxSavings) {
+TEST_F(ReportTest, TheSummarySectionShowsNoneForTheBaseHomesTaxSavings) {
     m_session.Screen.lblStdQual.Text = "*NO";
     Compose(Only(&ReportSections::Summary));
     const MainScreen& s = m_session.Screen;
@@ -239,7 +239,7 @@ TEST_F(ReportTest, TheAssumptionsShowTheDialogsTexts) {
     EXPECT_FALSE(FindText(m_document, "VA EEM").Style.Bold);
 }
 
-TEST_F(ReportTest, ThePresentValueVariablesAreShownOnlyWhenTheyAreUsed) {
+TEST_F(ReportTest, ThePresentValueVariablesAppearOnlyWhenUsed) {
     m_assumptions.optUsePVVars = true;
     Compose(Only(&ReportSections::FinancialAssumptions));
     EXPECT_THAT(TextsBetween("Variables used to calculate the PV of the energy savings",
@@ -253,7 +253,7 @@ TEST_F(ReportTest, ASectionThatDoesNotFitStartsAContinuedPage) {
     m_document.CurrentY = 15840 - 2 * 1440 - 1;
     modPrint::ContinueHeader(m_document, 2);
     EXPECT_EQ(m_document.PageCount(), 1U);
-    ++m_document.CurrentY; // now two inches end exactly at the paper's edge
+    ++m_document.CurrentY; // now the next two inches end exactly at the paper's edge
     modPrint::ContinueHeader(m_document, 2);
     EXPECT_EQ(m_document.PageCount(), 2U);
     const TextRun header = FindText(m_document, " Summary Report for Ledgrove (continued)");
@@ -266,7 +266,7 @@ TEST_F(ReportTest, ASectionThatDoesNotFitStartsAContinuedPage) {
 }
 
 TEST_F(ReportTest, TheAssumptionsNeverStartAContinuedPage) {
-    m_document.Geometry.PageHeight = 8000; // the two tables end some 6,000 twips down
+    m_document.Geometry.PageHeight = 8000; // the two tables end about 6,000 twips down
     Compose(Only(&ReportSections::FinancialAssumptions));
     EXPECT_EQ(PageOf("  Financial Assumptions"), 1U);
     EXPECT_EQ(PageOf(" Summary Report for Ledgrove (continued)"), 0U);
@@ -275,7 +275,7 @@ TEST_F(ReportTest, TheAssumptionsNeverStartAContinuedPage) {
     EXPECT_EQ(PageOf("  Affordability"), 2U);
 }
 
-TEST_F(ReportTest, ThePicturesStandInTheirBoxes) {
+TEST_F(ReportTest, ThePicturesAreInTheirBoxes) {
     m_logo = "logo.bmp";
     Compose({});
     const auto pictures = ItemsOf<PlacedPicture>(m_document.Page(1));
@@ -286,11 +286,11 @@ TEST_F(ReportTest, ThePicturesStandInTheirBoxes) {
     EXPECT_EQ(pictures[1].Box, (PrintBox{12240 - 720 - 1908, 720, 12240 - 720, 720 + 1620}));
 }
 
-TEST_F(ReportTest, TheLogoFollowsTheChoice) {
+TEST_F(ReportTest, TheLogoMatchesTheOption) {
     m_session.Folder = "/program";
     EXPECT_EQ(LogoPicture(m_session, 0), "");
     EXPECT_EQ(LogoPicture(m_session, 1), "/program/GenericHouseLogo.bmp");
-    EXPECT_EQ(LogoPicture(m_session, 2), ""); // never named
+    EXPECT_EQ(LogoPicture(m_session, 2), ""); // the logo file has no name
     m_session.Header.LogoFile = "/home/acme.bmp";
     EXPECT_EQ(LogoPicture(m_session, 2), "/home/acme.bmp");
     m_session.Header.LogoFile = "acme.bmp";
@@ -301,7 +301,7 @@ TEST_F(ReportTest, TheLogoFollowsTheChoice) {
     EXPECT_EQ(LogoPicture(m_session, -1), "");
 }
 
-TEST_F(ReportTest, NothingRunsOffThePaper) {
+TEST_F(ReportTest, EverythingFitsOnThePaper) {
     m_session.Header.BuilderName = std::string(300, 'B');
     m_session.Header.HomeBuyer =
         "a rather long name of a home buyer and all of the family that lives there with them";
@@ -320,7 +320,7 @@ TEST_F(ReportTest, NothingRunsOffThePaper) {
     }
 }
 
-TEST(Pictured, PassesTextsThatAreNoNumbersUnchanged) {
+TEST(Pictured, KeepsTextsThatAreNotNumbers) {
     EXPECT_EQ(modPrint::Pictured("-$1234.5", "$#,##0"), "-$1,235");
     EXPECT_EQ(modPrint::Pictured("*NO", "$#,##0"), "*NO");
     EXPECT_EQ(modPrint::Pictured("10.00%", "$#,##0"), "10.00%");

@@ -35,7 +35,7 @@ TEST(TableFormat, TheClosingSemicolonMayBeMissing) {
     EXPECT_EQ(Aligns("3060|>2000|2500"), Aligns("3060|>2000|2500;"));
 }
 
-TEST(TableFormat, AWidthThatIsNoNumberIsZero) {
+TEST(TableFormat, AWidthThatIsNotANumberIsZero) {
     EXPECT_THAT(Widths("abc|>|^12;"), ElementsAre(0, 0, 12));
     EXPECT_THAT(Widths("-5|99999999999|2000000000"), ElementsAre(0, 0, 144000)); // 100 inches at most
 }
@@ -49,18 +49,18 @@ TEST(TableRows, CellsMayBeEmpty) {
                 ElementsAre(ElementsAre("", "Income", "", "Down Payment", "")));
 }
 
-TEST(TableRows, OneSemicolonAtTheEndClosesTheLastRowATwinAddsAnEmptyOne) {
+TEST(TableRows, AFinalSemicolonEndsTheLastRowAndASecondAddsAnEmptyRow) {
     EXPECT_THAT(ReadTableRows("a;"), ElementsAre(ElementsAre("a")));
     EXPECT_THAT(ReadTableRows("a;;"), ElementsAre(ElementsAre("a"), ElementsAre("")));
     EXPECT_THAT(ReadTableRows(";a;"), ElementsAre(ElementsAre(""), ElementsAre("a")));
     EXPECT_THAT(ReadTableRows(";"), ElementsAre(ElementsAre("")));
 }
 
-TEST(TableRows, OfAnEmptyTextThereAreNone) {
+TEST(TableRows, AnEmptyTextHasNoRows) {
     EXPECT_THAT(ReadTableRows(""), IsEmpty());
 }
 
-TEST(CellText, KeepsATextsOwnSeparatorsInOneCell) {
+TEST(CellText, KeepsATextWithSeparatorsInOneCell) {
     EXPECT_THAT(ReadTableRows(CellText("Deck; 2|3") + "|b;"), ElementsAre(ElementsAre("Deck; 2|3", "b")));
 }
 

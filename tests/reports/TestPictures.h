@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QtEndian>
 
-// Small pictures made byte by byte, whole ones and ones that the tests then cut.
+// Small pictures that the tests build byte by byte and then also truncate.
 namespace Ledgrove::Testing {
 
 template <typename Number>
@@ -19,7 +19,7 @@ struct BmpShape {
     quint32 Compression = 0; ///< 1: RLE8, 2: RLE4
 };
 
-/// A BMP of the shape with a palette of black, red and white where it has one, and these pixel bytes.
+/// A BMP of this shape with these pixel bytes. Up to 8 bits, it has a palette of black, red and white.
 inline QByteArray MakeBmp(const BmpShape& shape, const QByteArray& pixels) {
     const quint32 colours = shape.BitCount <= 8 ? 3 : 0;
     const quint32 pixelOffset = 14 + 40 + colours * 4;
@@ -55,7 +55,7 @@ inline QByteArray MakePlainBmp(qint32 width, qint32 height, quint32 rgb) {
     return MakeBmp({width, height, 24}, line.repeated(height));
 }
 
-/// An icon of 32-bit images of these sizes, each in its own shade of red.
+/// An icon of 32-bit images of these sizes, each in a different shade of red.
 inline QByteArray MakeIcon(const QList<int>& sizes) {
     QByteArray directory;
     QByteArray images;

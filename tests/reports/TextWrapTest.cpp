@@ -22,13 +22,13 @@ TEST(WrapText, BreaksAtBlanksAndDropsThem) {
     EXPECT_THAT(Wrap("one  two", 4), ElementsAre("one ", "two"));
 }
 
-TEST(WrapText, WhatFitsStaysAsItIs) {
+TEST(WrapText, TextThatFitsDoesNotChange) {
     EXPECT_THAT(Wrap(" Expected Savings After:   7 Years", 40),
                 ElementsAre(" Expected Savings After:   7 Years"));
     EXPECT_THAT(Wrap("", 4), ElementsAre(""));
 }
 
-TEST(WrapText, AWordThatIsTooWideAloneIsBroken) {
+TEST(WrapText, AWordWiderThanTheLineIsBroken) {
     EXPECT_THAT(Wrap("abcdefgh", 3), ElementsAre("abc", "def", "gh"));
     EXPECT_THAT(Wrap("a bcdefgh", 3), ElementsAre("a", "bcd", "efg", "h"));
 }
@@ -46,7 +46,7 @@ TEST(WrapText, AMegabyteWithoutBlanksIsBrokenInReasonableTime) {
     EXPECT_EQ(Wrap(std::string(1'000'000, 'x'), 100).size(), 10000U);
 }
 
-/// Adds up how much text it is asked about.
+/// Counts the characters that it measures.
 class CountingMeasure : public Testing::FixedMeasure {
 public:
     Twips Width(std::string_view text, const TextStyle& style) const override {
@@ -60,7 +60,8 @@ private:
 };
 
 TEST(WrapText, AParagraphOfMegabytesIsNotMeasuredAgainForEachLine) {
-    // About 1,000 pages of 50 lines of 80 characters; per line a few measurings of up to two lines' length.
+    // About 1,000 pages of 50 lines of 80 characters; each line needs a few measurements of up to two lines
+    // of text.
     std::string text;
     while (text.size() < 4'000'000)
         text += "seven rooms and a deck ";
@@ -68,7 +69,7 @@ TEST(WrapText, AParagraphOfMegabytesIsNotMeasuredAgainForEachLine) {
     TextStyle style;
     style.FontSize = 10;
     const auto lines = WrapText(text, 80 * 100, style, measure);
-    EXPECT_GE(lines.size(), text.size() / 81); // the blank at its end goes with each
+    EXPECT_GE(lines.size(), text.size() / 81); // each line also consumes the blank at its end
     EXPECT_LE(measure.Measured(), 20 * text.size());
 }
 

@@ -13,42 +13,43 @@ using namespace Testing;
 constexpr qsizetype longestRecordAt = 12; // in the header, in words
 constexpr qsizetype firstRecordAt = 18;
 
-/// The bare metafile with the number at `offset` changed.
+/// The bare metafile with a different number at `offset`.
 QByteArray Changed(qsizetype offset, quint32 number) {
     QByteArray number32;
     Append<quint32>(number32, number);
     return MakeWmf(false).replace(offset, 4, number32);
 }
 
-TEST(CheckWmf, TakesWholeMetafiles) {
+TEST(CheckWmf, AcceptsCompleteMetafiles) {
     EXPECT_TRUE(CheckWmf(MakeWmf(true)));
     EXPECT_TRUE(CheckWmf(MakeWmf(false)));
 }
 
-TEST(CheckWmf, ARecordLongerThanTheFileIsNone) {
-    // The library would set aside what the header says: 2 GB here.
+TEST(CheckWmf, ARecordLongerThanTheFileIsRefused) {
+    // The library would allocate the size in the header: 2 GB here.
     EXPECT_FALSE(CheckWmf(Changed(longestRecordAt, 0x42000007)));
     EXPECT_TRUE(ReadPicture(Changed(longestRecordAt, 0x42000007)).isNull());
     EXPECT_FALSE(CheckWmf(Changed(firstRecordAt, 5000)));
     EXPECT_FALSE(CheckWmf(Changed(firstRecordAt, 0xFFFFFFFF)));
 }
 
-TEST(CheckWmf, ARecordShorterThanItsHeadIsNone) {
+TEST(CheckWmf, ARecordShorterThanItsHeadIsRefused) {
     for (const quint32 words : {0U, 1U, 2U})
         EXPECT_FALSE(CheckWmf(Changed(firstRecordAt, words))) << words;
 }
 
-TEST(CheckWmf, ARecordLongerThanTheLongestIsNone) {
+TEST(CheckWmf, ARecordLongerThanTheLongestIsRefused) {
     EXPECT_FALSE(CheckWmf(Changed(longestRecordAt, 4))); // the first record has five words
 }
 
-TEST(CheckWmf, ACutMetafileIsNone) {
+TEST(CheckWmf, ATruncatedMetafileIsRefused) {
     const QByteArray whole = MakeWmf(true);
     for (qsizetype length = 0; length < whole.size() - 1; ++length)
         EXPECT_FALSE(CheckWmf(whole.left(length))) << length;
 }
 
-/// A metafile of one record that stretches a bitmap of this size over its window; the bitmap has two pixels.
+/// A metafile with one record, which stretches a bitmap of this size over the window; the bitmap has two
+/// pixels.
 QByteArray MakeWmfWithBitmap(qint32 width, qint32 height) {
     const QByteArray bitmap = MakeBmp({width, height, 24}, QByteArray(8, '\x40')).mid(14);
     QList<qint16> words{0x20, 0xCC, 0, 1, 2, 0, 0, 100, 200, 0, 0};
@@ -65,11 +66,11 @@ QByteArray MakeWmfWithBitmap(qint32 width, qint32 height) {
     return bytes.replace(longestRecordAt, 4, longest) + records;
 }
 
-TEST(CheckWmf, ABitmapInARecordMustBeWholeAndSmall) {
+TEST(CheckWmf, ABitmapInARecordMustBeCompleteAndSmall) {
     EXPECT_TRUE(CheckWmf(MakeWmfWithBitmap(2, 1)));
     EXPECT_FALSE(ReadPicture(MakeWmfWithBitmap(2, 1)).isNull());
-    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(2, 2)));         // cut
-    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(20000, 30000))); // the library would set 2 GB aside
+    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(2, 2)));         // truncated
+    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(20000, 30000))); // the library would allocate 2 GB
     EXPECT_TRUE(ReadPicture(MakeWmfWithBitmap(20000, 30000)).isNull());
 }
 

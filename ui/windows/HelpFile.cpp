@@ -46,20 +46,20 @@ QString HelpFilePath(const std::filesystem::path& folder, const std::string& nam
 
 std::optional<std::string> HelpComplaint(const std::filesystem::path& folder, const std::string& name) {
     if (QString::fromStdString(name).trimmed().isEmpty())
-        return "There is no help because no help file is named. Write its name behind HELPFILE= in "
-               "Ledgrove.ini, which lies in " +
+        return "There is no help because no help file is named. Write its name after HELPFILE= in "
+               "Ledgrove.ini, in the folder " +
                folder.string() + ".";
     const QFileInfo info(HelpFilePath(folder, name));
     const std::string quoted = '"' + name + '"';
     const std::string place = info.absolutePath().toStdString();
     if (!info.exists())
         return "The help file " + quoted + " is missing. It was looked for in " + place +
-               ". Put it there, or name another one behind HELPFILE= in Ledgrove.ini.";
+               ". Put it there, or name another one after HELPFILE= in Ledgrove.ini.";
     const QString fault = FaultOf(info);
     if (fault.isEmpty())
         return std::nullopt;
     return "The help file " + quoted + " in " + place + ' ' + fault.toStdString() +
-           ". Copy the one that came with the program there, or name another one behind HELPFILE= in "
+           ". Copy the one that came with the program there, or name another one after HELPFILE= in "
            "Ledgrove.ini.";
 }
 

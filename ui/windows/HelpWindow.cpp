@@ -43,7 +43,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     connect(m_browser, &QTextBrowser::historyChanged, this, &HelpWindow::ShowHistory);
     connect(m_browser, &HelpBrowser::ZoomStepped, this, &HelpWindow::StepZoom);
     connect(m_browser, &HelpBrowser::LinkRefused, this, [this](const QString& address) {
-        Tell("Not opened, because it leads out of the help: " + address);
+        Tell("Not opened, because it is outside the help: " + address);
     });
     ShowHistory();
     GiveNaturalSize();
@@ -51,7 +51,7 @@ HelpWindow::HelpWindow(QWidget* parent)
 
 void HelpWindow::ShowTopic(const QString& path, const QString& anchor) {
     const bool found = m_browser->ShowTopic(path, anchor);
-    Tell(found ? QString() : "This help file has no topic for that. Here it is from the start.");
+    Tell(found ? QString() : "This help file has no topic for that. This is its start.");
     const bool printable = Printer() != nullptr;
     m_print->setEnabled(printable);
     m_print->setToolTip(printable ? QString() : "No printing from here");

@@ -23,7 +23,7 @@ ChartPlace& ShownPlace(const QWidget& window) {
     qFatal("no chart is shown");
 }
 
-/// The window with charts, and how often their library was asked for.
+/// The window with charts, and a count of the requests for the chart library.
 struct OpenCharts : OpenDesktop {
     OpenCharts()
         : OpenDesktop(Actions()) {
@@ -46,7 +46,7 @@ struct OpenCharts : OpenDesktop {
     ChartPlace& Place() const { return ShownPlace(*Window); }
 };
 
-/// Chooses the entry of the context menu that is about to open.
+/// Chooses the entry of the context menu that opens next.
 void ChooseFromMenu(const QString& text, ChartPlace& place) {
     QTimer::singleShot(0, [text] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -67,15 +67,15 @@ class ChartPlaceTest : public QObject {
 
 private slots:
     void chartsComeWithTheirTab();
-    void wordsFollowTheFigures();
+    void descriptionFollowsTheFigures();
     void pictureIsSaved_data();
     void pictureIsSaved();
     void numbersAreCopied();
-    void failedSaveIsTold();
-    void missingLibraryIsTold();
+    void failedSaveIsReported();
+    void missingLibraryIsReported();
     void chartIsReachedByTab();
     void coloursFollowThePalette();
-    void figuresThatStayAreNotDrawnAgain();
+    void unchangedFiguresAreNotRedrawn();
 };
 
 void ChartPlaceTest::chartsComeWithTheirTab() {
@@ -89,7 +89,7 @@ void ChartPlaceTest::chartsComeWithTheirTab() {
     QCOMPARE(open.Window->findChildren<QWidget*>("Chart").size(), 3);
 }
 
-void ChartPlaceTest::wordsFollowTheFigures() {
+void ChartPlaceTest::descriptionFollowsTheFigures() {
     OpenCharts open;
     open.ShowTab(3);
     QVERIFY(open.Place().accessibleDescription().contains("Mortgage Amount: Base Home $180,000"));
@@ -138,7 +138,7 @@ void ChartPlaceTest::numbersAreCopied() {
     QCOMPARE(QGuiApplication::clipboard()->image().size(), QSize(1920, 1200));
 }
 
-void ChartPlaceTest::failedSaveIsTold() {
+void ChartPlaceTest::failedSaveIsReported() {
     OpenCharts open;
     open.ShowTab(1);
     open.Outside.Messages.clear();
@@ -147,7 +147,7 @@ void ChartPlaceTest::failedSaveIsTold() {
     QVERIFY(open.Outside.TakeTexts().front().find("none/chart.png") != std::string::npos);
 }
 
-void ChartPlaceTest::missingLibraryIsTold() {
+void ChartPlaceTest::missingLibraryIsReported() {
     MainActions actions;
     actions.Charts = [] { return LoadCharts("/nowhere"); };
     OpenDesktop open(actions);
@@ -179,7 +179,7 @@ void ChartPlaceTest::coloursFollowThePalette() {
     QCOMPARE(titleColour(), QColor(Qt::white));
 }
 
-void ChartPlaceTest::figuresThatStayAreNotDrawnAgain() {
+void ChartPlaceTest::unchangedFiguresAreNotRedrawn() {
     OpenCharts open;
     open.ShowTab(4);
     auto* view = open.Place().findChild<QChartView*>();

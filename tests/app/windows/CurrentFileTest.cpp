@@ -11,22 +11,22 @@ class CurrentFileTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void titleTellsNameAndChanges();
+    void titleShowsNameAndChanges();
     void savedOpensAgain();
     void saveAsksForANameOnce();
-    void saveTakesWhatIsBeingTyped();
+    void saveIncludesTheEntryBeingTyped();
     void saveIsRefusedWithTheField();
     void failedSaveLeavesTheFileAndTheMark();
     void suggestedNames();
-    void faultyFileLeavesEverything();
-    void unsavedInputsAreAskedFor_data();
-    void unsavedInputsAreAskedFor();
-    void nothingEnteredIsNothingToLose();
+    void faultyFileChangesNothing();
+    void unsavedInputsCauseAQuestion_data();
+    void unsavedInputsCauseAQuestion();
+    void emptyInputsCauseNoQuestion();
     void closingAsks();
-    void newStartsAfresh();
+    void newClearsTheInputs();
     void sampleIsACopy();
     void recentFilesAreNewestFirst();
-    void missingRecentFileIsForgotten();
+    void missingRecentFileIsRemovedFromTheList();
     void savingKeepsALink();
 };
 
@@ -36,7 +36,7 @@ constexpr const char* sample = R"({"ecIncome": "72000", "ecStdHome": "200000"})"
 
 } // namespace
 
-void CurrentFileTest::titleTellsNameAndChanges() {
+void CurrentFileTest::titleShowsNameAndChanges() {
     OpenDesktop open;
     QCOMPARE(open.Title(), "Ledgrove");
     open.Enter("ecIncome", "72000");
@@ -83,7 +83,7 @@ void CurrentFileTest::saveAsksForANameOnce() {
     QCOMPARE(BytesOf(open.PathOf("b.ledgrove.json")), "(missing)");
 }
 
-void CurrentFileTest::saveTakesWhatIsBeingTyped() {
+void CurrentFileTest::saveIncludesTheEntryBeingTyped() {
     OpenDesktop open;
     open.Type("ecIncome", "72000");
     open.NameToGive = open.PathOf("a.ledgrove.json");
@@ -129,7 +129,7 @@ void CurrentFileTest::suggestedNames() {
     QCOMPARE(WithSuffix("/a.b/doe.v2", ".ledgrove.json"), "/a.b/doe.v2.ledgrove.json");
 }
 
-void CurrentFileTest::faultyFileLeavesEverything() {
+void CurrentFileTest::faultyFileChangesNothing() {
     OpenDesktop open;
     open.Enter("ecIncome", "72000");
     open.Answer = SaveAnswer::Discard;
@@ -142,7 +142,7 @@ void CurrentFileTest::faultyFileLeavesEverything() {
     QCOMPARE(open.Title(), "Ledgrove*");
 }
 
-void CurrentFileTest::unsavedInputsAreAskedFor_data() {
+void CurrentFileTest::unsavedInputsCauseAQuestion_data() {
     QTest::addColumn<int>("answer");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<bool>("saved");
@@ -151,7 +151,7 @@ void CurrentFileTest::unsavedInputsAreAskedFor_data() {
     QTest::newRow("Cancel") << int(SaveAnswer::Cancel) << "$72,000" << false;
 }
 
-void CurrentFileTest::unsavedInputsAreAskedFor() {
+void CurrentFileTest::unsavedInputsCauseAQuestion() {
     QFETCH(const int, answer);
     QFETCH(const QString, shown);
     QFETCH(const bool, saved);
@@ -165,7 +165,7 @@ void CurrentFileTest::unsavedInputsAreAskedFor() {
     QCOMPARE(BytesOf(open.NameToGive).contains("$72,000"), saved);
 }
 
-void CurrentFileTest::nothingEnteredIsNothingToLose() {
+void CurrentFileTest::emptyInputsCauseNoQuestion() {
     OpenDesktop open;
     open.Press(Qt::Key_Return);
     QCOMPARE(open.FieldText("ecIncome"), "$0");
@@ -186,7 +186,7 @@ void CurrentFileTest::closingAsks() {
     QCOMPARE(closed.count(), 1);
 }
 
-void CurrentFileTest::newStartsAfresh() {
+void CurrentFileTest::newClearsTheInputs() {
     OpenDesktop open;
     PutBytes(open.PathOf("a.ledgrove.json"), sample);
     open.File->OpenNamed(open.PathOf("a.ledgrove.json"));
@@ -221,7 +221,7 @@ void CurrentFileTest::recentFilesAreNewestFirst() {
     QCOMPARE(open.Recent.Names(), expected);
 }
 
-void CurrentFileTest::missingRecentFileIsForgotten() {
+void CurrentFileTest::missingRecentFileIsRemovedFromTheList() {
     OpenDesktop open;
     PutBytes(open.PathOf("a.ledgrove.json"), sample);
     open.File->OpenNamed(open.PathOf("a.ledgrove.json"));

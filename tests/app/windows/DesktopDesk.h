@@ -6,10 +6,10 @@
 #include "app/windows/MainMenu.h"
 #include "tests/ui/windows/DialogTest.h"
 
-// What the tests of the whole main window share.
+// Shared by the tests of the whole main window.
 namespace Ledgrove {
 
-/// The main window with its menu bar on a program folder of its own. Questions are answered as told.
+/// The main window with its menu bar and a separate program folder. Questions get scripted answers.
 struct OpenDesktop : SettingsDesk, FormDriver {
     explicit OpenDesktop(MainActions actions = {})
         : Recent(FolderPath() + "/recent.ini") {
@@ -34,7 +34,7 @@ struct OpenDesktop : SettingsDesk, FormDriver {
 
     QString FolderPath() const { return QString::fromStdString(State.Folder.string()); }
     QString PathOf(const QString& name) const { return FolderPath() + '/' + name; }
-    /// Title as the window system shows it, with the mark of changes.
+    /// The title as the window system shows it, with the mark for changes.
     QString Title() const {
         return QString(Window->windowTitle()).replace("[*]", Window->isWindowModified() ? "*" : "");
     }

@@ -21,7 +21,7 @@ private slots:
     void pdfHoldsTheReport();
     void csvHoldsInputsAndResults();
     void nothingIsWrittenWithoutAName();
-    void unwritableFileIsTold();
+    void unwritableFileIsReported();
     void shownTabIsCopied();
     void refusedEntryStopsTheExport();
 };
@@ -37,7 +37,7 @@ void ExportTest::pdfHoldsTheReport() {
 
 void ExportTest::csvHoldsInputsAndResults() {
     OpenDesktop open;
-    open.Type("ecStdHome", "200000"); // taken as if it were left
+    open.Type("ecStdHome", "200000"); // accepted as if the focus had left the field
     open.NameToGive = open.PathOf("out.csv");
     ExportCsv(ContextOf(open));
     const QList<QByteArray> lines = BytesOf(open.NameToGive).split('\n');
@@ -56,7 +56,7 @@ void ExportTest::nothingIsWrittenWithoutAName() {
     QVERIFY(open.Outside.TakeTexts().empty());
 }
 
-void ExportTest::unwritableFileIsTold() {
+void ExportTest::unwritableFileIsReported() {
     OpenDesktop open;
     open.NameToGive = open.PathOf("none/out.csv");
     ExportCsv(ContextOf(open));

@@ -10,11 +10,11 @@ class LoadedPrintersTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void withoutTheLibraryThePdfIsLeft();
-    void theLibraryIsFoundBesideTheProgram();
+    void withoutTheLibraryPdfStillWorks();
+    void theLibraryIsFoundInTheProgramsFolder();
 };
 
-void LoadedPrintersTest::withoutTheLibraryThePdfIsLeft() {
+void LoadedPrintersTest::withoutTheLibraryPdfStillWorks() {
     const QTemporaryDir folder;
     CollectingHost host;
     LoadedPrinters printers(folder.path(), host);
@@ -23,16 +23,16 @@ void LoadedPrintersTest::withoutTheLibraryThePdfIsLeft() {
     QVERIFY(IsPdf(devices[0]));
     QCOMPARE(host.Messages().size(), std::size_t{1});
     const QString said = QString::fromStdString(host.Messages()[0].Text);
-    QVERIFY2(said.startsWith("The printers of this machine cannot be reached, since \"" + folder.path() +
+    QVERIFY2(said.startsWith("The printers of this computer are not available, because \" + folder.path() +
                              "/modules/ledgrove-printers.so\" does not load: "),
              qPrintable(said));
-    QVERIFY2(said.endsWith("\"Print to PDF\" does without."), qPrintable(said));
+    QVERIFY2(said.endsWith("\"Print to PDF\" still works."), qPrintable(said));
     QCOMPARE(printers.Send({"Office", "Report", folder.filePath("report.pdf").toStdString(), "A4", 1}),
-             std::string("the printers of this machine cannot be reached"));
+             std::string("the printers of this computer are not available"));
 }
 
-void LoadedPrintersTest::theLibraryIsFoundBesideTheProgram() {
-    // A server that does not answer has no printers, and says so itself when it is sent to.
+void LoadedPrintersTest::theLibraryIsFoundInTheProgramsFolder() {
+    // A server that does not answer has no printers, and a job that is sent to it gets its error message.
     const QTemporaryDir folder;
     qputenv("CUPS_SERVER", folder.filePath("nobody").toUtf8());
     CollectingHost host;
@@ -42,7 +42,7 @@ void LoadedPrintersTest::theLibraryIsFoundBesideTheProgram() {
     const std::string reason =
         printers.Send({"Office", "Report", folder.filePath("report.pdf").toStdString(), "A4", 1});
     QVERIFY(!reason.empty());
-    QVERIFY2(reason != "the printers of this machine cannot be reached", "the library was asked");
+    QVERIFY2(reason != "the printers of this computer are not available", "the library did not load");
 }
 
 QTEST_MAIN(LoadedPrintersTest)

@@ -46,14 +46,14 @@ class MainMenuTest : public QObject {
 private slots:
     void noMnemonicClashesInWindowOrMenus();
     void everyCommandHasItsLetter();
-    void noShortcutIsGivenTwice();
+    void shortcutsAreUnique();
     void buttonsAreReachable();
     void commandsLeaveTheFieldFirst();
     void tabsAreChosen();
     void editCommandsWorkOnTheField();
-    void menuBarLeavesTheSelection();
+    void menuBarKeepsTheSelection();
     void editCommandsAreOffWithoutAField();
-    void arrowsStayWithTheMenuBar();
+    void arrowKeysStayInTheMenuBar();
     void recentFilesAreListed();
     void exportsAreThere();
 };
@@ -65,7 +65,7 @@ void MainMenuTest::noMnemonicClashesInWindowOrMenus() {
     for (int i = 0; i < bar->count(); ++i)
         texts += bar->tabText(i);
     texts += TextsOf(open.Window->menuBar()->actions());
-    // The window's own seventeen, and the five of File, Edit, View, Tools and Help.
+    // Seventeen mnemonics of the window, and the five of File, Edit, View, Tools and Help.
     QCOMPARE(Mnemonics(texts), "ABCDEFGHILMNOPRSTUVWXY");
     for (const QMenu* menu : open.Window->menuBar()->findChildren<QMenu*>()) {
         const QString letters = Mnemonics(TextsOf(menu->actions()));
@@ -81,7 +81,7 @@ void MainMenuTest::everyCommandHasItsLetter() {
     }
 }
 
-void MainMenuTest::noShortcutIsGivenTwice() {
+void MainMenuTest::shortcutsAreUnique() {
     OpenDesktop open;
     QSet<QString> given;
     for (const QAction* action : open.Window->findChildren<QAction*>()) {
@@ -153,7 +153,7 @@ void MainMenuTest::editCommandsWorkOnTheField() {
     QCOMPARE(open.State.Screen.ecStdHome.Text, std::string("72000"));
 }
 
-void MainMenuTest::menuBarLeavesTheSelection() {
+void MainMenuTest::menuBarKeepsTheSelection() {
     OpenDesktop open;
     open.Type("ecIncome", "72000");
     auto& income = open.Find<QLineEdit>("ecIncome");
@@ -176,7 +176,7 @@ void MainMenuTest::editCommandsAreOffWithoutAField() {
     QVERIFY(Command(open, "Edit", "Copy Tab as Text")->isEnabled());
 }
 
-void MainMenuTest::arrowsStayWithTheMenuBar() {
+void MainMenuTest::arrowKeysStayInTheMenuBar() {
     OpenDesktop open;
     QMenuBar& bar = *open.Window->menuBar();
     bar.setFocus(Qt::MenuBarFocusReason);

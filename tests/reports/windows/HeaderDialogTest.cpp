@@ -20,7 +20,7 @@ constexpr const char* unnamed = "Full Path To Logo File";
 
 enum LogoChoice { None, Generic, User };
 
-/// The dialog in front; it can be closed and opened again, in the same run or a new one.
+/// The open dialog; a test can close it and open it again, in the same run or in a new one.
 struct OpenHeader : PrintDesk, FormDriver {
     explicit OpenHeader(const QByteArray& settings = {}) {
         if (!settings.isEmpty())
@@ -58,7 +58,7 @@ struct OpenHeader : PrintDesk, FormDriver {
         }
         return enabled;
     }
-    /// A picture file of the user's, a broad one.
+    /// A wide picture file of the user.
     QString MakeLogo() const {
         const QString file = Folder.filePath("Logo.bmp");
         QImage picture(400, 100, QImage::Format_RGB32);
@@ -72,7 +72,7 @@ struct OpenHeader : PrintDesk, FormDriver {
     std::unique_ptr<FrmPrintOptions> Window;
 
 private:
-    QString m_before = QDir::currentPath(); ///< choosing a logo changes it
+    QString m_before = QDir::currentPath(); ///< choosing a logo changes the current folder
 };
 
 } // namespace
@@ -86,7 +86,7 @@ private slots:
     void genericHouseIsShown();
     void missingGenericHouseShowsNothing();
     void usersLogoIsShownInItsProportions();
-    void usersLogoThatWasNeverNamedIsNotLoaded();
+    void usersLogoWithoutANameIsNotLoaded();
     void brokenLogoShowsNothing();
     void typedLogoIsShownWhenItIsComplete();
     void chosenLogoIsNamedAndShown();
@@ -95,7 +95,7 @@ private slots:
     void okSaves();
     void missingLogoOptionIsNeverAdded();
     void sameRunRemembersTheBuyer();
-    void newRunRemembersBuilderAndLogoOnly();
+    void newRunRemembersOnlyBuilderAndLogo();
     void cancelChangesNothing();
     void refusedSaveKeepsTheDialogOpen();
     void mnemonicsAndTabOrder();
@@ -157,9 +157,9 @@ void HeaderDialogTest::usersLogoIsShownInItsProportions() {
     QCOMPARE(shown.deviceIndependentSize().height(), label.width() / 4.0); // 400 x 100
 }
 
-void HeaderDialogTest::usersLogoThatWasNeverNamedIsNotLoaded() {
+void HeaderDialogTest::usersLogoWithoutANameIsNotLoaded() {
     OpenHeader open;
-    // even where a file of that very name lies in the folder
+    // even if a file with that exact name is in the folder
     QVERIFY(QFile::rename(open.MakeLogo(), open.Folder.filePath(unnamed)));
     open.Bring("GenericHouseLogo.bmp");
     open.Choose(Generic);
@@ -200,7 +200,7 @@ void HeaderDialogTest::chosenLogoIsNamedAndShown() {
     QCOMPARE(open.FieldText("ecLogoFile"), open.LogoToChoose);
     QVERIFY(open.ShowsPicture());
     const QString chosen = std::exchange(open.LogoToChoose, QString());
-    ClickAt(open.Find("bLogoFile")); // dismissed
+    ClickAt(open.Find("bLogoFile")); // the file chooser is dismissed
     QCOMPARE(open.FieldText("ecLogoFile"), chosen);
     QVERIFY(open.ShowsPicture());
 }
@@ -266,7 +266,7 @@ void HeaderDialogTest::sameRunRemembersTheBuyer() {
     QCOMPARE(open.FieldText("txtHomeBuyer"), "Kim Park");
 }
 
-void HeaderDialogTest::newRunRemembersBuilderAndLogoOnly() {
+void HeaderDialogTest::newRunRemembersOnlyBuilderAndLogo() {
     OpenHeader open;
     open.Bring("GenericHouseLogo.bmp");
     open.Type("ecBuilderName", "Acme Homes");

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* dialogName = "HelpPrintDialog";
 
-/// A help of some pages above a window, and a machine that answers as told.
+/// A help of several pages above a window, with scripted printers.
 struct HelpDesk : PrintDesk {
     HelpDesk() {
         QString html = "<h1>Top of the help</h1>";
@@ -22,7 +22,7 @@ struct HelpDesk : PrintDesk {
         Help.setHtml(html + "<p>The end of the help.</p>");
     }
 
-    /// Opens the dialog and lets `act` act on it; false when it does not open.
+    /// Opens the dialog and runs `act` on it; false if the dialog does not open.
     bool Print(const std::function<void(QWidget&)>& act) {
         return WhileOpen(
             dialogName, [this] { PrintHelpDocument(Help, Above, Outside, Machine); }, act);
@@ -51,7 +51,7 @@ Shades ShadesOf(const QByteArray& pdf) {
     const QTemporaryDir folder;
     QFile file(folder.filePath("help.pdf"));
     if (!file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size())
-        qFatal("no room for a PDF");
+        qFatal("no space for a PDF");
     file.close();
     QProcess process;
     process.start("pdftoppm", {"-png", "-singlefile", "-r", "50", file.fileName(), folder.filePath("page")});
@@ -80,14 +80,14 @@ class HelpPrintTest : public QObject {
 private slots:
     void helpGoesToTheDefaultPrinterOnLetterPaper();
     void anotherPrinterCanBeChosen();
-    void dialogTellsHowManyPages();
+    void dialogShowsTheNumberOfPages();
     void pagesAreNumbered();
     void cancelPrintsNothing();
     void withoutPrintersThereIsPdf();
     void dismissedFileChooserWritesNothing();
-    void unwritablePdfIsTold();
-    void refusedJobIsTold();
-    void blackOnWhiteWhateverThePalette();
+    void unwritablePdfIsReported();
+    void refusedJobIsReported();
+    void blackOnWhiteWithEveryPalette();
     void picturesAreNotFetched();
     void keyboardAndNames();
     void pdfHasTheHelpsName();
@@ -109,7 +109,7 @@ void HelpPrintTest::helpGoesToTheDefaultPrinterOnLetterPaper() {
     for (int i = 1; i <= 200; ++i)
         QVERIFY2(text.contains(QString("Paragraph %1.").arg(i)), qPrintable(QString::number(i)));
     QVERIFY(text.contains("The end of the help."));
-    // the file was only on its way
+    // the file is deleted after it was sent
     QVERIFY(!QFile::exists(QString::fromStdString(sent.Job.PdfFile)));
     QVERIFY(desk.Outside.Messages.empty());
 }
@@ -124,7 +124,7 @@ void HelpPrintTest::anotherPrinterCanBeChosen() {
     QCOMPARE(desk.Server.Jobs.front().Job.Printer, std::string("Lab"));
 }
 
-void HelpPrintTest::dialogTellsHowManyPages() {
+void HelpPrintTest::dialogShowsTheNumberOfPages() {
     HelpDesk desk;
     desk.AddPrinters();
     QString words;
@@ -184,7 +184,7 @@ void HelpPrintTest::dismissedFileChooserWritesNothing() {
     QVERIFY(desk.Outside.Messages.empty());
 }
 
-void HelpPrintTest::unwritablePdfIsTold() {
+void HelpPrintTest::unwritablePdfIsReported() {
     HelpDesk desk;
     desk.PdfToChoose = desk.Folder.filePath("nowhere/help.pdf");
     QVERIFY(desk.Print(PressPrint));
@@ -196,18 +196,18 @@ void HelpPrintTest::unwritablePdfIsTold() {
     QVERIFY(message.Text.ends_with("Choose another place for it."));
 }
 
-void HelpPrintTest::refusedJobIsTold() {
+void HelpPrintTest::refusedJobIsReported() {
     HelpDesk desk;
     desk.AddPrinters();
     desk.Server.Refusal = "The printer is not responding.";
     QVERIFY(desk.Print(PressPrint));
     QCOMPARE(desk.Outside.TakeTexts(),
              std::vector<std::string>{
-                 "The help was not printed: the printer \"Office\" did not take it (The printer is not "
+                 "The help was not printed: the printer \"Office\" did not accept it (The printer is not "
                  "responding). Choose another printer, or try again when this one is ready."});
 }
 
-void HelpPrintTest::blackOnWhiteWhateverThePalette() {
+void HelpPrintTest::blackOnWhiteWithEveryPalette() {
     const QPalette before = QApplication::palette();
     QPalette dark(Qt::yellow, Qt::black);
     dark.setColor(QPalette::Link, Qt::cyan);
@@ -232,7 +232,7 @@ void HelpPrintTest::picturesAreNotFetched() {
     desk.Help.setHtml(
         "<p>Before</p><img src=\"file:///dev/zero\"/><img src=\"http://example.invalid/x.png\"/>"
         "<p>Behind</p>");
-    QVERIFY(desk.Print(PressPrint)); // reading the first would never end
+    QVERIFY(desk.Print(PressPrint)); // reading the first picture would never end
     QVERIFY(PdfText(desk.Server.Jobs.front().Pdf).contains("Behind"));
 }
 
@@ -251,7 +251,7 @@ void HelpPrintTest::keyboardAndNames() {
     }));
     QCOMPARE(mnemonics, "CPR");
     QCOMPARE(names, QStringList({"Print", "Cancel", "Printer", "Print Help"}));
-    QCOMPARE(desk.Server.Jobs.size(), std::size_t(1)); // Enter is "Print"
+    QCOMPARE(desk.Server.Jobs.size(), std::size_t(1)); // Enter pressed "Print"
 }
 
 void HelpPrintTest::pdfHasTheHelpsName() {

@@ -19,7 +19,7 @@ PageView& ViewOf(const OpenPreview& open) {
     return *open.Window->findChild<PageView*>();
 }
 
-/// The pick list's items, in their order.
+/// The pick list's items, in order.
 QStringList Items(const QComboBox& list) {
     QStringList items;
     for (int i = 0; i < list.count(); ++i)
@@ -44,7 +44,7 @@ private slots:
     void pageButtonAlternatesBetweenTheFirstTwoPages();
     void ownNavigationReachesAllPages();
     void ownNavigationCanBeHidden();
-    void recomposingKeepsTheChosenPageAsFarAsItIsThere();
+    void recomposingKeepsTheChosenPageIfItExists();
     void orientationRecomposes();
     void orientationWhileFillingThePickListsDoesNotRecompose();
     void defaultPrinterIsChosen();
@@ -52,11 +52,11 @@ private slots:
     void printerShowsItsDetails();
     void printersPaperIsTheSheet();
     void maximizeAndMinimize();
-    void traceTellsEachStep();
+    void traceShowsEachStep();
     void loadingEndsTheTrace();
     void closeAndEscapeClose();
     void mnemonicsAndTabOrder();
-    void pageIsReadOutToThoseWhoCannotSeeIt();
+    void screenReaderReadsThePage();
 };
 
 void PreviewWindowTest::loadingComposesTheReportOnce() {
@@ -117,7 +117,7 @@ void PreviewWindowTest::zoomChangesTheSizeOfTheSheet() {
     };
     const int atSixty = deskHeight();
     open.Choose("cboZoom", 6);
-    // 125 % less 60 % of 11 inches; the desk's margins do not grow
+    // 125 % minus 60 % of 11 inches; the margins of the desk do not grow
     QCOMPARE(deskHeight() - atSixty,
              qRound(11 * 1.25 * view.logicalDpiY()) - qRound(11 * 0.6 * view.logicalDpiY()));
 }
@@ -153,7 +153,7 @@ void PreviewWindowTest::leftButtonDragsTheSheet() {
     QTest::mousePress(view.viewport(), Qt::LeftButton, {}, {80, 80});
     QTest::mouseMove(view.viewport(), {90, 50});
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, {90, 50});
-    // 10 to the right and 30 up: the sheet goes along
+    // The mouse moved 10 to the right and 30 up, and the sheet moved with it.
     QCOMPARE(view.horizontalScrollBar()->value(), 40);
     QCOMPARE(view.verticalScrollBar()->value(), 130);
     QTest::mouseMove(view.viewport(), {20, 20});
@@ -214,7 +214,7 @@ void PreviewWindowTest::ownNavigationCanBeHidden() {
     QVERIFY(open.IsShown("bNextPage"));
 }
 
-void PreviewWindowTest::recomposingKeepsTheChosenPageAsFarAsItIsThere() {
+void PreviewWindowTest::recomposingKeepsTheChosenPageIfItExists() {
     OpenPreview open(3);
     open.Press(Qt::Key_End);
     open.Window->RefreshPrintView();
@@ -247,7 +247,7 @@ void PreviewWindowTest::orientationWhileFillingThePickListsDoesNotRecompose() {
     OpenPreview open;
     open.Choose("cboOrientation", 1);
     const int before = open.Compositions;
-    open.Window->Load(); // its filling turns the orientation back
+    open.Window->Load(); // loading fills the list again and resets the orientation
     QCOMPARE(open.Compositions, before + 1);
     QCOMPARE(open.Chosen("cboOrientation"), "Portrait");
     QCOMPARE(open.Window->Document().Geometry.PageWidth, letterWidth);
@@ -270,7 +270,7 @@ void PreviewWindowTest::printerShowsItsDetails() {
     OpenPreview open(1, [](OpenPreview& desk) { desk.AddPrinters(); });
     open.Choose("cboPrinter", 0);
     QCOMPARE(open.LabelText("lblStatus"), "DPI: not known\nPort: socket://lab\nDriver: Generic PCL");
-    QCOMPARE(open.Compositions, 1); // the same paper
+    QCOMPARE(open.Compositions, 1); // the paper is the same, so it does not compose again
     open.Window->LoadPrinters();
     QCOMPARE(open.Chosen("cboPrinter"), "Lab");
 }
@@ -305,11 +305,11 @@ void PreviewWindowTest::maximizeAndMinimize() {
     QTRY_COMPARE(open.Find("vsPrinter").size(), preview);
 }
 
-void PreviewWindowTest::traceTellsEachStep() {
+void PreviewWindowTest::traceShowsEachStep() {
     OpenPreview open;
     open.Window->SetTrace(true);
     open.Window->InitPicklists();
-    // Filling the orientation list outside of loading composes, too.
+    // Filling the orientation list also composes, except while the window loads.
     const std::vector<std::string> filling = open.Outside.TakeTexts();
     QCOMPARE(filling.front(), std::string("In InitPicklists Load"));
     open.Window->LoadPrinters();
@@ -346,7 +346,7 @@ void PreviewWindowTest::closeAndEscapeClose() {
 void PreviewWindowTest::mnemonicsAndTabOrder() {
     OpenPreview open(3);
     QCOMPARE(Mnemonics(*open.Window), "CGIMOPRZ");
-    open.Press(Qt::Key_PageDown); // both arrows can be reached
+    open.Press(Qt::Key_PageDown); // on page 2, both page buttons are enabled
     const QStringList expected = {"cboPrinter", "cboOrientation", "",         "bPreviousPage",
                                   "bNextPage",  "cboZoom",        "bChgPage", "bMaxMin",
                                   "txtCopies",  "cmdPrint",       "cmdClose", "cboPrinter"};
@@ -356,7 +356,7 @@ void PreviewWindowTest::mnemonicsAndTabOrder() {
     QVERIFY(open.Find<QLineEdit>("txtCopies").hasSelectedText());
 }
 
-void PreviewWindowTest::pageIsReadOutToThoseWhoCannotSeeIt() {
+void PreviewWindowTest::screenReaderReadsThePage() {
     OpenPreview open(2);
     open.Press(Qt::Key_PageDown);
     QCOMPARE(ViewOf(open).accessibleName(), "Report Preview, page 2 of 2");

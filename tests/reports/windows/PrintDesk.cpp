@@ -16,7 +16,7 @@ namespace {
 QString RunOn(const QByteArray& pdf, const QString& program, const QStringList& options) {
     QTemporaryFile file;
     if (!file.open() || file.write(pdf) != pdf.size() || !file.flush())
-        qFatal("no room for a PDF");
+        qFatal("no space for a PDF");
     QProcess process;
     process.start(program, options + QStringList{file.fileName()} +
                                (program == "pdftotext" ? QStringList{"-"} : QStringList()));

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-// What the tests of the report's windows share.
+// Shared by the tests of the report's windows.
 namespace Ledgrove {
 
-/// A print server as a script: it keeps what it is sent.
+/// A scripted print server that keeps what it receives.
 class ScriptedServer : public PrintServer {
 public:
     struct Sent {
@@ -25,15 +25,15 @@ public:
 
     std::vector<PrinterDevice> Printers;
     std::map<std::string, PrinterDetails> Known;
-    std::string Refusal; ///< said to every job while it is not empty
+    std::string Refusal; ///< the answer to every job, unless empty
     std::vector<Sent> Jobs;
 };
 
-/// The shipped settings, and a machine that answers as told.
+/// The shipped settings and a scripted computer.
 struct PrintDesk : SettingsDesk {
     PrintDesk();
 
-    /// Two printers: Lab, and Office with 600 dots per inch, which is the default one.
+    /// Adds two printers: Lab, and Office with 600 dots per inch, which is the default printer.
     void AddPrinters();
     /// Copies a shipped file into the program's folder.
     void Bring(const QString& file) const;
@@ -45,7 +45,7 @@ struct PrintDesk : SettingsDesk {
     PrintOutside Machine;
 };
 
-/// The preview in front, of a report that is so many pages long. Its pages say "Sheet 1" and so on.
+/// The open preview of a report with this number of pages. Its pages say "Sheet 1" and so on.
 struct OpenPreview : PrintDesk, FormDriver {
     using Prepare = std::function<void(OpenPreview&)>;
 
@@ -61,14 +61,13 @@ struct OpenPreview : PrintDesk, FormDriver {
     std::unique_ptr<frmPrint> Window;
 };
 
-/// The words of a PDF as they stand on its pages, and what is known of it. The bytes must be a whole PDF.
+/// The text of a PDF in layout order, and its properties. The bytes must be a complete PDF.
 QString PdfText(const QByteArray& pdf);
 QString PdfInfo(const QByteArray& pdf);
 
 QByteArray BytesOf(const QString& file);
 
-/// Presses what `press` does, and lets `act` act on the window of this name that opens meanwhile. False when
-/// none opened.
+/// Runs `press` and then `act` on the window of this name that opens. Returns false if no window opened.
 bool WhileOpen(const char* window, const std::function<void()>& press,
                const std::function<void(QWidget&)>& act);
 

@@ -18,7 +18,7 @@ void PressPrint(const OpenPreview& open) {
     open.Find<QPushButton>("cmdPrint").click();
 }
 
-/// The preview is back, and may print again.
+/// Checks that the preview is shown again and can print again.
 void CheckReady(const OpenPreview& open) {
     QVERIFY(open.Find("cmdPrint").isEnabled());
     QVERIFY(open.Find("vsPrinter").isEnabled());
@@ -41,8 +41,8 @@ private slots:
     void copiesAreReadAsAWholeNumber();
     void pdfIsWrittenToTheChosenFile();
     void dismissedFileChooserPrintsNothing();
-    void unwritablePdfIsTold();
-    void refusedJobIsTold();
+    void unwritablePdfIsReported();
+    void refusedJobIsReported();
     void progressNamesPageAndPrinter();
     void cancelPrintsNothing();
     void cancelLeavesNoPdf();
@@ -68,7 +68,7 @@ void PrintingTest::reportGoesToTheChosenPrinter() {
         QVERIFY(pages[i].contains("Printed on 11/20/2026"));
         QVERIFY(pages[i].contains(QString("Page %1").arg(i + 1)));
     }
-    // the file was only on its way
+    // the file is deleted after it was sent
     QVERIFY(!QFile::exists(QString::fromStdString(sent.Job.PdfFile)));
     QVERIFY(open.Outside.Messages.empty());
     open.Choose("cboPrinter", 0);
@@ -79,7 +79,7 @@ void PrintingTest::reportGoesToTheChosenPrinter() {
 void PrintingTest::printingComposesAgainAndEndsInPreview() {
     OpenPreview open(2, WithPrinters);
     open.Press(Qt::Key_PageDown);
-    open.Pages = 3; // the screens changed meanwhile
+    open.Pages = 3; // the screens change before printing
     PressPrint(open);
     QCOMPARE(open.Compositions, 2);
     QVERIFY(PdfInfo(open.Server.Jobs.front().Pdf).contains(QRegularExpression("Pages: +3\n")));
@@ -110,9 +110,9 @@ void PrintingTest::refusedCopiesPrintNothing_data() {
     QTest::addColumn<QString>("left");
     QTest::addColumn<QString>("told");
     const QString advice = "Type a whole number from 1 to 9999.";
-    QTest::addRow("no number") << "two"
-                               << "two"
-                               << "You must enter a number here.";
+    QTest::addRow("not a number") << "two"
+                                  << "two"
+                                  << "You must enter a number here.";
     QTest::addRow("negative") << "-1"
                               << "-1"
                               << "You must enter a positive number here.";
@@ -134,7 +134,7 @@ void PrintingTest::refusedCopiesPrintNothing() {
     QFETCH(QString, told);
     OpenPreview open(1, WithPrinters);
     open.Type("txtCopies", typed);
-    open.Find("cmdPrint").setFocus(); // leaving the field checks nothing
+    open.Find("cmdPrint").setFocus(); // leaving the field does not check it
     QVERIFY(open.Outside.Messages.empty());
     PressPrint(open);
     QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
@@ -180,7 +180,7 @@ void PrintingTest::dismissedFileChooserPrintsNothing() {
     CheckReady(open);
 }
 
-void PrintingTest::unwritablePdfIsTold() {
+void PrintingTest::unwritablePdfIsReported() {
     OpenPreview open;
     open.PdfToChoose = open.Folder.filePath("nowhere/report.pdf");
     PressPrint(open);
@@ -190,13 +190,13 @@ void PrintingTest::unwritablePdfIsTold() {
     CheckReady(open);
 }
 
-void PrintingTest::refusedJobIsTold() {
+void PrintingTest::refusedJobIsReported() {
     OpenPreview open(1, WithPrinters);
     open.Server.Refusal = "The printer or class does not exist.";
     PressPrint(open);
     QCOMPARE(
         open.Outside.TakeTexts(),
-        std::vector<std::string>{"The report was not printed: the printer \"Office\" did not take it (The "
+        std::vector<std::string>{"The report was not printed: the printer \"Office\" did not accept it (The "
                                  "printer or class does not exist). Choose another printer, or try again "
                                  "when this one is ready."});
     CheckReady(open);

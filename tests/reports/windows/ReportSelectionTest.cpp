@@ -32,7 +32,7 @@ struct OpenSelection : PrintDesk, FormDriver {
 
     void Tick(const char* box) const { Find<QCheckBox>(box).click(); }
 
-    /// The text of the report that the preview composes from what is ticked.
+    /// The text of the report that the preview composes from the ticked boxes.
     QString PreviewedText() const {
         QString text;
         const bool opened = WhileOpen(
@@ -48,7 +48,7 @@ struct OpenSelection : PrintDesk, FormDriver {
                 preview.close();
             });
         if (!opened)
-            qFatal("no preview opened");
+            qFatal("the preview did not open");
         return text;
     }
 
@@ -125,7 +125,7 @@ void ReportSelectionTest::tickedSectionsReachTheReport() {
     open.Tick(box);
     const QString text = open.PreviewedText();
     QVERIFY2(text.contains(banner), qPrintable(text));
-    // only this one
+    // only this section
     QCOMPARE(text.count(QRegularExpression("^  [A-Z]", QRegularExpression::MultilineOption)), 2);
     open.Tick(box);
     QVERIFY(!open.PreviewedText().contains(banner));
@@ -138,13 +138,13 @@ void ReportSelectionTest::withoutASectionTheReportHasItsTwoTables() {
     for (const char* there : {"Summary Report for Ledgrove", "  Home Buyer Financial Information", "$72,000",
                               "10.00%", "$206,000", "Printed on 11/20/2026"})
         QVERIFY2(text.contains(there), there);
-    QVERIFY(open.Window->isVisible()); // the dialog is there again
+    QVERIFY(open.Window->isVisible()); // the dialog is visible again
     QVERIFY(open.Outside.Messages.empty());
 }
 
 void ReportSelectionTest::moreHomeRefreshesTheFeatures() {
     OpenSelection open;
-    open.State.Scenario.PVNetCashFlow = 100; // there is something to spend
+    open.State.Scenario.PVNetCashFlow = 100; // the tab shows the features only for an amount other than zero
     open.WriteSettings(open.Settings().replace("Finished basement", "Sun room"));
     open.Tick("chkReport1");
     QCOMPARE(open.State.Screen.lblfeature1.Text, "");

@@ -32,19 +32,19 @@ private slots:
     void showsTheShippedAssumptions_data();
     void showsTheShippedAssumptions();
     void showsItsFixedTexts();
-    void lastHighEndStandsBehindWords();
+    void lastHighEndIsHiddenByWords();
     void fewerBracketsMoveTheWordsUp();
     void onlyLoadedLoanTypesHaveRows();
-    void confirmingUntouchedChangesNumberFormatsOnly();
+    void confirmingUntouchedChangesOnlyNumberFormats();
     void confirmedValuesReachFileAndMemory();
-    void theseVariablesAreSaved();
-    void highEndMovesTheNextLowEnd_data();
-    void highEndMovesTheNextLowEnd();
-    void lowEndIsFormattedNeverChecked();
-    void realEstateHalfDependsOnHowItIsLeft();
+    void ownVariablesAreSaved();
+    void highEndSetsTheNextLowEnd_data();
+    void highEndSetsTheNextLowEnd();
+    void lowEndIsFormattedButNotChecked();
+    void realEstateRateOfOneHalfDependsOnTheWayOut();
     void presentValueRateIsShownAsWholePercent();
     void multiplierStaysAsTyped();
-    void clickSelectsButInTheTaxRows();
+    void clickSelectsExceptInTheTaxRows();
     void refusedFieldKeepsOkFromActing();
     void cancelWritesNothing_data();
     void cancelWritesNothing();
@@ -137,7 +137,7 @@ void AssumptionsDialogTest::showsItsFixedTexts() {
         QVERIFY2(shown.contains(text), text);
 }
 
-void AssumptionsDialogTest::lastHighEndStandsBehindWords() {
+void AssumptionsDialogTest::lastHighEndIsHiddenByWords() {
     OpenAssumptions open;
     QVERIFY(open.Find("ecHighEnd5").isVisible());
     QVERIFY(!open.Find("ecHighEnd6").isVisible());
@@ -161,10 +161,10 @@ void AssumptionsDialogTest::onlyLoadedLoanTypesHaveRows() {
     QVERIFY(!open.Window->findChild<QWidget*>("lblLoanType4"));
 }
 
-void AssumptionsDialogTest::confirmingUntouchedChangesNumberFormatsOnly() {
+void AssumptionsDialogTest::confirmingUntouchedChangesOnlyNumberFormats() {
     OpenAssumptions open;
     const std::vector<std::string> results = LabelTexts(open.State.Screen);
-    // The loan type lines move to the end; the tax rates get their two places.
+    // The loan type lines move to the end; the tax rates get two decimal places.
     QByteArray expected = open.Settings();
     for (const char* rate : {"10", "12", "22", "24", "32", "35"})
         expected.replace(QByteArray(",") + rate + "\r\n", QByteArray(",") + rate + ".00\r\n");
@@ -202,7 +202,7 @@ void AssumptionsDialogTest::confirmedValuesReachFileAndMemory() {
     QCOMPARE(open.State.Screen.lblStdInc.Text, "$1,980"); // 72,000 x 0.33 / 12
 }
 
-void AssumptionsDialogTest::theseVariablesAreSaved() {
+void AssumptionsDialogTest::ownVariablesAreSaved() {
     OpenAssumptions open;
     QVERIFY(open.Find<QRadioButton>("optUsePVVars0").isChecked());
     open.Press(Qt::Key_V, Qt::AltModifier);
@@ -212,13 +212,13 @@ void AssumptionsDialogTest::theseVariablesAreSaved() {
     QVERIFY(open.State.Assumptions.UsePVVars);
 }
 
-void AssumptionsDialogTest::highEndMovesTheNextLowEnd_data() {
+void AssumptionsDialogTest::highEndSetsTheNextLowEnd_data() {
     QTest::addColumn<QString>("way");
     for (const char* way : {"Enter", "Tab", "click"})
         QTest::addRow("%s", way) << way;
 }
 
-void AssumptionsDialogTest::highEndMovesTheNextLowEnd() {
+void AssumptionsDialogTest::highEndSetsTheNextLowEnd() {
     QFETCH(QString, way);
     OpenAssumptions open;
     open.Type("ecHighEnd2", "50000");
@@ -230,7 +230,7 @@ void AssumptionsDialogTest::highEndMovesTheNextLowEnd() {
     QCOMPARE(open.FieldText("ecLowEnd3"), "$50,001");
 }
 
-void AssumptionsDialogTest::lowEndIsFormattedNeverChecked() {
+void AssumptionsDialogTest::lowEndIsFormattedButNotChecked() {
     OpenAssumptions open;
     open.Type("ecLowEnd2", "1234");
     open.Press(Qt::Key_Return);
@@ -244,7 +244,7 @@ void AssumptionsDialogTest::lowEndIsFormattedNeverChecked() {
     QVERIFY(open.Outside.Messages.empty());
 }
 
-void AssumptionsDialogTest::realEstateHalfDependsOnHowItIsLeft() {
+void AssumptionsDialogTest::realEstateRateOfOneHalfDependsOnTheWayOut() {
     OpenAssumptions open;
     open.Type("ecRealEstateTaxPct", "0.5");
     open.Press(Qt::Key_Return);
@@ -276,7 +276,7 @@ void AssumptionsDialogTest::multiplierStaysAsTyped() {
     QCOMPARE(open.Focused(), "PMI_Multiplier2");
 }
 
-void AssumptionsDialogTest::clickSelectsButInTheTaxRows() {
+void AssumptionsDialogTest::clickSelectsExceptInTheTaxRows() {
     OpenAssumptions open;
     for (const char* field : {"ecInsurancePct", "FER2", "PMI_Multiplier3", "ecPV_Term"}) {
         ClickAt(open.Find(field));

@@ -10,7 +10,7 @@ using namespace Ledgrove;
 
 namespace {
 
-/// Every field has a spoken name of its own, and can be found by its control name.
+/// Every field has a different spoken name and can be found by its control name.
 void CheckFieldNames(const QWidget& form) {
     QSet<QString> spoken;
     const auto fields = form.findChildren<QLineEdit*>();
@@ -33,17 +33,17 @@ class DialogAccessTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void noMnemonicIsGivenTwice();
+    void mnemonicsAreUnique();
     void mnemonicsReachTheirFields();
     void fieldsAreNamedCaptionAndColumn();
-    void tabOrderOfTheHousesFollowsTheEye();
-    void tabOrderOfTheAssumptionsFollowsTheEye();
-    void tabOrderOfTheOptionsFollowsTheEye();
+    void tabOrderOfTheHousesFollowsTheLayout();
+    void tabOrderOfTheAssumptionsFollowsTheLayout();
+    void tabOrderOfTheOptionsFollowsTheLayout();
     void enterPressesOnlyTheFocusedButton();
     void dialogsAreCentred();
 };
 
-void DialogAccessTest::noMnemonicIsGivenTwice() {
+void DialogAccessTest::mnemonicsAreUnique() {
     QCOMPARE(Mnemonics(*OpenHouses().Window), "ACDEHINORSU");
     QCOMPARE(Mnemonics(*OpenAssumptions().Window), "ABCEFGHILMOPRTVY");
     QCOMPARE(Mnemonics(*OpenOptions().Window), "12CHO");
@@ -99,7 +99,7 @@ void DialogAccessTest::fieldsAreNamedCaptionAndColumn() {
     QCOMPARE(SpokenName(options.Find("ecFeat2")), "Option 2");
 }
 
-void DialogAccessTest::tabOrderOfTheHousesFollowsTheEye() {
+void DialogAccessTest::tabOrderOfTheHousesFollowsTheLayout() {
     OpenHouses open;
     const QStringList view = {"lbHomes", "bAdd", "bEdit", "bDelete", "bOK", "bCancel", "bHelp", "lbHomes"};
     QCOMPARE(open.TabWalk("lbHomes", view.size()), view);
@@ -109,7 +109,7 @@ void DialogAccessTest::tabOrderOfTheHousesFollowsTheEye() {
     QCOMPARE(open.TabWalk("ecStdCost", edit.size()), edit);
 }
 
-void DialogAccessTest::tabOrderOfTheAssumptionsFollowsTheEye() {
+void DialogAccessTest::tabOrderOfTheAssumptionsFollowsTheLayout() {
     OpenAssumptions open;
     QStringList expected;
     for (int row = 1; row <= 4; ++row)
@@ -128,7 +128,7 @@ void DialogAccessTest::tabOrderOfTheAssumptionsFollowsTheEye() {
     QCOMPARE(open.TabWalk("PMI_Multiplier1", expected.size()), expected);
 }
 
-void DialogAccessTest::tabOrderOfTheOptionsFollowsTheEye() {
+void DialogAccessTest::tabOrderOfTheOptionsFollowsTheLayout() {
     OpenOptions open;
     const QStringList expected = {"ecFeat1", "ecFeat2", "bOK", "bCancel", "bHelp", "ecFeat1"};
     QCOMPARE(open.TabWalk("ecFeat1", expected.size()), expected);

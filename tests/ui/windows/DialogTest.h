@@ -10,18 +10,18 @@
 #include "ui/windows/frmHomeSelection.h"
 #include "ui/windows/frmOptions.h"
 
-// What the tests of the dialogs share.
+// Shared by the tests of the dialogs.
 namespace Ledgrove {
 
-/// A folder with the shipped settings, and a session started on them.
+/// A folder with the shipped settings, and a session started from them.
 struct SettingsDesk {
     SettingsDesk();
 
     QByteArray Settings() const;
     void WriteSettings(const QByteArray& content) const;
-    /// The settings' lines of this key, in file order.
+    /// The settings file's lines of this key, in file order.
     QByteArrayList Lines(const QByteArray& key) const;
-    /// A folder stands where a save wants to write its temporary file.
+    /// Puts a folder in place of the temporary file that a save writes.
     void MakeUnwritable() const;
 
     QTemporaryDir Folder;
@@ -29,7 +29,7 @@ struct SettingsDesk {
     RecordingHost Outside;
 };
 
-/// A dialog in front, on the shipped settings or what `prepare` makes of them.
+/// An open dialog with the shipped settings, or with those that `prepare` makes.
 template <typename Dialog, typename Record, auto Fill>
 struct OpenDialog : SettingsDesk, FormDriver {
     explicit OpenDialog(const std::function<void(SettingsDesk&)>& prepare = {}) {

@@ -20,7 +20,8 @@ struct OpenProgram : SettingsDesk, FormDriver {
             qFatal("the window does not become active");
     }
 
-    /// Presses the button, and `act`s on the dialog that it opens; its name, "" for none.
+    /// Presses the button and runs `act` on the dialog that it opens; returns the dialog's name, or "" for
+    /// none.
     QString PressButton(const char* button, const std::function<void(QDialog&)>& act) {
         QString opened;
         QTimer::singleShot(0, [&] {
@@ -76,7 +77,7 @@ void DialogsTest::chosenHouseIsCompared() {
     open.PressButton("bHouses", [](QDialog& dialog) { dialog.accept(); });
     QCOMPARE(open.LabelText("lblHomeName"), "The Alder");
     QCOMPARE(open.FieldText("ecStdHome"), "$285,000");
-    QCOMPARE(open.LabelText("lblStdHome"), "$285,000"); // the recalculation's own label of the price
+    QCOMPARE(open.LabelText("lblStdHome"), "$285,000"); // the recalculation's label of the price
     open.Type("ecStdHome", "290000");
     open.Press(Qt::Key_Return);
     QCOMPARE(open.LabelText("lblHomeName"), "Custom");

@@ -78,16 +78,16 @@ private slots:
     void emptyFieldBecomesZeroWhenLeft();
     void leavingForCancelOrExitNeverComplains_data();
     void leavingForCancelOrExitNeverComplains();
-    void pressThatLeftARefusedFieldDoesNotAct();
-    void pressThatLeftARefusedFieldOpensNoList();
-    void pressAfterTheMessageBoxDoesNotAct();
+    void pressThatLeavesARefusedFieldDoesNothing();
+    void pressThatLeavesARefusedFieldOpensNoList();
+    void pressBeforeTheMessageBoxDoesNothing();
     void nextPressActsAgain();
     void refusalTouchesNoOtherField();
     void mnemonicOfAButtonActsOnlyAfterCommit();
-    void wheelTurnsNoListWithoutFocus();
+    void wheelDoesNotChangeAListWithoutFocus();
     void clickAndFocusSelectAll();
-    void draggedSelectionStays();
-    void textSetFromOutsideIsAChange();
+    void draggedSelectionIsKept();
+    void textSetByCodeIsAChange();
     void anotherWindowInFrontCommitsNothing();
 };
 
@@ -174,7 +174,7 @@ void EntryFieldTest::leavingForCancelOrExitNeverComplains() {
     QVERIFY(target->hasFocus());
 }
 
-void EntryFieldTest::pressThatLeftARefusedFieldDoesNotAct() {
+void EntryFieldTest::pressThatLeavesARefusedFieldDoesNothing() {
     RecordingHost host;
     Form form(host);
     QSignalSpy pressed(form.Other, &QPushButton::pressed);
@@ -187,7 +187,7 @@ void EntryFieldTest::pressThatLeftARefusedFieldDoesNotAct() {
     QVERIFY(!form.Other->isDown());
 }
 
-void EntryFieldTest::pressThatLeftARefusedFieldOpensNoList() {
+void EntryFieldTest::pressThatLeavesARefusedFieldOpensNoList() {
     RecordingHost host;
     Form form(host);
     QTest::keyClicks(form.First, "abc");
@@ -197,7 +197,7 @@ void EntryFieldTest::pressThatLeftARefusedFieldOpensNoList() {
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-void EntryFieldTest::pressAfterTheMessageBoxDoesNotAct() {
+void EntryFieldTest::pressBeforeTheMessageBoxDoesNothing() {
     QtHost host;
     Form form(host);
     QTest::keyClicks(form.First, "abc");
@@ -212,7 +212,7 @@ void EntryFieldTest::pressAfterTheMessageBoxDoesNotAct() {
     answer.start(10);
     ClickAt(*form.Other);
     QCOMPARE(boxes, 1);
-    // Without a window manager nobody brings the form back to the front.
+    // Without a window manager, the test itself must activate the form again.
     form.Window.activateWindow();
     QTRY_VERIFY(form.First->hasFocus());
     QCOMPARE(form.First->selectedText(), "abc");
@@ -256,7 +256,7 @@ void EntryFieldTest::mnemonicOfAButtonActsOnlyAfterCommit() {
     QCOMPARE(form.First->text(), "$5");
 }
 
-void EntryFieldTest::wheelTurnsNoListWithoutFocus() {
+void EntryFieldTest::wheelDoesNotChangeAListWithoutFocus() {
     RecordingHost host;
     Form form(host);
     const QPointF middle = form.List->rect().center();
@@ -285,11 +285,11 @@ void EntryFieldTest::clickAndFocusSelectAll() {
     QCOMPARE(form.First->selectedText(), "$123");
 }
 
-void EntryFieldTest::draggedSelectionStays() {
+void EntryFieldTest::draggedSelectionIsKept() {
     RecordingHost host;
     Form form(host);
     QTest::keyClicks(form.First, "123456");
-    // From the start of the text over its first digits.
+    // From the start of the text across its first digits.
     const int y = form.First->height() / 2;
     const int digits = form.First->fontMetrics().horizontalAdvance("123");
     QTest::mousePress(form.First, Qt::LeftButton, {}, {2, y});
@@ -302,7 +302,7 @@ void EntryFieldTest::draggedSelectionStays() {
     QVERIFY(form.First->selectedText().size() < 6);
 }
 
-void EntryFieldTest::textSetFromOutsideIsAChange() {
+void EntryFieldTest::textSetByCodeIsAChange() {
     RecordingHost host;
     Form form(host);
     form.First->setText("99");

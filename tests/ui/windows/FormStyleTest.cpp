@@ -1,4 +1,4 @@
-// The frames of the program's style beside those of the toolkit's.
+// Compares the frames of the program's style with those of Qt's.
 
 #include "ui/windows/FormStyle.h"
 
@@ -18,9 +18,9 @@ using Ledgrove::FormStyle;
 namespace {
 
 constexpr QSize formSize(300, 400);
-constexpr int roundedCorners = 4 * 5; // pixels of a group's frame, which is not rounded
+constexpr int roundedCorners = 4 * 5; // pixels of a group's frame, which FormStyle does not round
 
-/// What differs between the two pictures, of 255, at one pixel.
+/// The largest difference between the two pictures at one pixel, from 0 to 255.
 int Difference(const QImage& one, const QImage& other, int x, int y) {
     const QColor a = one.pixelColor(x, y);
     const QColor b = other.pixelColor(x, y);
@@ -44,7 +44,7 @@ QImage Painted(QWidget& widget, QStyle& style) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-/// The same widget in the style named, on its own and as the base of the program's.
+/// The same widget in a Qt style, and in the program's style on top of that style.
 struct Pictures {
     QImage Plain;
     QImage Form;
@@ -79,12 +79,12 @@ private slots:
     void ATabsFrameIsTheToolkits();
     void AGroupsFrameIsNearlyTheToolkits();
     void AFieldsFrameIsTheToolkits();
-    void FieldsOfAnotherColourAreDrawnAnew();
-    void OtherStylesAreLeftAlone();
+    void FieldsOfAnotherColourAreRedrawn();
+    void OtherStylesAreNotChanged();
     void ANarrowMenuBarHasItsArrow();
 };
 
-// First of all tests: the others paint with the toolkit's own frames, whose threads stay.
+// This must be the first test: the others paint Qt's own frames, and the threads for that stay.
 void FormStyleTest::FramesStartNoThread() {
     FormStyle style(QStyleFactory::create("fusion"));
     const qsizetype before = Threads();
@@ -125,7 +125,7 @@ void FormStyleTest::AFieldsFrameIsTheToolkits() {
     }
 }
 
-void FormStyleTest::FieldsOfAnotherColourAreDrawnAnew() {
+void FormStyleTest::FieldsOfAnotherColourAreRedrawn() {
     FormStyle style(QStyleFactory::create("fusion"));
     QLineEdit field;
     const QImage light = Painted(field, style);
@@ -135,7 +135,7 @@ void FormStyleTest::FieldsOfAnotherColourAreDrawnAnew() {
     field.setStyle(nullptr);
 }
 
-void FormStyleTest::OtherStylesAreLeftAlone() {
+void FormStyleTest::OtherStylesAreNotChanged() {
     QGroupBox group("Homes");
     QTabWidget tabs;
     tabs.addTab(new QWidget, "Welcome");

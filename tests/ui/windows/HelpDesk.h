@@ -10,7 +10,7 @@
 #include "ui/windows/HelpPrinter.h"
 #include "ui/windows/HelpWindow.h"
 
-// What the tests of the help share.
+// Shared by the tests of the help.
 namespace Ledgrove {
 
 inline constexpr const char* LongHelp =
@@ -27,7 +27,7 @@ inline void WriteHelpFile(const QTemporaryDir& folder, const QByteArray& content
     file.write(content);
 }
 
-/// A window that prints the help that is open above it.
+/// A window that prints the help opened above it.
 class PrintingWindow : public QWidget, public HelpPrinter {
 public:
     void PrintHelp(const QTextDocument& help, QWidget& above) override {
@@ -39,7 +39,7 @@ public:
     QWidget* Above = nullptr;
 };
 
-/// The help window in front, at a topic of a help of several screens.
+/// The help window, open at a topic of a help of several screens.
 template <typename Owner = QWidget>
 struct OpenHelp : FormDriver {
     explicit OpenHelp(const QString& anchor = "ctx501") {

@@ -13,17 +13,17 @@ class HelpReadingTest : public QObject {
 
 private slots:
     void topicIsScrolledTo();
-    void unknownTopicIsToldAndShowsTheStart();
+    void unknownTopicIsReportedAndShowsTheStart();
     void backForwardAndContents();
     void linksWithinTheHelpAreFollowed();
-    void linksOutOfTheHelpAreNotOpened();
-    void nothingElseIsRead();
+    void linksOutsideTheHelpAreNotOpened();
+    void otherFilesAreNotRead();
     void escapeLeavesTheSearchThenTheWindow();
     void controlWCloses();
     void zoomByKeysAndWheel();
     void zoomKeepsThePlace();
     void printsThroughTheWindowBelow();
-    void withoutPrinterTheButtonIsClosed();
+    void withoutPrinterTheButtonIsDisabled();
     void mnemonicsAndNames();
     void tabOrder();
     void fitsASmallScreen();
@@ -40,7 +40,7 @@ void HelpReadingTest::topicIsScrolledTo() {
     QCOMPARE(open.Status(), "");
 }
 
-void HelpReadingTest::unknownTopicIsToldAndShowsTheStart() {
+void HelpReadingTest::unknownTopicIsReportedAndShowsTheStart() {
     OpenHelp<> open("ctx504");
     open.Open("ctxHouses");
     QCOMPARE(open.Text().verticalScrollBar()->value(), 0);
@@ -57,7 +57,7 @@ void HelpReadingTest::backForwardAndContents() {
     QVERIFY(open.Find("bForward").isEnabled());
     ClickAt(open.Find("bForward"));
     QCOMPARE(open.Topic(), "ctx504");
-    // the pressed button closed, and the keyboard is where one reads on
+    // The pressed button is now disabled, so the focus must be on the text.
     QVERIFY(open.Text().hasFocus());
     ClickAt(open.Find("bContents"));
     QCOMPARE(open.Text().verticalScrollBar()->value(), 0);
@@ -79,27 +79,27 @@ void HelpReadingTest::linksWithinTheHelpAreFollowed() {
     QCOMPARE(open.TopLine(), "Cash topic");
 }
 
-void HelpReadingTest::linksOutOfTheHelpAreNotOpened() {
+void HelpReadingTest::linksOutsideTheHelpAreNotOpened() {
     OpenHelp<> open("ctx501");
     for (const char* link :
          {"http://example.invalid/", "file:///etc/passwd", "other.html#ctx501", "mailto:x@y"}) {
         open.Click(link);
         QCOMPARE(open.Topic(), "ctx501");
         QVERIFY(open.Text().toPlainText().contains("Welcome topic"));
-        QVERIFY2(open.Status().startsWith("Not opened, because it leads out of the help: "), link);
+        QVERIFY2(open.Status().startsWith("Not opened, because it is outside the help: "), link);
     }
     open.Click("#ctx504");
     QCOMPARE(open.Status(), "");
 }
 
-void HelpReadingTest::nothingElseIsRead() {
+void HelpReadingTest::otherFilesAreNotRead() {
     OpenHelp<> open;
     WriteHelpFile(open.Folder, "secret", "other.txt");
     WriteHelpFile(open.Folder,
                   "<html><head><link rel=\"stylesheet\" href=\"file:///dev/zero\"/></head><body><p>Before</p>"
                   "<img src=\"file:///dev/zero\"/><img src=\"other.txt\"/><p>Behind</p></body></html>",
                   "pictures.html");
-    open.Window->ShowTopic(open.Folder.filePath("pictures.html"), "x"); // reading it all would never end
+    open.Window->ShowTopic(open.Folder.filePath("pictures.html"), "x"); // reading the device would never end
     QVERIFY(open.Text().toPlainText().contains("Behind"));
     const QUrl other = QUrl::fromLocalFile(open.Folder.filePath("other.txt"));
     QVERIFY(!open.Text().loadResource(QTextDocument::HtmlResource, other).isValid());
@@ -165,7 +165,7 @@ void HelpReadingTest::printsThroughTheWindowBelow() {
     QVERIFY(open.Below.Printed.first().contains("Welcome topic"));
     QCOMPARE(open.Below.Above, open.Window);
 
-    // a dialog in between prints through the window that it belongs to
+    // A dialog between them prints through the window that owns it.
     QWidget dialog(&open.Below, Qt::Dialog);
     HelpWindow above(&dialog);
     above.ShowTopic(open.Folder.filePath("LEDGROVE.HLP"), "top");
@@ -174,10 +174,10 @@ void HelpReadingTest::printsThroughTheWindowBelow() {
     QCOMPARE(open.Below.Above, &above);
 }
 
-void HelpReadingTest::withoutPrinterTheButtonIsClosed() {
+void HelpReadingTest::withoutPrinterTheButtonIsDisabled() {
     OpenHelp<> open("top");
     QVERIFY(!open.Find("bPrintHelp").isEnabled());
-    open.Press(Qt::Key_P, Qt::ControlModifier); // and its key does nothing
+    open.Press(Qt::Key_P, Qt::ControlModifier); // and its shortcut does nothing
 }
 
 void HelpReadingTest::mnemonicsAndNames() {

@@ -8,14 +8,14 @@ class HelpSearchTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void searchCountsAndGoesRound();
+    void searchCountsAndWrapsAround();
     void searchStepsBackward();
-    void searchTellsWhatIsNotThere();
-    void searchIsHeard();
+    void searchReportsNoMatch();
+    void screenReaderReadsTheSearch();
     void functionKeysSearch();
 };
 
-void HelpSearchTest::searchCountsAndGoesRound() {
+void HelpSearchTest::searchCountsAndWrapsAround() {
     OpenHelp<> open("top");
     open.Seek("grove");
     QCOMPARE(open.Found(), "1 of 3");
@@ -42,7 +42,7 @@ void HelpSearchTest::searchStepsBackward() {
     QCOMPARE(open.Found(), "3 of 3");
 }
 
-void HelpSearchTest::searchTellsWhatIsNotThere() {
+void HelpSearchTest::searchReportsNoMatch() {
     OpenHelp<> open("top");
     open.Seek("grovex");
     QCOMPARE(open.Found(), "Not found");
@@ -55,7 +55,7 @@ void HelpSearchTest::searchTellsWhatIsNotThere() {
     QVERIFY(open.Find("bFindNext").isEnabled());
 }
 
-void HelpSearchTest::searchIsHeard() {
+void HelpSearchTest::screenReaderReadsTheSearch() {
     OpenHelp<> open("top");
     open.Seek("zz");
     QCOMPARE(SpokenName(open.Find("lblFound")), "Not found");
@@ -65,7 +65,7 @@ void HelpSearchTest::searchIsHeard() {
 
 void HelpSearchTest::functionKeysSearch() {
     OpenHelp<> open("top");
-    open.Press(Qt::Key_F3); // nothing to look for yet
+    open.Press(Qt::Key_F3); // the find field is still empty
     QCOMPARE(open.Focused(), "ecFind");
     open.Seek("grove");
     open.Text().setFocus();

@@ -34,12 +34,12 @@ private slots:
     void f1OpensTheTopicOfTheCurrentTab_data();
     void f1OpensTheTopicOfTheCurrentTab();
     void helpButtonOpensTheTopicToo();
-    void missingFileIsNamedWithItsPlace();
-    void noFileNamedSaysWhereToNameIt();
+    void missingFileIsNamedWithItsFolder();
+    void missingFileNameSaysWhereToSetIt();
     void directoryInPlaceOfTheFileCannotBeRead();
-    void otherFilesInItsPlaceAreTold_data();
-    void otherFilesInItsPlaceAreTold();
-    void unreadableFileIsTold();
+    void unusableFilesAreReported_data();
+    void unusableFilesAreReported();
+    void unreadableFileIsReported();
 };
 
 void HelpWindowTest::f1OpensTheTopicOfTheCurrentTab_data() {
@@ -80,7 +80,7 @@ void HelpWindowTest::helpButtonOpensTheTopicToo() {
     QCOMPARE(ShownHelp(open)->source().fragment(), "ctx501");
 }
 
-void HelpWindowTest::missingFileIsNamedWithItsPlace() {
+void HelpWindowTest::missingFileIsNamedWithItsFolder() {
     QTemporaryDir folder;
     OpenWindow open;
     open.State.Folder = folder.path().toStdString();
@@ -95,7 +95,7 @@ void HelpWindowTest::missingFileIsNamedWithItsPlace() {
     QVERIFY(!ShownHelp(open));
 }
 
-void HelpWindowTest::noFileNamedSaysWhereToNameIt() {
+void HelpWindowTest::missingFileNameSaysWhereToSetIt() {
     const auto complaint = HelpComplaint("/some/folder", " ");
     QVERIFY(complaint);
     QVERIFY(complaint->find("HELPFILE=") != std::string::npos);
@@ -110,20 +110,20 @@ void HelpWindowTest::directoryInPlaceOfTheFileCannotBeRead() {
     QVERIFY(complaint->find("cannot be read: it is a folder") != std::string::npos);
 }
 
-void HelpWindowTest::otherFilesInItsPlaceAreTold_data() {
+void HelpWindowTest::unusableFilesAreReported_data() {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("told");
     QTest::addRow("empty") << QByteArray() << "is empty";
     QTest::addRow("blank") << QByteArray(" \n\r\n ") << "is empty";
     QTest::addRow("zero bytes") << QByteArray(4096, '\0') << "holds no text";
     QTest::addRow("picture") << QByteArray("BM\x36\x04\0\0\0\0", 8) << "holds no text";
-    QTest::addRow("rubbish behind text") << QByteArray("<html>\x01\x02</html>") << "holds no text";
+    QTest::addRow("control bytes in text") << QByteArray("<html>\x01\x02</html>") << "holds no text";
     QTest::addRow("too large") << QByteArray(17 * 1024 * 1024, 'a') << "is too large";
     QTest::addRow("text") << QByteArray("Only words.\r\n\tAnd a tab.") << "";
     QTest::addRow("not UTF-8") << QByteArray("<p>caf\xE9</p>") << "";
 }
 
-void HelpWindowTest::otherFilesInItsPlaceAreTold() {
+void HelpWindowTest::unusableFilesAreReported() {
     QFETCH(QByteArray, content);
     QFETCH(QString, told);
     const auto complaint = ComplaintAbout(content);
@@ -133,15 +133,15 @@ void HelpWindowTest::otherFilesInItsPlaceAreTold() {
     const QString text = QString::fromStdString(*complaint);
     QVERIFY2(text.contains(told), qPrintable(text));
     QVERIFY(text.startsWith("The help file \"LEDGROVE.HLP\" in /"));
-    QVERIFY(text.endsWith("behind HELPFILE= in Ledgrove.ini."));
+    QVERIFY(text.endsWith("after HELPFILE= in Ledgrove.ini."));
 }
 
-void HelpWindowTest::unreadableFileIsTold() {
+void HelpWindowTest::unreadableFileIsReported() {
     const QTemporaryDir folder;
     WriteHelpFile(folder, "<p>Words</p>");
     QVERIFY(QFile::setPermissions(folder.filePath("LEDGROVE.HLP"), QFileDevice::Permissions()));
     if (QFile probe(folder.filePath("LEDGROVE.HLP")); probe.open(QIODevice::ReadOnly))
-        QSKIP("this user may read every file");
+        QSKIP("this user can read every file");
     const auto complaint = HelpComplaint(folder.path().toStdString(), "LEDGROVE.HLP");
     QVERIFY(complaint);
     QVERIFY(complaint->find("cannot be read: ") != std::string::npos);

@@ -17,7 +17,7 @@ void WithoutHouses(SettingsDesk& desk) {
     desk.WriteSettings(kept);
 }
 
-/// What the list shows as its names.
+/// The names that the list shows.
 QStringList Names(const OpenHouses& open) {
     const QAbstractItemModel* model = open.Find<QListView>("lbHomes").model();
     QStringList names;
@@ -40,7 +40,7 @@ QStringList Amounts(const OpenHouses& open) {
 
 enum class Answering { Ok, Cancel };
 
-/// Presses Add, and fills the box that asks for the name by `type`.
+/// Presses Add and fills the box for the name with `type`.
 void Add(const OpenHouses& open, const std::function<void(QInputDialog&)>& type,
          Answering answer = Answering::Ok) {
     bool asked = false;
@@ -70,7 +70,7 @@ private slots:
     void opensOnTheMainScreensHouse();
     void selectingByKeyboardShowsTheAmounts();
     void ctrlClickLeavesTheHouseSelected();
-    void emptyListOffersOnlyToAdd();
+    void emptyListAllowsOnlyAdd();
     void tenThousandHousesAreListed();
     void addAsksForTheName();
     void addedHouseHasTheMainScreensAmounts();
@@ -82,12 +82,12 @@ private slots:
     void deleteRefusedKeepsTheHouse();
     void deletingTheLastHouseEmptiesTheFields();
     void okSavesAndCopiesToTheMainScreen();
-    void otherWaysOutSaveAndCopyNothing_data();
-    void otherWaysOutSaveAndCopyNothing();
+    void otherWaysToCloseSaveAndCopyNothing_data();
+    void otherWaysToCloseSaveAndCopyNothing();
     void unwritableFolderKeepsTheDialogOpen_data();
     void unwritableFolderKeepsTheDialogOpen();
-    void anUnwritableFolderIsNoTrap_data();
-    void anUnwritableFolderIsNoTrap();
+    void anUnwritableFolderDoesNotBlockClosing_data();
+    void anUnwritableFolderDoesNotBlockClosing();
 };
 
 void HomeSelectionTest::opensOnTheFirstHouseInViewMode() {
@@ -126,7 +126,7 @@ void HomeSelectionTest::ctrlClickLeavesTheHouseSelected() {
     QCOMPARE(SelectedName(open), "The Alder");
 }
 
-void HomeSelectionTest::emptyListOffersOnlyToAdd() {
+void HomeSelectionTest::emptyListAllowsOnlyAdd() {
     OpenHouses open(WithoutHouses);
     QVERIFY(Names(open).isEmpty());
     QVERIFY(open.Find("bAdd").isEnabled());
@@ -271,13 +271,13 @@ void HomeSelectionTest::okSavesAndCopiesToTheMainScreen() {
     QCOMPARE(open.State.ChosenHouse.Name, "The Birch");
 }
 
-void HomeSelectionTest::otherWaysOutSaveAndCopyNothing_data() {
+void HomeSelectionTest::otherWaysToCloseSaveAndCopyNothing_data() {
     QTest::addColumn<QString>("way");
     for (const char* way : {"bCancel", "Escape", "close button"})
         QTest::addRow("%s", way) << way;
 }
 
-void HomeSelectionTest::otherWaysOutSaveAndCopyNothing() {
+void HomeSelectionTest::otherWaysToCloseSaveAndCopyNothing() {
     QFETCH(QString, way);
     OpenHouses open;
     AddNamed(open, "Lot 7");
@@ -319,13 +319,13 @@ void HomeSelectionTest::unwritableFolderKeepsTheDialogOpen() {
     QCOMPARE(open.State.Screen.lblHomeName.Text, "Custom");
 }
 
-void HomeSelectionTest::anUnwritableFolderIsNoTrap_data() {
+void HomeSelectionTest::anUnwritableFolderDoesNotBlockClosing_data() {
     QTest::addColumn<QString>("way");
     for (const char* way : {"bCancel", "Escape", "close button"})
         QTest::addRow("%s", way) << way;
 }
 
-void HomeSelectionTest::anUnwritableFolderIsNoTrap() {
+void HomeSelectionTest::anUnwritableFolderDoesNotBlockClosing() {
     QFETCH(QString, way);
     OpenHouses open;
     const auto leave = [&open, &way] {

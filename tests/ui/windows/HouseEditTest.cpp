@@ -7,18 +7,18 @@ class HouseEditTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void editOpensTheFieldsAndClosesTheRest();
+    void editEnablesTheFieldsAndDisablesTheRest();
     void plausibleEditIsStoredWithoutAsking();
     void implausibleEditAsksAndGoesBack();
     void implausibleEditAsksAndIsStored();
     void refusedAmountIsNotStored();
-    void cancelEditShowsTheStoredAmountsWithoutComplaint();
+    void cancelEditShowsTheStoredAmountsWithoutAMessage();
     void escapeCancelsTheEditFirst();
     void enterInAFieldRecalculatesTheMainScreen();
-    void closeButtonLeavesTheEditUnstored();
+    void closeButtonDoesNotStoreTheEdit();
 };
 
-void HouseEditTest::editOpensTheFieldsAndClosesTheRest() {
+void HouseEditTest::editEnablesTheFieldsAndDisablesTheRest() {
     OpenHouses open;
     open.Press(Qt::Key_E, Qt::AltModifier);
     QTRY_COMPARE(open.Focused(), "ecStdCost");
@@ -89,7 +89,7 @@ void HouseEditTest::refusedAmountIsNotStored() {
     QVERIFY(open.Shown.Editing);
 }
 
-void HouseEditTest::cancelEditShowsTheStoredAmountsWithoutComplaint() {
+void HouseEditTest::cancelEditShowsTheStoredAmountsWithoutAMessage() {
     OpenHouses open;
     ClickAt(open.Find("bEdit"));
     open.Type("ecStdUtil", "abc");
@@ -122,7 +122,7 @@ void HouseEditTest::enterInAFieldRecalculatesTheMainScreen() {
     QCOMPARE(open.State.Screen.lblStdInc.Text, "$1,680");
 }
 
-void HouseEditTest::closeButtonLeavesTheEditUnstored() {
+void HouseEditTest::closeButtonDoesNotStoreTheEdit() {
     OpenHouses open;
     ClickAt(open.Find("bEdit"));
     open.Type("ecStdCost", "-1");

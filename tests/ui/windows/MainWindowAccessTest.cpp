@@ -12,7 +12,7 @@ using namespace Ledgrove;
 
 namespace {
 
-/// Every text of the window in which "&" marks a mnemonic.
+/// All texts of the window in which "&" marks a mnemonic.
 QStringList MnemonicTextsAndTabs(const OpenWindow& open) {
     QStringList texts = MnemonicTexts(*open.Window);
     const QTabBar* bar = open.Find<ResultPanels>("SSTab1").tabBar();
@@ -27,20 +27,20 @@ class MainWindowAccessTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void noMnemonicIsGivenTwice();
+    void mnemonicsAreUnique();
     void mnemonicsReachTheirControls();
     void everyCaptionIsItsFieldsBuddy();
     void fieldsAreNamedCaptionAndColumn();
-    void pickListsAreDescribedAndSayTheirChoice();
-    void resultsAreDescribedAndSayTheirText();
+    void pickListsHaveADescriptionAndTheirChoice();
+    void resultsHaveADescriptionAndTheirText();
     void descriptionFollowsTheCaption();
-    void tabOrderFollowsTheEye();
+    void tabOrderFollowsTheLayout();
 };
 
-void MainWindowAccessTest::noMnemonicIsGivenTwice() {
+void MainWindowAccessTest::mnemonicsAreUnique() {
     OpenWindow open;
-    // Eight captions of fields, two options, the check box, five tabs, a button: the other letters are the
-    // menus'.
+    // Eight captions of fields, two options, the check box, five tabs and a button; the menus use other
+    // letters.
     QCOMPARE(Mnemonics(MnemonicTextsAndTabs(open)), "ABCDGILMNOPRSUWXY");
 }
 
@@ -88,7 +88,7 @@ void MainWindowAccessTest::fieldsAreNamedCaptionAndColumn() {
     QCOMPARE(std::size_t(all.size()), MainEntryRules().size());
 }
 
-void MainWindowAccessTest::pickListsAreDescribedAndSayTheirChoice() {
+void MainWindowAccessTest::pickListsHaveADescriptionAndTheirChoice() {
     OpenWindow open;
     QCOMPARE(open.Find("cboMortTerm").accessibleDescription(), "Term, Base Home");
     QCOMPARE(open.Find("cboGMHMortOption").accessibleDescription(), "Mortgage Option, GREENMARK Home");
@@ -99,7 +99,7 @@ void MainWindowAccessTest::pickListsAreDescribedAndSayTheirChoice() {
     }
 }
 
-void MainWindowAccessTest::resultsAreDescribedAndSayTheirText() {
+void MainWindowAccessTest::resultsHaveADescriptionAndTheirText() {
     OpenWindow open;
     QCOMPARE(open.Find("lblStdMaxHome").accessibleDescription(), "Maximum Loan Value, Base Home");
     QCOMPARE(open.Find("lblGMHQual").accessibleDescription(), "Buyer Qualifies?, GREENMARK Home");
@@ -119,9 +119,9 @@ void MainWindowAccessTest::descriptionFollowsTheCaption() {
     QCOMPARE(open.Find("lblAddMortMo").accessibleDescription(), "Additional Mortgage, Monthly");
 }
 
-void MainWindowAccessTest::tabOrderFollowsTheEye() {
+void MainWindowAccessTest::tabOrderFollowsTheLayout() {
     OpenWindow open;
-    // The disabled buttons and the option that is not chosen are passed over.
+    // Tab skips the disabled buttons and the unselected option.
     const QStringList expected = {
         "ecIncome",         "ecMonthlyDebt",    "optDownPayment0", "ecPctDown", "ecFixedDown",
         "chkDoTax0",        "ecStdHome",        "ecGMHHome",       "ecStdUtil", "ecGMHUtil",

@@ -50,7 +50,7 @@ private slots:
     void arrowsInsideAnOpenListStayThere();
     void arrowOutOfARefusedFieldStays();
     void baseOptionRefillsTheLabelledList();
-    void fannieMaeMessageComesEveryTime();
+    void fannieMaeMessageAppearsEveryTime();
     void termIsMirrored();
     void downPaymentOptionSwapsColours();
     void tabChangeRunsTheDataCheckAndShowsThePanel();
@@ -77,7 +77,7 @@ void MainWindowEntryTest::everyInputReachesTheResults() {
     QVERIFY(open.Outside.Messages.empty());
     QCOMPARE(open.FieldText("ecPctDown"), "10.00%");
     QCOMPARE(open.LabelText("lblStdDown"), "$20,000");      // 10 % of 200,000
-    QCOMPARE(open.LabelText("lblStdMortgage"), "$180,000"); // 200,000 less 20,000
+    QCOMPARE(open.LabelText("lblStdMortgage"), "$180,000"); // 200,000 - 20,000
     QCOMPARE(open.LabelText("lblgmhDown"), "$20,600");      // 10 % of 206,000
     QCOMPARE(open.LabelText("lblGMHMort"), "$185,400");
     QCOMPARE(open.LabelText("lblStdUtilMo"), "$200"); // 2,400 / 12
@@ -194,7 +194,7 @@ void MainWindowEntryTest::baseOptionRefillsTheLabelledList() {
     QCOMPARE(labelled.itemText(1), "VA EEM");
 }
 
-void MainWindowEntryTest::fannieMaeMessageComesEveryTime() {
+void MainWindowEntryTest::fannieMaeMessageAppearsEveryTime() {
     OpenWindow open;
     open.Choose("cboGMHMortOption", "Fannie Mae EEM");
     open.Choose("cboGMHMortOption", "Fannie Mae EEM");

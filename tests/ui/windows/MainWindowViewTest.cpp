@@ -25,15 +25,15 @@ class MainWindowViewTest : public QObject {
 private slots:
     void everyLabelOfTheRecordIsShownOnce();
     void everyInputOfTheRecordIsShownOnce();
-    void refreshShowsWhatTheRecordHolds();
+    void refreshShowsTheRecord();
     void refreshKeepsTheCursorOfAnUnchangedField();
-    void refreshIsNotTyping();
+    void refreshDoesNotCountAsTyping();
     void redIsReadableOnLightAndDark();
     void hiddenTaxLabelsKeepTheLayout();
     void panelsKeepTheirPlaceWhenFiguresGrow();
-    void tooLongFigureShowsNoPartOfItsDigits();
-    void longHouseNameWidensNothing();
-    void longFeatureSqueezesNothing();
+    void tooLongFigureIsElided();
+    void longHouseNameDoesNotWidenTheWindow();
+    void longFeatureDoesNotNarrowTheOthers();
     void enterPressesTheFocusedButton();
     void captionsOfTabsAndButtons();
     void footnoteShowsOneAmpersand();
@@ -41,9 +41,9 @@ private slots:
     void buttonsOfMissingDialogsAreDisabledWithATip();
     void actionsEnableTheirButtons();
     void printRunsTheDataCheckFirst();
-    void tipsTellThePaymentsApart();
+    void toolTipsDistinguishThePayments();
     void windowFitsASmallScreen();
-    void closingTellsTheProgram();
+    void closingNotifiesTheProgram();
 };
 
 void MainWindowViewTest::everyLabelOfTheRecordIsShownOnce() {
@@ -63,7 +63,7 @@ void MainWindowViewTest::everyInputOfTheRecordIsShownOnce() {
     QVERIFY(!open.Window->findChild<QWidget*>("ecSaveRate"));
 }
 
-void MainWindowViewTest::refreshShowsWhatTheRecordHolds() {
+void MainWindowViewTest::refreshShowsTheRecord() {
     OpenWindow open;
     MainScreen& screen = open.State.Screen;
     for (const auto& entry : LabelTable())
@@ -94,7 +94,7 @@ void MainWindowViewTest::refreshKeepsTheCursorOfAnUnchangedField() {
     QCOMPARE(field.cursorPosition(), 2);
 }
 
-void MainWindowViewTest::refreshIsNotTyping() {
+void MainWindowViewTest::refreshDoesNotCountAsTyping() {
     OpenWindow open;
     open.State.Scenario.EEMNoticeFlag = false;
     open.State.Screen.ecStdHome.Text = "5";
@@ -148,9 +148,9 @@ void MainWindowViewTest::panelsKeepTheirPlaceWhenFiguresGrow() {
     QCOMPARE(open.Window->size(), window);
 }
 
-void MainWindowViewTest::tooLongFigureShowsNoPartOfItsDigits() {
-    // Of a figure that does not fit, the first digits and dots are shown, as of any such figure: two that
-    // differ only behind look alike.
+void MainWindowViewTest::tooLongFigureIsElided() {
+    // A figure that does not fit shows its first digits and dots, so two figures that differ only after those
+    // digits look the same.
     QLabel caption("Sticker Price");
     ResultLabel shorter("lblStdHome", caption, "Base Home");
     ResultLabel longer("lblStdHome", caption, "Base Home");
@@ -163,7 +163,7 @@ void MainWindowViewTest::tooLongFigureShowsNoPartOfItsDigits() {
     QCOMPARE(longer.text(), "$" + QString(80, '9'));
 }
 
-void MainWindowViewTest::longHouseNameWidensNothing() {
+void MainWindowViewTest::longHouseNameDoesNotWidenTheWindow() {
     OpenWindow open;
     const QSize smallest = open.Window->minimumSizeHint();
     const QSize size = open.Window->size();
@@ -176,7 +176,7 @@ void MainWindowViewTest::longHouseNameWidensNothing() {
     QCOMPARE(open.LabelText("lblHomeName"), QString::fromStdString(name));
 }
 
-void MainWindowViewTest::longFeatureSqueezesNothing() {
+void MainWindowViewTest::longFeatureDoesNotNarrowTheOthers() {
     OpenWindow open;
     open.Find<ResultPanels>("SSTab1").setCurrentIndex(2);
     const QSize size = open.Window->size();
@@ -273,7 +273,7 @@ void MainWindowViewTest::printRunsTheDataCheckFirst() {
     QCOMPARE(host.Messages.front().Title, std::string("Ledgrove Data Check"));
 }
 
-void MainWindowViewTest::tipsTellThePaymentsApart() {
+void MainWindowViewTest::toolTipsDistinguishThePayments() {
     OpenWindow open;
     for (const char* label : {"lblStdPITI", "lblGMHPITI"})
         QCOMPARE(open.Find(label).toolTip(), "Principal, interest, taxes, insurance and PMI per month");
@@ -287,7 +287,7 @@ void MainWindowViewTest::windowFitsASmallScreen() {
     QVERIFY(open.Window->minimumSizeHint().height() <= 740);
 }
 
-void MainWindowViewTest::closingTellsTheProgram() {
+void MainWindowViewTest::closingNotifiesTheProgram() {
     OpenWindow open;
     QSignalSpy closed(open.Window.get(), &frmMain::Closed);
     open.Window->close();

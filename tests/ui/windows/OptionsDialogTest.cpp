@@ -10,7 +10,7 @@ using namespace Ledgrove;
 
 namespace {
 
-/// There is a monthly difference to spend, so the features are shown.
+/// Sets a monthly difference, so that the tab shows the features.
 void WithDifference(SettingsDesk& desk) {
     desk.State.Scenario.PVNetCashFlow = 100;
 }
@@ -26,10 +26,10 @@ private slots:
     void leavingAFieldChecksNothing();
     void okShowsAndSavesTheFeatures();
     void eachSaveAppendsTwoLines();
-    void cancelLeavesTheFileByteForByte();
+    void cancelDoesNotChangeTheFile();
     void refusedCharacterKeepsTheDialogOpen();
     void helpButtonOpensTheDialogsTopic();
-    void missingHelpIsTold();
+    void missingHelpIsReported();
 };
 
 void OptionsDialogTest::showsTheFeatures() {
@@ -83,7 +83,7 @@ void OptionsDialogTest::okShowsAndSavesTheFeatures() {
 void OptionsDialogTest::eachSaveAppendsTwoLines() {
     OpenOptions open;
     const QByteArray before = open.Settings();
-    // The shipped file names no logo; the text that stands for none is written, too.
+    // The shipped file has no logo; the save also writes the placeholder text.
     const QByteArray appended = "BUILDERNAME=\r\nLOGOFILE=Full Path To Logo File\r\n";
     ClickAt(open.Find("bOK"));
     QCOMPARE(open.Settings(), before + appended);
@@ -93,7 +93,7 @@ void OptionsDialogTest::eachSaveAppendsTwoLines() {
     QCOMPARE(open.Settings(), before + appended + appended);
 }
 
-void OptionsDialogTest::cancelLeavesTheFileByteForByte() {
+void OptionsDialogTest::cancelDoesNotChangeTheFile() {
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_unknown}) {
         OpenOptions open(WithDifference);
         const QByteArray before = open.Settings();
@@ -137,7 +137,7 @@ void OptionsDialogTest::helpButtonOpensTheDialogsTopic() {
     QVERIFY(open.Outside.Messages.empty());
 }
 
-void OptionsDialogTest::missingHelpIsTold() {
+void OptionsDialogTest::missingHelpIsReported() {
     OpenOptions open;
     open.Press(Qt::Key_F1);
     QCOMPARE(open.Outside.Messages.size(), std::size_t(1));

@@ -18,7 +18,7 @@ struct Seen {
     QMessageBox::StandardButtons Buttons;
 };
 
-/// Answers the next message box with `button` and tells what it showed.
+/// Answers the next message box with `button` and records what it showed.
 MessageAnswer Answer(const Message& message, QMessageBox::StandardButton button, Seen& seen) {
     QTimer::singleShot(0, [&seen, button] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -35,10 +35,10 @@ class QtHostTest : public QObject {
 
 private slots:
     void messageBoxShowsTitleTextAndOk();
-    void iconIsAsAsked_data();
-    void iconIsAsAsked();
+    void iconMatchesTheRequest_data();
+    void iconMatchesTheRequest();
     void carriageReturnsAreLineBreaks();
-    void markupIsShownAsItStands();
+    void markupIsShownAsPlainText();
     void yesNoGivesTheAnswer();
     void pendingEventsRun();
     void refreshingHostShowsTheRecordFirst();
@@ -52,7 +52,7 @@ void QtHostTest::messageBoxShowsTitleTextAndOk() {
     QCOMPARE(seen.Buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
 }
 
-void QtHostTest::iconIsAsAsked_data() {
+void QtHostTest::iconMatchesTheRequest_data() {
     QTest::addColumn<int>("asked");
     QTest::addColumn<int>("shown");
     QTest::addRow("none") << int(MessageIcon::None) << int(QMessageBox::NoIcon);
@@ -61,7 +61,7 @@ void QtHostTest::iconIsAsAsked_data() {
     QTest::addRow("question") << int(MessageIcon::Question) << int(QMessageBox::Question);
 }
 
-void QtHostTest::iconIsAsAsked() {
+void QtHostTest::iconMatchesTheRequest() {
     QFETCH(int, asked);
     QFETCH(int, shown);
     Seen seen;
@@ -75,7 +75,7 @@ void QtHostTest::carriageReturnsAreLineBreaks() {
     QCOMPARE(seen.Text, "Attention!\n\nOne\nTwo\n");
 }
 
-void QtHostTest::markupIsShownAsItStands() {
+void QtHostTest::markupIsShownAsPlainText() {
     Seen seen;
     Answer({"T", "<b>5</b> & 6"}, QMessageBox::Ok, seen);
     QCOMPARE(seen.Format, Qt::PlainText);

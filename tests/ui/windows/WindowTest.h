@@ -10,10 +10,10 @@
 #include "engine/Session.h"
 #include "ui/windows/frmMain.h"
 
-// What the window tests share.
+// Shared by the window tests.
 namespace Ledgrove {
 
-/// Keeps the messages instead of showing them, and answers all alike.
+/// Keeps the messages instead of showing them, and gives the same answer to all.
 class RecordingHost : public Host {
 public:
     MessageAnswer ShowMessage(const Message& message) override {
@@ -29,7 +29,7 @@ public:
     std::vector<Message> Messages;
 };
 
-/// The screen as it is after start-up: 30 years, 6.5 %, "Conventional", "% Down", loan types as shipped, all
+/// Fills the screen as start-up does: 30 years, 6.5 %, "Conventional", "% Down", the shipped loan types, all
 /// other assumptions 0.
 void FillAsAtStart(Session& session, Host& host);
 
@@ -45,16 +45,16 @@ struct FormDriver {
     QString FieldText(const QString& name) const;
     QString LabelText(const QString& name) const;
     QString Focused() const;
-    /// Selects all of the field and types over it.
+    /// Selects the field's whole text and types over it.
     void Type(const QString& field, const QString& text) const;
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-    /// The controls that Tab walks through, from `first` on, `count` of them.
+    /// The `count` controls that Tab reaches, beginning with `first`.
     QStringList TabWalk(const QString& first, qsizetype count) const;
 
     QWidget* Form = nullptr;
 };
 
-/// The main window in front, on a fresh session.
+/// The open main window with a new session.
 struct OpenWindow : FormDriver {
     OpenWindow();
 
@@ -65,20 +65,20 @@ struct OpenWindow : FormDriver {
     std::unique_ptr<frmMain> Window;
 };
 
-/// Every text of the form's captions and buttons in which "&" marks a mnemonic.
+/// All texts of the form's captions and buttons in which "&" marks a mnemonic.
 QStringList MnemonicTexts(const QWidget& form);
 
-/// The letter that "&" marks; null without one.
+/// The letter that "&" marks, or null.
 QChar MnemonicOf(const QString& text);
 
 /// The mnemonics of these texts in order, or the two texts that share one, "Save and Sort".
 QString Mnemonics(const QStringList& texts);
 QString Mnemonics(const QWidget& form);
 
-/// What a screen reader calls the control.
+/// The control's name for a screen reader.
 QString SpokenName(QWidget& widget);
 
-/// A press and a release in the middle of the widget, as the window system delivers them.
+/// A press and a release in the middle of the widget, as the window system sends them.
 void ClickAt(QWidget& widget);
 
 } // namespace Ledgrove
