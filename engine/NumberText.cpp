@@ -1,5 +1,7 @@
 #include "engine/NumberText.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -12,17 +14,6 @@ namespace {
 
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
-}
-constexpr bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
 }
 
 /// Takes "$" and one sign, in either order, off the front of `text`; true when the sign is a minus.
@@ -260,7 +251,7 @@ std::string WritePlain(const Decimal& decimal, bool negative) {
 } // namespace
 
 std::optional<double> ReadNumber(std::string_view text) {
-    text = TrimBlanks(text);
+    text = Trimmed(text, " \t");
     const bool negative = TakeSignAndCurrency(text);
     const auto value = ReadUnsigned(text);
     if (!value || !std::isfinite(static_cast<float>(*value)))

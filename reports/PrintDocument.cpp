@@ -1,5 +1,6 @@
 #include "reports/PrintDocument.h"
 
+#include "base/Text.h"
 #include "reports/TextWrap.h"
 
 #include <algorithm>
@@ -162,7 +163,7 @@ bool PrintDocument::Paragraph(std::string_view text) {
     if (m_openLineTop != CurrentY)
         m_openLine.clear();
     // Blank text only ends the line, but a blank line too needs its room.
-    if (text.find_first_not_of(' ') != text.npos)
+    if (!IsBlank(text))
         Text(text);
     else if (m_openLine.empty())
         MakeRoom(m_measure.LineHeight(CurrentStyle()));

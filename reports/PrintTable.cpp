@@ -1,4 +1,6 @@
 #include "reports/PrintDocument.h"
+
+#include "base/Text.h"
 #include "reports/TableLayout.h"
 
 #include <algorithm>
@@ -83,7 +85,7 @@ void PrintDocument::PlaceRowLines(const RowLayout& row, std::size_t firstLine, s
             const Twips indent = cell.Align == CellAlign::Left    ? 0
                                  : cell.Align == CellAlign::Right ? free
                                                                   : free / 2;
-            if (text.find_first_not_of(' ') != std::string::npos)
+            if (!IsBlank(text))
                 CurrentPage().push_back(TextRun{Geometry.MarginLeft + cell.X + indent, top,
                                                 top + m_measure.Ascent(style), width, text, style});
             top += lineHeight;

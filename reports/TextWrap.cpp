@@ -1,14 +1,12 @@
 #include "reports/TextWrap.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 
 namespace Ledgrove {
 
 namespace {
-
-bool StartsCharacter(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-}
 
 /// More bytes than fit: no character is narrower than a twip or longer than 4 bytes.
 std::size_t TooLongFor(Twips width) {
@@ -30,10 +28,10 @@ std::size_t FittingLength(std::string_view text, Twips width, const TextStyle& s
         const std::size_t middle = fits + (tooLong - fits) / 2;
         (measure.Width(text.substr(0, middle), style) <= width ? fits : tooLong) = middle;
     }
-    while (fits > 0 && fits < text.size() && !StartsCharacter(text[fits]))
+    while (fits > 0 && fits < text.size() && !BeginsCharacter(text[fits]))
         --fits;
     if (fits == 0)
-        for (fits = 1; fits < text.size() && !StartsCharacter(text[fits]);)
+        for (fits = 1; fits < text.size() && !BeginsCharacter(text[fits]);)
             ++fits;
     return fits;
 }

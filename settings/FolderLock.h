@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/FileAccess.h"
+#include "base/Descriptor.h"
 
 #include <chrono>
 #include <filesystem>

@@ -1,5 +1,6 @@
 #include "settings/HeaderSettings.h"
 
+#include "base/Text.h"
 #include "settings/LineSyntax.h"
 #include "settings/Rewrite.h"
 #include "settings/Windows1252.h"

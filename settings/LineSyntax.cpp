@@ -35,13 +35,6 @@ std::optional<std::size_t> LastLineOf(const FileLines& lines, std::string_view k
     return std::nullopt;
 }
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::optional<std::string_view> FieldSplitter::Next() {
     if (m_rest.empty())
         return std::nullopt;

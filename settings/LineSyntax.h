@@ -44,9 +44,6 @@ std::string_view ValueOf(std::string_view line, std::string_view key);
 /// The last line of the key decides; empty where there is none.
 std::optional<std::size_t> LastLineOf(const FileLines& lines, std::string_view key);
 
-/// Without leading and trailing blanks.
-std::string_view Trimmed(std::string_view text);
-
 /// Takes a list value apart, field by field.
 class FieldSplitter {
 public:

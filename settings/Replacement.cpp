@@ -1,5 +1,6 @@
 #include "settings/Replacement.h"
 
+#include "base/SystemError.h"
 #include "settings/FileAccess.h"
 
 #include <cerrno>

@@ -1,20 +1,18 @@
 #include "settings/SettingsFault.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 
 namespace Ledgrove {
 namespace {
-
-std::string Quoted(const std::string& text) {
-    return '"' + text + '"';
-}
 
 /// A text as a sentence can carry it: no control characters, and an end even for a line of a megabyte.
 std::string Excerpt(std::string text) {
     constexpr std::size_t longest = 80;
     if (text.size() > longest) {
         std::size_t end = longest;
-        while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+        while (end > 0 && !BeginsCharacter(text[end]))
             --end;
         text = text.substr(0, end) + "...";
     }

@@ -1,5 +1,7 @@
 #include "settings/SettingsFile.h"
 
+#include "base/Descriptor.h"
+#include "base/SystemError.h"
 #include "settings/FileAccess.h"
 #include "settings/FolderLock.h"
 #include "settings/Replacement.h"

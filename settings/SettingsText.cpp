@@ -1,5 +1,6 @@
 #include "settings/SettingsText.h"
 
+#include "base/Text.h"
 #include "engine/NumberText.h"
 #include "settings/AssumptionsFile.h"
 #include "settings/HeaderSettings.h"
@@ -94,10 +95,6 @@ Outcome<std::string> LastValue(const SettingsFile& file, const FileLines& lines,
     if (!line)
         return missing;
     return DecodeWindows1252(ValueOf(lines[*line].Text, *bytes));
-}
-
-std::string Quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
 }
 
 std::optional<std::string> CheckText(std::string_view what, std::string_view text) {

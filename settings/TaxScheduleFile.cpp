@@ -1,5 +1,6 @@
 #include "settings/TaxScheduleFile.h"
 
+#include "base/Text.h"
 #include "engine/NumberText.h"
 #include "settings/LineSyntax.h"
 #include "settings/Rewrite.h"

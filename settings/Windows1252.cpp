@@ -1,5 +1,7 @@
 #include "settings/Windows1252.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -81,7 +83,7 @@ std::optional<Utf8Character> FirstCharacter(std::string_view text) {
         return std::nullopt;
     unsigned long codePoint = lead & (0xFFu >> (length + 1));
     for (const char c : text.substr(1, length - 1)) {
-        if ((static_cast<unsigned char>(c) & 0xC0) != 0x80)
+        if (BeginsCharacter(c))
             return std::nullopt;
         codePoint = (codePoint << 6) | (static_cast<unsigned char>(c) & 0x3Fu);
     }

@@ -9,6 +9,7 @@
 #include "app/batch/InputFile.h"
 #include "app/batch/JsonCompare.h"
 #include "app/batch/ParallelJson.h"
+#include "base/Text.h"
 #include "settings/HouseListFile.h"
 #include "ui/HouseScenarios.h"
 
@@ -39,11 +40,11 @@ std::unique_ptr<ComparisonReader> MakeReader(const CompareRequest& request, cons
 
 int ReadFile(const std::string& name, ComparisonReader& reader, OutputBuffer& output) {
     const InputFile file(name);
-    if (file.Descriptor() < 0) {
+    if (file.Number() < 0) {
         ReportUnreadable(name, file.Failure());
         return CannotRun;
     }
-    LineReader lines(file.Descriptor(), [&reader, &output] { reader.BeforeWaiting(output); });
+    LineReader lines(file.Number(), [&reader, &output] { reader.BeforeWaiting(output); });
     const bool allWell = reader.Read(lines, output);
     if (!lines.Failure().empty()) {
         ReportUnreadable(name, lines.Failure());
@@ -61,8 +62,8 @@ std::string StartWithHouse(Session& session, std::string_view name) {
         return Sentence(*fault);
     Module1::SelectHouse(scenarios, Module1::FindHouse(scenarios.Houses, name));
     if (!scenarios.HasSelection())
-        return "There is no house named \"" + std::string(name) + "\" in \"" + file.Path().string() +
-               "\". \"ledgrove-cli settings houses\" lists the saved houses.";
+        return "There is no house named " + Quoted(name) + " in " + Quoted(file.Path().string()) +
+               ". \"ledgrove-cli settings houses\" lists the saved houses.";
     Module1::ChooseHouse(scenarios, session);
     return {};
 }

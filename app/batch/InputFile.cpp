@@ -1,25 +1,27 @@
 #include "app/batch/InputFile.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
 #include <unistd.h>
+
+#include "base/SystemError.h"
+#include "base/Text.h"
 
 namespace Ledgrove {
 
-InputFile::InputFile(const std::string& name)
-    : m_descriptor(name == "-" ? STDIN_FILENO : ::open(name.c_str(), O_RDONLY | O_CLOEXEC)) {
-    if (m_descriptor < 0)
-        m_failure = std::strerror(errno);
+InputFile::InputFile(const std::string& name) {
+    if (name != "-")
+        m_file.emplace(name, O_RDONLY);
 }
 
-InputFile::~InputFile() {
-    if (m_descriptor > STDIN_FILENO)
-        ::close(m_descriptor);
+int InputFile::Number() const {
+    return m_file ? m_file->Number() : STDIN_FILENO;
+}
+
+std::string InputFile::Failure() const {
+    return m_file && !m_file->IsOpen() ? Describe(m_file->OpenError()) : "";
 }
 
 std::string UnreadableInput(const std::string& name, const std::string& reason) {
-    return (name == "-" ? "Standard input" : "\"" + name + "\"") + " cannot be read (" + reason +
+    return (name == "-" ? "Standard input" : Quoted(name)) + " cannot be read (" + reason +
            "). Name a file with the homes to compare.";
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "base/Descriptor.h"
 
 namespace Ledgrove {
 
@@ -8,17 +11,13 @@ namespace Ledgrove {
 class InputFile {
 public:
     explicit InputFile(const std::string& name);
-    ~InputFile();
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
 
-    /// Negative when the file could not be opened; Failure then says why.
-    int Descriptor() const { return m_descriptor; }
-    const std::string& Failure() const { return m_failure; }
+    /// The descriptor's number, negative when the file could not be opened; Failure then says why.
+    int Number() const;
+    std::string Failure() const;
 
 private:
-    int m_descriptor;
-    std::string m_failure;
+    std::optional<Descriptor> m_file; ///< none for standard input
 };
 
 /// The sentence for an input that cannot be read.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/Text.h"
+
 namespace Ledgrove {
 
 void InputRecord::Clear() {
@@ -31,8 +33,8 @@ Refusal UnknownInput(std::string_view name, std::string_view value) {
 }
 
 std::string RefusalSentence(const Refusal& refusal) {
-    return refusal.Message + " (line " + std::to_string(refusal.Line) + ", " + refusal.Control + " \"" +
-           refusal.Value + "\")";
+    return refusal.Message + " (line " + std::to_string(refusal.Line) + ", " + refusal.Control + " " +
+           Quoted(refusal.Value) + ")";
 }
 
 Refusal InputTooLong(std::size_t line) {

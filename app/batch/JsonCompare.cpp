@@ -3,16 +3,9 @@
 #include "app/batch/JsonInput.h"
 #include "app/batch/ObjectInput.h"
 #include "app/batch/TextTable.h"
+#include "base/Text.h"
 
 namespace Ledgrove {
-
-namespace {
-
-bool IsBlank(std::string_view text) {
-    return text.find_first_not_of(" \t\r") == std::string_view::npos;
-}
-
-} // namespace
 
 std::optional<Refusal> JsonLine::Compare(const InputLine& line) {
     if (line.TooLong)
@@ -26,7 +19,7 @@ std::optional<Refusal> JsonLine::Compare(const InputLine& line) {
 }
 
 bool JsonLine::Append(std::string& out, const InputLine& line) {
-    if (IsBlank(line.Text))
+    if (IsBlank(line.Text, " \t\r"))
         return true;
     const auto refusal = Compare(line);
     if (refusal)

@@ -1,9 +1,9 @@
 #include "app/batch/LineReader.h"
 
-#include <cerrno>
-#include <cstring>
-#include <unistd.h>
 #include <utility>
+
+#include "base/Descriptor.h"
+#include "base/SystemError.h"
 
 namespace Ledgrove {
 
@@ -26,14 +26,11 @@ bool LineReader::Fill() {
     m_start = 0;
     const std::size_t held = m_buffer.size();
     m_buffer.resize(held + pieceSize);
-    ssize_t got = 0;
-    do {
-        got = ::read(m_descriptor, m_buffer.data() + held, pieceSize);
-    } while (got < 0 && errno == EINTR);
-    if (got < 0)
-        m_failure = std::strerror(errno);
-    m_buffer.resize(held + static_cast<std::size_t>(got > 0 ? got : 0));
-    m_ended = got <= 0;
+    const auto [got, error] = ReadSome(m_descriptor, m_buffer.data() + held, pieceSize);
+    if (error != 0)
+        m_failure = Describe(error);
+    m_buffer.resize(held + got);
+    m_ended = got == 0;
     return !m_ended;
 }
 

@@ -37,9 +37,9 @@ std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison) {
 
 ObjectInput RunObjectFile(const std::string& name, Comparison& comparison) {
     const InputFile file(name);
-    if (file.Descriptor() < 0)
+    if (file.Number() < 0)
         return {UnreadableInput(name, file.Failure()), {}};
-    LineReader lines(file.Descriptor(), [] {});
+    LineReader lines(file.Number(), [] {});
     auto refusal = RunObject(lines, comparison);
     if (!lines.Failure().empty())
         return {UnreadableInput(name, lines.Failure()), {}};

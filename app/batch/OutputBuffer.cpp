@@ -1,9 +1,7 @@
 #include "app/batch/OutputBuffer.h"
 
-#include <cerrno>
-#include <cstring>
-#include <string_view>
-#include <unistd.h>
+#include "base/Descriptor.h"
+#include "base/SystemError.h"
 
 namespace Ledgrove {
 
@@ -33,14 +31,11 @@ void OutputBuffer::Write(std::string_view text) {
     WriteOut(text);
 }
 
-void OutputBuffer::WriteOut(std::string_view left) {
-    while (!left.empty() && m_failure.empty()) {
-        const ssize_t written = ::write(m_descriptor, left.data(), left.size());
-        if (written >= 0)
-            left.remove_prefix(static_cast<std::size_t>(written));
-        else if (errno != EINTR)
-            m_failure = std::strerror(errno);
-    }
+void OutputBuffer::WriteOut(std::string_view text) {
+    if (!m_failure.empty())
+        return;
+    if (const int error = WriteAll(m_descriptor, text))
+        m_failure = Describe(error);
 }
 
 std::string UnwrittenOutput(const std::string& what, const std::string& reason) {

@@ -7,8 +7,9 @@
 #include <QApplication>
 
 #include "app/batch/OneComparison.h"
-#include "app/batch/ProgramFolder.h"
 #include "app/windows/Offscreen.h"
+#include "base/ProgramFolder.h"
+#include "base/Text.h"
 #include "ui/windows/SafeFile.h"
 #include "ui/windows/charts/ChartPicture.h"
 
@@ -36,7 +37,7 @@ std::string ReadTab(const std::string& name, ChartKind& kind) {
     else if (name == "summary")
         kind = ChartKind::Savings;
     else
-        return "There is no chart of \"" + name + "\". Choose cashflow, affordability or summary.";
+        return "There is no chart of " + Quoted(name) + ". Choose cashflow, affordability or summary.";
     return {};
 }
 
@@ -68,7 +69,8 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
 int Draw(const Arguments& arguments) {
     const auto format = FormatOf(arguments.Output);
     if (!format)
-        return Complain("A chart is written as *.png or *.svg; \"" + arguments.Output + "\" ends otherwise.",
+        return Complain("A chart is written as *.png or *.svg; " + Quoted(arguments.Output) +
+                            " ends otherwise.",
                         CannotRun);
     const OneComparison comparison = CompareOne(arguments.Folder, arguments.Input);
     if (comparison.Status != AllWell)

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -12,9 +11,11 @@
 #include <CLI/CLI.hpp>
 
 #include "app/batch/CompareCommand.h"
-#include "app/batch/ProgramFolder.h"
 #include "app/batch/SettingsCommand.h"
 #include "app/cli/CommandWords.h"
+#include "base/ProgramFolder.h"
+#include "base/SystemError.h"
+#include "base/Text.h"
 #include "ui/StartUp.h"
 
 namespace {
@@ -25,8 +26,8 @@ using namespace Ledgrove;
 int HandOver(const std::string& verb, char** argv) {
     const std::string program = (ProgramFolder() / ("ledgrove-" + verb)).string();
     ::execv(program.c_str(), argv);
-    std::cerr << "ledgrove-cli: \"" << program << "\" cannot be started (" << std::strerror(errno) << "). \""
-              << verb << "\" needs that program beside ledgrove-cli.\n";
+    std::cerr << "ledgrove-cli: " << Quoted(program) << " cannot be started (" << Describe(errno) << "). "
+              << Quoted(verb) << " needs that program beside ledgrove-cli.\n";
     return CannotRun;
 }
 

@@ -9,8 +9,9 @@
 #include <QGuiApplication>
 
 #include "app/batch/OneComparison.h"
-#include "app/batch/ProgramFolder.h"
 #include "app/windows/Offscreen.h"
+#include "base/ProgramFolder.h"
+#include "base/Text.h"
 #include "reports/windows/ReportFile.h"
 #include "settings/HeaderSettings.h"
 
@@ -47,8 +48,8 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
         else if (name == "assumptions")
             sections.FinancialAssumptions = true;
         else if (name != "none")
-            return "There is no section \"" + name +
-                   "\". Choose from cashflow, morehome, affordability, summary, assumptions, or all, or "
+            return "There is no section " + Quoted(name) +
+                   ". Choose from cashflow, morehome, affordability, summary, assumptions, or all, or "
                    "none.";
     }
     return {};

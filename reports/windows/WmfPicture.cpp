@@ -1,9 +1,9 @@
 #include "reports/windows/WmfPicture.h"
 
+#include "base/ProgramFolder.h"
 #include "reports/windows/WmfCheck.h"
 
 #include <QProcess>
-#include <filesystem>
 
 namespace Ledgrove {
 
@@ -11,11 +11,8 @@ namespace {
 
 constexpr int mostMilliseconds = 1500;
 
-/// In the folder of the running program.
 QString Player() {
-    std::error_code fault;
-    const auto self = std::filesystem::read_symlink("/proc/self/exe", fault);
-    return QString::fromStdString((self.parent_path() / "ledgrove-metafile").string());
+    return QString::fromStdString((ProgramFolder() / "ledgrove-metafile").string());
 }
 
 } // namespace

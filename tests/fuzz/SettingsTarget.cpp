@@ -2,6 +2,7 @@
 
 #include "Fuzz.h"
 
+#include "base/Text.h"
 #include "settings/AssumptionsFile.h"
 #include "settings/HouseListFile.h"
 #include "settings/LineSyntax.h"

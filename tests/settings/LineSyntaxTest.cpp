@@ -32,12 +32,6 @@ TEST(LineSyntax, TheLastLineOfAKeyCounts) {
     EXPECT_EQ(LastLineOf(lines, "D"), std::nullopt);
 }
 
-TEST(LineSyntax, TrimmingRemovesOnlyBlanks) {
-    EXPECT_EQ(Trimmed("  a b  "), "a b");
-    EXPECT_EQ(Trimmed("   "), "");
-    EXPECT_EQ(Trimmed("\ta\t"), "\ta\t");
-}
-
 std::vector<std::string> Fields(std::string_view value, std::size_t count) {
     FieldSplitter splitter(value);
     std::vector<std::string> fields;

@@ -6,7 +6,7 @@ import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
-FLOORS = ("engine", "settings", "ui", "reports", "app")
+FLOORS = ("base", "engine", "settings", "ui", "reports", "app")
 LONGEST = 400
 
 

@@ -1,0 +1,42 @@
+#include "base/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace Ledgrove {
+namespace {
+
+TEST(Text, TrimmingTakesTheNamedCharactersOffBothEnds) {
+    EXPECT_EQ(Trimmed("  a b  "), "a b");
+    EXPECT_EQ(Trimmed("   "), "");
+    EXPECT_EQ(Trimmed(""), "");
+    EXPECT_EQ(Trimmed("\ta\t"), "\ta\t");
+    EXPECT_EQ(Trimmed(" \ta \t", " \t"), "a");
+}
+
+TEST(Text, BlankIsNothingButTheNamedCharacters) {
+    EXPECT_TRUE(IsBlank(""));
+    EXPECT_TRUE(IsBlank("  "));
+    EXPECT_FALSE(IsBlank(" \t"));
+    EXPECT_TRUE(IsBlank(" \t\r", " \t\r"));
+    EXPECT_FALSE(IsBlank(" . "));
+    // The characters, not the bytes that look like a blank in another character set.
+    EXPECT_FALSE(IsBlank("\xC2\xA0"));
+}
+
+TEST(Text, QuotesStandAroundTheTextAsItIs) {
+    EXPECT_EQ(Quoted("a b"), "\"a b\"");
+    EXPECT_EQ(Quoted(""), "\"\"");
+    EXPECT_EQ(Quoted("a\"b"), "\"a\"b\"");
+}
+
+TEST(Text, OnlyTheFirstByteBeginsACharacter) {
+    const std::string_view text = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8F\xA0"; // of 1, 2, 3 and 4 bytes
+    std::size_t characters = 0;
+    for (const char byte : text)
+        characters += BeginsCharacter(byte) ? 1 : 0;
+    EXPECT_EQ(characters, 4u);
+    EXPECT_FALSE(BeginsCharacter('\xA9'));
+}
+
+} // namespace
+} // namespace Ledgrove
