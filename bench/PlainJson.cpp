@@ -76,7 +76,7 @@ void WriteNumber(Writer& writer, double value) {
 /// Every input, including those that the line does not give.
 void WriteFields(Writer& writer, const rapidjson::Document& document) {
     writer.StartObject();
-    for (const std::string_view name : InputNames) {
+    for (const auto& [input, name] : InputTable) {
         Key(writer, name);
         const auto found = document.FindMember(name.data());
         if (found == document.MemberEnd())

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/batch/EntryInputs.h"
 #include "engine/Recalculate.h"
 #include "ui/DataCheck.h"
 #include "ui/Entry.h"
@@ -11,37 +12,38 @@ namespace Ledgrove {
 
 namespace {
 
-Refusal Refuse(std::string_view control, const InputValue& value, std::string message) {
-    return {0, std::string(control), value.Text, std::move(message)};
+Refusal Refuse(Input input, const InputValue& value, std::string message) {
+    return {0, std::string(NameOf(input)), value.Text, std::move(message)};
 }
 
-Refusal UnknownItem(std::string_view control, const InputValue& value, const PickList& list) {
+Refusal UnknownItem(Input input, const InputValue& value, const PickList& list) {
     std::string message = "This is not in the list. Choose one of ";
     for (const PickItem& item : list.Items) {
         if (&item != &list.Items.front())
             message += ", ";
         message.append("\"").append(item.Text).append("\"");
     }
-    return Refuse(control, value, message + ".");
+    return Refuse(input, value, message + ".");
 }
 
 std::optional<Refusal> EnterDownPayment(Session& session, const InputValue& value) {
     if (!value.Present)
         return std::nullopt;
     if (value.Text != "0" && value.Text != "1")
-        return Refuse("optDownPayment", value, "This must be 0 (percent down) or 1 (fixed amount).");
+        return Refuse(Input::optDownPayment, value, "This must be 0 (percent down) or 1 (fixed amount).");
     Module1::SetDownPayment(session, value.Text == "1" ? 1 : 0);
     return std::nullopt;
 }
 
-std::optional<Refusal> EnterField(Session& session, const EntryRule& rule, const InputValue& value) {
+std::optional<Refusal> EnterField(Session& session, const EntryInput& entry, const InputValue& value) {
+    const EntryRule& rule = entry.Rule;
     if (!value.Present)
         return std::nullopt;
     if (value.Kind == InputKind::Boolean)
-        return Refuse(rule.Name, value, "You must enter a number here.");
+        return Refuse(entry.Which, value, "You must enter a number here.");
     const std::string_view typed = value.Text.empty() ? "0" : std::string_view(value.Text);
     if (auto complaint = Module1::FieldComplaint(typed, rule.Format); !complaint.empty())
-        return Refuse(rule.Name, value, std::move(complaint));
+        return Refuse(entry.Which, value, std::move(complaint));
     Module1::SetFieldText(session, session.Screen.*rule.Member, Module1::FormatFieldText(typed, rule.Format));
     return std::nullopt;
 }
@@ -50,7 +52,7 @@ std::optional<Refusal> EnterTaxes(MainScreen& screen, const InputValue& value) {
     if (!value.Present)
         return std::nullopt;
     if (value.Text != "true" && value.Text != "false")
-        return Refuse("chkDoTax0", value, "This must be true or false.");
+        return Refuse(Input::chkDoTax0, value, "This must be true or false.");
     screen.chkDoTax0 = value.Text == "true";
     return std::nullopt;
 }
@@ -69,12 +71,12 @@ void Comparison::Reset() {
 }
 
 std::optional<Refusal> Comparison::EnterFields(const InputRecord& inputs) {
-    for (const EntryRule& rule : MainEntryRules()) {
+    for (const EntryInput& entry : EntryInputs()) {
         // The down payment option stands before its two fields.
-        if (rule.Member == &MainScreen::ecPctDown)
-            if (auto refusal = EnterDownPayment(m_state, inputs.At("optDownPayment")))
+        if (entry.Which == Input::ecPctDown)
+            if (auto refusal = EnterDownPayment(m_state, inputs[Input::optDownPayment]))
                 return refusal;
-        if (auto refusal = EnterField(m_state, rule, inputs.At(rule.Name)))
+        if (auto refusal = EnterField(m_state, entry, inputs[entry.Which]))
             return refusal;
     }
     Module1::ConvertPercentDown(m_state);
@@ -83,19 +85,19 @@ std::optional<Refusal> Comparison::EnterFields(const InputRecord& inputs) {
 
 std::optional<Refusal> Comparison::PickOptions(const InputRecord& inputs) {
     MainScreen& screen = m_state.Screen;
-    const InputValue& base = inputs.At("cboStdMortOption");
+    const InputValue& base = inputs[Input::cboStdMortOption];
     if (base.Present && !Module1::SetBaseOption(screen, base.Text))
-        return UnknownItem("cboStdMortOption", base, screen.cboStdMortOption);
-    const InputValue& labelled = inputs.At("cboGMHMortOption");
+        return UnknownItem(Input::cboStdMortOption, base, screen.cboStdMortOption);
+    const InputValue& labelled = inputs[Input::cboGMHMortOption];
     if (labelled.Present) {
         if (!Module1::SetLabelledOption(m_state, labelled.Text))
-            return UnknownItem("cboGMHMortOption", labelled, screen.cboGMHMortOption);
-        if (const auto message = Module1::OptionMessage(m_state.Screen.cboGMHMortOption.Option()))
+            return UnknownItem(Input::cboGMHMortOption, labelled, screen.cboGMHMortOption);
+        if (const auto message = Module1::OptionMessage(screen.cboGMHMortOption.Option()))
             m_host.ShowMessage(*message);
     }
-    const InputValue& term = inputs.At("cboMortTerm");
+    const InputValue& term = inputs[Input::cboMortTerm];
     if (term.Present && !Module1::SetTerm(m_state, term.Text))
-        return UnknownItem("cboMortTerm", term, screen.cboMortTerm);
+        return UnknownItem(Input::cboMortTerm, term, screen.cboMortTerm);
     return std::nullopt;
 }
 
@@ -109,7 +111,7 @@ std::optional<Refusal> Comparison::Run(const InputRecord& inputs) {
         return refusal;
     if (auto refusal = PickOptions(inputs))
         return refusal;
-    if (auto refusal = EnterTaxes(m_state.Screen, inputs.At("chkDoTax0")))
+    if (auto refusal = EnterTaxes(m_state.Screen, inputs[Input::chkDoTax0]))
         return refusal;
     m_state.Scenario.EEMNoticeFlag = true;
     Module1::Recalculate(m_state, m_host);

@@ -127,16 +127,17 @@ std::optional<Refusal> CsvReader::Compare() {
     if (m_row.size() > m_heading.size())
         return Refusal{m_rowLine, "", "", "The row has more cells than the heading row."};
     for (std::size_t column = 0; column < m_row.size(); ++column) {
-        InputValue* value = m_columns[column];
-        if (!value)
+        const std::optional<Input> input = m_columns[column];
+        if (!input)
             return AtLine(UnknownInput(m_heading[column], m_row[column]));
         if (m_row[column].empty())
             continue;
-        value->Present = true;
-        value->Kind = InputKind::Text;
-        value->Text = m_row[column];
-        if (m_heading[column] == "chkDoTax0")
-            TakeCapitalsOff(value->Text); // spreadsheets write TRUE and FALSE
+        InputValue& value = m_inputs[*input];
+        value.Present = true;
+        value.Kind = InputKind::Text;
+        value.Text = m_row[column];
+        if (input == Input::chkDoTax0)
+            TakeCapitalsOff(value.Text); // spreadsheets write TRUE and FALSE
     }
     auto refusal = m_comparison.Run(m_inputs);
     return refusal ? AtLine(*std::move(refusal)) : refusal;
@@ -153,7 +154,7 @@ void CsvReader::TakeRow(OutputBuffer& output) {
         m_headingRead = true;
         m_heading = std::move(m_row);
         for (const std::string& name : m_heading)
-            m_columns.push_back(m_inputs.Find(name));
+            m_columns.push_back(InputNamed(name));
         AppendCsvHeading(out, m_heading);
     } else {
         const auto refusal = Compare();

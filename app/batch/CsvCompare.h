@@ -24,7 +24,7 @@ private:
     Comparison& m_comparison;
     InputRecord m_inputs;
     Cells m_heading;
-    std::vector<InputValue*> m_columns; ///< the input of each column, nullptr for a name that is none
+    std::vector<std::optional<Input>> m_columns; ///< the input of each column, none for an unknown name
     Cells m_row;
     std::size_t m_rowLine = 0;
     bool m_headingRead = false;

@@ -6,28 +6,39 @@
 
 namespace Ledgrove {
 
+namespace {
+
+constexpr bool StandsInOrder() {
+    for (std::size_t i = 0; i < std::size(InputTable); ++i) {
+        if (static_cast<std::size_t>(InputTable[i].Which) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(StandsInOrder(), "the name of an input stands at its place in the table");
+
+} // namespace
+
+std::optional<Input> InputNamed(std::string_view name) {
+    const auto* const found = std::find_if(std::begin(InputTable), std::end(InputTable),
+                                           [name](const NamedInput& input) { return input.Name == name; });
+    return found == std::end(InputTable) ? std::nullopt : std::optional(found->Which);
+}
+
 void InputRecord::Clear() {
-    for (InputValue& value : m_values)
+    for (InputValue& value : m_values) {
         value.Present = false;
-}
-
-InputValue* InputRecord::Find(std::string_view name) {
-    const auto found = std::find(InputNames.begin(), InputNames.end(), name);
-    return found == InputNames.end() ? nullptr
-                                     : &m_values[static_cast<std::size_t>(found - InputNames.begin())];
-}
-
-const InputValue& InputRecord::At(std::string_view name) const {
-    return m_values[static_cast<std::size_t>(std::find(InputNames.begin(), InputNames.end(), name) -
-                                             InputNames.begin())];
+        value.Kind = InputKind::Text;
+        value.Text.clear();
+    }
 }
 
 Refusal UnknownInput(std::string_view name, std::string_view value) {
     std::string message = "There is no input of this name. The inputs are ";
-    for (const std::string_view known : InputNames) {
-        if (known != InputNames.front())
+    for (const NamedInput& known : InputTable) {
+        if (&known != std::begin(InputTable))
             message += ", ";
-        message += known;
+        message += known.Name;
     }
     return {0, std::string(name), std::string(value), message + "."};
 }

@@ -76,10 +76,11 @@ private:
             return true;
         if (m_depth == 0)
             return RefuseValue(text);
-        if (InputValue* value = m_inputs.Find(m_name)) {
-            value->Present = true;
-            value->Kind = kind;
-            value->Text = text;
+        if (const auto input = InputNamed(m_name)) {
+            InputValue& value = m_inputs[*input];
+            value.Present = true;
+            value.Kind = kind;
+            value.Text = text;
         } else if (!m_refusal) {
             m_refusal = UnknownInput(m_name, text);
         }
@@ -93,7 +94,7 @@ private:
         if (m_depth == 0)
             m_refusal =
                 Refusal{0, "", std::string(text), "Write a JSON object, such as {\"ecIncome\": \"72000\"}."};
-        else if (!m_inputs.Find(m_name))
+        else if (!InputNamed(m_name))
             m_refusal = UnknownInput(m_name, text);
         else
             m_refusal =

@@ -58,8 +58,8 @@ std::string ComparisonText(const MainScreen& screen) {
     rapidjson::PrettyWriter<rapidjson::StringBuffer> writer(buffer);
     writer.SetIndent(' ', 2);
     writer.StartObject();
-    for (const std::string_view name : InputNames) {
-        const InputValue& value = inputs.At(name);
+    for (const auto& [input, name] : InputTable) {
+        const InputValue& value = inputs[input];
         if (!value.Present)
             continue;
         writer.Key(name.data(), Length(name));

@@ -8,10 +8,13 @@ namespace Ledgrove {
 std::string ComparisonCsv(const Session& session) {
     const InputRecord inputs = ScreenInputs(session.Screen);
     std::string out;
-    AppendCsvHeading(out, {InputNames.begin(), InputNames.end()});
-    for (const std::string_view name : InputNames) {
-        if (inputs.At(name).Present)
-            AppendCsvCell(out, inputs.At(name).Text);
+    std::vector<std::string> heading;
+    for (const NamedInput& input : InputTable)
+        heading.emplace_back(input.Name);
+    AppendCsvHeading(out, heading);
+    for (const NamedInput& input : InputTable) {
+        if (inputs[input.Which].Present)
+            AppendCsvCell(out, inputs[input.Which].Text);
         out += ',';
     }
     AppendCsvResults(out, session);

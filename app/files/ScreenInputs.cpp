@@ -1,14 +1,14 @@
 #include "app/files/ScreenInputs.h"
 
+#include "app/batch/EntryInputs.h"
 #include "engine/NumberText.h"
-#include "ui/MainScreenRules.h"
 
 namespace Ledgrove {
 
 namespace {
 
-void Put(InputRecord& inputs, std::string_view name, InputKind kind, std::string_view text) {
-    InputValue& value = *inputs.Find(name);
+void Put(InputRecord& inputs, Input input, InputKind kind, std::string_view text) {
+    InputValue& value = inputs[input];
     value.Present = true;
     value.Kind = kind;
     value.Text = text;
@@ -28,16 +28,17 @@ std::string PercentDownText(const MainScreen& screen) {
 
 InputRecord ScreenInputs(const MainScreen& screen) {
     InputRecord inputs;
-    for (const EntryRule& rule : MainEntryRules()) {
-        const bool isPercentDown = rule.Member == &MainScreen::ecPctDown;
-        const std::string text = isPercentDown ? PercentDownText(screen) : (screen.*rule.Member).Text;
+    for (const EntryInput& entry : EntryInputs()) {
+        const bool isPercentDown = entry.Which == Input::ecPctDown;
+        const std::string text = isPercentDown ? PercentDownText(screen) : (screen.*entry.Rule.Member).Text;
         if (!text.empty())
-            Put(inputs, rule.Name, InputKind::Text, text);
+            Put(inputs, entry.Which, InputKind::Text, text);
     }
-    for (const auto& [name, member] : PickListTable())
-        Put(inputs, name, InputKind::Text, (screen.*member).Text());
-    Put(inputs, "optDownPayment", InputKind::Number, screen.optDownPayment == 0 ? "0" : "1");
-    Put(inputs, "chkDoTax0", InputKind::Boolean, screen.chkDoTax0 ? "true" : "false");
+    Put(inputs, Input::cboMortTerm, InputKind::Text, screen.cboMortTerm.Text());
+    Put(inputs, Input::cboStdMortOption, InputKind::Text, screen.cboStdMortOption.Text());
+    Put(inputs, Input::cboGMHMortOption, InputKind::Text, screen.cboGMHMortOption.Text());
+    Put(inputs, Input::optDownPayment, InputKind::Number, screen.optDownPayment == 0 ? "0" : "1");
+    Put(inputs, Input::chkDoTax0, InputKind::Boolean, screen.chkDoTax0 ? "true" : "false");
     return inputs;
 }
 
