@@ -1,9 +1,7 @@
 #include "app/batch/ParallelJson.h"
 
-#include <thread>
-#include <vector>
-
-#include "app/batch/JsonCompare.h"
+#include <new>
+#include <system_error>
 
 namespace Ledgrove {
 
@@ -11,47 +9,76 @@ namespace {
 
 /// Large enough that handing out costs little beside comparing, small enough for memory.
 constexpr std::size_t pieceSize = std::size_t{64} * 1024;
-
-/// Each thread has a state of its own: a comparison shares nothing with another.
-void ComparePieces(const Session& start, PieceQueue& queue, OutputBuffer& output) {
-    Comparison comparison(start);
-    JsonLine lines(comparison);
-    while (Piece* piece = queue.Take()) {
-        for (std::size_t i = 0; i < piece->Lines.size(); ++i)
-            piece->AllWell = lines.Append(piece->Result, piece->LineAt(i)) && piece->AllWell;
-        queue.Finish(*piece, output);
-    }
-}
+constexpr std::size_t pieceLines = 256;
+/// A little more than the results of so many lines take.
+constexpr std::size_t resultSize = pieceLines * 8 * 1024;
+/// Free when a thread is started: up to 64 MB of addresses become the heap of the new thread, the rest is for
+/// what all threads ask for later.
+constexpr std::size_t spareSize = std::size_t{96} * 1024 * 1024;
 
 } // namespace
 
+bool PieceWorker::Work(PieceQueue& queue, OutputBuffer& output) {
+    Piece* const piece = queue.Take();
+    if (piece == nullptr)
+        return false;
+    for (std::size_t i = 0; i < piece->Lines.size(); ++i)
+        piece->AllWell = m_lines.Append(piece->Result, piece->LineAt(i)) && piece->AllWell;
+    queue.Finish(*piece, output);
+    return true;
+}
+
 ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs)
     : m_start(start)
-    , m_jobs(jobs)
-    // One piece in work and one in waiting for each thread.
-    , m_queue(static_cast<std::size_t>(jobs) * 2) {}
+    , m_mostThreads(static_cast<std::size_t>(jobs)) {}
 
-void ParallelJsonReader::BeforeWaiting(OutputBuffer&) {
+void ParallelJsonReader::StartThread(OutputBuffer& output) {
+    try {
+        // Memory that cannot be had must be missing here, where the work can go on without the thread.
+        m_spare = std::make_unique_for_overwrite<char[]>(spareSize);
+        m_queue.Add(2, resultSize); // one in work and one in waiting
+        m_threads.emplace_back([this, &output, worker = std::make_unique<PieceWorker>(m_start)] {
+            while (worker->Work(m_queue, output)) {
+            }
+        });
+    } catch (const std::system_error&) {
+        m_mostThreads = m_threads.size();
+    } catch (const std::bad_alloc&) {
+        m_mostThreads = m_threads.size();
+    }
+    m_spare.reset();
+}
+
+void ParallelJsonReader::HandOut(OutputBuffer& output) {
+    if (m_queue.GatheredLines() == 0)
+        return;
+    // One for each piece: a short input is done before further threads would have started.
+    if (m_threads.size() < m_mostThreads)
+        StartThread(output);
     m_queue.HandOut();
+    if (m_threads.empty()) {
+        if (!m_own)
+            m_own.emplace(m_start);
+        m_own->Work(m_queue, output);
+    }
+    m_queue.WaitForRoom();
+}
+
+void ParallelJsonReader::BeforeWaiting(OutputBuffer& output) {
+    HandOut(output);
 }
 
 bool ParallelJsonReader::Read(LineReader& lines, OutputBuffer& output) {
-    std::vector<std::jthread> threads;
     while (const auto line = lines.Next()) {
-        // A short input is done before a thread would have started.
-        if (threads.empty()) {
-            for (int i = 0; i < m_jobs; ++i)
-                threads.emplace_back([this, &output] { ComparePieces(m_start, m_queue, output); });
-        }
         m_queue.Gather(*line);
-        if (m_queue.GatheredBytes() >= pieceSize)
-            m_queue.HandOut();
+        if (m_queue.GatheredBytes() >= pieceSize || m_queue.GatheredLines() >= pieceLines)
+            HandOut(output);
         if (m_queue.OutputFailed())
             break;
     }
-    m_queue.HandOut();
+    HandOut(output);
     m_queue.Close();
-    threads.clear();
+    m_threads.clear();
     return m_queue.AllWell();
 }
 

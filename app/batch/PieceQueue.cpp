@@ -2,20 +2,40 @@
 
 namespace Ledgrove {
 
+PieceQueue::PieceQueue() {
+    m_pieces.push_back(std::make_unique<Piece>());
+    m_gathering = m_pieces.back().get();
+}
+
+void PieceQueue::Add(std::size_t pieces, std::size_t resultSize) {
+    const std::lock_guard lock(m_mutex);
+    for (std::size_t i = 0; i < pieces; ++i) {
+        auto piece = std::make_unique<Piece>();
+        piece->Result.reserve(resultSize);
+        m_free.reserve(m_pieces.size() + 1);
+        m_pieces.push_back(std::move(piece));
+        m_free.push_back(m_pieces.back().get());
+    }
+}
+
 void PieceQueue::Gather(const InputLine& line) {
-    Piece& piece = m_pieces[m_gathering];
-    piece.Lines.push_back({piece.Text.size(), line.Text.size(), line.Number, line.TooLong});
-    piece.Text += line.Text;
+    m_gathering->Lines.push_back({m_gathering->Text.size(), line.Text.size(), line.Number, line.TooLong});
+    m_gathering->Text += line.Text;
 }
 
 void PieceQueue::HandOut() {
-    if (m_pieces[m_gathering].Lines.empty())
-        return;
-    std::unique_lock lock(m_mutex);
-    m_pieces[m_gathering].Stands = Piece::Stage::Waiting;
-    m_gathering = Next(m_gathering);
+    const std::lock_guard lock(m_mutex);
+    m_waiting.push_back(m_gathering);
+    m_onTheirWay.push_back(m_gathering);
+    m_gathering = nullptr;
     m_changed.notify_all();
-    m_changed.wait(lock, [this] { return m_pieces[m_gathering].Stands == Piece::Stage::Free; });
+}
+
+void PieceQueue::WaitForRoom() {
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return !m_free.empty(); });
+    m_gathering = m_free.back();
+    m_free.pop_back();
 }
 
 void PieceQueue::Close() {
@@ -31,19 +51,17 @@ bool PieceQueue::OutputFailed() const {
 
 Piece* PieceQueue::Take() {
     std::unique_lock lock(m_mutex);
-    const auto waits = [this] { return m_pieces[m_taking].Stands == Piece::Stage::Waiting; };
-    m_changed.wait(lock, [&] { return waits() || m_closed; });
-    if (!waits())
+    m_changed.wait(lock, [this] { return !m_waiting.empty() || m_closed; });
+    if (m_waiting.empty())
         return nullptr;
-    Piece& piece = m_pieces[m_taking];
-    piece.Stands = Piece::Stage::InWork;
-    m_taking = Next(m_taking);
-    return &piece;
+    Piece* const piece = m_waiting.front();
+    m_waiting.pop_front();
+    return piece;
 }
 
 void PieceQueue::Finish(Piece& piece, OutputBuffer& output) {
     std::unique_lock lock(m_mutex);
-    piece.Stands = Piece::Stage::Done;
+    piece.Done = true;
     // Another thread that is writing already comes to this piece, too.
     if (!m_isWriting)
         WriteFinished(lock, output);
@@ -51,8 +69,8 @@ void PieceQueue::Finish(Piece& piece, OutputBuffer& output) {
 
 void PieceQueue::WriteFinished(std::unique_lock<std::mutex>& lock, OutputBuffer& output) {
     m_isWriting = true;
-    while (m_pieces[m_writing].Stands == Piece::Stage::Done) {
-        Piece& piece = m_pieces[m_writing];
+    while (!m_onTheirWay.empty() && m_onTheirWay.front()->Done) {
+        Piece& piece = *m_onTheirWay.front();
         lock.unlock();
         output.Write(piece.Result);
         piece.Text.clear();
@@ -62,8 +80,9 @@ void PieceQueue::WriteFinished(std::unique_lock<std::mutex>& lock, OutputBuffer&
         m_allWell = m_allWell && piece.AllWell;
         m_failed = !output.Failure().empty();
         piece.AllWell = true;
-        piece.Stands = Piece::Stage::Free;
-        m_writing = Next(m_writing);
+        piece.Done = false;
+        m_onTheirWay.pop_front();
+        m_free.push_back(&piece);
         m_changed.notify_all();
     }
     m_isWriting = false;

@@ -2,6 +2,8 @@
 
 #include <condition_variable>
 #include <cstddef>
+#include <deque>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -19,13 +21,12 @@ struct Piece {
         std::size_t Number;
         bool TooLong;
     };
-    enum class Stage { Free, Waiting, InWork, Done };
 
     std::string Text;
     std::vector<Line> Lines;
     std::string Result;
     bool AllWell = true;
-    Stage Stands = Stage::Free;
+    bool Done = false;
 
     InputLine LineAt(std::size_t index) const {
         const Line& line = Lines[index];
@@ -33,19 +34,25 @@ struct Piece {
     }
 };
 
-/// A ring of pieces between one thread that reads and several that work. The results are written in the order
-/// in which the pieces were handed out, by whichever thread finishes the next one. The reading thread waits
-/// while all pieces are on their way, so that memory stays the same whatever comes in.
+/// Pieces between one thread that reads and several that work. The results are written in the order in which
+/// the pieces were handed out, by whichever thread finishes the next one. The reading thread waits while all
+/// pieces are on their way, so that memory stays the same whatever comes in.
 class PieceQueue {
 public:
-    explicit PieceQueue(std::size_t pieces)
-        : m_pieces(pieces) {}
+    /// With one piece, for gathering.
+    PieceQueue();
 
     // For the thread that reads.
+    /// So many further pieces, with memory for a result of `resultSize` bytes each: what cannot be had must
+    /// be missing here (std::bad_alloc), and not in the middle of the work. Pieces that could be had stay.
+    void Add(std::size_t pieces, std::size_t resultSize);
     void Gather(const InputLine& line);
-    std::size_t GatheredBytes() const { return m_pieces[m_gathering].Text.size(); }
-    /// Gives the gathered lines to whoever is free, and waits for room for more. Without lines nothing.
+    std::size_t GatheredBytes() const { return m_gathering->Text.size(); }
+    std::size_t GatheredLines() const { return m_gathering->Lines.size(); }
+    /// Gives the gathered lines to whoever is free. There is at least one line.
     void HandOut();
+    /// Waits for room for more.
+    void WaitForRoom();
     /// No more pieces will come; those handed out are finished.
     void Close();
     bool OutputFailed() const;
@@ -58,15 +65,15 @@ public:
     void Finish(Piece& piece, OutputBuffer& output);
 
 private:
-    std::size_t Next(std::size_t index) const { return (index + 1) % m_pieces.size(); }
     void WriteFinished(std::unique_lock<std::mutex>& lock, OutputBuffer& output);
 
-    std::vector<Piece> m_pieces;
+    std::vector<std::unique_ptr<Piece>> m_pieces;
+    Piece* m_gathering = nullptr; ///< the reading thread's; none between HandOut and WaitForRoom
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::size_t m_gathering = 0; ///< touched by the reading thread alone, until it is handed out
-    std::size_t m_taking = 0;
-    std::size_t m_writing = 0;
+    std::vector<Piece*> m_free;
+    std::deque<Piece*> m_waiting;    ///< to be taken
+    std::deque<Piece*> m_onTheirWay; ///< to be written, in the order of the input
     bool m_isWriting = false;
     bool m_closed = false;
     bool m_failed = false;

@@ -2,6 +2,7 @@
 import json
 import os
 import random
+import resource
 import shutil
 import subprocess
 import sys
@@ -10,6 +11,7 @@ import unittest
 from pathlib import Path
 
 PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
+SANITIZED = "ASAN_OPTIONS" in os.environ or "TSAN_OPTIONS" in os.environ
 
 
 class Jobs(unittest.TestCase):
@@ -64,7 +66,7 @@ class Jobs(unittest.TestCase):
             running.stdin.close()
             self.assertEqual(running.wait(10), 0)
 
-    @unittest.skipIf("ASAN_OPTIONS" in os.environ, "the address sanitizer keeps freed memory")
+    @unittest.skipIf(SANITIZED, "the sanitizers keep freed memory")
     def test_memory_does_not_grow_with_the_input(self):
         line = json.dumps({"ecIncome": "72000", "ecStdHome": "200000"}).encode() + b"\n"
 
@@ -81,6 +83,44 @@ class Jobs(unittest.TestCase):
         # The results of a piece take about 4 MB, and the number of waiting pieces varies from run to run. All results of the
         # longer list together take 300 MB.
         self.assertLessEqual(peak(50000) - peak(8000), 16 * 1024)  # KiB
+
+    @unittest.skipIf(SANITIZED, "the sanitizers need terabytes of addresses")
+    def test_with_too_little_memory_for_all_threads_it_goes_on_with_fewer(self):
+        given = "\n".join(self.price_list(20000)).encode()
+        expected = self.compare(given, 1)
+        for kilobytes in (100_000, 200_000, 400_000):
+            run = subprocess.run(self.command(256), input=given, capture_output=True, timeout=120,
+                                 preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (kilobytes * 1024,) * 2))
+            self.assertEqual((run.returncode, run.stdout, run.stderr), expected, kilobytes)
+
+    @staticmethod
+    def refuse_threads():
+        """A new thread's stack is as large as this limit, and no machine has so many addresses."""
+        resource.setrlimit(resource.RLIMIT_STACK, (1 << 50, resource.getrlimit(resource.RLIMIT_STACK)[1]))
+
+    @unittest.skipIf(SANITIZED, "the sanitizers start a thread of their own")
+    def test_without_any_thread_the_calling_one_does_the_work(self):
+        given = "\n".join(self.price_list(5000)).encode()
+        run = subprocess.run(self.command(4), input=given, capture_output=True, timeout=120, preexec_fn=self.refuse_threads)
+        self.assertEqual((run.returncode, run.stdout, run.stderr), self.compare(given, 1))
+
+    @unittest.skipIf(SANITIZED, "the sanitizers start a thread of their own")
+    def test_without_any_thread_a_waiting_reader_gets_each_result(self):
+        with subprocess.Popen(self.command(3), stdin=subprocess.PIPE, stdout=subprocess.PIPE, preexec_fn=self.refuse_threads) as running:
+            for income in ("$1", "$2", "$3"):
+                running.stdin.write(json.dumps({"ecIncome": income}).encode() + b"\n")
+                running.stdin.flush()
+                self.assertEqual(json.loads(running.stdout.readline())["fields"]["ecIncome"], income)
+            running.stdin.close()
+            self.assertEqual(running.wait(10), 0)
+
+    @unittest.skipIf(SANITIZED, "the sanitizers start a thread of their own")
+    def test_without_any_thread_output_that_cannot_be_written_is_reported(self):
+        with open("/dev/full", "wb") as full:
+            run = subprocess.run(self.command(2), input=b'{"ecIncome": 1}\n' * 5000, stdout=full, stderr=subprocess.PIPE, timeout=60,
+                                 preexec_fn=self.refuse_threads)
+        self.assertEqual(run.returncode, 2)
+        self.assertIn(b"could not be written", run.stderr)
 
     def test_output_that_cannot_be_written_is_reported(self):
         given = b'{"ecIncome": 1}\n' * 5000
