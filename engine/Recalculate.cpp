@@ -1,5 +1,6 @@
 #include "engine/Recalculate.h"
 
+#include "base/Text.h"
 #include "engine/Evaluate.h"
 #include "engine/LoanRules.h"
 #include "engine/ReadScreen.h"
@@ -12,10 +13,6 @@ namespace {
 constexpr const char* EEMNotice = "The homebuyer may not qualify for the EEM you have selected because the "
                                   "present value of the savings are less "
                                   "than the cost of the energy efficiency upgrade.";
-
-bool IsBlank(const std::string& text) {
-    return text.find_first_not_of(' ') == std::string::npos;
-}
 
 } // namespace
 
