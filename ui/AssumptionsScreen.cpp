@@ -144,12 +144,13 @@ std::optional<SettingsFault> FillAssumptions(AssumptionsScreen& dialog, Session&
 }
 
 void CalcExpUpgrValue(AssumptionsScreen& dialog, const Session& session) {
-    dialog.ecExpUpgrValue.Text = FormatFieldText(ShortestText(session.Scenario.PriceDifference), "Dollar");
+    dialog.ecExpUpgrValue.Text =
+        FormatFieldText(ShortestText(session.Scenario.PriceDifference), FieldFormat::Dollar);
 }
 
 EntryOutcome LeaveHighEnd(EntryContext& context, AssumptionsScreen& dialog, std::size_t row) {
     Field& highEnd = dialog.ecHighEnd[row];
-    if (LeaveField(context, highEnd, "Dollar", AfterEdit::Nothing) == EntryOutcome::Refused)
+    if (LeaveField(context, highEnd, FieldFormat::Dollar, AfterEdit::Nothing) == EntryOutcome::Refused)
         return EntryOutcome::Refused;
     // Nothing follows the last row, which has no upper limit.
     if (row + 1 < TaxRowCount) {
@@ -160,10 +161,10 @@ EntryOutcome LeaveHighEnd(EntryContext& context, AssumptionsScreen& dialog, std:
 }
 
 void LeaveLowEnd(Session& session, AssumptionsScreen& dialog, std::size_t row) {
-    FormatField(session, dialog.ecLowEnd[row], "Dollar");
+    FormatField(session, dialog.ecLowEnd[row], FieldFormat::Dollar);
 }
 
-EntryOutcome LeaveFieldAs(EntryContext& context, Field& field, FormatType checked, FormatType shown) {
+EntryOutcome LeaveFieldAs(EntryContext& context, Field& field, FieldFormat checked, FieldFormat shown) {
     if (!ValidateField(context, field, checked))
         return EntryOutcome::Refused;
     FormatField(context.State, field, shown);

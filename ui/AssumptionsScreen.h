@@ -52,7 +52,7 @@ EntryOutcome LeaveHighEnd(EntryContext& context, AssumptionsScreen& dialog, std:
 void LeaveLowEnd(Session& session, AssumptionsScreen& dialog, std::size_t row);
 
 /// A field that is checked as one format and shown in another.
-EntryOutcome LeaveFieldAs(EntryContext& context, Field& field, FormatType checked, FormatType shown);
+EntryOutcome LeaveFieldAs(EntryContext& context, Field& field, FieldFormat checked, FieldFormat shown);
 
 /// Saves tax schedule, assumptions and loan types in this order, reads the first two back, and recalculates.
 /// On a fault the file and memory are as they were.

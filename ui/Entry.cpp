@@ -7,16 +7,16 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-void FormatEntry(Session& session, Field& field, FormatType type) {
-    FormatField(session, field, type);
+void FormatEntry(Session& session, Field& field, FieldFormat format) {
+    FormatField(session, field, format);
     if (&field == &session.Screen.ecPctDown)
         ConvertPercentDown(session);
 }
 
 } // namespace
 
-std::string FieldComplaint(std::string_view text, FormatType type) {
-    if (text.empty() || type == "String")
+std::string FieldComplaint(std::string_view text, FieldFormat format) {
+    if (text.empty() || format == FieldFormat::String)
         return {};
     const auto number = ReadStrippedNumber(text);
     if (!number)
@@ -34,13 +34,13 @@ void SetFieldText(Session& session, Field& field, std::string_view text) {
         session.Screen.PctDownConverted = false;
 }
 
-bool ValidateField(EntryContext& context, Field& field, FormatType type, Complaint complaint) {
+bool ValidateField(EntryContext& context, Field& field, FieldFormat format, Complaint complaint) {
     const std::string movingTo = context.Focus.FocusedControl();
     if (movingTo.starts_with("bCancel") || movingTo.starts_with("bExit"))
         return true;
     if (field.Text.empty())
         SetFieldText(context.State, field, "0");
-    const std::string message = FieldComplaint(field.Text, type);
+    const std::string message = FieldComplaint(field.Text, format);
     if (message.empty())
         return true;
     context.Focus.ReturnFocusTo(field);
@@ -50,16 +50,16 @@ bool ValidateField(EntryContext& context, Field& field, FormatType type, Complai
     return false;
 }
 
-void FormatField(Session& session, Field& field, FormatType type) {
-    SetFieldText(session, field, FormatFieldText(field.Text, type));
+void FormatField(Session& session, Field& field, FieldFormat format) {
+    SetFieldText(session, field, FormatFieldText(field.Text, format));
 }
 
-EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, FormatType type) {
+EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, FieldFormat format) {
     if (key != KeyCode::Enter && key != KeyCode::Tab)
         return EntryOutcome::Accepted;
-    if (!ValidateField(context, field, type))
+    if (!ValidateField(context, field, format))
         return EntryOutcome::Refused;
-    FormatEntry(context.State, field, type);
+    FormatEntry(context.State, field, format);
     CheckCustomHouse(context.State);
     Recalculate(context.State, context.Outside);
     if (key == KeyCode::Enter)
@@ -67,10 +67,10 @@ EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, Fo
     return EntryOutcome::Accepted;
 }
 
-EntryOutcome LeaveField(EntryContext& context, Field& field, FormatType type, AfterEdit after) {
-    if (!ValidateField(context, field, type))
+EntryOutcome LeaveField(EntryContext& context, Field& field, FieldFormat format, AfterEdit after) {
+    if (!ValidateField(context, field, format))
         return EntryOutcome::Refused;
-    FormatEntry(context.State, field, type);
+    FormatEntry(context.State, field, format);
     if (after != AfterEdit::Nothing)
         Recalculate(context.State, context.Outside);
     if (after == AfterEdit::RecalculateAndCheckHouse)

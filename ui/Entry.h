@@ -37,8 +37,8 @@ namespace Ledgrove::Module1 {
 enum class Complaint { Shown, Quiet };
 
 /// What is wrong with a field's text: "" when it is accepted, else the message. Never negative, always a
-/// number but for "String". An empty text counts as "0".
-std::string FieldComplaint(std::string_view text, FormatType type);
+/// number but for String. An empty text counts as "0".
+std::string FieldComplaint(std::string_view text, FieldFormat format);
 
 /// Puts `text` into the field as its Change event would: an input that feeds the EEM rule sets the notice
 /// flag. The text that the field already holds is no change.
@@ -47,23 +47,23 @@ void SetFieldText(Session& session, Field& field, std::string_view text);
 /// Checks the field's text and turns an empty one into "0". On refusal the focus returns to the field, the
 /// message is shown (unless quiet) and the text is selected. Leaving towards a Cancel or Exit button is never
 /// refused.
-bool ValidateField(EntryContext& context, Field& field, FormatType type,
+bool ValidateField(EntryContext& context, Field& field, FieldFormat format,
                    Complaint complaint = Complaint::Shown);
 
 /// Rewrites the field's text in its display format.
-void FormatField(Session& session, Field& field, FormatType type);
+void FormatField(Session& session, Field& field, FieldFormat format);
 
 enum class EntryOutcome { Accepted, Refused };
 
 /// Commits the field on Enter or Tab: validate, format, custom house, recalculate; Enter moves on to the next
 /// field. Any other key does nothing here.
-EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, FormatType type);
+EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, FieldFormat format);
 
 /// What follows an accepted lost focus.
 enum class AfterEdit { Nothing, Recalculate, RecalculateAndCheckHouse };
 
 /// Validates and formats the field as it is left, then runs the form's after-edit steps.
-EntryOutcome LeaveField(EntryContext& context, Field& field, FormatType type, AfterEdit after);
+EntryOutcome LeaveField(EntryContext& context, Field& field, FieldFormat format, AfterEdit after);
 
 /// Names the house "Custom" when a price or utility bill is no longer that of the chosen house scenario.
 void CheckCustomHouse(Session& session);

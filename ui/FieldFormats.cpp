@@ -6,37 +6,49 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
+constexpr std::string_view dollars = "$###,##0";
+
 std::string PercentPicture(double value, std::string_view picture) {
     return FormatPicture(value, picture) + "%";
 }
 
+std::string PercentText(std::string_view text, double value) {
+    const bool fraction = value < 1.0 && text.find('%') == text.npos;
+    return PercentPicture(fraction ? value * 100 : value, "#0.00");
+}
+
+std::string Either2Text(double value) {
+    if (value < 0.01)
+        return PercentPicture(value * 100, "0.00");
+    return value < 1.0 ? PercentPicture(value, "#0.00") : FormatPicture(value, dollars);
+}
+
 } // namespace
 
-std::string FormatFieldText(std::string_view text, FormatType type) {
-    // A "%" in a whole-number field makes the conversion fail, and so shows 0.
-    if (type == "Whole")
-        return FormatPicture(ReadNumber(text).value_or(0), "###,##0");
-
+std::string FormatFieldText(std::string_view text, FieldFormat format) {
     const double value = ReadStrippedNumber(text).value_or(0);
-    if (type == "Dollar")
-        return FormatPicture(value, "$###,##0");
-    if (type == "IntRate")
+    switch (format) {
+    case FieldFormat::Dollar:
+        return FormatPicture(value, dollars);
+    case FieldFormat::IntRate:
         return PercentPicture(value, "#0.000");
-    if (type == "Percent") {
-        const bool fraction = value < 1.0 && text.find('%') == text.npos;
-        return PercentPicture(fraction ? value * 100 : value, "#0.00");
-    }
-    if (type == "Percent2")
+    case FieldFormat::Percent:
+        return PercentText(text, value);
+    case FieldFormat::Percent2:
         return PercentPicture(value < 0.01 ? value * 100 : value, "#0.00");
-    if (type == "Either")
-        return value < 1.0 ? PercentPicture(value * 100, "#0.0") : FormatPicture(value, "$###,##0");
-    if (type == "Either2") {
-        if (value < 0.01)
-            return PercentPicture(value * 100, "0.00");
-        return value < 1.0 ? PercentPicture(value, "#0.00") : FormatPicture(value, "$###,##0");
-    }
-    if (type == "WholePercent")
+    case FieldFormat::Either:
+        return value < 1.0 ? PercentPicture(value * 100, "#0.0") : FormatPicture(value, dollars);
+    case FieldFormat::Either2:
+        return Either2Text(value);
+    case FieldFormat::Whole:
+        // Unlike the others it reads the "%" too, which makes the conversion fail and so shows 0.
+        return FormatPicture(ReadNumber(text).value_or(0), "###,##0");
+    case FieldFormat::WholePercent:
         return PercentPicture(value, "##0.00");
+    case FieldFormat::String:
+    case FieldFormat::SmallPercent:
+        break;
+    }
     return std::string(text);
 }
 

@@ -10,18 +10,18 @@ namespace {
 using Module1::AfterEdit;
 
 constexpr EntryRule entryRules[] = {
-    {"ecIncome", &MainScreen::ecIncome, "Dollar", AfterEdit::Recalculate},
-    {"ecMonthlyDebt", &MainScreen::ecMonthlyDebt, "Dollar", AfterEdit::Recalculate},
-    {"ecPctDown", &MainScreen::ecPctDown, "Percent", AfterEdit::Recalculate},
-    {"ecFixedDown", &MainScreen::ecFixedDown, "Dollar", AfterEdit::Recalculate},
-    {"ecStdHome", &MainScreen::ecStdHome, "Dollar", AfterEdit::RecalculateAndCheckHouse},
-    {"ecGMHHome", &MainScreen::ecGMHHome, "Dollar", AfterEdit::RecalculateAndCheckHouse},
-    {"ecStdUtil", &MainScreen::ecStdUtil, "Dollar", AfterEdit::RecalculateAndCheckHouse},
-    {"ecGMHUtil", &MainScreen::ecGMHUtil, "Dollar", AfterEdit::RecalculateAndCheckHouse},
-    {"ecStdRate", &MainScreen::ecStdRate, "IntRate", AfterEdit::Recalculate},
-    {"ecGMHRate", &MainScreen::ecGMHRate, "IntRate", AfterEdit::Recalculate},
-    {"ecStdStr", &MainScreen::ecStdStr, "Percent", AfterEdit::Recalculate},
-    {"ecGMHStr", &MainScreen::ecGMHStr, "Percent", AfterEdit::Recalculate},
+    {"ecIncome", &MainScreen::ecIncome, FieldFormat::Dollar, AfterEdit::Recalculate},
+    {"ecMonthlyDebt", &MainScreen::ecMonthlyDebt, FieldFormat::Dollar, AfterEdit::Recalculate},
+    {"ecPctDown", &MainScreen::ecPctDown, FieldFormat::Percent, AfterEdit::Recalculate},
+    {"ecFixedDown", &MainScreen::ecFixedDown, FieldFormat::Dollar, AfterEdit::Recalculate},
+    {"ecStdHome", &MainScreen::ecStdHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse},
+    {"ecGMHHome", &MainScreen::ecGMHHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse},
+    {"ecStdUtil", &MainScreen::ecStdUtil, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse},
+    {"ecGMHUtil", &MainScreen::ecGMHUtil, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse},
+    {"ecStdRate", &MainScreen::ecStdRate, FieldFormat::IntRate, AfterEdit::Recalculate},
+    {"ecGMHRate", &MainScreen::ecGMHRate, FieldFormat::IntRate, AfterEdit::Recalculate},
+    {"ecStdStr", &MainScreen::ecStdStr, FieldFormat::Percent, AfterEdit::Recalculate},
+    {"ecGMHStr", &MainScreen::ecGMHStr, FieldFormat::Percent, AfterEdit::Recalculate},
 };
 
 } // namespace

@@ -14,7 +14,7 @@ namespace Ledgrove {
 struct EntryRule {
     std::string_view Name;
     Field MainScreen::*Member;
-    std::string_view Format; ///< the same on key press and on lost focus
+    FieldFormat Format; ///< the same on key press and on lost focus
     Module1::AfterEdit After;
 };
 

@@ -28,8 +28,8 @@ void SetScreenDefaults(Session& session, Host& host) {
     for (Field* rate : {&screen.ecRate, &screen.ecGMHRate, &screen.ecStdRate})
         SetFieldText(session, *rate, "6.5");
     // The base home's rate stays as it is until it is first left, on purpose.
-    FormatField(session, screen.ecRate, "IntRate");
-    FormatField(session, screen.ecGMHRate, "IntRate");
+    FormatField(session, screen.ecRate, FieldFormat::IntRate);
+    FormatField(session, screen.ecGMHRate, FieldFormat::IntRate);
     SetDownPayment(session, 0);
     ClickBaseOption(session, host, "Conventional");
 }

@@ -273,7 +273,7 @@ void frmPrint::MaximizeOrRestore() {
 }
 
 void frmPrint::Print() {
-    if (!Module1::ValidateField(Context(), m_copies, "Whole"))
+    if (!Module1::ValidateField(Context(), m_copies, FieldFormat::Whole))
         return;
     Refresh();
     const std::optional<int> copies = CopiesIn(m_copies.Text);

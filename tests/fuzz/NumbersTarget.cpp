@@ -14,11 +14,13 @@ namespace {
 using namespace Ledgrove;
 using Fuzz::Require;
 
-constexpr std::array formats = {"Dollar",  "IntRate", "Percent", "Percent2",     "Either",
-                                "Either2", "String",  "Whole",   "WholePercent", "SmallPercent"};
+constexpr std::array formats = {FieldFormat::Dollar,      FieldFormat::IntRate, FieldFormat::Percent,
+                                FieldFormat::Percent2,    FieldFormat::Either,  FieldFormat::Either2,
+                                FieldFormat::String,      FieldFormat::Whole,   FieldFormat::WholePercent,
+                                FieldFormat::SmallPercent};
 
 void CheckText(std::string_view text) {
-    for (const char* format : formats) {
+    for (const FieldFormat format : formats) {
         const std::string shown = Module1::FormatFieldText(text, format);
         // When a field loses the focus again, its shown text must be readable. Numbers below 0 are refused
         // before they are shown.

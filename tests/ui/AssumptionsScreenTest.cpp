@@ -232,17 +232,18 @@ TEST_F(AssumptionsScreenTest, ALowEndIsFormattedWithoutACheck) {
 TEST_F(AssumptionsScreenTest, TheSavingsRateKeepsItsTextOnEveryExit) {
     StartShipped();
     m_dialog.ecPV_Rate.Text = "0.5";
-    EXPECT_EQ(LeaveFieldAs(m_context, m_dialog.ecPV_Rate, "Percent", "WholePercent"), EntryOutcome::Accepted);
+    EXPECT_EQ(LeaveFieldAs(m_context, m_dialog.ecPV_Rate, FieldFormat::Percent, FieldFormat::WholePercent),
+              EntryOutcome::Accepted);
     EXPECT_EQ(m_dialog.ecPV_Rate.Text, "0.50%");
 }
 
 TEST_F(AssumptionsScreenTest, ThePropertyTaxDependsOnHowTheFieldIsLeft) {
     StartShipped();
     m_dialog.ecRealEstateTaxPct.Text = "0.5";
-    HandleEntryKey(m_context, m_dialog.ecRealEstateTaxPct, KeyCode::Enter, "WholePercent");
+    HandleEntryKey(m_context, m_dialog.ecRealEstateTaxPct, KeyCode::Enter, FieldFormat::WholePercent);
     EXPECT_EQ(m_dialog.ecRealEstateTaxPct.Text, "0.50%");
     m_dialog.ecRealEstateTaxPct.Text = "0.5";
-    LeaveField(m_context, m_dialog.ecRealEstateTaxPct, "Percent", AfterEdit::Nothing);
+    LeaveField(m_context, m_dialog.ecRealEstateTaxPct, FieldFormat::Percent, AfterEdit::Nothing);
     EXPECT_EQ(m_dialog.ecRealEstateTaxPct.Text, "50.00%");
 }
 

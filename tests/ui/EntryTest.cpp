@@ -16,69 +16,76 @@ constexpr const char* notANumber = "You must enter a number here.";
 constexpr const char* notPositive = "You must enter a positive number here.";
 
 struct ComplaintRow {
-    const char *Type, *Text, *Complaint;
+    FieldFormat Format;
+    const char *Text, *Complaint;
 };
 
 class Complaints : public testing::TestWithParam<ComplaintRow> {};
 
 TEST_P(Complaints, SayWhatIsWrong) {
-    EXPECT_EQ(FieldComplaint(GetParam().Text, GetParam().Type), GetParam().Complaint);
+    EXPECT_EQ(FieldComplaint(GetParam().Text, GetParam().Format), GetParam().Complaint);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, Complaints,
-    testing::Values(ComplaintRow{"Dollar", "0", ""}, ComplaintRow{"Dollar", "$150,000", ""},
-                    ComplaintRow{"Dollar", "", ""}, ComplaintRow{"Dollar", "-0", ""},
-                    ComplaintRow{"Dollar", "-0.01", notPositive}, ComplaintRow{"Dollar", "-5", notPositive},
-                    ComplaintRow{"Dollar", "-$5", notPositive}, ComplaintRow{"Dollar", "abc", notANumber},
-                    ComplaintRow{"Dollar", " ", notANumber}, ComplaintRow{"Dollar", "%", notANumber},
-                    ComplaintRow{"Dollar", "1e5", notANumber}, ComplaintRow{"Dollar", "1.2.3", notANumber},
-                    ComplaintRow{"Dollar", "350000000000000000000000000000000000000", notANumber},
-                    ComplaintRow{"IntRate", "6.5%", ""}, ComplaintRow{"Percent", "%5%", ""},
-                    ComplaintRow{"Whole", "12%", ""}, ComplaintRow{"Whole", "x", notANumber},
-                    ComplaintRow{"SmallPercent", "0.25", ""}, ComplaintRow{"SmallPercent", "x", notANumber},
-                    ComplaintRow{"SmallPercent", "-1", notPositive}, ComplaintRow{"String", "abc", ""},
-                    ComplaintRow{"String", "-5", ""}, ComplaintRow{"string", "abc", notANumber}));
+    testing::Values(
+        ComplaintRow{FieldFormat::Dollar, "0", ""}, ComplaintRow{FieldFormat::Dollar, "$150,000", ""},
+        ComplaintRow{FieldFormat::Dollar, "", ""}, ComplaintRow{FieldFormat::Dollar, "-0", ""},
+        ComplaintRow{FieldFormat::Dollar, "-0.01", notPositive},
+        ComplaintRow{FieldFormat::Dollar, "-5", notPositive},
+        ComplaintRow{FieldFormat::Dollar, "-$5", notPositive},
+        ComplaintRow{FieldFormat::Dollar, "abc", notANumber},
+        ComplaintRow{FieldFormat::Dollar, " ", notANumber},
+        ComplaintRow{FieldFormat::Dollar, "%", notANumber},
+        ComplaintRow{FieldFormat::Dollar, "1e5", notANumber},
+        ComplaintRow{FieldFormat::Dollar, "1.2.3", notANumber},
+        ComplaintRow{FieldFormat::Dollar, "350000000000000000000000000000000000000", notANumber},
+        ComplaintRow{FieldFormat::IntRate, "6.5%", ""}, ComplaintRow{FieldFormat::Percent, "%5%", ""},
+        ComplaintRow{FieldFormat::Whole, "12%", ""}, ComplaintRow{FieldFormat::Whole, "x", notANumber},
+        ComplaintRow{FieldFormat::SmallPercent, "0.25", ""},
+        ComplaintRow{FieldFormat::SmallPercent, "x", notANumber},
+        ComplaintRow{FieldFormat::SmallPercent, "-1", notPositive},
+        ComplaintRow{FieldFormat::String, "abc", ""}, ComplaintRow{FieldFormat::String, "-5", ""}));
 
 class Validation : public EntryDesk {
 protected:
-    bool Validate(Field& field, FormatType type, Complaint complaint = Complaint::Shown) {
+    bool Validate(Field& field, FieldFormat type, Complaint complaint = Complaint::Shown) {
         return ValidateField(m_context, field, type, complaint);
     }
 };
 
 TEST_F(Validation, AcceptsANumberWithoutTouchingTheFocus) {
     Screen().ecIncome.Text = "80000";
-    EXPECT_TRUE(Validate(Screen().ecIncome, "Dollar"));
+    EXPECT_TRUE(Validate(Screen().ecIncome, FieldFormat::Dollar));
     EXPECT_EQ(Screen().ecIncome.Text, "80000");
     EXPECT_THAT(m_log, IsEmpty());
 }
 
 TEST_F(Validation, SetsAnEmptyFieldToZero) {
     Screen().ecIncome.Text.clear();
-    EXPECT_TRUE(Validate(Screen().ecIncome, "Dollar"));
+    EXPECT_TRUE(Validate(Screen().ecIncome, FieldFormat::Dollar));
     EXPECT_EQ(Screen().ecIncome.Text, "0");
     Screen().ecIncome.Text.clear();
-    EXPECT_TRUE(Validate(Screen().ecIncome, "String"));
+    EXPECT_TRUE(Validate(Screen().ecIncome, FieldFormat::String));
     EXPECT_EQ(Screen().ecIncome.Text, "0");
 }
 
 TEST_F(Validation, ReturnsTheFocusComplainsAndSelects) {
     Screen().ecIncome.Text = "lots";
-    EXPECT_FALSE(Validate(Screen().ecIncome, "Dollar"));
+    EXPECT_FALSE(Validate(Screen().ecIncome, FieldFormat::Dollar));
     EXPECT_THAT(m_log, ElementsAre("focus ecIncome", "message You must enter a number here.", "select"));
     EXPECT_EQ(Screen().ecIncome.Text, "lots");
 
     ForgetLog();
     Screen().ecGMHUtil.Text = "-5";
-    EXPECT_FALSE(Validate(Screen().ecGMHUtil, "Dollar"));
+    EXPECT_FALSE(Validate(Screen().ecGMHUtil, FieldFormat::Dollar));
     EXPECT_THAT(m_log,
                 ElementsAre("focus ecGMHUtil", "message You must enter a positive number here.", "select"));
 }
 
 TEST_F(Validation, ComplainsInAMessageBoxOfTheProgram) {
     Screen().ecIncome.Text = "lots";
-    Validate(Screen().ecIncome, "Dollar");
+    Validate(Screen().ecIncome, FieldFormat::Dollar);
     ASSERT_EQ(m_host.Messages.size(), 1U);
     EXPECT_EQ(m_host.Messages[0].Title, "Ledgrove");
     EXPECT_EQ(m_host.Messages[0].Icon, MessageIcon::Information);
@@ -87,7 +94,7 @@ TEST_F(Validation, ComplainsInAMessageBoxOfTheProgram) {
 
 TEST_F(Validation, ReturnsTheFocusWithoutAMessage) {
     Screen().ecIncome.Text = "lots";
-    EXPECT_FALSE(Validate(Screen().ecIncome, "Dollar", Complaint::Quiet));
+    EXPECT_FALSE(Validate(Screen().ecIncome, FieldFormat::Dollar, Complaint::Quiet));
     EXPECT_THAT(m_log, ElementsAre("focus ecIncome", "select"));
 }
 
@@ -96,7 +103,7 @@ TEST_F(Validation, NeverKeepsTheFocusFromACancelOrExitButton) {
         m_focus.Focused = name;
         for (const char* text : {"-5", "abc", ""}) {
             Screen().ecIncome.Text = text;
-            EXPECT_TRUE(Validate(Screen().ecIncome, "Dollar")) << name;
+            EXPECT_TRUE(Validate(Screen().ecIncome, FieldFormat::Dollar)) << name;
             EXPECT_EQ(Screen().ecIncome.Text, text);
         }
     }
@@ -107,7 +114,7 @@ TEST_F(Validation, KeepsTheFocusFromEveryOtherControl) {
     Screen().ecIncome.Text = "-5";
     for (const char* name : {"", "ecIncome", "bOK", "bCance", "bcancel", "cmdCancel", "bExi", "BExit"}) {
         m_focus.Focused = name;
-        EXPECT_FALSE(Validate(Screen().ecIncome, "Dollar")) << name;
+        EXPECT_FALSE(Validate(Screen().ecIncome, FieldFormat::Dollar)) << name;
     }
 }
 
@@ -115,28 +122,29 @@ using Formatting = EntryDesk;
 
 TEST_F(Formatting, RewritesTheFieldInItsDisplayFormat) {
     Screen().ecIncome.Text = "80000";
-    FormatField(m_session, Screen().ecIncome, "Dollar");
+    FormatField(m_session, Screen().ecIncome, FieldFormat::Dollar);
     EXPECT_EQ(Screen().ecIncome.Text, "$80,000");
 }
 
 TEST_F(Formatting, KeepsASmallPercentAsTyped) {
     Field multiplier;
     multiplier.Text = "0.25";
-    EXPECT_EQ(LeaveField(m_context, multiplier, "SmallPercent", AfterEdit::Nothing), EntryOutcome::Accepted);
+    EXPECT_EQ(LeaveField(m_context, multiplier, FieldFormat::SmallPercent, AfterEdit::Nothing),
+              EntryOutcome::Accepted);
     EXPECT_EQ(multiplier.Text, "0.25");
 }
 
 TEST_F(Formatting, ShowsAWholeNumberWithPercentAsZero) {
     Field years;
     years.Text = "12%";
-    EXPECT_EQ(LeaveField(m_context, years, "Whole", AfterEdit::Nothing), EntryOutcome::Accepted);
+    EXPECT_EQ(LeaveField(m_context, years, FieldFormat::Whole, AfterEdit::Nothing), EntryOutcome::Accepted);
     EXPECT_EQ(years.Text, "0");
     EXPECT_THAT(m_log, IsEmpty());
 }
 
 class EntryKeys : public EntryDesk {
 protected:
-    EntryOutcome Press(KeyCode key, Field& field, FormatType type = "Dollar") {
+    EntryOutcome Press(KeyCode key, Field& field, FieldFormat type = FieldFormat::Dollar) {
         return HandleEntryKey(m_context, field, key, type);
     }
 };
@@ -190,7 +198,7 @@ TEST_F(EntryKeys, TheHouseIsCheckedBeforeTheRecalculation) {
 TEST_F(EntryKeys, ADialogsFieldRecalculatesTheMainScreenToo) {
     Field ratio;
     ratio.Text = "28";
-    Press(KeyCode::Enter, ratio, "WholePercent");
+    Press(KeyCode::Enter, ratio, FieldFormat::WholePercent);
     EXPECT_EQ(ratio.Text, "28.00%");
     EXPECT_THAT(m_log, ElementsAre("recalculated", "next"));
 }
@@ -199,7 +207,7 @@ TEST_F(EntryKeys, TheNoticeOfAnEditAppearsOnce) {
     SetFieldText(m_session, Screen().ecGMHHome, "220000"); // an upgrade of 20,000 for savings worth 9,229
     Press(KeyCode::Enter, Screen().ecGMHHome);
     EXPECT_EQ(m_host.Messages.size(), 1U);
-    LeaveField(m_context, Screen().ecGMHHome, "Dollar", AfterEdit::RecalculateAndCheckHouse);
+    LeaveField(m_context, Screen().ecGMHHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse);
     EXPECT_EQ(m_host.Messages.size(), 1U);
     SetFieldText(m_session, Screen().ecIncome, "90000");
     Press(KeyCode::Enter, Screen().ecIncome);
@@ -210,7 +218,7 @@ using LostFocus = EntryDesk;
 
 TEST_F(LostFocus, ValidatesFormatsAndRecalculates) {
     Screen().ecIncome.Text = "80000";
-    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate),
+    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, FieldFormat::Dollar, AfterEdit::Recalculate),
               EntryOutcome::Accepted);
     EXPECT_EQ(Screen().ecIncome.Text, "$80,000");
     EXPECT_EQ(m_session.Scenario.AnnualIncome, 80000);
@@ -219,13 +227,13 @@ TEST_F(LostFocus, ValidatesFormatsAndRecalculates) {
 
 TEST_F(LostFocus, AnEmptyFieldShowsItsZero) {
     Screen().ecIncome.Text.clear();
-    LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate);
+    LeaveField(m_context, Screen().ecIncome, FieldFormat::Dollar, AfterEdit::Recalculate);
     EXPECT_EQ(Screen().ecIncome.Text, "$0");
 }
 
 TEST_F(LostFocus, OfARefusedTextChangesNothing) {
     Screen().ecIncome.Text = "abc";
-    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate),
+    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, FieldFormat::Dollar, AfterEdit::Recalculate),
               EntryOutcome::Refused);
     EXPECT_EQ(Screen().ecIncome.Text, "abc");
     EXPECT_THAT(m_log, ElementsAre("focus ecIncome", "message You must enter a number here.", "select"));
@@ -234,14 +242,15 @@ TEST_F(LostFocus, OfARefusedTextChangesNothing) {
 TEST_F(LostFocus, TowardsCancelNeverComplains) {
     m_focus.Focused = "bCancel";
     Screen().ecIncome.Text = "-5";
-    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Nothing), EntryOutcome::Accepted);
+    EXPECT_EQ(LeaveField(m_context, Screen().ecIncome, FieldFormat::Dollar, AfterEdit::Nothing),
+              EntryOutcome::Accepted);
     EXPECT_THAT(m_log, IsEmpty());
 }
 
 TEST_F(LostFocus, MayHaveNoFurtherSteps) {
     Field price;
     price.Text = "5000";
-    LeaveField(m_context, price, "Dollar", AfterEdit::Nothing);
+    LeaveField(m_context, price, FieldFormat::Dollar, AfterEdit::Nothing);
     EXPECT_EQ(price.Text, "$5,000");
     EXPECT_THAT(m_log, IsEmpty());
 }
@@ -252,7 +261,7 @@ TEST_F(LostFocus, TheHouseIsCheckedAfterTheRecalculation) {
     Screen().ecStdUtil.Text = "2500";
     std::string nameWhenRecalculated;
     m_host.OnPendingEvents = [&] { nameWhenRecalculated = Screen().lblHomeName.Text; };
-    LeaveField(m_context, Screen().ecStdUtil, "Dollar", AfterEdit::RecalculateAndCheckHouse);
+    LeaveField(m_context, Screen().ecStdUtil, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse);
     EXPECT_EQ(nameWhenRecalculated, "The Alder");
     EXPECT_EQ(Screen().lblHomeName.Text, "Custom");
 }
@@ -260,7 +269,7 @@ TEST_F(LostFocus, TheHouseIsCheckedAfterTheRecalculation) {
 TEST_F(LostFocus, OfOtherFieldsDoesNotCheckTheHouse) {
     m_session.ChosenHouse = {"The Alder", 1, 2, 3, 4};
     Screen().lblHomeName.Text = "The Alder";
-    LeaveField(m_context, Screen().ecIncome, "Dollar", AfterEdit::Recalculate);
+    LeaveField(m_context, Screen().ecIncome, FieldFormat::Dollar, AfterEdit::Recalculate);
     EXPECT_EQ(Screen().lblHomeName.Text, "The Alder");
 }
 
@@ -278,17 +287,17 @@ TEST_F(FieldText, OnlyAChangeOfAMarkedFieldSetsTheNoticeFlag) {
 
 TEST_F(FieldText, SettingTheSameTextIsNotAChange) {
     SetFieldText(m_session, Screen().ecGMHHome, "$206,000");
-    FormatField(m_session, Screen().ecGMHHome, "Dollar");
+    FormatField(m_session, Screen().ecGMHHome, FieldFormat::Dollar);
     EXPECT_FALSE(m_session.Scenario.EEMNoticeFlag);
 }
 
 TEST_F(FieldText, FormattingAndTheZeroOfAnEmptyFieldAreChanges) {
     Screen().ecGMHHome.Text = "206000";
-    FormatField(m_session, Screen().ecGMHHome, "Dollar");
+    FormatField(m_session, Screen().ecGMHHome, FieldFormat::Dollar);
     EXPECT_TRUE(m_session.Scenario.EEMNoticeFlag);
     m_session.Scenario.EEMNoticeFlag = false;
     Screen().ecGMHUtil.Text.clear();
-    ValidateField(m_context, Screen().ecGMHUtil, "Dollar");
+    ValidateField(m_context, Screen().ecGMHUtil, FieldFormat::Dollar);
     EXPECT_TRUE(m_session.Scenario.EEMNoticeFlag);
 }
 

@@ -35,17 +35,19 @@ protected:
 
 TEST_F(MainScreenClicks, EveryInputFieldHasItsFormatAndItsStepsAfterwards) {
     struct Row {
-        const char *Name, *Format;
+        const char* Name;
+        FieldFormat Format;
         AfterEdit After;
     };
     const auto recalculate = AfterEdit::Recalculate;
     const auto withHouse = AfterEdit::RecalculateAndCheckHouse;
-    const Row rows[] = {{"ecIncome", "Dollar", recalculate},   {"ecMonthlyDebt", "Dollar", recalculate},
-                        {"ecPctDown", "Percent", recalculate}, {"ecFixedDown", "Dollar", recalculate},
-                        {"ecStdHome", "Dollar", withHouse},    {"ecGMHHome", "Dollar", withHouse},
-                        {"ecStdUtil", "Dollar", withHouse},    {"ecGMHUtil", "Dollar", withHouse},
-                        {"ecStdRate", "IntRate", recalculate}, {"ecGMHRate", "IntRate", recalculate},
-                        {"ecStdStr", "Percent", recalculate},  {"ecGMHStr", "Percent", recalculate}};
+    const Row rows[] = {
+        {"ecIncome", FieldFormat::Dollar, recalculate},   {"ecMonthlyDebt", FieldFormat::Dollar, recalculate},
+        {"ecPctDown", FieldFormat::Percent, recalculate}, {"ecFixedDown", FieldFormat::Dollar, recalculate},
+        {"ecStdHome", FieldFormat::Dollar, withHouse},    {"ecGMHHome", FieldFormat::Dollar, withHouse},
+        {"ecStdUtil", FieldFormat::Dollar, withHouse},    {"ecGMHUtil", FieldFormat::Dollar, withHouse},
+        {"ecStdRate", FieldFormat::IntRate, recalculate}, {"ecGMHRate", FieldFormat::IntRate, recalculate},
+        {"ecStdStr", FieldFormat::Percent, recalculate},  {"ecGMHStr", FieldFormat::Percent, recalculate}};
     ASSERT_EQ(MainEntryRules().size(), std::size(rows));
     for (std::size_t i = 0; i < std::size(rows); ++i) {
         const EntryRule& rule = MainEntryRules()[i];

@@ -13,7 +13,7 @@ protected:
     /// Types the text and leaves the field.
     const std::string& Enter(const char* text) {
         SetFieldText(m_session, Screen().ecPctDown, text);
-        LeaveField(m_context, Screen().ecPctDown, "Percent", AfterEdit::Recalculate);
+        LeaveField(m_context, Screen().ecPctDown, FieldFormat::Percent, AfterEdit::Recalculate);
         return Screen().ecPctDown.Text;
     }
     const std::string& Convert(const char* text) {
@@ -42,7 +42,7 @@ TEST_F(PercentDown, Above100IsAnAmountOfTheBasePrice) {
 TEST_F(PercentDown, IsConvertedOnEnterAndOnTabBeforeTheRecalculation) {
     for (const KeyCode key : {KeyCode::Enter, KeyCode::Tab}) {
         SetFieldText(m_session, Screen().ecPctDown, "30000");
-        HandleEntryKey(m_context, Screen().ecPctDown, key, "Percent");
+        HandleEntryKey(m_context, Screen().ecPctDown, key, FieldFormat::Percent);
         EXPECT_EQ(Screen().ecPctDown.Text, "15.00%");
         EXPECT_FLOAT_EQ(m_session.StdCase.DownPayment, 30000);
     }
@@ -50,9 +50,9 @@ TEST_F(PercentDown, IsConvertedOnEnterAndOnTabBeforeTheRecalculation) {
 
 TEST_F(PercentDown, AResultAbove100IsNotConvertedAgain) {
     EXPECT_EQ(Enter("500000"), "250.00%"); // 500,000 / 200,000
-    LeaveField(m_context, Screen().ecPctDown, "Percent", AfterEdit::Recalculate);
+    LeaveField(m_context, Screen().ecPctDown, FieldFormat::Percent, AfterEdit::Recalculate);
     EXPECT_EQ(Screen().ecPctDown.Text, "250.00%");
-    HandleEntryKey(m_context, Screen().ecPctDown, KeyCode::Enter, "Percent");
+    HandleEntryKey(m_context, Screen().ecPctDown, KeyCode::Enter, FieldFormat::Percent);
     EXPECT_EQ(Screen().ecPctDown.Text, "250.00%");
     SetFieldText(m_session, Screen().ecStdHome, "$100,000");
     ConvertPercentDown(m_session);
@@ -72,13 +72,13 @@ TEST_F(PercentDown, WithoutABasePriceTheAmountStays) {
         EXPECT_EQ(Enter("30000"), "30000.00%");
     }
     Screen().ecStdHome.Text = "$200,000";
-    LeaveField(m_context, Screen().ecPctDown, "Percent", AfterEdit::Recalculate);
+    LeaveField(m_context, Screen().ecPctDown, FieldFormat::Percent, AfterEdit::Recalculate);
     EXPECT_EQ(Screen().ecPctDown.Text, "15.00%");
 }
 
 TEST_F(PercentDown, OtherFieldsAreNotConverted) {
     Screen().ecStdStr.Text = "30000";
-    LeaveField(m_context, Screen().ecStdStr, "Percent", AfterEdit::Recalculate);
+    LeaveField(m_context, Screen().ecStdStr, FieldFormat::Percent, AfterEdit::Recalculate);
     EXPECT_EQ(Screen().ecStdStr.Text, "30000.00%");
     EXPECT_EQ(Screen().ecPctDown.Text, "10.00%");
 }
@@ -103,7 +103,7 @@ TEST_F(PercentDown, OtherKeysAndFilledFieldsTypeNormally) {
 TEST_F(PercentDown, TheTypedPointIsReadAsAnAmount) {
     Screen().ecPctDown.Text.clear();
     TakePercentDownPoint(m_session, '.');
-    LeaveField(m_context, Screen().ecPctDown, "Percent", AfterEdit::Recalculate);
+    LeaveField(m_context, Screen().ecPctDown, FieldFormat::Percent, AfterEdit::Recalculate);
     EXPECT_EQ(Screen().ecPctDown.Text, "2.42%"); // 4,846 / 200,000 x 100 = 2.423
 }
 

@@ -31,8 +31,8 @@ EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const Entry
     EntryEvents events;
     events.Click = [&context] { context.Focus.SelectFieldText(); };
     events.GotFocus = events.Click;
-    events.KeyPress = [&context, &field, type = types.OnKeyPress, refresh](KeyCode key) {
-        const EntryOutcome outcome = Module1::HandleEntryKey(context, field, key, type);
+    events.KeyPress = [&context, &field, format = types.OnKeyPress, refresh](KeyCode key) {
+        const EntryOutcome outcome = Module1::HandleEntryKey(context, field, key, format);
         refresh();
         return outcome;
     };

@@ -20,8 +20,8 @@ struct EntryEvents {
 
 /// How the field of a form is entered. The formats may differ between key press and lost focus.
 struct EntryTypes {
-    Module1::FormatType OnKeyPress;
-    Module1::FormatType OnLostFocus;
+    FieldFormat OnKeyPress;
+    FieldFormat OnLostFocus;
     Module1::AfterEdit After;
 };
 

@@ -13,8 +13,8 @@ namespace Ledgrove {
 namespace {
 
 constexpr Module1::AfterEdit nothing = Module1::AfterEdit::Nothing;
-constexpr EntryTypes wholePercent{"WholePercent", "WholePercent", nothing};
-constexpr EntryTypes whole{"Whole", "Whole", nothing};
+constexpr EntryTypes wholePercent{FieldFormat::WholePercent, FieldFormat::WholePercent, nothing};
+constexpr EntryTypes whole{FieldFormat::Whole, FieldFormat::Whole, nothing};
 
 } // namespace
 
@@ -82,7 +82,8 @@ void frmAssumptions::BindTaxRows() {
         lowEnd.Change = StandardEvents(m_record.ecLowEnd[row], whole).Change;
         BindField(RowControl("ecLowEnd", row), m_record.ecLowEnd[row], lowEnd);
 
-        EntryEvents highEnd = StandardEvents(m_record.ecHighEnd[row], {"Dollar", "Dollar", nothing});
+        EntryEvents highEnd =
+            StandardEvents(m_record.ecHighEnd[row], {FieldFormat::Dollar, FieldFormat::Dollar, nothing});
         highEnd.Click = {};
         highEnd.LostFocus = [this, row] {
             const auto outcome = Module1::LeaveHighEnd(Context(), m_record, row);
@@ -98,11 +99,13 @@ void frmAssumptions::BindTaxRows() {
 }
 
 void frmAssumptions::BindRates() {
-    BindField("ecRealEstateTaxPct", m_record.ecRealEstateTaxPct, {"WholePercent", "Percent", nothing});
+    BindField("ecRealEstateTaxPct", m_record.ecRealEstateTaxPct,
+              {FieldFormat::WholePercent, FieldFormat::Percent, nothing});
     BindField("ecInsurancePct", m_record.ecInsurancePct, wholePercent);
     EntryEvents rate = StandardEvents(m_record.ecPV_Rate, wholePercent);
     rate.LostFocus = [this] {
-        const auto outcome = Module1::LeaveFieldAs(Context(), m_record.ecPV_Rate, "Percent", "WholePercent");
+        const auto outcome = Module1::LeaveFieldAs(Context(), m_record.ecPV_Rate, FieldFormat::Percent,
+                                                   FieldFormat::WholePercent);
         Refresh();
         return outcome;
     };
@@ -118,7 +121,7 @@ void frmAssumptions::BindRows() {
     }
     for (std::size_t row = 0; row < PMIRowCount; ++row)
         BindField(RowControl("PMI_Multiplier", row), m_record.PMI_Multiplier[row],
-                  {"SmallPercent", "SmallPercent", nothing});
+                  {FieldFormat::SmallPercent, FieldFormat::SmallPercent, nothing});
 }
 
 void frmAssumptions::ConnectOptions() {

@@ -163,7 +163,8 @@ void frmHomeSelection::ConnectList() {
 void frmHomeSelection::BindFields() {
     for (const HouseAmount& amount : HouseAmounts()) {
         const QString control = "ec" + QString::fromUtf8(amount.Key.data(), qsizetype(amount.Key.size()));
-        BindField(control, m_record.*amount.Shown, {"Dollar", "Dollar", Module1::AfterEdit::Nothing});
+        BindField(control, m_record.*amount.Shown,
+                  {FieldFormat::Dollar, FieldFormat::Dollar, Module1::AfterEdit::Nothing});
     }
 }
 

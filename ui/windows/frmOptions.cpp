@@ -50,7 +50,8 @@ void frmOptions::BuildControls() {
 void frmOptions::BindFields() {
     for (const auto& [name, field] :
          {std::pair{"ecFeat1", &m_record.ecFeat1}, {"ecFeat2", &m_record.ecFeat2}}) {
-        EntryEvents events = StandardEvents(*field, {"String", "String", Module1::AfterEdit::Nothing});
+        EntryEvents events =
+            StandardEvents(*field, {FieldFormat::String, FieldFormat::String, Module1::AfterEdit::Nothing});
         // Any text may stay; what cannot be saved is told when it is saved.
         events.LostFocus = {};
         // Tab only moves: committing would make the "0" of an empty number field out of an option left empty.

@@ -23,7 +23,7 @@ void LoadedPrintersTest::withoutTheLibraryPdfStillWorks() {
     QVERIFY(IsPdf(devices[0]));
     QCOMPARE(host.Messages().size(), std::size_t{1});
     const QString said = QString::fromStdString(host.Messages()[0].Text);
-    QVERIFY2(said.startsWith("The printers of this computer are not available, because \" + folder.path() +
+    QVERIFY2(said.startsWith("The printers of this computer are not available, because \"" + folder.path() +
                              "/modules/ledgrove-printers.so\" does not load: "),
              qPrintable(said));
     QVERIFY2(said.endsWith("\"Print to PDF\" still works."), qPrintable(said));

@@ -48,8 +48,9 @@ struct Form {
             if (const QString text = QString::fromStdString(field.Text); widget.text() != text)
                 widget.setText(text);
         };
-        widget.Bind(field,
-                    StandardEntryEvents(Context, field, {"Dollar", "Dollar", AfterEdit::Nothing}, refresh));
+        widget.Bind(field, StandardEntryEvents(Context, field,
+                                               {FieldFormat::Dollar, FieldFormat::Dollar, AfterEdit::Nothing},
+                                               refresh));
     }
 
     QWidget Window;
