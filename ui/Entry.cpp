@@ -68,14 +68,20 @@ EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, Fi
 }
 
 EntryOutcome LeaveField(EntryContext& context, Field& field, FieldFormat format, AfterEdit after) {
+    Session& session = context.State;
+    const std::string text = field.Text;
+    const std::string house = session.Screen.lblHomeName.Text;
     if (!ValidateField(context, field, format))
         return EntryOutcome::Refused;
-    FormatEntry(context.State, field, format);
-    if (after != AfterEdit::Nothing)
-        Recalculate(context.State, context.Outside);
+    FormatEntry(session, field, format);
+    // Enter and Tab have committed the field before it is left.
+    const bool recalculates = after != AfterEdit::Nothing && !IsUpToDate(session);
+    if (recalculates)
+        Recalculate(session, context.Outside);
     if (after == AfterEdit::RecalculateAndCheckHouse)
-        CheckCustomHouse(context.State);
-    return EntryOutcome::Accepted;
+        CheckCustomHouse(session);
+    const bool changed = recalculates || field.Text != text || session.Screen.lblHomeName.Text != house;
+    return changed ? EntryOutcome::Accepted : EntryOutcome::Unchanged;
 }
 
 void CheckCustomHouse(Session& session) {

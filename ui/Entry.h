@@ -53,7 +53,11 @@ bool ValidateField(EntryContext& context, Field& field, FieldFormat format,
 /// Rewrites the field's text in its display format.
 void FormatField(Session& session, Field& field, FieldFormat format);
 
-enum class EntryOutcome { Accepted, Refused };
+enum class EntryOutcome {
+    Refused,
+    Accepted,
+    Unchanged ///< accepted before, and nothing had to be written
+};
 
 /// Commits the field on Enter or Tab: validate, format, custom house, recalculate; Enter moves on to the next
 /// field. Any other key does nothing here.
@@ -62,7 +66,8 @@ EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, Fi
 /// What follows an accepted lost focus.
 enum class AfterEdit { Nothing, Recalculate, RecalculateAndCheckHouse };
 
-/// Validates and formats the field as it is left, then runs the form's after-edit steps.
+/// Validates and formats the field as it is left, then runs the form's after-edit steps. A field that Enter
+/// or Tab has committed, and one that was only passed through, is not recalculated again.
 EntryOutcome LeaveField(EntryContext& context, Field& field, FieldFormat format, AfterEdit after);
 
 /// Names the house "Custom" when a price or utility bill is no longer that of the chosen house scenario.

@@ -130,7 +130,7 @@ TEST_F(Formatting, KeepsASmallPercentAsTyped) {
     Field multiplier;
     multiplier.Text = "0.25";
     EXPECT_EQ(LeaveField(m_context, multiplier, FieldFormat::SmallPercent, AfterEdit::Nothing),
-              EntryOutcome::Accepted);
+              EntryOutcome::Unchanged);
     EXPECT_EQ(multiplier.Text, "0.25");
 }
 
@@ -215,6 +215,44 @@ TEST_F(EntryKeys, TheNoticeOfAnEditAppearsOnce) {
 }
 
 using LostFocus = EntryDesk;
+
+TEST_F(LostFocus, OfAFieldThatEnterCommittedCommitsNothing) {
+    SetFieldText(m_session, Screen().ecStdHome, "210000");
+    HandleEntryKey(m_context, Screen().ecStdHome, KeyCode::Enter, FieldFormat::Dollar);
+    m_log.clear();
+    EXPECT_EQ(
+        LeaveField(m_context, Screen().ecStdHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse),
+        EntryOutcome::Unchanged);
+    EXPECT_THAT(m_log, IsEmpty());
+}
+
+TEST_F(LostFocus, TakesTheFormatThatEnterDidNot) {
+    Field tax;
+    tax.Text = "0.5";
+    HandleEntryKey(m_context, tax, KeyCode::Tab, FieldFormat::SmallPercent);
+    EXPECT_EQ(LeaveField(m_context, tax, FieldFormat::WholePercent, AfterEdit::Nothing),
+              EntryOutcome::Accepted);
+    EXPECT_EQ(tax.Text, "0.50%");
+}
+
+TEST_F(LostFocus, BringsTheNoticeOfATextTypedAndTypedBack) {
+    SetFieldText(m_session, Screen().ecGMHHome, "220000"); // an upgrade of 20,000 for savings worth 9,229
+    LeaveField(m_context, Screen().ecGMHHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse);
+    ASSERT_EQ(m_host.Messages.size(), 1U);
+    SetFieldText(m_session, Screen().ecGMHHome, "2");
+    SetFieldText(m_session, Screen().ecGMHHome, "$220,000");
+    LeaveField(m_context, Screen().ecGMHHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse);
+    EXPECT_EQ(m_host.Messages.size(), 2U);
+}
+
+TEST_F(LostFocus, StillNamesTheHouseCustom) {
+    LeaveField(m_context, Screen().ecStdHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse);
+    Screen().lblHomeName.Text = "Maple";
+    EXPECT_EQ(
+        LeaveField(m_context, Screen().ecStdHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse),
+        EntryOutcome::Accepted);
+    EXPECT_EQ(Screen().lblHomeName.Text, "Custom");
+}
 
 TEST_F(LostFocus, ValidatesFormatsAndRecalculates) {
     Screen().ecIncome.Text = "80000";

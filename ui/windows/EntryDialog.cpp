@@ -14,6 +14,7 @@ namespace Ledgrove {
 
 EntryDialog::EntryDialog(const DialogIdentity& identity, Session& session, Host& outside, QWidget* parent)
     : QDialog(parent)
+    , m_shows([this] { Refresh(); })
     , m_host(outside, [this] { Refresh(); })
     , m_focus(*this)
     , m_context{session, m_host, m_focus}
@@ -71,7 +72,7 @@ void EntryDialog::BindField(const QString& control, Field& field, EntryEvents ev
 }
 
 EntryEvents EntryDialog::StandardEvents(Field& field, const EntryTypes& types) {
-    return StandardEntryEvents(m_context, field, types, [this] { Refresh(); });
+    return StandardEntryEvents(m_context, field, types, m_shows);
 }
 
 void EntryDialog::Present() {

@@ -54,11 +54,13 @@ protected:
     Session& State() { return m_context.State; }
     Host& Outside() { return m_host; }
     EntryContext& Context() { return m_context; }
+    RecordShow& Shows() { return m_shows; }
 
 private:
     void PressFocusedButton();
     void SendHelpKey();
 
+    RecordShow m_shows;
     RefreshingHost m_host;
     FormFocus m_focus;
     EntryContext m_context;

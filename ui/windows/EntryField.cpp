@@ -27,18 +27,21 @@ bool IsPlain(const QKeyEvent& event) {
 } // namespace
 
 EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const EntryTypes& types,
-                                std::function<void()> refresh) {
+                                RecordShow& shows) {
     EntryEvents events;
     events.Click = [&context] { context.Focus.SelectFieldText(); };
     events.GotFocus = events.Click;
-    events.KeyPress = [&context, &field, format = types.OnKeyPress, refresh](KeyCode key) {
-        const EntryOutcome outcome = Module1::HandleEntryKey(context, field, key, format);
-        refresh();
+    events.KeyPress = [&context, &field, format = types.OnKeyPress, &shows](KeyCode key) {
+        EntryOutcome outcome{};
+        shows.Run([&] { outcome = Module1::HandleEntryKey(context, field, key, format); });
         return outcome;
     };
-    events.LostFocus = [&context, &field, types, refresh] {
-        const EntryOutcome outcome = Module1::LeaveField(context, field, types.OnLostFocus, types.After);
-        refresh();
+    events.LostFocus = [&context, &field, types, &shows] {
+        EntryOutcome outcome{};
+        shows.Run([&] {
+            outcome = Module1::LeaveField(context, field, types.OnLostFocus, types.After);
+            return outcome != EntryOutcome::Unchanged;
+        });
         return outcome;
     };
     events.Change = [&context, &field](const std::string& text) {
@@ -75,11 +78,11 @@ void EntryField::Refresh() {
 }
 
 bool EntryField::CommitInPlace() {
-    return !m_events.LostFocus || m_events.LostFocus() == EntryOutcome::Accepted;
+    return !m_events.LostFocus || m_events.LostFocus() != EntryOutcome::Refused;
 }
 
 bool EntryField::Commit(KeyCode key) {
-    return !m_events.KeyPress || m_events.KeyPress(key) == EntryOutcome::Accepted;
+    return !m_events.KeyPress || m_events.KeyPress(key) != EntryOutcome::Refused;
 }
 
 bool EntryField::event(QEvent* event) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ui/Entry.h"
+#include "ui/windows/RecordShow.h"
 
 namespace Ledgrove {
 
@@ -25,10 +26,10 @@ struct EntryTypes {
     Module1::AfterEdit After;
 };
 
-/// The events as most fields connect them. `refresh` shows the record again after each; it and the two
-/// references must outlive the field.
+/// The events as most fields connect them. The rules run in `shows`; the three references must outlive the
+/// field.
 EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const EntryTypes& types,
-                                std::function<void()> refresh);
+                                RecordShow& shows);
 
 /// Shows `text` where it differs. Showing is not typing.
 void ShowText(QLineEdit& edit, const std::string& text);

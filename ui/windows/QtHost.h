@@ -15,7 +15,7 @@ public:
     void RunPendingEvents() override;
 };
 
-/// Shows the record in its window before the outside is asked anything, so that nobody looks at old figures.
+/// Shows the record in its window before a message box opens over it, so that nobody looks at old figures.
 class RefreshingHost : public Host {
 public:
     RefreshingHost(Host& outside, std::function<void()> refresh)
@@ -26,10 +26,7 @@ public:
         m_refresh();
         return m_outside.ShowMessage(message);
     }
-    void RunPendingEvents() override {
-        m_refresh();
-        m_outside.RunPendingEvents();
-    }
+    void RunPendingEvents() override { m_outside.RunPendingEvents(); }
 
 private:
     Host& m_outside;

@@ -75,8 +75,7 @@ void frmAssumptions::BindTaxRows() {
     for (std::size_t row = 0; row < TaxRowCount; ++row) {
         EntryEvents lowEnd;
         lowEnd.LostFocus = [this, row] {
-            Module1::LeaveLowEnd(State(), m_record, row);
-            Refresh();
+            Shows().Run([&] { Module1::LeaveLowEnd(State(), m_record, row); });
             return Module1::EntryOutcome::Accepted;
         };
         lowEnd.Change = StandardEvents(m_record.ecLowEnd[row], whole).Change;
@@ -86,8 +85,8 @@ void frmAssumptions::BindTaxRows() {
             StandardEvents(m_record.ecHighEnd[row], {FieldFormat::Dollar, FieldFormat::Dollar, nothing});
         highEnd.Click = {};
         highEnd.LostFocus = [this, row] {
-            const auto outcome = Module1::LeaveHighEnd(Context(), m_record, row);
-            Refresh();
+            Module1::EntryOutcome outcome{};
+            Shows().Run([&] { outcome = Module1::LeaveHighEnd(Context(), m_record, row); });
             return outcome;
         };
         BindField(RowControl("ecHighEnd", row), m_record.ecHighEnd[row], highEnd);
@@ -104,9 +103,11 @@ void frmAssumptions::BindRates() {
     BindField("ecInsurancePct", m_record.ecInsurancePct, wholePercent);
     EntryEvents rate = StandardEvents(m_record.ecPV_Rate, wholePercent);
     rate.LostFocus = [this] {
-        const auto outcome = Module1::LeaveFieldAs(Context(), m_record.ecPV_Rate, FieldFormat::Percent,
-                                                   FieldFormat::WholePercent);
-        Refresh();
+        Module1::EntryOutcome outcome{};
+        Shows().Run([&] {
+            outcome = Module1::LeaveFieldAs(Context(), m_record.ecPV_Rate, FieldFormat::Percent,
+                                            FieldFormat::WholePercent);
+        });
         return outcome;
     };
     BindField("ecPV_Rate", m_record.ecPV_Rate, rate);

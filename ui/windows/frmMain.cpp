@@ -31,6 +31,7 @@ namespace Ledgrove {
 frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* parent)
     : QMainWindow(parent)
     , m_session(session)
+    , m_shows([this] { Refresh(); })
     , m_host(outside, [this] { Refresh(); })
     , m_focus(*this)
     , m_context{session, m_host, m_focus}
@@ -99,12 +100,12 @@ void frmMain::ConnectFields() {
     for (const EntryRule& rule : MainEntryRules()) {
         const QString name = QString::fromUtf8(rule.Name.data(), static_cast<qsizetype>(rule.Name.size()));
         Field& field = screen.*rule.Member;
-        EntryEvents events = StandardEntryEvents(m_context, field, {rule.Format, rule.Format, rule.After},
-                                                 [this] { Refresh(); });
+        EntryEvents events =
+            StandardEntryEvents(m_context, field, {rule.Format, rule.Format, rule.After}, m_shows);
         if (rule.Member == &MainScreen::ecPctDown)
             events.Character = [this](char key) {
-                const bool taken = Module1::TakePercentDownPoint(m_session, key);
-                Refresh();
+                bool taken = false;
+                m_shows.Run([&] { return taken = Module1::TakePercentDownPoint(m_session, key); });
                 return taken;
             };
         findChild<EntryField*>(name)->Bind(field, std::move(events));
@@ -120,28 +121,22 @@ void frmMain::ConnectPickLists() {
         auto* list = findChild<QComboBox*>(name);
         // Choosing the item that is chosen already is a click, too.
         connect(list, &QComboBox::activated, this, [this, list, act = click] {
-            act(m_session, m_host, list->currentText().toStdString());
-            Refresh();
+            m_shows.Run([&] { act(m_session, m_host, list->currentText().toStdString()); });
         });
     }
 }
 
 void frmMain::ConnectOptions() {
     connect(findChild<QButtonGroup*>("optDownPayment"), &QButtonGroup::idClicked, this, [this](int option) {
-        Module1::ClickDownPayment(m_session, m_host, option);
-        Refresh();
+        m_shows.Run([&] { Module1::ClickDownPayment(m_session, m_host, option); });
     });
-    connect(findChild<QCheckBox*>("chkDoTax0"), &QCheckBox::clicked, this, [this](bool checked) {
-        Module1::ClickTaxes(m_session, m_host, checked);
-        Refresh();
-    });
+    connect(findChild<QCheckBox*>("chkDoTax0"), &QCheckBox::clicked, this,
+            [this](bool checked) { m_shows.Run([&] { Module1::ClickTaxes(m_session, m_host, checked); }); });
 }
 
 void frmMain::ConnectTabs() {
-    connect(findChild<ResultPanels*>(), &QTabWidget::currentChanged, this, [this](int tab) {
-        Module1::ClickTab(m_session, m_host, tab);
-        Refresh();
-    });
+    connect(findChild<ResultPanels*>(), &QTabWidget::currentChanged, this,
+            [this](int tab) { m_shows.Run([&] { Module1::ClickTab(m_session, m_host, tab); }); });
 }
 
 void frmMain::ConnectButtons() {
@@ -188,15 +183,9 @@ void frmMain::GoTo(const QString& control) {
 
 void frmMain::ConnectAction(const char* button, std::function<void()> action) {
     auto* widget = findChild<QPushButton*>(button);
-    if (!action) {
-        widget->setEnabled(false);
-        widget->setToolTip("Comes with a later version");
-        return;
-    }
-    connect(widget, &QPushButton::clicked, this, [this, act = std::move(action)] {
-        act();
-        Refresh();
-    });
+    if (!action)
+        return widget->setEnabled(false);
+    connect(widget, &QPushButton::clicked, this, [this, act = std::move(action)] { m_shows.Run(act); });
 }
 
 void frmMain::OpenHouses() {

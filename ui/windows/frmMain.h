@@ -9,6 +9,7 @@
 #include "ui/windows/HelpPrinter.h"
 #include "ui/windows/HelpWindow.h"
 #include "ui/windows/QtHost.h"
+#include "ui/windows/RecordShow.h"
 
 class QPushButton;
 
@@ -76,6 +77,7 @@ private:
     void PrintReports();
 
     Session& m_session;
+    RecordShow m_shows;
     RefreshingHost m_host;
     FormFocus m_focus;
     EntryContext m_context;

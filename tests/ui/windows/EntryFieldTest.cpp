@@ -44,19 +44,19 @@ struct Form {
     }
 
     void Bind(EntryField& widget, Field& field) {
-        const auto refresh = [&widget, &field] {
-            if (const QString text = QString::fromStdString(field.Text); widget.text() != text)
-                widget.setText(text);
-        };
         widget.Bind(field, StandardEntryEvents(Context, field,
                                                {FieldFormat::Dollar, FieldFormat::Dollar, AfterEdit::Nothing},
-                                               refresh));
+                                               Shows));
     }
 
     QWidget Window;
     Session State;
     FormFocus Focus{Window};
     EntryContext Context;
+    RecordShow Shows{[this] {
+        First->Refresh();
+        Second->Refresh();
+    }};
     EntryField *First = new EntryField, *Second = new EntryField;
     QPushButton *Other = new QPushButton("&Other"), *Cancel = new QPushButton("Cancel"),
                 *Exit = new QPushButton("Exit");

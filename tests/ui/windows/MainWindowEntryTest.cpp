@@ -39,6 +39,9 @@ class MainWindowEntryTest : public QObject {
 
 private slots:
     void enterCommitsMovesOnAndUpdatesLabels();
+    void oneEntryRecalculatesAndShowsOnce_data();
+    void oneEntryRecalculatesAndShowsOnce();
+    void passingThroughAFieldCommitsNothing();
     void everyInputReachesTheResults();
     void refusalReturnsFocusWithOneMessage();
     void pressOnAnotherControlAfterRefusalChangesNothing();
@@ -69,6 +72,59 @@ void MainWindowEntryTest::enterCommitsMovesOnAndUpdatesLabels() {
     QCOMPARE(open.FieldText("ecStdHome"), "$200,000");
     QCOMPARE(open.LabelText("lblStdHome"), "$200,000");
     QCOMPARE(open.Focused(), "ecGMHHome");
+}
+
+namespace {
+
+/// What an event makes the window do, on a tab whose panel does not yield.
+struct Counts {
+    explicit Counts(const OpenWindow& open)
+        : m_open(open)
+        , m_shown(open.Window.get(), &frmMain::Refreshed)
+        , m_yieldsBefore(open.Outside.Yields) {}
+    int Recalculations() const { return m_open.Outside.Yields - m_yieldsBefore; }
+    int Shown() const { return static_cast<int>(m_shown.count()); }
+
+private:
+    const OpenWindow& m_open;
+    QSignalSpy m_shown;
+    int m_yieldsBefore;
+};
+
+} // namespace
+
+void MainWindowEntryTest::oneEntryRecalculatesAndShowsOnce_data() {
+    QTest::addColumn<QString>("leaving");
+    for (const char* leaving : {"Enter", "Tab", "Down", "click"})
+        QTest::newRow(leaving) << leaving;
+}
+
+void MainWindowEntryTest::oneEntryRecalculatesAndShowsOnce() {
+    QFETCH(QString, leaving);
+    OpenWindow open;
+    EnterHomes(open);
+    ClickTabBar(open, 4);
+    open.Type("ecStdHome", "210000");
+    const Counts counts(open);
+    if (leaving == "click")
+        ClickAt(open.Find("ecGMHHome"));
+    else
+        open.Press(leaving == "Enter" ? Qt::Key_Return : leaving == "Tab" ? Qt::Key_Tab : Qt::Key_Down);
+    QCOMPARE(open.Focused(), "ecGMHHome");
+    QCOMPARE(open.LabelText("lblStdHome"), "$210,000");
+    QCOMPARE(counts.Recalculations(), 1);
+    QCOMPARE(counts.Shown(), 1);
+}
+
+void MainWindowEntryTest::passingThroughAFieldCommitsNothing() {
+    OpenWindow open;
+    EnterHomes(open);
+    ClickTabBar(open, 4);
+    open.Find("ecStdHome").setFocus();
+    const Counts counts(open);
+    open.Find("ecGMHHome").setFocus();
+    QCOMPARE(counts.Recalculations(), 0);
+    QCOMPARE(counts.Shown(), 0);
 }
 
 void MainWindowEntryTest::everyInputReachesTheResults() {

@@ -20,13 +20,14 @@ public:
         Messages.push_back(message);
         return Answer;
     }
-    void RunPendingEvents() override {}
+    void RunPendingEvents() override { ++Yields; }
 
     /// The texts since the last call.
     std::vector<std::string> TakeTexts();
 
     MessageAnswer Answer = MessageAnswer::Ok;
     std::vector<Message> Messages;
+    int Yields = 0; ///< a recalculation ends with one; the panels of the tabs 1 to 3 add one
 };
 
 /// Fills the screen as start-up does: 30 years, 6.5 %, "Conventional", "% Down", the shipped loan types, all
