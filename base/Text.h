@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,14 @@ constexpr bool IsBlank(std::string_view text, std::string_view blanks = " ") {
 /// Whether this byte of a UTF-8 text begins a character, and does not go on with one.
 constexpr bool BeginsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+/// The number of characters of a UTF-8 text: how many places it takes in a column.
+constexpr std::size_t CharacterCount(std::string_view text) {
+    std::size_t count = 0;
+    for (const char byte : text)
+        count += BeginsCharacter(byte) ? 1 : 0;
+    return count;
 }
 
 /// The text in double quotes, as a sentence names a file or a key. What it holds stays as it is.

@@ -119,6 +119,12 @@ std::span<const ControlEntry<Label>> LabelTable() {
     return labels;
 }
 
+std::string_view LabelName(Label MainScreen::*label) {
+    return std::find_if(std::begin(labels), std::end(labels),
+                        [label](const ControlEntry<Label>& entry) { return entry.Member == label; })
+        ->Name;
+}
+
 std::span<const ControlEntry<Label>> ResultLabelTable() {
     return std::span(labels).first(std::size(labels) - 1);
 }

@@ -116,6 +116,9 @@ std::span<const ControlEntry<PickList>> PickListTable();
 /// Every label that the program writes, by name: the result labels, then `lblHomeName`.
 std::span<const ControlEntry<Label>> LabelTable();
 
+/// The name of a label of the table.
+std::string_view LabelName(Label MainScreen::*label);
+
 /// The labels that a recalculation writes, which are all but `lblHomeName`.
 std::span<const ControlEntry<Label>> ResultLabelTable();
 

@@ -2,6 +2,7 @@
 #include "reports/modPrint.h"
 
 #include "engine/NumberText.h"
+#include "ui/ResultSheets.h"
 
 // The sections of the report that can be chosen.
 namespace Ledgrove::modPrint {
@@ -12,12 +13,37 @@ std::string Money(const Label& label) {
     return Pictured(label.Text, MoneyPicture);
 }
 
-std::string CaptionRow(const Label& caption, const Label& first, const Label& second) {
-    return Row({CellText(caption.Text), Money(first), Money(second)});
+/// The caption as the report words it; a label's words stand as they are.
+std::string Caption(const SheetRow& row, const MainScreen& screen) {
+    if (!row.ReportCaption.empty())
+        return std::string(row.ReportCaption);
+    return row.CaptionLabel ? CellText((screen.*row.CaptionLabel).Text) : std::string(row.Caption);
 }
 
-std::string LabelRow(std::string_view caption, const Label& base, const Label& labelled) {
-    return Row({caption, Money(base), Money(labelled)});
+/// A row of two figures; "NONE" stands where the base home has none.
+std::string TwoFigures(const SheetRow& row, const MainScreen& screen) {
+    return Row(
+        {Caption(row, screen), row.First ? Money(screen.*row.First) : "NONE", Money(screen.*row.Second)});
+}
+
+std::string OneFigure(const SheetRow& row, const MainScreen& screen) {
+    return Row({Caption(row, screen), Money(screen.*row.Second)});
+}
+
+/// The rows of the sheet that have this weight, whether or not the screen shows them.
+std::string RowsOf(SheetKind kind, RowWeight weight, const MainScreen& screen) {
+    std::string rows;
+    for (const SheetRow& row : SheetOf(kind).Rows) {
+        if (row.Weight == weight)
+            rows += TwoFigures(row, screen);
+    }
+    return rows;
+}
+
+void WriteHeads(PrintDocument& document, SheetKind kind) {
+    const auto& heads = SheetOf(kind).Heads;
+    std::string header("|");
+    document.AddTable(ThreeColumns, header.append(heads[0]).append("|").append(heads[1]), "");
 }
 
 } // namespace
@@ -26,15 +52,12 @@ void WriteCashFlow(PrintDocument& document, const ReportContent& content) {
     const MainScreen& screen = content.State.Screen;
     BeginSectionBody(document);
     WriteTitleBar(document, "GREENMARK - More Value For Less Cost");
-    document.AddTable(ThreeColumns, "|Monthly|Yearly", "");
+    WriteHeads(document, SheetKind::CashFlow);
     document.FontBold = false;
-    document.AddTable(ThreeColumns, "",
-                      CaptionRow(screen.lbladditionalmortgagetext, screen.lblAddMortMo, screen.lblAddMortYr) +
-                          CaptionRow(screen.lblutilitysavingstext, screen.lblUtilSavMo, screen.lblUtilSavYr) +
-                          CaptionRow(screen.lbltaxsavingstext, screen.lblTaxSavMo, screen.lblTaxSavYr) + ";");
+    // The last row stays empty for spacing.
+    document.AddTable(ThreeColumns, "", RowsOf(SheetKind::CashFlow, RowWeight::Plain, screen) + ";");
     document.FontBold = true;
-    document.AddTable(ThreeColumns, "",
-                      CaptionRow(screen.lblnetcashflowtext, screen.lblNetCashMo, screen.lblNetCashYr));
+    document.AddTable(ThreeColumns, "", RowsOf(SheetKind::CashFlow, RowWeight::Total, screen));
     document.Paragraph("");
 }
 
@@ -43,24 +66,18 @@ void WriteSummary(PrintDocument& document, const ReportContent& content) {
     const MainScreen& screen = content.State.Screen;
     BeginSectionBody(document);
     WriteTitleBar(document, "Summary");
-    document.AddTable(ThreeColumns, "|Base Home|GREENMARK Home", "");
+    WriteHeads(document, SheetKind::SummaryHomes);
     document.FontBold = false;
-    document.AddTable(ThreeColumns, "",
-                      LabelRow("Sticker Price", screen.lblStdHome, screen.lblGMHHome) +
-                          LabelRow("Down Payment", screen.lblStdDown, screen.lblgmhDown) +
-                          LabelRow("Mortgage Amount", screen.lblStdMortgage, screen.lblgmhMortgage) +
-                          LabelRow("Mortgage Payment", screen.lblStdPITI, screen.lblGMHPITI) +
-                          LabelRow("Monthly Utility Bills", screen.lblStdUtilMo, screen.lblGMHUtilMo) +
-                          Row({CellText(screen.lblTaxSavmo2Text.Text), "NONE", Money(screen.lbltaxsavmo2)}));
+    document.AddTable(ThreeColumns, "", RowsOf(SheetKind::SummaryHomes, RowWeight::Plain, screen));
     document.FontBold = true;
-    document.AddTable(ThreeColumns, "",
-                      LabelRow("Net Monthly Payment", screen.lblStdPITIU, screen.lblGMHPITIU));
-    document.AddTable(wideSecond, "", Row({"Net Monthly Cash Flow", Money(screen.lblNetCashMo2)}));
+    document.AddTable(ThreeColumns, "", RowsOf(SheetKind::SummaryHomes, RowWeight::Total, screen));
+    const auto savings = SheetOf(SheetKind::SummarySavings).Rows;
+    document.AddTable(wideSecond, "", OneFigure(savings.front(), screen));
     document.FontBold = false;
-    document.AddTable(wideSecond, "",
-                      Row({CellText(screen.lblYrsIn.Text), Money(screen.lblExpYrPre)}) +
-                          Row({CellText(screen.lblTerm.Text), Money(screen.lbl30YrPre)}) +
-                          Row({CellText(screen.lblPV.Text), Money(screen.lblPVofSavings)}));
+    std::string rows;
+    for (const SheetRow& row : savings.subspan(1))
+        rows += OneFigure(row, screen);
+    document.AddTable(wideSecond, "", rows);
     if (screen.lblPVNote.Visible)
         WriteNote(document, screen.lblPVNote.Text);
     document.Paragraph("");
@@ -72,10 +89,11 @@ void WriteBuyMoreHome(PrintDocument& document, const ReportContent& content) {
     WriteTitleBar(document, "Buy More Home");
     document.FontBold = false;
     // The first row stays empty for spacing.
+    std::string rows(";");
+    for (const SheetRow& row : SheetOf(SheetKind::Purchase).Rows)
+        rows += Row({Caption(row, screen), Money(screen.*row.Second), ""});
     document.AddTable("3860|>1100|<2600;", "",
-                      ";A Monthly Net Cash Flow of|" + Money(screen.lblNetCashMoTx) +
-                          "|;Can Purchase Options up to|" + Money(screen.lblExtrasTx) +
-                          "|;;For the same monthly cost, consider these:|Option 1|" +
+                      rows + ";For the same monthly cost, consider these:|Option 1|" +
                           Money(screen.lblfeature1) + "; |Option 2|" + Money(screen.lblfeature2) + ";;");
     document.Paragraph("");
 }
@@ -84,15 +102,11 @@ void WriteAffordability(PrintDocument& document, const ReportContent& content) {
     const MainScreen& screen = content.State.Screen;
     BeginSectionBody(document);
     WriteTitleBar(document, "GREENMARK Qualified Homes are Affordable");
-    document.AddTable(ThreeColumns, "|Base Home|GREENMARK Home", "");
+    WriteHeads(document, SheetKind::Affordability);
     document.FontBold = false;
     document.AddTable(ThreeColumns, "",
-                      LabelRow("Mortgage Amount", screen.lblStdMort, screen.lblGMHMort) +
-                          LabelRow("Down Payment", screen.lblstddown2, screen.lblgmhdown2) +
-                          LabelRow("Mortgage Payment", screen.lblStdMortPayment, screen.lblGMHMortPayment) +
-                          LabelRow("Maximum Loan Value", screen.lblStdMaxHome, screen.lblGMHMaxHome) +
-                          LabelRow("Maximum Payment", screen.lblStdInc, screen.lblGMHInc) +
-                          LabelRow("Buyer Qualifies", screen.lblStdQual, screen.lblGMHQual));
+                      RowsOf(SheetKind::Affordability, RowWeight::Plain, screen) +
+                          RowsOf(SheetKind::Affordability, RowWeight::Total, screen));
     WriteNote(document,
               "*Ledgrove only provides estimates & does not account for LTV - check with your bank");
 }

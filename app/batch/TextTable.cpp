@@ -1,9 +1,10 @@
 #include "app/batch/TextTable.h"
 
 #include <algorithm>
-#include <array>
 
+#include "base/Text.h"
 #include "engine/NumberText.h"
+#include "ui/ResultSheets.h"
 
 namespace Ledgrove {
 
@@ -12,35 +13,21 @@ namespace {
 constexpr std::size_t captionWidth = 32;
 constexpr std::size_t columnWidth = 18;
 
-void AppendLeft(std::string& out, std::string_view text, std::size_t width) {
-    out.append(text);
-    out.append(text.size() < width ? width - text.size() : 1, ' ');
-}
-
-void AppendRight(std::string& out, std::string_view text, std::size_t width) {
-    out.append(text.size() < width ? width - text.size() : 1, ' ');
-    out.append(text);
+std::string Blanks(std::string_view text, std::size_t width) {
+    const std::size_t places = CharacterCount(text);
+    return std::string(places < width ? width - places : 1, ' ');
 }
 
 void AppendRow(std::string& out, std::string_view caption, std::string_view first,
                std::string_view second = {}) {
-    AppendLeft(out, caption, captionWidth);
-    AppendRight(out, first, columnWidth);
+    out.append(caption).append(Blanks(caption, captionWidth));
+    if (!first.empty() || second.empty())
+        out.append(Blanks(first, columnWidth)).append(first);
+    else
+        out.append(columnWidth, ' ');
     if (!second.empty())
-        AppendRight(out, second, columnWidth);
+        out.append(Blanks(second, columnWidth)).append(second);
     out += '\n';
-}
-
-struct Row {
-    std::string_view Caption;
-    std::string_view First;
-    std::string_view Second;
-};
-
-void AppendRows(std::string& out, std::string_view heading, std::initializer_list<Row> rows) {
-    out.append("\n").append(heading).append("\n");
-    for (const Row& row : rows)
-        AppendRow(out, row.Caption, row.First, row.Second);
 }
 
 void AppendBuyer(std::string& out, const MainScreen& s) {
@@ -51,56 +38,50 @@ void AppendBuyer(std::string& out, const MainScreen& s) {
     AppendRow(out, "Term", s.cboMortTerm.Text());
 }
 
-void AppendHomes(std::string& out, const Session& session) {
-    const MainScreen& s = session.Screen;
+void AppendHomes(std::string& out, const MainScreen& s) {
     out += '\n';
     AppendRow(out, "", "Base Home", "GREENMARK Home");
     AppendRow(out, "Annual Utility Cost", s.ecStdUtil.Text, s.ecGMHUtil.Text);
     AppendRow(out, "Interest Rate", s.ecStdRate.Text, s.ecGMHRate.Text);
     AppendRow(out, "Mortgage Option", s.cboStdMortOption.Text(), s.cboGMHMortOption.Text());
-    AppendRows(
-        out, "Summary",
-        {{"Sticker Price", s.lblStdHome.Text, s.lblGMHHome.Text},
-         {"Down Payment", s.lblStdDown.Text, s.lblgmhDown.Text},
-         {"Mortgage Amount", s.lblStdMortgage.Text, s.lblgmhMortgage.Text},
-         {"Mortgage Payment", s.lblStdPITI.Text, s.lblGMHPITI.Text},
-         {"Monthly Utility Bills", s.lblStdUtilMo.Text, s.lblGMHUtilMo.Text},
-         {"Net Monthly Payment", s.lblStdPITIU.Text, s.lblGMHPITIU.Text},
-         {"Net Monthly Cash Flow", s.lblNetCashMo2.Text, ""},
-         {"Savings After " +
-              Module1::FormatPicture(static_cast<double>(session.Assumptions.YearsInHome), "#0") + " Years",
-          s.lblExpYrPre.Text, ""},
-         {"Savings After 30 Years", s.lbl30YrPre.Text, ""},
-         {s.lblPV.Text, s.lblPVofSavings.Text, ""}});
+}
+
+void AppendSheet(std::string& out, const MainScreen& screen, SheetKind kind) {
+    for (const SheetRow& row : SheetOf(kind).Rows) {
+        if (IsShown(row, screen))
+            AppendRow(out, row.TextCaption.empty() ? CaptionOf(row, screen) : std::string(row.TextCaption),
+                      CellOf(row.First, screen), CellOf(row.Second, screen));
+    }
+}
+
+void AppendSummary(std::string& out, const MainScreen& s) {
+    out += "\nSummary\n";
+    AppendSheet(out, s, SheetKind::SummaryHomes);
+    AppendSheet(out, s, SheetKind::SummarySavings);
+    if (s.lblPVNote.Visible)
+        out.append(s.lblPVNote.Text).append("\n");
 }
 
 void AppendCashFlow(std::string& out, const MainScreen& s) {
+    const auto& heads = SheetOf(SheetKind::CashFlow).Heads;
     out += '\n';
-    AppendRow(out, "Cash Flow", "Monthly", "Yearly");
-    AppendRow(out, s.lbladditionalmortgagetext.Text, s.lblAddMortMo.Text, s.lblAddMortYr.Text);
-    AppendRow(out, s.lblutilitysavingstext.Text, s.lblUtilSavMo.Text, s.lblUtilSavYr.Text);
-    AppendRow(out, s.lbltaxsavingstext.Text, s.lblTaxSavMo.Text, s.lblTaxSavYr.Text);
-    AppendRow(out, s.lblnetcashflowtext.Text, s.lblNetCashMo.Text, s.lblNetCashYr.Text);
+    AppendRow(out, "Cash Flow", heads[0], heads[1]);
+    AppendSheet(out, s, SheetKind::CashFlow);
 }
 
 void AppendMoreHome(std::string& out, const Session& session) {
-    const MainScreen& s = session.Screen;
-    AppendRows(out, "More Home",
-               {{"A Monthly Net Cash Flow of", s.lblNetCashMoTx.Text, ""},
-                {"buys today", s.lblExtrasTx.Text, ""},
-                {"Price Difference", Module1::MoneyText(session.Scenario.PriceDifference), ""},
-                {"Extra Cash Today", Module1::MoneyText(session.Scenario.ExtraCashToday), ""}});
+    out += "\nMore Home\n";
+    AppendSheet(out, session.Screen, SheetKind::Purchase);
+    AppendSheet(out, session.Screen, SheetKind::HouseValues);
+    AppendRow(out, "Price Difference", "", Module1::MoneyText(session.Scenario.PriceDifference));
+    AppendRow(out, "Extra Cash Today", "", Module1::MoneyText(session.Scenario.ExtraCashToday));
 }
 
 void AppendAffordability(std::string& out, const Session& session) {
-    const MainScreen& s = session.Screen;
-    AppendRows(out, "Affordability",
-               {{"Mortgage Payment (P+I)", s.lblStdMortPayment.Text, s.lblGMHMortPayment.Text},
-                {"Maximum Loan Value", s.lblStdMaxHome.Text, s.lblGMHMaxHome.Text},
-                {"Maximum Payment", s.lblStdInc.Text, s.lblGMHInc.Text},
-                {"Maximum Home", Module1::MoneyText(session.StdCase.MaxHome),
-                 Module1::MoneyText(session.GMHCase.MaxHome)},
-                {"Buyer Qualifies?", s.lblStdQual.Text, s.lblGMHQual.Text}});
+    out += "\nAffordability\n";
+    AppendSheet(out, session.Screen, SheetKind::Affordability);
+    AppendRow(out, "Maximum Home", Module1::MoneyText(session.StdCase.MaxHome),
+              Module1::MoneyText(session.GMHCase.MaxHome));
 }
 
 void AppendMessageText(std::string& out, std::string text) {
@@ -116,7 +97,8 @@ std::string ResultTable(const Comparison& comparison) {
     const Session& session = comparison.State();
     std::string out;
     AppendBuyer(out, session.Screen);
-    AppendHomes(out, session);
+    AppendHomes(out, session.Screen);
+    AppendSummary(out, session.Screen);
     AppendCashFlow(out, session.Screen);
     AppendMoreHome(out, session);
     AppendAffordability(out, session);

@@ -3,13 +3,14 @@
 #include <algorithm>
 
 #include "app/batch/CsvCompare.h"
+#include "base/Text.h"
 #include "ui/MainScreenRules.h"
+#include "ui/ResultSheets.h"
 
 namespace Ledgrove {
 
 namespace {
 
-const std::vector<std::string> bothHomes{"Base Home", "GREENMARK Home"};
 constexpr std::size_t columnGap = 3;
 
 TabTable WelcomeContent() {
@@ -21,71 +22,41 @@ TabTable WelcomeContent() {
     return table;
 }
 
-TabTable CashFlowContent(const MainScreen& s) {
-    return {{"Monthly", "Yearly"},
-            {{s.lbladditionalmortgagetext.Text, {s.lblAddMortMo.Text, s.lblAddMortYr.Text}},
-             {s.lblutilitysavingstext.Text, {s.lblUtilSavMo.Text, s.lblUtilSavYr.Text}},
-             {s.lbltaxsavingstext.Text, {s.lblTaxSavMo.Text, s.lblTaxSavYr.Text}},
-             {s.lblnetcashflowtext.Text, {s.lblNetCashMo.Text, s.lblNetCashYr.Text}}},
-            {}};
+/// The shown rows of one or more sheets with the same heads.
+TabTable SheetContent(const MainScreen& screen, std::initializer_list<SheetKind> kinds) {
+    TabTable table;
+    for (const SheetKind kind : kinds) {
+        const ResultSheet& sheet = SheetOf(kind);
+        table.Heads.assign(sheet.Heads.begin(), sheet.Heads.end());
+        for (const SheetRow& row : sheet.Rows) {
+            if (IsShown(row, screen))
+                table.Rows.push_back(
+                    {CaptionOf(row, screen),
+                     {std::string(CellOf(row.First, screen)), std::string(CellOf(row.Second, screen))}});
+        }
+    }
+    return table;
 }
 
 TabTable MoreHomeContent(const MainScreen& s) {
-    return {bothHomes,
-            {{"Monthly Housing Cost", {s.lblMonthlyHCStd.Text, s.lblMonthlyHCGM.Text}},
-             {"House Value", {s.lblHouseValueStd.Text, s.lblHouseValueGM.Text}}},
-            {"A Monthly Net Cash Flow of " + s.lblNetCashMoTx.Text + " more per month means " +
-                 s.lblExtrasTx.Text + " more today",
-             "For the same monthly cost, consider these options!", s.lblfeature1.Text, s.lblfeature2.Text}};
-}
-
-TabTable AffordabilityContent(const MainScreen& s) {
-    return {bothHomes,
-            {{"Mortgage Amount", {s.lblStdMort.Text, s.lblGMHMort.Text}},
-             {"Down Payment", {s.lblstddown2.Text, s.lblgmhdown2.Text}},
-             {"Mortgage Payment", {s.lblStdMortPayment.Text, s.lblGMHMortPayment.Text}},
-             {"Maximum Loan Value", {s.lblStdMaxHome.Text, s.lblGMHMaxHome.Text}},
-             {"Maximum Payment", {s.lblStdInc.Text, s.lblGMHInc.Text}},
-             {"Buyer Qualifies?", {s.lblStdQual.Text, s.lblGMHQual.Text}}},
-            {}};
-}
-
-std::string Trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+    TabTable table = SheetContent(s, {SheetKind::HouseValues});
+    table.Sentences = {"A Monthly Net Cash Flow of " + s.lblNetCashMoTx.Text + " more per month means " +
+                           s.lblExtrasTx.Text + " more today",
+                       "For the same monthly cost, consider these options!", s.lblfeature1.Text,
+                       s.lblfeature2.Text};
+    return table;
 }
 
 TabTable SummaryContent(const MainScreen& s) {
-    TabTable table{bothHomes,
-                   {{"Sticker Price", {s.lblStdHome.Text, s.lblGMHHome.Text}},
-                    {"Down Payment", {s.lblStdDown.Text, s.lblgmhDown.Text}},
-                    {"Mortgage Amount", {s.lblStdMortgage.Text, s.lblgmhMortgage.Text}},
-                    {"Mortgage Payment", {s.lblStdPITI.Text, s.lblGMHPITI.Text}},
-                    {"Monthly Utility Bills", {s.lblStdUtilMo.Text, s.lblGMHUtilMo.Text}}},
-                   {std::string(Module1::SummaryFootnote())}};
-    if (s.lbltaxsavmo2.Visible)
-        table.Rows.push_back({s.lblTaxSavmo2Text.Text, {"", s.lbltaxsavmo2.Text}});
-    const std::string years = Trimmed(s.lblYrsIn.Text);
-    // "Expected Savings After:" stands before the first of the two times alone.
-    const std::string after = years.substr(0, years.find(':') + 1);
-    table.Rows.insert(table.Rows.end(), {{"Net Monthly Payment", {s.lblStdPITIU.Text, s.lblGMHPITIU.Text}},
-                                         {"Net Monthly Cash Flow", {"", s.lblNetCashMo2.Text}},
-                                         {years, {"", s.lblExpYrPre.Text}},
-                                         {after + "   " + s.lblTerm.Text, {"", s.lbl30YrPre.Text}},
-                                         {s.lblPV.Text, {"", s.lblPVofSavings.Text}}});
+    TabTable table = SheetContent(s, {SheetKind::SummaryHomes, SheetKind::SummarySavings});
+    table.Sentences.emplace_back(Module1::SummaryFootnote());
     if (s.lblPVNote.Visible)
         table.Sentences.push_back(s.lblPVNote.Text);
     return table;
 }
 
-/// Bytes that begin a character: how many places the text takes.
-std::size_t PlacesOf(const std::string& text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
 std::string Blanks(std::size_t width, const std::string& text) {
-    const std::size_t places = PlacesOf(text);
+    const std::size_t places = CharacterCount(text);
     return std::string(width > places ? width - places : 0, ' ');
 }
 
@@ -97,11 +68,11 @@ struct Widths {
 Widths MeasureColumns(const TabTable& table) {
     Widths widths;
     for (const std::string& head : table.Heads)
-        widths.Columns.push_back(PlacesOf(head));
+        widths.Columns.push_back(CharacterCount(head));
     for (const TabRow& row : table.Rows) {
-        widths.Caption = std::max(widths.Caption, PlacesOf(row.Caption));
+        widths.Caption = std::max(widths.Caption, CharacterCount(row.Caption));
         for (std::size_t i = 0; i < row.Cells.size(); ++i)
-            widths.Columns[i] = std::max(widths.Columns[i], PlacesOf(row.Cells[i]));
+            widths.Columns[i] = std::max(widths.Columns[i], CharacterCount(row.Cells[i]));
     }
     return widths;
 }
@@ -138,11 +109,11 @@ void AppendSentences(std::string& out, const TabTable& table, std::string (*show
 TabTable TabContent(const MainScreen& screen, int tab) {
     switch (tab) {
     case 1:
-        return CashFlowContent(screen);
+        return SheetContent(screen, {SheetKind::CashFlow});
     case 2:
         return MoreHomeContent(screen);
     case 3:
-        return AffordabilityContent(screen);
+        return SheetContent(screen, {SheetKind::Affordability});
     case 4:
         return SummaryContent(screen);
     default:

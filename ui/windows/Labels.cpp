@@ -43,7 +43,7 @@ void ElidedLabel::paintEvent(QPaintEvent* event) {
                           fontMetrics().elidedText(text(), Qt::ElideRight, area.width()), foregroundRole());
 }
 
-ResultLabel::ResultLabel(const char* control, const QLabel& caption, QString column, QWidget* parent)
+ResultLabel::ResultLabel(const QString& control, const QLabel& caption, QString column, QWidget* parent)
     : ElidedLabel(parent)
     , m_caption(caption)
     , m_column(std::move(column)) {
@@ -71,7 +71,7 @@ QLabel* TextLabel(const QString& text, QWidget* parent) {
     return label;
 }
 
-QLabel* CaptionLabel(const char* control, QWidget* parent) {
+QLabel* CaptionLabel(const QString& control, QWidget* parent) {
     QLabel* label = TextLabel({}, parent);
     label->setObjectName(control);
     KeepPlaceWhileHidden(*label);

@@ -28,7 +28,7 @@ class ResultLabel : public ElidedLabel {
 
 public:
     /// `caption` and `column` say what the figure is; the caption's words may change.
-    ResultLabel(const char* control, const QLabel& caption, QString column, QWidget* parent = nullptr);
+    ResultLabel(const QString& control, const QLabel& caption, QString column, QWidget* parent = nullptr);
 
     /// Brings the description up to date with the caption.
     void Describe();
@@ -45,7 +45,7 @@ private:
 QLabel* TextLabel(const QString& text, QWidget* parent = nullptr);
 
 /// A label whose words a recalculation writes; it keeps its place while it is hidden.
-QLabel* CaptionLabel(const char* control, QWidget* parent = nullptr);
+QLabel* CaptionLabel(const QString& control, QWidget* parent = nullptr);
 
 void MakeBold(QWidget& widget);
 

@@ -16,9 +16,6 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr const char* paymentTip = "Principal, interest, taxes, insurance and PMI per month";
-constexpr const char* mortgageTip = "Principal and interest per month";
-
 QString Words(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -83,22 +80,13 @@ QVBoxLayout* MakeColumn(QWidget* panel) {
     return column;
 }
 
-/// A table at the left and its chart in the room that is left.
-void PutBeside(QWidget* panel, ResultTable* table, ChartKind kind) {
+/// A sheet at the left and a chart in the room that is left.
+QWidget* MakeSheetPanel(SheetKind sheet, ChartKind chart) {
+    auto* panel = new QWidget;
     auto* row = new QHBoxLayout(panel);
     row->setSpacing(36);
-    row->addWidget(table, 0, Qt::AlignTop);
-    row->addWidget(new ChartPlace(kind), 1);
-}
-
-QWidget* MakeCashFlow() {
-    auto* panel = new QWidget;
-    auto* table = new ResultTable({"Monthly", "Yearly"});
-    table->AddRow({CaptionLabel("lbladditionalmortgagetext"), {"lblAddMortMo", "lblAddMortYr"}});
-    table->AddRow({CaptionLabel("lblutilitysavingstext"), {"lblUtilSavMo", "lblUtilSavYr"}});
-    table->AddRow({CaptionLabel("lbltaxsavingstext"), {"lblTaxSavMo", "lblTaxSavYr"}});
-    table->AddRow({CaptionLabel("lblnetcashflowtext"), {"lblNetCashMo", "lblNetCashYr"}, RowWeight::Total});
-    PutBeside(panel, table, ChartKind::MonthlyCost);
+    row->addWidget(new ResultTable(SheetOf(sheet)), 0, Qt::AlignTop);
+    row->addWidget(new ChartPlace(chart), 1);
     return panel;
 }
 
@@ -114,13 +102,6 @@ QLayout* MakeCashFlowSentence() {
     grid->addWidget(MakeFigure("lblExtrasTx", *start, "more today"), 1, 1);
     grid->addWidget(today, 1, 2);
     return grid;
-}
-
-ResultTable* MakeHouseValues() {
-    auto* table = new ResultTable({"Base Home", "GREENMARK Home"});
-    table->AddRow({TextLabel("Monthly Housing Cost"), {"lblMonthlyHCStd", "lblMonthlyHCGM"}});
-    table->AddRow({TextLabel("House Value"), {"lblHouseValueStd", "lblHouseValueGM"}});
-    return table;
 }
 
 QLabel* MakeSentence(const char* control, const QString& description) {
@@ -142,7 +123,7 @@ QWidget* MakeMoreHome() {
     QLabel* sum = MakeSentence("Label6", "Buy More Home, more per month and more today");
     MakeBold(*sum);
     column->addWidget(sum);
-    column->addWidget(MakeHouseValues(), 0, Qt::AlignLeft);
+    column->addWidget(new ResultTable(SheetOf(SheetKind::HouseValues)), 0, Qt::AlignLeft);
     column->addWidget(TextLabel("For the same monthly cost, consider these options!"));
     column->addWidget(MakeSentence("lblfeature1", "Additional features, first"));
     column->addWidget(MakeSentence("lblfeature2", "Additional features, second"));
@@ -150,48 +131,11 @@ QWidget* MakeMoreHome() {
     return panel;
 }
 
-void SetTips(const QWidget& panel, std::initializer_list<const char*> figures, const char* tip) {
-    for (const char* figure : figures)
-        panel.findChild<QLabel*>(figure)->setToolTip(tip);
-}
-
-QWidget* MakeAffordability() {
-    auto* panel = new QWidget;
-    auto* table = new ResultTable({"Base Home", "GREENMARK Home"});
-    table->AddRow({TextLabel("Mortgage Amount"), {"lblStdMort", "lblGMHMort"}});
-    table->AddRow({TextLabel("Down Payment"), {"lblstddown2", "lblgmhdown2"}});
-    table->AddRow({TextLabel("Mortgage Payment"), {"lblStdMortPayment", "lblGMHMortPayment"}});
-    table->AddRow({TextLabel("Maximum Loan Value"), {"lblStdMaxHome", "lblGMHMaxHome"}});
-    table->AddRow({TextLabel("Maximum Payment"), {"lblStdInc", "lblGMHInc"}});
-    table->AddRow({TextLabel("Buyer Qualifies?"), {"lblStdQual", "lblGMHQual"}, RowWeight::Total});
-    PutBeside(panel, table, ChartKind::Affordability);
-    SetTips(*panel, {"lblStdMortPayment", "lblGMHMortPayment"}, mortgageTip);
-    return panel;
-}
-
-ResultTable* MakeSummaryHomes() {
-    auto* table = new ResultTable({"Base Home", "GREENMARK Home"});
-    table->AddRow({TextLabel("Sticker Price"), {"lblStdHome", "lblGMHHome"}});
-    table->AddRow({TextLabel("Down Payment"), {"lblStdDown", "lblgmhDown"}});
-    table->AddRow({TextLabel("Mortgage Amount"), {"lblStdMortgage", "lblgmhMortgage"}});
-    table->AddRow({TextLabel("Mortgage Payment"), {"lblStdPITI", "lblGMHPITI"}});
-    table->AddRow({TextLabel("Monthly Utility Bills"), {"lblStdUtilMo", "lblGMHUtilMo"}});
-    table->AddRow({CaptionLabel("lblTaxSavmo2Text"), {nullptr, "lbltaxsavmo2"}});
-    table->AddRow({TextLabel("Net Monthly Payment"), {"lblStdPITIU", "lblGMHPITIU"}, RowWeight::Total});
-    return table;
-}
-
 ResultTable* MakeSummarySavings() {
-    auto* table = new ResultTable({"GREENMARK Home"});
-    QLabel* years = CaptionLabel("lblYrsIn");
-    QLabel* term = CaptionLabel("lblTerm");
+    auto* table = new ResultTable(SheetOf(SheetKind::SummarySavings));
     // "30 Years" goes on with the words above it.
-    years->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    term->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    table->AddRow({TextLabel("Net Monthly Cash Flow"), {"lblNetCashMo2"}});
-    table->AddRow({years, {"lblExpYrPre"}});
-    table->AddRow({term, {"lbl30YrPre"}});
-    table->AddRow({CaptionLabel("lblPV"), {"lblPVofSavings"}});
+    for (const char* caption : {"lblYrsIn", "lblTerm"})
+        table->findChild<QLabel*>(caption)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return table;
 }
 
@@ -199,7 +143,7 @@ QWidget* MakeSummary() {
     auto* panel = new QWidget;
     auto* grid = new QGridLayout(panel);
     grid->setHorizontalSpacing(36);
-    grid->addWidget(MakeSummaryHomes(), 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(new ResultTable(SheetOf(SheetKind::SummaryHomes)), 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(MakeSummarySavings(), 0, 1, Qt::AlignLeft);
     QLabel* note = CaptionLabel("lblPVNote");
     note->setAccessibleDescription("PV of Savings, note");
@@ -212,7 +156,6 @@ QWidget* MakeSummary() {
     grid->addWidget(footnote, 3, 0, Qt::AlignTop);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(3, 1);
-    SetTips(*panel, {"lblStdPITI", "lblGMHPITI"}, paymentTip);
     return panel;
 }
 
@@ -247,8 +190,9 @@ ResultPanels::ResultPanels(QWidget* parent)
     tabBar()->setFocusPolicy(Qt::StrongFocus);
     const char* mnemonics[TabCount] = {"&Welcome", "&Cash Flow", "&More Home", "Affordabi&lity", "Summar&y"};
     constexpr int moreHome = 2;
-    QWidget* panels[TabCount] = {MakeWelcome(), MakeCashFlow(), MakeMoreHome(), MakeAffordability(),
-                                 MakeSummary()};
+    QWidget* panels[TabCount] = {
+        MakeWelcome(), MakeSheetPanel(SheetKind::CashFlow, ChartKind::MonthlyCost), MakeMoreHome(),
+        MakeSheetPanel(SheetKind::Affordability, ChartKind::Affordability), MakeSummary()};
     for (int i = 0; i < TabCount; ++i) {
         panels[i]->setObjectName(QString("DetlFrame%1").arg(i));
         auto* page = new QWidget;

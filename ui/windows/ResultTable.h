@@ -4,35 +4,32 @@
 #include <QWidget>
 #include <vector>
 
+#include "ui/ResultSheets.h"
+
 class QGridLayout;
-class QLabel;
 
 namespace Ledgrove {
 
-/// A total stands bold under a line.
-enum class RowWeight { Plain, Total };
-
-struct ResultRow {
-    QLabel* Caption;
-    std::vector<const char*> Figures; ///< control names, one a column; nullptr leaves the cell empty
-    RowWeight Weight = RowWeight::Plain;
-};
-
-/// Captions at the left, right-aligned figures in columns under their heads.
+/// The rows of a sheet: captions at the left, right-aligned figures in columns under their heads. A column
+/// without figures is left out.
 class ResultTable : public QWidget {
     Q_OBJECT
 
 public:
-    explicit ResultTable(std::vector<QString> heads, QWidget* parent = nullptr);
-
-    void AddRow(const ResultRow& row);
+    explicit ResultTable(const ResultSheet& sheet, QWidget* parent = nullptr);
 
 private:
+    struct Column {
+        LabelMember SheetRow::*Cell;
+        QString Head;
+    };
+
+    void AddHeads();
+    void AddRow(const SheetRow& row);
     void AddRule();
 
-    std::vector<QString> m_heads;
+    std::vector<Column> m_columns;
     QGridLayout* m_grid;
-    int m_nextRow = 0;
 };
 
 } // namespace Ledgrove
