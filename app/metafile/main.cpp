@@ -8,12 +8,14 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include <sys/resource.h>
 
 extern "C" {
 #include <libwmf/api.h>
 #include <libwmf/gd.h>
+#include <libwmf/ipa.h>
 }
 
 namespace {
@@ -31,13 +33,29 @@ struct ApiCloser {
 };
 using Api = std::unique_ptr<wmfAPI, ApiCloser>;
 
-Api MakeApi() {
+using BitmapReader = void (*)(wmfAPI*, wmfBMP_Read_t*);
+
+/// Reads a record's bitmap by the library's own reader. The library would leave a bitmap that is cut or too
+/// large out of the picture; as an error it ends the playing, and there is no picture.
+void ReadBitmap(wmfAPI* api, wmfBMP_Read_t* bitmap) {
+    (*static_cast<BitmapReader*>(api->user_data))(api, bitmap);
+    if (bitmap->bmp.data == nullptr)
+        api->err = wmf_E_BadFormat;
+}
+
+/// `libraryReader` becomes the library's own reader of bitmaps; it outlives what is made.
+Api MakeApi(BitmapReader& libraryReader) {
     wmfAPI_Options options{};
     options.function = wmf_gd_function;
     wmfAPI* api = nullptr;
     const bool made = wmf_api_create(&api, quietly, &options) == wmf_E_None;
     Api owner(api);
-    return made ? std::move(owner) : nullptr;
+    if (!made)
+        return nullptr;
+    auto& functions = *static_cast<wmfFunctionReference*>(api->function_reference);
+    libraryReader = std::exchange(functions.bmp_read, ReadBitmap);
+    api->user_data = &libraryReader;
+    return owner;
 }
 
 struct Drawing {
@@ -69,9 +87,19 @@ bool Play(wmfAPI* api, Drawing drawing, int longestSide) {
     return wmf_play(api, 0, &drawing.Box) == wmf_E_None && std::fflush(stdout) == 0;
 }
 
-void Limit(int resource, rlim_t most) {
-    const rlimit limit{most, most};
-    setrlimit(resource, &limit);
+/// False when the limit cannot be set. One that is lower already stays.
+bool Limit(int resource, rlim_t most) {
+    rlimit limit{};
+    if (getrlimit(resource, &limit) != 0)
+        return false;
+    limit.rlim_max = std::min(limit.rlim_max, most);
+    limit.rlim_cur = std::min(limit.rlim_cur, limit.rlim_max);
+    return setrlimit(resource, &limit) == 0;
+}
+
+/// What a metafile may cost. It is not played where this cannot be bounded.
+bool LimitCosts() {
+    return Limit(RLIMIT_CPU, mostSeconds) && Limit(RLIMIT_DATA, mostMemory) && Limit(RLIMIT_CORE, 0);
 }
 
 std::string ReadInput() {
@@ -99,10 +127,10 @@ int main(int argc, char** argv) {
         return failed;
     }
     std::string bytes = ReadInput();
-    Limit(RLIMIT_CPU, mostSeconds);
-    Limit(RLIMIT_DATA, mostMemory);
-    Limit(RLIMIT_CORE, 0);
-    const Api api = MakeApi();
+    if (!LimitCosts())
+        return failed;
+    BitmapReader libraryReader = nullptr;
+    const Api api = MakeApi(libraryReader);
     Drawing drawing;
     return api && Measure(api.get(), bytes, drawing) && Play(api.get(), drawing, longestSide) ? 0 : failed;
 }

@@ -1,7 +1,9 @@
 """ledgrove-metafile, which converts a metafile to a PNG and limits its own time and memory."""
+import resource
 import struct
 import subprocess
 import sys
+import tempfile
 import unittest
 from pathlib import Path
 
@@ -28,6 +30,32 @@ class Metafile(unittest.TestCase):
             done = play(content, "64")
             self.assertNotEqual(done.returncode, 0)
             self.assertEqual(done.stdout, b"")
+
+    def traced(self, *options):
+        """The program under strace: how it ended, and its calls that ask for or set a limit, one a line."""
+        with tempfile.NamedTemporaryFile() as log:
+            done = subprocess.run(["strace", "-f", "-o", log.name, "-e", "trace=prlimit64", *options, PROGRAM, "64"],
+                                  input=wmf(False), capture_output=True, timeout=30, check=False)
+            return done, [line for line in Path(log.name).read_text().splitlines() if "prlimit64(" in line]
+
+    def test_where_a_limit_cannot_be_set_it_plays_nothing(self):
+        done, calls = self.traced()
+        self.assertEqual(done.returncode, 0)
+        for limit in ("RLIMIT_CPU", "RLIMIT_DATA", "RLIMIT_CORE"):
+            places = [place for place, call in enumerate(calls, 1) if limit in call]
+            self.assertTrue(places, limit)
+            for place in places:
+                done, injected = self.traced("-e", f"inject=prlimit64:error=EPERM:when={place}")
+                self.assertIn("INJECTED", injected[place - 1])
+                self.assertEqual((done.returncode, done.stdout), (1, b""), injected[place - 1])
+
+    def test_a_lower_limit_stays(self):
+        """The larger side takes 64 MB for itself, the smaller one less than half of the lower limit."""
+        lower = 16 << 20
+        for side, plays in ((64, True), (4000, False)):
+            done = subprocess.run([PROGRAM, str(side)], input=wmf(False), capture_output=True, timeout=30, check=False,
+                                  preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_DATA, (lower, lower)))
+            self.assertEqual((done.returncode == 0, done.stdout != b""), (plays, plays), side)
 
     def test_wrong_arguments_print_the_usage(self):
         for arguments in ((), ("wide",), ("0",), ("4001",), ("64", "64")):
