@@ -1,7 +1,6 @@
 #include "reports/windows/Pictures.h"
 
 #include "reports/windows/BmpCheck.h"
-#include "reports/windows/WmfCheck.h"
 #include "reports/windows/WmfPicture.h"
 
 #include <QBuffer>

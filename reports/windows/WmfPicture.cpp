@@ -1,9 +1,9 @@
 #include "reports/windows/WmfPicture.h"
 
 #include "base/ProgramFolder.h"
-#include "reports/windows/WmfCheck.h"
 
 #include <QProcess>
+#include <QtEndian>
 
 namespace Ledgrove {
 
@@ -17,9 +17,18 @@ QString Player() {
 
 } // namespace
 
+bool IsWmf(const QByteArray& bytes) {
+    constexpr qsizetype headerSize = 18;
+    if (bytes.startsWith("\xD7\xCD\xC6\x9A")) // placeable
+        return true;
+    // Type 1 or 2, a header of 9 words, version 1.0 or 3.0
+    if (bytes.size() < headerSize)
+        return false;
+    const auto word = [&bytes](qsizetype at) { return qFromLittleEndian<quint16>(bytes.constData() + at); };
+    return (word(0) == 1 || word(0) == 2) && word(2) == 9 && (word(4) == 0x0100 || word(4) == 0x0300);
+}
+
 QImage ReadWmf(const QByteArray& bytes, int longestSide) {
-    if (!CheckWmf(bytes))
-        return {};
     QProcess player;
     player.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     player.start(Player(), {QString::number(longestSide)});

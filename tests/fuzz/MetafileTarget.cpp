@@ -1,4 +1,4 @@
-// Puts any records into a metafile with a valid frame, so that they pass the check and reach the library.
+// Puts any records into a metafile with a valid frame, so that they reach the library.
 
 #include "Fuzz.h"
 

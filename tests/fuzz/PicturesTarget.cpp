@@ -3,7 +3,6 @@
 #include "Fuzz.h"
 
 #include "reports/windows/Pictures.h"
-#include "reports/windows/WmfCheck.h"
 #include "reports/windows/WmfPicture.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,5 @@
-#include "reports/windows/WmfCheck.h"
+#include "reports/windows/WmfPicture.h"
 
-#include "reports/windows/Pictures.h"
 #include "tests/reports/TestPictures.h"
 
 #include <gtest/gtest.h>
@@ -20,32 +19,35 @@ QByteArray Changed(qsizetype offset, quint32 number) {
     return MakeWmf(false).replace(offset, 4, number32);
 }
 
-TEST(CheckWmf, AcceptsCompleteMetafiles) {
-    EXPECT_TRUE(CheckWmf(MakeWmf(true)));
-    EXPECT_TRUE(CheckWmf(MakeWmf(false)));
+TEST(IsWmf, GoesByTheHeaders) {
+    EXPECT_TRUE(IsWmf(MakeWmf(true)));
+    EXPECT_TRUE(IsWmf(MakeWmf(false)));
+    EXPECT_FALSE(IsWmf({}));
+    EXPECT_FALSE(IsWmf(MakeWmf(false).left(firstRecordAt - 1)));
+    EXPECT_FALSE(IsWmf("BM is how another kind of picture begins"));
 }
 
-TEST(CheckWmf, ARecordLongerThanTheFileIsRefused) {
+TEST(ReadWmf, ItsLongerSideIsAsAsked) {
+    EXPECT_EQ(ReadWmf(MakeWmf(true), 64).size(), QSize(64, 32));
+    EXPECT_EQ(ReadWmf(MakeWmf(false), 300).size(), QSize(300, 150));
+}
+
+TEST(ReadWmf, ARecordLongerThanTheFileIsRefused) {
     // The library would allocate the size in the header: 2 GB here.
-    EXPECT_FALSE(CheckWmf(Changed(longestRecordAt, 0x42000007)));
-    EXPECT_TRUE(ReadPicture(Changed(longestRecordAt, 0x42000007)).isNull());
-    EXPECT_FALSE(CheckWmf(Changed(firstRecordAt, 5000)));
-    EXPECT_FALSE(CheckWmf(Changed(firstRecordAt, 0xFFFFFFFF)));
+    EXPECT_TRUE(ReadWmf(Changed(longestRecordAt, 0x42000007)).isNull());
+    EXPECT_TRUE(ReadWmf(Changed(firstRecordAt, 5000)).isNull());
+    EXPECT_TRUE(ReadWmf(Changed(firstRecordAt, 0xFFFFFFFF)).isNull());
 }
 
-TEST(CheckWmf, ARecordShorterThanItsHeadIsRefused) {
+TEST(ReadWmf, ARecordShorterThanItsHeadIsRefused) {
     for (const quint32 words : {0U, 1U, 2U})
-        EXPECT_FALSE(CheckWmf(Changed(firstRecordAt, words))) << words;
+        EXPECT_TRUE(ReadWmf(Changed(firstRecordAt, words)).isNull()) << words;
 }
 
-TEST(CheckWmf, ARecordLongerThanTheLongestIsRefused) {
-    EXPECT_FALSE(CheckWmf(Changed(longestRecordAt, 4))); // the first record has five words
-}
-
-TEST(CheckWmf, ATruncatedMetafileIsRefused) {
+TEST(ReadWmf, ATruncatedMetafileIsRefused) {
     const QByteArray whole = MakeWmf(true);
     for (qsizetype length = 0; length < whole.size() - 1; ++length)
-        EXPECT_FALSE(CheckWmf(whole.left(length))) << length;
+        EXPECT_TRUE(ReadWmf(whole.left(length), 64).isNull()) << length;
 }
 
 /// A metafile with one record, which stretches a bitmap of this size over the window; the bitmap has two
@@ -66,12 +68,10 @@ QByteArray MakeWmfWithBitmap(qint32 width, qint32 height) {
     return bytes.replace(longestRecordAt, 4, longest) + records;
 }
 
-TEST(CheckWmf, ABitmapInARecordMustBeCompleteAndSmall) {
-    EXPECT_TRUE(CheckWmf(MakeWmfWithBitmap(2, 1)));
-    EXPECT_FALSE(ReadPicture(MakeWmfWithBitmap(2, 1)).isNull());
-    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(2, 2)));         // truncated
-    EXPECT_FALSE(CheckWmf(MakeWmfWithBitmap(20000, 30000))); // the library would allocate 2 GB
-    EXPECT_TRUE(ReadPicture(MakeWmfWithBitmap(20000, 30000)).isNull());
+TEST(ReadWmf, ABitmapInARecordMustBeCompleteAndSmall) {
+    EXPECT_FALSE(ReadWmf(MakeWmfWithBitmap(2, 1)).isNull());
+    EXPECT_TRUE(ReadWmf(MakeWmfWithBitmap(2, 2)).isNull());         // truncated
+    EXPECT_TRUE(ReadWmf(MakeWmfWithBitmap(20000, 30000)).isNull()); // the library would allocate 2 GB
 }
 
 } // namespace
