@@ -1,0 +1,70 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include "app/batch/Comparison.h"
+#include "app/batch/LineReader.h"
+#include "app/batch/OutputBuffer.h"
+#include "base/Descriptor.h"
+#include "ui/StartUp.h"
+
+// What the tests of app/batch share.
+namespace Ledgrove::Testing {
+
+/// A file in memory, for what reads and writes descriptors. Reading begins at its start.
+class MemoryFile {
+public:
+    explicit MemoryFile(std::string_view content = {})
+        : m_number(memfd_create("batch", 0)) {
+        EXPECT_EQ(WriteAll(m_number, content), 0);
+        Rewind();
+    }
+    ~MemoryFile() { close(m_number); }
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+
+    int Number() const { return m_number; }
+    void Rewind() const { EXPECT_EQ(lseek(m_number, 0, SEEK_SET), 0); }
+    std::string Content() const {
+        Rewind();
+        std::string content;
+        EXPECT_EQ(ReadAll(m_number, content, std::size_t{1} << 30U), 0);
+        return content;
+    }
+
+private:
+    int m_number;
+};
+
+/// The session as it is right after the start, on the shipped settings.
+inline Session ShippedSession() {
+    Session session;
+    CollectingHost host;
+    if (Module1::LoadMainScreen(session, host, LEDGROVE_SOURCE_DIR "/data"))
+        ADD_FAILURE() << "the shipped settings do not load";
+    return session;
+}
+
+struct ReaderResult {
+    std::string Output;
+    bool AllWell = false;
+};
+
+/// What a reader of comparisons makes of a whole input.
+template <typename Reader>
+ReaderResult ReadWith(Reader& reader, std::string_view input) {
+    const MemoryFile in(input);
+    const MemoryFile out;
+    OutputBuffer output(out.Number());
+    LineReader lines(in.Number(), [&] { reader.BeforeWaiting(output); });
+    const bool allWell = reader.Read(lines, output);
+    output.Flush();
+    return {out.Content(), allWell};
+}
+
+} // namespace Ledgrove::Testing
