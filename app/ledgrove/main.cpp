@@ -11,6 +11,7 @@
 #include <fontconfig/fontconfig.h>
 #include <memory>
 #include <string_view>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <utility>
@@ -151,5 +152,13 @@ int main(int argc, char* argv[]) {
     if (!hasDisplay)
         return Refuse(
             "Ledgrove needs a display, and there is none. ledgrove-cli compares homes without one.");
-    return ShowWindow(std::filesystem::absolute(parser.value(folderOption).toStdString()), files.value(0));
+    const QString named = parser.value(folderOption);
+    std::error_code error;
+    const auto folder = std::filesystem::absolute(named.isEmpty() ? "." : named.toStdString(), error);
+    if (error)
+        return Refuse(
+            QString("The folder \"%1\" cannot be found, since the folder that Ledgrove was started in "
+                    "is gone. Give --folder with a whole path.")
+                .arg(named));
+    return ShowWindow(folder, files.value(0));
 }
