@@ -42,7 +42,7 @@ int StoredLogoOption(const Session& session) {
 }
 
 void ReloadFeatureCaptions(Session& session) {
-    // Texts that cannot be read are blank, as at the start.
+    // Texts that cannot be read are blank, as at start-up.
     GetFeatures(SettingsFile(session.Folder), session.Features);
     RefreshFeatureCaptions(session);
 }

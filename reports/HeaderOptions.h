@@ -7,10 +7,10 @@
 #include <filesystem>
 #include <optional>
 
-// The report header's dialog without its window.
+// The logic of the report header's dialog, without its window.
 namespace Ledgrove {
 
-/// The logo choices; their index is what the settings keep.
+/// The logo options; the settings file stores their index.
 inline constexpr std::array<const char*, 3> LogoChoices{"None", "Generic House Logo", "User Logo"};
 
 struct HeaderOptions {
@@ -19,9 +19,9 @@ struct HeaderOptions {
     FeatureTexts Features;      ///< not shown, but saved again with the header
 };
 
-/// What a logo choice shows.
+/// What the dialog shows for a logo option.
 struct LogoView {
-    bool FileEnabled = false;      ///< the user's file can be named: caption, field and chooser
+    bool FileEnabled = false;      ///< the user's file can be chosen: caption, field and chooser are enabled
     std::filesystem::path Picture; ///< full path; empty for none
 
     bool operator==(const LogoView&) const = default;
@@ -31,21 +31,21 @@ struct LogoView {
 
 namespace Ledgrove::Module1 {
 
-/// Fills the dialog from the run and the settings file. A logo choice that is missing, unreadable or not in
-/// the list counts as "None".
+/// Fills the dialog from the session and the settings file. A logo option that is missing, unreadable or not
+/// in the list counts as "None".
 std::optional<SettingsFault> FillHeaderOptions(HeaderOptions& dialog, const Session& session);
 
-/// The user's file as the field names it, which may be relative to the program's folder; a field that was
-/// never filled in names none.
+/// The user's file from the field, which may be relative to the program's folder. A field with the
+/// placeholder gives no file.
 LogoView ViewOfLogo(const HeaderOptions& dialog, const std::filesystem::path& folder);
 
-/// Saves the dialog and makes it the header of the run. On a fault the header and the file are as they were.
+/// Saves the dialog and makes it the session's header. On a fault neither the header nor the file changes.
 std::optional<SettingsFault> ConfirmHeaderOptions(const HeaderOptions& dialog, Session& session);
 
-/// The index of the logo choice that the settings file holds, 0 where it holds none.
+/// The index of the logo option in the settings file, 0 if the file has none.
 int StoredLogoOption(const Session& session);
 
-/// Brings the feature captions of the main screen up to date with the settings file.
+/// Updates the feature captions of the main screen from the settings file.
 void ReloadFeatureCaptions(Session& session);
 
 } // namespace Ledgrove::Module1

@@ -10,14 +10,14 @@ namespace Ledgrove {
 namespace {
 
 constexpr int mostCopies = 9999;
-constexpr Twips narrowestSheet = 7560 + 2 * 720; ///< the section tables between the margins
+constexpr Twips narrowestSheet = 7560 + 2 * 720; ///< the section tables plus the margins
 constexpr Twips shortestSheet = 9000;
 
 std::string Inches(Twips length) {
     return Module1::FormatPicture(static_cast<double>(length) / TwipsPerInch, ".0");
 }
 
-/// A number with the blank before it that stands for its sign.
+/// A number with a blank in place of a plus sign.
 std::string SignedNumber(int number) {
     return (number < 0 ? "" : " ") + std::to_string(number);
 }

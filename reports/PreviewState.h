@@ -7,26 +7,26 @@
 #include <string>
 #include <string_view>
 
-// What the preview window shows and decides, without its window.
+// The logic of the preview window, without the window.
 namespace Ledgrove {
 
 /// The zoom list, in percent.
 inline constexpr std::array<const char*, 7> ZoomItems{"25", "50", "60", "65", "75", "100", "125"};
 inline constexpr int ZoomAtActivation = 2; ///< index of ZoomItems
 
-/// The item one step up (1) or down (-1) the list from `index`, the same one at its end.
+/// The next item up (1) or down (-1) the list from `index`; stops at the ends.
 int ZoomStep(int index, int step);
 
 /// The button that switches between the first two pages.
 struct PageButton {
     bool Visible = false;
     const char* Caption = "Page 2";
-    std::size_t Leads = 2; ///< the page that it goes to
+    std::size_t Leads = 2; ///< the page that it opens
 
     bool operator==(const PageButton&) const = default;
 };
 
-/// The button while page `shown` of `pageCount` is shown. It never goes beyond the second page, on purpose.
+/// The button while page `shown` of `pageCount` is shown. It intentionally never goes beyond the second page.
 PageButton PageButtonAt(std::size_t shown, std::size_t pageCount);
 
 struct PrinterDevice {
@@ -36,7 +36,7 @@ struct PrinterDevice {
     bool IsDefault = false;
 };
 
-/// A sheet as its printer calls it, upright.
+/// A paper size in portrait, with the printer's name for it.
 struct Paper {
     std::string Name = "na_letter_8.5x11in";
     Twips Width = PageGeometry{}.PageWidth;
@@ -45,7 +45,7 @@ struct Paper {
     bool operator==(const Paper&) const = default;
 };
 
-/// What a printer tells when it is asked.
+/// The details that a printer reports.
 struct PrinterDetails {
     std::optional<int> Resolution; ///< dots per inch
     std::optional<Paper> DefaultPaper;
@@ -54,23 +54,22 @@ struct PrinterDetails {
 /// Three lines: resolution, port and driver.
 std::string StatusText(const PrinterDevice& device, const PrinterDetails& details);
 
-/// The printer's own default paper; letter where it has none, or one that the report's tables do not fit.
+/// The printer's default paper; letter if it has none, or one that is too small for the report's tables.
 Paper PaperFor(const PrinterDetails& details);
 
 /// The sheet with the report's margins.
 PageGeometry SheetOf(const Paper& paper, PageOrientation orientation);
 
-/// Width and height in inches, "8.5x11.0".
+/// Width and height in inches, such as "8.5x11.0".
 std::string SizeText(const PageGeometry& sheet);
 
-/// The number of copies that a text asks for: 1 to 9999, the most that print servers take. Nothing for any
-/// other text.
+/// The number of copies in a text: 1 to 9999, the maximum of print servers. Nothing for any other text.
 std::optional<int> CopiesIn(std::string_view text);
 
-/// What is wrong with a text that asks for no such number.
+/// A message about a text that is not such a number.
 std::string CopiesComplaint(std::string_view text);
 
-/// What is being printed where, in three lines.
+/// Names the page, the title and the printer in three lines.
 std::string ProgressText(std::size_t page, std::string_view title, const PrinterDevice& device);
 
 } // namespace Ledgrove

@@ -10,7 +10,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// Text keeps this far from a picture beside it.
+/// The distance between text and a picture next to it.
 constexpr Twips pictureGap = 120;
 
 /// The three parts of a footer, separated by "|".
@@ -138,7 +138,7 @@ bool PrintDocument::Text(std::string_view text) {
         return false;
     const TextStyle style = CurrentStyle();
     const Twips height = m_measure.LineHeight(style);
-    // A pen that was set elsewhere has left its line.
+    // If the pen was moved, the open line ends.
     if (m_openLineTop != CurrentY)
         m_openLine.clear();
     if (m_openLine.empty())
@@ -162,7 +162,7 @@ bool PrintDocument::Paragraph(std::string_view text) {
         return false;
     if (m_openLineTop != CurrentY)
         m_openLine.clear();
-    // Blank text only ends the line, but a blank line too needs its room.
+    // Blank text only ends the line, but an empty line also needs space.
     if (!IsBlank(text))
         Text(text);
     else if (m_openLine.empty())

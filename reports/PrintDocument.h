@@ -15,7 +15,7 @@ struct RowLayout;
 
 enum class PageOrientation { Portrait = 0, Landscape = 1 };
 
-/// The sheet as it is printed on, margins inside it.
+/// The sheet that is printed on, including its margins.
 struct PageGeometry {
     Twips PageWidth = 8 * TwipsPerInch + TwipsPerInch / 2;
     Twips PageHeight = 11 * TwipsPerInch;
@@ -25,12 +25,12 @@ struct PageGeometry {
     Twips MarginBottom = 720;
 };
 
-/// `portrait` turned as asked; its margins stay at their sides.
+/// `portrait` in the requested orientation. The margins keep their sides.
 PageGeometry Oriented(const PageGeometry& portrait, PageOrientation orientation);
 
-/// What the reports are written on: text, tables, rectangles and pictures at a moving pen position. A
-/// document is not started, open (it can be written on) or ended (its pages are final); each writing
-/// operation outside the open state changes nothing and gives false.
+/// Reports are written to this: text, tables, rectangles and pictures at a moving pen position. A document is
+/// not started, open (accepts output) or ended (its pages are final). Outside the open state, each output
+/// operation changes nothing and returns false.
 class PrintDocument {
 public:
     enum class State { NotStarted, Open, Ended };
@@ -38,9 +38,9 @@ public:
     /// `measure` must outlive the document.
     explicit PrintDocument(const TextMeasure& measure);
 
-    // Attributes persist until they are changed, and may be changed at any time.
+    // Attributes stay in force until they change, and may change at any time.
 
-    PageGeometry Geometry; ///< read by Start and while writing
+    PageGeometry Geometry; ///< read by Start and by each output operation
     Twips CurrentX = 0;
     Twips CurrentY = 0;
     std::string FontName = "Arial";
@@ -56,29 +56,29 @@ public:
     TextStyle FooterFont;
     std::string Title; ///< of the document, for printers and PDF readers
 
-    /// Empties the document and opens its first page, the pen at its top-left margin corner.
+    /// Empties the document and opens its first page with the pen at the top-left margin corner.
     void Start();
-    /// Makes the pages final, footers included.
+    /// Makes the pages final, including their footers.
     bool End();
     State CurrentState() const { return m_state; }
 
-    /// At the pen position, without ending the line; the pen moves right.
+    /// Writes at the pen position without ending the line; the pen moves right.
     bool Text(std::string_view text);
-    /// Ends the line behind `text`; the pen moves to the left margin below it. Text too wide for the line is
-    /// wrapped.
+    /// Ends the line after `text`; the pen moves to the left margin of the next line. Text that is too wide
+    /// is wrapped.
     bool Paragraph(std::string_view text);
     bool NewPage();
-    /// Fills the box with BrushColor; the pen stays.
+    /// Fills the box with BrushColor; the pen does not move.
     bool DrawRectangle(const PrintBox& box);
-    /// Writes a table at the left margin and CurrentY, in the table language, and moves CurrentY below it.
-    /// Nothing that lies there already is erased. A row that does not fit the page moves to the next.
+    /// Writes a table in the table language at the left margin and CurrentY, and moves CurrentY below it. It
+    /// does not erase what is already there. A row that does not fit the page moves to the next.
     bool AddTable(std::string_view format, std::string_view header, std::string_view body,
                   std::optional<PrintColour> headerShade = std::nullopt);
-    /// Draws the picture file scaled into the box. Lines of text beside it keep clear of it.
+    /// Draws the picture file scaled into the box. Lines of text next to it do not overlap it.
     bool Picture(const std::filesystem::path& file, const PrintBox& box);
 
     std::size_t PageCount() const { return m_pages.size(); }
-    /// Counted from 1; only for pages that are there.
+    /// `number` is counted from 1 and must be at most PageCount().
     const PrintPage& Page(std::size_t number) const { return m_pages[number - 1]; }
 
 private:
@@ -111,9 +111,9 @@ private:
     State m_state = State::NotStarted;
     std::vector<PrintPage> m_pages;
     std::vector<PrintBox> m_picturesOnPage;
-    std::vector<std::size_t> m_openLine; ///< items of the page that stand on the line being written
+    std::vector<std::size_t> m_openLine; ///< items of the page on the current line
     Twips m_openLineTop = 0;
-    bool m_frameOpen = false; ///< a framed table has rows on this page, with no rule below them yet
+    bool m_frameOpen = false; ///< a framed table has rows on this page and still needs its bottom rule
 };
 
 } // namespace Ledgrove

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-// What stands on the pages of a print document. Positions and sizes are in twips, 1440 to the inch, from the
+// The items on the pages of a print document. Positions and sizes are in twips, 1440 per inch, from the
 // top-left corner of the paper; Y grows downward.
 namespace Ledgrove {
 
@@ -15,7 +15,7 @@ using Twips = int;
 
 inline constexpr Twips TwipsPerInch = 1440;
 
-/// 24 bits, red in the low byte.
+/// 24 bits, with red in the low byte.
 using PrintColour = std::uint32_t;
 
 inline constexpr PrintColour PrintBlack = 0x000000;
@@ -42,7 +42,7 @@ struct TextStyle {
     bool operator==(const TextStyle&) const = default;
 };
 
-/// One line of text in one style, from its left edge; UTF-8.
+/// One line of UTF-8 text in one style, from its left edge.
 struct TextRun {
     Twips X = 0;
     Twips Y = 0; ///< top of the line
@@ -63,7 +63,7 @@ struct RuledLine {
     PrintColour Colour = PrintBlack;
 };
 
-/// A picture file, scaled into the box with its proportions kept. One that does not load is left out.
+/// A picture file, scaled into the box with its proportions kept. A picture that does not load is omitted.
 struct PlacedPicture {
     PrintBox Box;
     std::filesystem::path File;
@@ -71,10 +71,10 @@ struct PlacedPicture {
 
 using PrintItem = std::variant<TextRun, FilledRectangle, RuledLine, PlacedPicture>;
 
-/// In drawing order: later things lie over earlier ones.
+/// In drawing order: later items cover earlier ones.
 using PrintPage = std::vector<PrintItem>;
 
-/// How wide and high text is in a style, in twips. The pages are laid out with it before anything is painted.
+/// The width and height of text in a style, in twips. Pages are laid out with it before anything is painted.
 class TextMeasure {
 public:
     virtual ~TextMeasure() = default;

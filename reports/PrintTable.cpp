@@ -11,7 +11,7 @@ namespace Ledgrove {
 namespace {
 
 constexpr int framed = 4;
-constexpr Twips rowPadding = 12; ///< above and below a row's lines
+constexpr Twips rowPadding = 12; ///< above and below the lines of a row
 constexpr Twips frameThickness = 10;
 constexpr PrintColour frameColour = 0x808080;
 constexpr PrintColour ruleColour = 0xD8D8D8;
@@ -37,8 +37,8 @@ bool PrintDocument::AddTable(std::string_view format, std::string_view header, s
     return true;
 }
 
-/// How many lines of a row, from `firstLine` on, stand above the bottom margin; at least one on a fresh page,
-/// so that a row higher than any page goes over several.
+/// The number of lines of a row, from `firstLine` on, that fit above the bottom margin. At least one on a new
+/// page, so that a row higher than a page continues on the next ones.
 std::size_t PrintDocument::LinesThatFit(const RowLayout& row, std::size_t firstLine) const {
     const Twips lineHeight = std::max(m_measure.LineHeight(CurrentStyle()), 1);
     const auto left = static_cast<Twips>(row.LineCount - firstLine);
@@ -93,7 +93,7 @@ void PrintDocument::PlaceRowLines(const RowLayout& row, std::size_t firstLine, s
     }
 }
 
-/// The rule above a row and its share of the frame's sides.
+/// Draws the rule above a row and the row's part of the frame's sides.
 void PrintDocument::RuleRow(const TableShape& table, Twips height) {
     if (TableBorder != framed)
         return;

@@ -7,7 +7,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// The text up to `separator`, taken off the front with it. False at the end of the text.
+/// Removes the text up to `separator` from the front and returns it in `piece`. False at the end of the text.
 bool TakePiece(std::string_view& text, char separator, std::string_view& piece) {
     if (text.data() == nullptr)
         return false;
@@ -26,13 +26,12 @@ TableColumn ReadColumn(std::string_view text) {
         text.remove_prefix(1);
     }
     std::from_chars(text.data(), text.data() + text.size(), column.Width);
-    constexpr Twips widest = 100 * TwipsPerInch; // any sum of columns stays a number
+    constexpr Twips widest = 100 * TwipsPerInch; // keeps the sum of all columns within range
     column.Width = std::clamp(column.Width, 0, widest);
     return column;
 }
 
-// Stand for a text's own separators until the cells are apart; no text that is typed or read holds these
-// characters.
+// These replace separators inside a text until the cells are split; typed and read texts do not contain them.
 constexpr char hiddenSemicolon = '\x1E';
 constexpr char hiddenBar = '\x1F';
 

@@ -15,17 +15,18 @@ struct TableColumn {
     Twips Width = 0;
 };
 
-/// Columns separated by "|", ended by ";" or the end of the text: an optional mark (">" right, "<" left, "^"
-/// centred) and the width. A width that is no number or less than nothing is 0; none is above 100 inches.
+/// Reads columns separated by "|" and ended by ";" or the end of the text: an optional mark (">" right, "<"
+/// left, "^" centred) and the width. A width that is not a number, or is negative, is 0; the maximum is 100
+/// inches.
 std::vector<TableColumn> ReadTableFormat(std::string_view format);
 
 using TableRow = std::vector<std::string>;
 
-/// Rows separated by ";", cells by "|". One ";" at the end closes the last row; a second one adds an empty
-/// row. Empty text has no rows.
+/// Reads rows separated by ";" and cells separated by "|". One final ";" ends the last row; a second one adds
+/// an empty row. An empty text has no rows.
 std::vector<TableRow> ReadTableRows(std::string_view text);
 
-/// `text` as the text of one cell, whatever it holds: its own "|" and ";" separate nothing.
+/// `text` as the text of one cell: any "|" and ";" in it do not separate cells or rows.
 std::string CellText(std::string_view text);
 
 } // namespace Ledgrove

@@ -8,7 +8,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// What a right-aligned neighbour leaves free before its own text.
+/// The width that a right-aligned neighbour leaves free before its own text.
 Twips FreeWidthOf(const TableColumn& column, std::string_view text, const TextStyle& style,
                   const TextMeasure& measure) {
     if (column.Align != CellAlign::Right)

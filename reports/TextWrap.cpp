@@ -8,13 +8,13 @@ namespace Ledgrove {
 
 namespace {
 
-/// More bytes than fit: no character is narrower than a twip or longer than 4 bytes.
+/// A number of bytes that cannot fit: every character is at least a twip wide and at most 4 bytes long.
 std::size_t TooLongFor(Twips width) {
     return static_cast<std::size_t>(std::max(width, 1)) * 4 + 1;
 }
 
-/// The longest beginning, in whole characters, that fits; at least one character. Found by doubling and then
-/// halving, so that neither a word nor a paragraph of a megabyte is measured again and again for each line.
+/// The longest prefix, in whole characters, that fits; at least one character. The search doubles the length
+/// and then halves the interval, so that each line of a megabyte needs only a few measurements.
 std::size_t FittingLength(std::string_view text, Twips width, const TextStyle& style,
                           const TextMeasure& measure) {
     const std::size_t most = std::min(text.size() + 1, TooLongFor(width));
@@ -36,7 +36,7 @@ std::size_t FittingLength(std::string_view text, Twips width, const TextStyle& s
     return fits;
 }
 
-/// Where a line that may hold `fits` bytes of `text` ends: behind the last word that is whole.
+/// The end of a line that can hold `fits` bytes of `text`: after the last complete word.
 std::size_t LineEnd(std::string_view text, std::size_t fits) {
     if (fits >= text.size() || text[fits] == ' ')
         return fits;

@@ -8,8 +8,9 @@
 
 namespace Ledgrove {
 
-/// `text` in lines no wider than `width`, broken at blanks, within a word only where the word alone is too
-/// wide. At least one line; a line break in the text ends a line. Blanks where a line breaks are dropped.
+/// Splits `text` into lines no wider than `width`. Lines break at blanks, and within a word only if the word
+/// alone is too wide. There is at least one line, and a line break in the text ends a line. Blanks at a break
+/// are dropped.
 std::vector<std::string> WrapText(std::string_view text, Twips width, const TextStyle& style,
                                   const TextMeasure& measure);
 

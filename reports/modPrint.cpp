@@ -9,8 +9,7 @@ std::filesystem::path LogoPicture(const std::filesystem::path& folder, int logoO
                                   const std::string& logoFile) {
     if (logoOption == 1)
         return folder / "GenericHouseLogo.bmp";
-    // A path that does not begin at the root begins in the program's folder, wherever the program was
-    // started.
+    // A relative path starts in the program's folder, not in the current folder.
     if (logoOption == 2 && !logoFile.empty() && logoFile != ReportHeader{}.LogoFile)
         return folder / logoFile;
     return {};
@@ -53,7 +52,7 @@ void BeginBanner(PrintDocument& document, std::string_view title) {
     document.Text(title);
 }
 
-/// A label row in bold and its figures in plain on the same line.
+/// Writes a row of bold labels and, on the same line, its figures in regular weight.
 void WriteTwoPasses(PrintDocument& document, std::string_view format, std::string_view labels,
                     std::string_view values) {
     const Twips line = document.CurrentY;
@@ -75,7 +74,7 @@ void BeginPlainTables(PrintDocument& document) {
     document.FontUnderline = false;
 }
 
-/// Figures in the third and the fifth of six columns.
+/// Puts figures into the third and fifth of six columns.
 std::string InColumns(std::string_view third, std::string_view fifth) {
     std::string row("||");
     return row.append(third).append("||").append(fifth).append("|");
@@ -97,7 +96,7 @@ void WriteReport(PrintDocument& document, const ReportContent& content) {
     WriteHomeBuyerTable(document, content);
     WriteFinancialTable(document, content);
     if (content.Sections.FinancialAssumptions) {
-        // No test for room here, on purpose: this section goes over pages anyway.
+        // Intentionally no check for space: this section may continue on more pages.
         BeginLaterSection(document, "  Financial Assumptions");
         WriteFinancialAssumptions(document, content);
     }
@@ -116,7 +115,7 @@ void WriteReport(PrintDocument& document, const ReportContent& content) {
         BeginLaterSection(document, "  Affordability");
         WriteAffordability(document, content);
     }
-    // Last, although the selection lists it earlier, on purpose.
+    // The summary intentionally comes last, although the selection lists it earlier.
     if (content.Sections.Summary) {
         ContinueHeader(document, 3);
         BeginLaterSection(document, "  Summary");

@@ -8,11 +8,11 @@
 #include <string>
 #include <string_view>
 
-// The printed "Summary Report", written onto an open print document from what the screens show. Nothing is
-// computed here but positions.
+// Writes the printed "Summary Report" to an open print document from the texts of the screens. It computes
+// nothing except positions.
 namespace Ledgrove {
 
-/// Which sections are ticked.
+/// The sections that are selected.
 struct ReportSections {
     bool CashFlow = false;
     bool MoreHome = false;
@@ -29,30 +29,30 @@ struct ReportContent {
     std::filesystem::path Logo;   ///< picture at the top right; none when empty
 };
 
-/// The top-right picture of a logo choice: 1 the generic house in the program's folder, 2 the user's own file
-/// unless it was never named, any other none (an empty path).
+/// The top-right picture for a logo option: 1 is the generic house in the program's folder, 2 is the user's
+/// file unless it has no name; any other option gives an empty path.
 std::filesystem::path LogoPicture(const std::filesystem::path& folder, int logoOption,
                                   const std::string& logoFile);
 
-/// The same for the session's own header.
+/// The same for the session's header.
 std::filesystem::path LogoPicture(const Session& session, int logoOption);
 
 } // namespace Ledgrove
 
 namespace Ledgrove::modPrint {
 
-/// The whole report, its sections in their fixed order.
+/// Writes the whole report, with its sections in their fixed order.
 void WriteReport(PrintDocument& document, const ReportContent& content);
 
-// The blocks of the report, each onto the open document.
+// The blocks of the report; each is written to the open document.
 
 void WriteTitleBlock(PrintDocument& document, const ReportContent& content);
 
-/// A filled bar with the section's name, which begins with two blanks.
+/// Writes a filled bar with the section's title, which begins with two blanks.
 void WriteBanner(PrintDocument& document, std::string_view title);
 
-/// Starts a page headed as continued when the next section, so many whole inches high, does not fit this one.
-/// The whole paper counts, not only what is above the bottom margin.
+/// If the next section, `inches` high, does not fit this page, starts a page with a "continued" heading. The
+/// whole paper counts, not only the part above the bottom margin.
 void ContinueHeader(PrintDocument& document, int inches);
 
 void WriteHomeBuyerTable(PrintDocument& document, const ReportContent& content);
@@ -63,8 +63,8 @@ void WriteBuyMoreHome(PrintDocument& document, const ReportContent& content);
 void WriteAffordability(PrintDocument& document, const ReportContent& content);
 void WriteFinancialAssumptions(PrintDocument& document, const ReportContent& content);
 
-/// A text that reads as a number through the picture, any other unchanged; safe as the text of one table
-/// cell.
+/// A text that is a number, shown with the picture format; any other text unchanged. The result is safe as
+/// the text of one table cell.
 std::string Pictured(std::string_view text, std::string_view picture);
 
 } // namespace Ledgrove::modPrint

@@ -53,7 +53,7 @@ bool IsPossible(const BmpFields& fields) {
            fields.PixelOffset >= fileHeaderSize + 12;
 }
 
-/// Walks the runs: true when they stay within the picture and come to its end within the file.
+/// Walks through the runs; true if they stay inside the picture and end inside the file.
 bool RunsAreWhole(const QByteArray& bytes, const BmpFields& fields) {
     const bool nibbles = fields.Compression == rle4;
     qint64 x = 0;
@@ -75,7 +75,7 @@ bool RunsAreWhole(const QByteArray& bytes, const BmpFields& fields) {
             x += static_cast<quint8>(bytes[at]);
             y += static_cast<quint8>(bytes[at + 1]);
             at += 2;
-        } else { // so many pixels one by one, filled up to whole words
+        } else { // this many single pixels, padded to whole words
             x += value;
             const qint64 size = nibbles ? (value + 1) / 2 : value;
             at += (size + 1) / 2 * 2;
@@ -85,7 +85,7 @@ bool RunsAreWhole(const QByteArray& bytes, const BmpFields& fields) {
         if (x > fields.Width || y > fields.Height)
             return false;
     }
-    // Some programs leave the end mark out behind the last pixel.
+    // Some programs omit the end mark after the last pixel.
     return y >= fields.Height || (y == fields.Height - 1 && x == fields.Width);
 }
 

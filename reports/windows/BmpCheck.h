@@ -11,8 +11,8 @@ struct BmpHeader {
     bool RunLengthEncoded = false;
 };
 
-/// Whether a BMP's pixels are all there. Qt takes a file that is cut short for whole and shows what memory
-/// held before. Nothing for a BMP that is cut, or whose header makes no sense.
+/// Checks that a BMP contains all its pixels. Qt accepts a truncated file and shows uninitialised memory.
+/// Returns nothing for a BMP that is truncated or has an invalid header.
 std::optional<BmpHeader> CheckBmp(const QByteArray& bytes);
 
 } // namespace Ledgrove

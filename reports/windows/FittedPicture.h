@@ -5,8 +5,8 @@
 
 namespace Ledgrove {
 
-/// Shows the picture in a label of fixed size, scaled into it with its proportions kept; a null picture
-/// clears the label.
+/// Shows the picture in a label of fixed size, scaled to fit with its proportions kept. A null picture clears
+/// the label.
 inline void ShowFitted(QLabel& label, const QImage& picture) {
     if (picture.isNull())
         return label.clear();

@@ -17,7 +17,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// The shape of the report's picture boxes.
+/// The size of the report's picture boxes.
 constexpr QSize pictureSize(212, 180);
 
 EntryField* MakeTextField(const char* control, const QString& humanName) {
@@ -37,7 +37,7 @@ FrmPrintOptions::FrmPrintOptions(HeaderOptions& record, const ReportDesk& desk, 
     Bind("ecBuilderName", m_record.ecBuilderName);
     Bind("txtHomeBuyer", m_record.txtHomeBuyer);
     Bind("ecLogoFile", m_record.ecLogoFile);
-    // A path that was typed is looked at as soon as it is complete.
+    // A typed path is loaded when the entry is complete.
     connect(findChild<EntryField*>("ecLogoFile"), &QLineEdit::editingFinished, this,
             &FrmPrintOptions::ShowLogo);
     m_choice->setCurrentIndex(m_record.cboUserLogoOptions);
@@ -126,7 +126,7 @@ void FrmPrintOptions::ChooseLogoFile() {
     const QString file = m_machine.ChooseLogo(*this);
     if (!file.isEmpty())
         m_record.ecLogoFile.Text = file.toStdString();
-    // The chooser may have left the program's folder, from which relative names are read.
+    // The file chooser may have changed the current folder, from which relative names are read.
     QDir::setCurrent(QString::fromStdString(State().Folder.string()));
     Refresh();
     ShowLogo();

@@ -11,19 +11,19 @@ class QLabel;
 
 namespace Ledgrove {
 
-/// What a window of the reports works on.
+/// The objects that the report's windows work on.
 struct ReportDesk {
     Session& State;
     Host& Outside;
     const PrintOutside& Machine;
 };
 
-/// The report's header: builder or partner name, home buyer, and the logo at the top right.
+/// The report header's dialog: builder or partner name, home buyer, and the logo at the top right.
 class FrmPrintOptions : public EntryDialog {
     Q_OBJECT
 
 public:
-    /// Shows the filled record, which must outlive the dialog as `desk`'s members must.
+    /// Shows the filled record. The record and `desk`'s members must outlive the dialog.
     FrmPrintOptions(HeaderOptions& record, const ReportDesk& desk, QWidget* parent = nullptr);
 
     void accept() override;

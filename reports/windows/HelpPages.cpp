@@ -17,7 +17,7 @@ namespace Ledgrove {
 
 namespace {
 
-// Twips.
+// In twips.
 constexpr qreal margin = 1080;
 constexpr qreal footHeight = 480;
 

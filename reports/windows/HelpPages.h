@@ -8,8 +8,8 @@ class QTextDocument;
 
 namespace Ledgrove {
 
-/// The help laid out for paper: letter, upright, black on white whatever the screen's colours, a line with
-/// the page's number at the foot of each page. It reads no file.
+/// The help laid out for letter paper in portrait, always black on white, with a page number at the foot of
+/// each page. It reads no files.
 class HelpPages {
 public:
     explicit HelpPages(const QTextDocument& help);
@@ -17,11 +17,11 @@ public:
 
     int Count() const;
 
-    /// Writes the pages as PDF. Gives a sentence when the file cannot be written, else "".
+    /// Writes the pages as PDF. Returns a message if the file cannot be written, else "".
     QString Write(const QString& file) const;
 
 private:
-    QImage m_ruler; ///< what the layout measures with: a dot is a twip
+    QImage m_ruler; ///< the layout measures with it: one dot is one twip
     std::unique_ptr<QTextDocument> m_document;
 };
 

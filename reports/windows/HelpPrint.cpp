@@ -17,7 +17,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// Which printer, and "Print" or "Cancel".
+/// Asks for a printer, with "Print" and "Cancel".
 class PrinterDialog : public QDialog {
 public:
     PrinterDialog(const std::vector<PrinterDevice>& devices, int pageCount, QWidget& above)
@@ -63,7 +63,7 @@ private:
     QComboBox* m_printers;
 };
 
-/// The sentence about what went wrong; "" when nothing did, or when no file was chosen.
+/// The message about a fault; "" if there was none or if no file was chosen.
 QString PrintOn(const PrinterDevice& device, const HelpPages& pages, QWidget& above,
                 const PrintOutside& machine) {
     if (!IsPdf(device))

@@ -20,7 +20,7 @@ QRectF RectOf(const PrintBox& box) {
     return {QPointF(box.X1, box.Y1), QPointF(box.X2, box.Y2)};
 }
 
-/// Draws each kind of thing that stands on a page.
+/// Draws each kind of item on a page.
 class ItemPainter {
 public:
     ItemPainter(QPainter& painter, PictureStore& pictures)
@@ -66,7 +66,7 @@ QFont PrintFont(const TextStyle& style) {
     font.setBold(style.Bold);
     font.setItalic(style.Italic);
     font.setUnderline(style.Underline);
-    // The same widths on every device, whatever its resolution.
+    // Without hinting, text has the same width on every device, whatever its resolution.
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

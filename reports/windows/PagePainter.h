@@ -28,8 +28,8 @@ private:
     using Key = std::tuple<std::string, int, bool, bool>;
 
     struct Measured {
-        QFontMetricsF Metrics; ///< a font is looked up once
-        /// A cell is measured for its row's height, for its lines and for its place.
+        QFontMetricsF Metrics; ///< each font is looked up only once
+        /// Each cell is measured several times: for its row's height, for its lines and for its position.
         std::unordered_map<std::string, Twips> Widths;
     };
 
@@ -38,7 +38,7 @@ private:
     mutable std::map<Key, Measured> m_styles;
 };
 
-/// Paints one page, the only way that preview, printer and PDF have. The painter's units are twips and its
+/// Paints one page for preview, printer and PDF; there is no other way. The painter's units are twips and its
 /// origin is the corner of the paper.
 void PaintPage(QPainter& painter, const PrintPage& page, PictureStore& pictures);
 

@@ -14,7 +14,7 @@ namespace {
 constexpr int deskMargin = 14; ///< around the sheet
 constexpr int shadowDepth = 4;
 
-/// How far along its content the middle of the view is, 0 to 1.
+/// The position of the view's middle in its content, from 0 to 1.
 double MiddleOf(const QScrollBar& bar) {
     const int content = bar.maximum() + bar.pageStep();
     return content > 0 ? (bar.value() + bar.pageStep() / 2.0) / content : 0;
@@ -25,7 +25,7 @@ void PutMiddle(QScrollBar& bar, double middle) {
     bar.setValue(static_cast<int>(std::lround(middle * content - bar.pageStep() / 2.0)));
 }
 
-/// The words of a page for those who cannot see it.
+/// The text of a page for screen readers.
 QString TextOf(const PrintPage& page) {
     QStringList texts;
     for (const PrintItem& item : page) {
@@ -154,7 +154,7 @@ void PageView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Down:
         return QAbstractScrollArea::keyPressEvent(event);
     default:
-        // Paging and zooming is the window's, wherever its focus is.
+        // The window handles paging and zooming, wherever its focus is.
         event->ignore();
     }
 }

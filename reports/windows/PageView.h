@@ -9,8 +9,8 @@
 
 namespace Ledgrove {
 
-/// One page of a document as a sheet of paper, painted as it is printed. The sheet is dragged with the left
-/// button.
+/// Shows one page of a document as a sheet of paper, painted as it is printed. The left mouse button drags
+/// the sheet.
 class PageView : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -18,17 +18,17 @@ public:
     /// `document` must outlive the view.
     explicit PageView(const PrintDocument& document, QWidget* parent = nullptr);
 
-    /// To be called when the document's pages were replaced, before one of them is shown.
+    /// Call this when the document's pages have been replaced, before showing one of them.
     void ForgetPages();
-    /// Page `number` (from 1) of the ended document.
+    /// Shows page `number` (from 1) of the ended document.
     void ShowPage(std::size_t number);
-    /// Percent of the paper's own size. What is in the middle of the view stays there.
+    /// In percent of the paper's real size. The middle of the view stays in place.
     void SetZoom(int percent);
 
     QSize sizeHint() const override;
 
 signals:
-    /// One step larger (1) or smaller (-1) is asked for.
+    /// The user requests one step larger (1) or smaller (-1).
     void ZoomStepped(int step);
 
 protected:
@@ -50,7 +50,7 @@ private:
 
     const PrintDocument& m_document;
     PictureStore m_pictures;
-    std::size_t m_page = 0; ///< 0 while none is shown
+    std::size_t m_page = 0; ///< 0 while no page is shown
     int m_zoom = 100;
     QPixmap m_sheet; ///< null until painted
     QPoint m_dragged;

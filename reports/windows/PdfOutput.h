@@ -9,18 +9,18 @@ class QPagedPaintDevice;
 
 namespace Ledgrove {
 
-/// Told before each page (counted from 1); false stops the printing cleanly.
+/// Called before each page (counted from 1); returning false stops the printing cleanly.
 using PageProgress = std::function<bool(std::size_t page)>;
 
 enum class PrintOutcome { Done, Stopped, Failed };
 
-/// Paints every page of an ended document onto a device whose page already has the document's size and no
-/// margins. The one loop that prints. `dotsPerInch` is the device's.
+/// Paints every page of an ended document on a device whose page already has the document's size and no
+/// margins. All printing uses this loop. `dotsPerInch` is the device's resolution.
 PrintOutcome PrintPages(QPagedPaintDevice& device, int dotsPerInch, const PrintDocument& document,
                         const PageProgress& progress = {});
 
-/// Writes an ended document as PDF, fonts embedded and pictures lossless. Gives a sentence when the file
-/// cannot be written, else "". A failed or stopped writing leaves no file.
+/// Writes an ended document as PDF with embedded fonts and lossless pictures. Returns a message if the file
+/// cannot be written, else "". A failed or stopped write leaves no file.
 QString WritePdf(const PrintDocument& document, const QString& file, const PageProgress& progress = {});
 
 } // namespace Ledgrove

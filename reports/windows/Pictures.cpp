@@ -19,8 +19,8 @@ qint64 PixelsOf(const QSize& size) {
     return qint64{std::max(size.width(), 0)} * std::max(size.height(), 0);
 }
 
-/// So many pixels may come out of a file of this size. Each may take nine bytes on its way to the page; a
-/// small file holds no photograph, whatever it claims.
+/// The limit of pixels for a file of this size. Each pixel may use nine bytes on its way to the page, and a
+/// small file cannot hold a photograph, whatever it claims.
 qint64 MostPixels(qsizetype fileSize) {
     constexpr qsizetype smallFile = 64 * 1024;
     return fileSize < smallFile ? 4LL * 1000 * 1000 : 12LL * 1000 * 1000;
@@ -30,8 +30,8 @@ bool IsSensible(const QSize& size, qsizetype fileSize) {
     return PixelsOf(size) > 0 && PixelsOf(size) <= MostPixels(fileSize);
 }
 
-/// A reader of this format alone: asked to find out itself, it would load the readers of every format there
-/// is and hand them the bytes.
+/// A reader for this format only. If QImageReader detected the format, it would load all format plug-ins and
+/// pass the bytes to each.
 struct PictureReader : QImageReader {
     PictureReader(QIODevice* device, const char* format)
         : QImageReader(device, format) {
@@ -39,7 +39,7 @@ struct PictureReader : QImageReader {
     }
 };
 
-/// Reads the image that the reader stands at, after a look at its size.
+/// Checks the size of the reader's current image and reads it.
 QImage ReadCurrent(QImageReader& reader, qsizetype fileSize) {
     return IsSensible(reader.size(), fileSize) ? reader.read() : QImage();
 }
@@ -53,7 +53,7 @@ QImage ReadBmp(const QByteArray& bytes) {
     PictureReader reader(&buffer, "bmp");
     if (!header->RunLengthEncoded)
         return ReadCurrent(reader, bytes.size());
-    // Runs may leave pixels out; Qt draws them into the image it is given, and this one is all background.
+    // Runs may skip pixels. Qt draws into the given image, so it starts as background.
     QImage image(header->Size, QImage::Format_Indexed8);
     image.fill(0);
     return reader.read(&image) ? image : QImage();
@@ -62,8 +62,8 @@ QImage ReadBmp(const QByteArray& bytes) {
 constexpr qsizetype iconHead = 6;
 constexpr qsizetype iconEntry = 16;
 
-/// The pixels of an icon's image, whose entry must be there: the directory says little of one that is a PNG
-/// inside.
+/// The pixels of an icon's image, whose directory entry must exist. If the image is a PNG, its own header
+/// counts, because the directory says little about it.
 qint64 IconPixels(const QByteArray& bytes, int index, const QSize& told) {
     const qsizetype entry = iconHead + iconEntry * index;
     const qint64 offset = qFromLittleEndian<quint32>(bytes.constData() + entry + 12);
@@ -81,11 +81,11 @@ QImage ReadLargestIcon(const QByteArray& bytes) {
     buffer.setData(bytes);
     PictureReader reader(&buffer, "ico");
     QImage largest;
-    // A few bytes may claim thousands of images, and a directory may name the same one a thousand times.
+    // A few bytes may claim thousands of images, and a directory may name the same image a thousand times.
     constexpr qsizetype mostImages = 256;
     const auto count = static_cast<int>(
         std::min({qsizetype{reader.imageCount()}, (bytes.size() - iconHead) / iconEntry, mostImages}));
-    qint64 pixelsLeft = MostPixels(bytes.size()); // for all together
+    qint64 pixelsLeft = MostPixels(bytes.size()); // for all images together
     for (int index = 0; index < count; ++index) {
         if (!reader.jumpToImage(index))
             continue;
@@ -123,7 +123,7 @@ QImage ReadPicture(const QByteArray& bytes) {
 
 QImage LoadPicture(const std::filesystem::path& path) {
     QFile file(QString::fromStdString(path.string()));
-    // A pipe or a device has no end to read to.
+    // A pipe or a device may never end.
     std::error_code fault;
     if (!std::filesystem::is_regular_file(path, fault) || file.size() > largestFile ||
         !file.open(QIODevice::ReadOnly))
@@ -133,7 +133,7 @@ QImage LoadPicture(const std::filesystem::path& path) {
 
 namespace {
 
-/// Pages are white. A PDF file would hold the transparency as a second picture.
+/// Pages are white. A PDF file would store the transparency as a second picture.
 QImage OnPaper(const QImage& picture) {
     if (!picture.hasAlphaChannel())
         return picture;

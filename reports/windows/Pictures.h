@@ -7,15 +7,16 @@
 
 namespace Ledgrove {
 
-/// The picture in `bytes`, told by its content whatever its file was called: BMP (RLE-compressed too), ICO
-/// (its largest image), WMF, PNG. Null for anything else, and for a picture that is cut short, damaged or
-/// larger than 12 million pixels.
+/// Reads the picture in `bytes`. Its content, not its file name, determines the format: BMP (also
+/// RLE-compressed), ICO (its largest image), WMF or PNG. Null for anything else, and for a picture that is
+/// truncated, damaged or larger than 12 million pixels.
 QImage ReadPicture(const QByteArray& bytes);
 
-/// The picture of a file, null where there is none. Files above 64 MB are not read.
+/// Reads the picture of a file; null if there is none. Files above 64 MB are not read.
 QImage LoadPicture(const std::filesystem::path& file);
 
-/// Keeps the pictures of one report as they look on its paper, so that each is read once for all its pages.
+/// Keeps the pictures of one report as they look on its paper, so that each one is read only once for all
+/// pages.
 class PictureStore {
 public:
     const QImage& Load(const std::filesystem::path& file);

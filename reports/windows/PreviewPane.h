@@ -12,28 +12,28 @@ namespace Ledgrove {
 
 class PageView;
 
-/// The preview of a document: one page, and its own navigation to all of them.
+/// The preview of a document: one page, with navigation to all pages.
 class PreviewPane : public QWidget {
     Q_OBJECT
 
 public:
-    /// `document` must outlive the pane; nothing is shown before it has ended.
+    /// `document` must outlive the pane. The pane shows nothing before the document has ended.
     explicit PreviewPane(const PrintDocument& document, QWidget* parent = nullptr);
 
-    /// The document's pages were replaced. The page that was chosen stays, as far as it is still there.
+    /// Call this when the document's pages have been replaced. The chosen page stays if it still exists.
     void Refresh();
-    /// Counted from 1; the nearest one for a page that is not there.
+    /// Shows page `number`, counted from 1; for a page that does not exist, the nearest one.
     void ShowPage(std::size_t number);
     std::size_t ShownPage() const { return m_page; }
     void SetZoom(int percent);
     void ShowNavigation(bool shown);
 
-    /// Takes the keys that turn pages.
+    /// Handles the keys that turn pages.
     bool TakeKey(const QKeyEvent& key);
 
 signals:
     void PageShown();
-    /// One step larger (1) or smaller (-1) is asked for.
+    /// The user requests one step larger (1) or smaller (-1).
     void ZoomStepped(int step);
 
 private:

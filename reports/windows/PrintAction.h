@@ -8,8 +8,8 @@
 
 namespace Ledgrove {
 
-/// Opens the report selection above the active window, on the machine as it is with these printers. All three
-/// must outlive the action.
+/// An action that opens the report selection above the active window, with these printers and the real file
+/// dialogs. All three arguments must outlive the action.
 std::function<void()> PrintAction(Session& session, Host& outside, PrintServer& printers);
 
 } // namespace Ledgrove

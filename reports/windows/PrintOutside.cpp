@@ -8,10 +8,10 @@ namespace Ledgrove {
 
 namespace {
 
-/// The words and the patterns of a filter, which are separated by a bar.
+/// The description and the patterns of a filter, separated by a bar.
 constexpr const char* logoFilter = "Pictures (*.bmp,*.ico,*.rle,*.wmf) | *.bmp;*.ico;*.rle;*.wmf";
 
-/// The filter in the toolkit's own form.
+/// The filter in Qt's format.
 QString ToolkitFilter(const char* filter) {
     const QStringList parts = QString(filter).split('|');
     return parts[0].trimmed() + " (" + parts[1].trimmed().replace(';', ' ') + ")";
@@ -27,7 +27,7 @@ std::unique_ptr<QFileDialog> LogoDialog(QWidget& parent) {
     auto dialog = std::make_unique<QFileDialog>(&parent, "Builder Logo Selection");
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setDefaultSuffix(".BMP");
-    // The words say the patterns already.
+    // The description already names the patterns.
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setNameFilter(ToolkitFilter(logoFilter));
     return dialog;

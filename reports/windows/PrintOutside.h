@@ -8,10 +8,10 @@
 #include <functional>
 #include <memory>
 
-// What the report's windows ask of the machine.
+// What the report's windows need from the system.
 namespace Ledgrove {
 
-/// Lets the user choose a file, asking above `parent`; "" when none was chosen.
+/// Lets the user choose a file in a dialog above `parent`; "" if none was chosen.
 using FileChooser = std::function<QString(QWidget& parent)>;
 
 struct PrintOutside {
@@ -21,7 +21,7 @@ struct PrintOutside {
     std::function<QDate()> Today;
 };
 
-/// The machine as it is. A PDF file is called `pdfName` until the user calls it otherwise.
+/// The real printers and file dialogs. `pdfName` is the suggested name of a PDF file.
 PrintOutside RealOutside(PrintServer& server, const QString& pdfName = "Summary Report.pdf");
 
 std::unique_ptr<QFileDialog> LogoDialog(QWidget& parent);

@@ -12,12 +12,12 @@ struct PrintRequest {
     const PrintDocument& Document; ///< ended
     PrinterDevice Device;
     std::string PaperName;
-    int Copies = 1;  ///< a PDF file holds one whatever is asked
-    QString PdfFile; ///< where the device is "Print to PDF"
+    int Copies = 1;  ///< a PDF file always holds one copy
+    QString PdfFile; ///< if the device is "Print to PDF"
 };
 
-/// Prints with a progress dialog above `parent`; its "Cancel" leaves nothing printed. Gives a sentence when
-/// the printing failed, else "".
+/// Prints with a progress dialog above `parent`; its "Cancel" stops before anything is printed. Returns a
+/// message if printing failed, else "".
 QString RunPrint(const PrintRequest& request, PrintServer& server, QWidget& parent);
 
 } // namespace Ledgrove

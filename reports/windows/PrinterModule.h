@@ -7,8 +7,8 @@
 
 namespace Ledgrove {
 
-/// Reaches the machine's printers. It lives in a library of its own that is loaded when the printers are
-/// first asked for: with all that it needs it would take a good part of the start.
+/// Gives access to the system's printers. It is in a separate library that the program loads when it first
+/// needs the printers, because loading it takes a large part of the start-up time.
 class PrintServerFactory {
 public:
     virtual ~PrintServerFactory() = default;

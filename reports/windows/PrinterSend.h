@@ -7,18 +7,18 @@
 
 namespace Ledgrove {
 
-/// Something on its way to a printer.
+/// A document to be sent to a printer.
 struct PrinterSending {
-    QString What; ///< as a sentence begins with it: "The report"
-    PrintJob Job; ///< its PdfFile is filled in
-    /// Writes the PDF to this path. Gives a sentence when it cannot be written, else "".
+    QString What; ///< as the start of a sentence: "The report"
+    PrintJob Job; ///< SendToPrinter fills in its PdfFile
+    /// Writes the PDF to this path. Returns a message if it cannot be written, else "".
     std::function<QString(const QString& file)> Write;
-    /// Asked when the PDF is written; true leaves the printer alone. May be empty.
+    /// Called when the PDF is written; if it returns true, nothing is sent. May be empty.
     std::function<bool()> WasStopped;
 };
 
-/// Writes the PDF into a temporary folder and sends it when it is whole, so that a stopped one leaves no
-/// pages at the printer. Gives a sentence when nothing was printed by a fault, else "".
+/// Writes the PDF into a temporary folder and sends it when it is complete, so that a stopped print leaves no
+/// pages at the printer. Returns a message if a fault prevented printing, else "".
 QString SendToPrinter(const PrinterSending& sending, PrintServer& server);
 
 } // namespace Ledgrove

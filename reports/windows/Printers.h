@@ -8,7 +8,7 @@
 // The printers that the report can go to.
 namespace Ledgrove {
 
-/// A PDF file on its way to a printer.
+/// A PDF file for a printer.
 struct PrintJob {
     std::string Printer; ///< its name
     std::string Title;
@@ -17,27 +17,27 @@ struct PrintJob {
     int Copies = 1;
 };
 
-/// The print server as the windows need it.
+/// The print server's interface for the windows.
 class PrintServer {
 public:
     virtual ~PrintServer() = default;
 
-    /// Every printer it has; none where there is no server.
+    /// All printers of the server; empty if there is no server.
     virtual std::vector<PrinterDevice> Devices() = 0;
     virtual PrinterDetails Details(const std::string& printer) = 0;
-    /// Why the job was not taken, in the server's words; "" when it was.
+    /// Why the server refused the job, in the server's words; "" if it accepted the job.
     virtual std::string Send(const PrintJob& job) = 0;
 };
 
-/// The device that is always there: a PDF file whose name is asked for when it is printed.
+/// The device that always exists: a PDF file, whose name the program asks for when it prints.
 PrinterDevice PdfDevice();
 PrinterDetails PdfDetails();
 bool IsPdf(const PrinterDevice& device);
 
-/// The server's printers and "Print to PDF" behind them.
+/// The server's printers, followed by "Print to PDF".
 std::vector<PrinterDevice> AllDevices(PrintServer& server);
 
-/// The index of the server's default printer, else of its first one, else of "Print to PDF".
+/// The index of the server's default printer; otherwise of its first printer; otherwise of "Print to PDF".
 std::size_t DefaultDevice(const std::vector<PrinterDevice>& devices);
 
 } // namespace Ledgrove

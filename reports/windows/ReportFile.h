@@ -8,7 +8,7 @@
 
 namespace Ledgrove {
 
-/// What a report without a window is made of.
+/// The options of a report without a window.
 struct ReportFileRequest {
     ReportSections Sections;
     PageOrientation Orientation = PageOrientation::Portrait;
@@ -16,14 +16,14 @@ struct ReportFileRequest {
     QString File; ///< of the PDF
 };
 
-/// The footer of every report; `date` as it is printed, "11/20/2026".
+/// The footer of every report; `date` in its printed form, such as "11/20/2026".
 std::string ReportFooter(std::string_view date);
 
-/// Fonts, footer and title of a document that the report is about to be written on.
+/// Sets fonts, footer and title of a document before the report is written to it.
 void PrepareReport(PrintDocument& document, const PageGeometry& paper, std::string_view date);
 
-/// Composes the report of the session's screen and writes it as PDF. Needs a QGuiApplication. Gives a
-/// sentence when the file cannot be written, else "".
+/// Composes the report of the session's screen and writes it as PDF. Needs a QGuiApplication. Returns a
+/// message if the file cannot be written, else "".
 QString WriteReportFile(Session& session, const ReportFileRequest& request);
 
 } // namespace Ledgrove

@@ -31,7 +31,7 @@ void SetCaption(QPushButton& button, const QString& caption) {
     button.setAccessibleName(QString(caption).remove('&'));
 }
 
-/// Ctrl with plus or minus, whether or not the keyboard has "+" on a shifted key; 0 for other keys.
+/// 1 or -1 for Ctrl with plus or minus, also where "+" is on a shifted key; 0 for other keys.
 int ZoomStepOf(const QKeyEvent& key) {
     if (!(key.modifiers() & Qt::ControlModifier))
         return 0;
@@ -89,7 +89,7 @@ void frmPrint::LoadPrinters() {
     m_device = found == m_devices.end() ? DefaultDevice(m_devices)
                                         : static_cast<std::size_t>(found - m_devices.begin());
     {
-        // Each printer that is only passed over would be asked for its details.
+        // Without the blocker, every printer selected on the way would be queried for its details.
         const QSignalBlocker nothingChosen(m_printers);
         m_printers->clear();
         for (const PrinterDevice& device : m_devices)
@@ -114,7 +114,7 @@ void frmPrint::RefreshPrintView() {
     Trace("In RefreshPrintView");
     m_zooms->setEnabled(true);
     m_orientations->setEnabled(true);
-    // While it prints, the button that started it stays as it is.
+    // During printing, the print button keeps its state.
     m_print->setEnabled(m_previewMode);
     m_document.Geometry = SheetOf(m_paper, m_orientation);
     m_document.Start();
@@ -144,7 +144,7 @@ QLayout* frmPrint::MakeHeader() {
     IdentifyByDescription(*m_size, "lblSize", "Paper size in inches, width by height");
     m_status = TextLabel({});
     IdentifyByDescription(*m_status, "lblStatus", "Printer details");
-    // A long port must not widen the window.
+    // A long port name must not widen the window.
     m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_status->setMinimumHeight(3 * m_status->fontMetrics().lineSpacing());
 
@@ -218,7 +218,7 @@ void frmPrint::showEvent(QShowEvent* event) {
 
 void frmPrint::changeEvent(QEvent* event) {
     EntryDialog::changeEvent(event);
-    // The window's own button maximizes, too.
+    // The window's own button also maximizes.
     if (event->type() == QEvent::WindowStateChange)
         ShowWindowButton();
 }

@@ -12,30 +12,30 @@ namespace Ledgrove {
 class PreviewPane;
 
 struct PreviewParts {
-    /// Writes the report onto the open document; called for each composition.
+    /// Writes the report to the open document; called for each composition.
     std::function<void(PrintDocument&)> WriteReport;
     const PrintOutside& Machine;
 };
 
-/// The report in a preview, from where it is printed. Its document lives as long as the window.
+/// Shows the report in a preview and prints it from there. The document lives as long as the window.
 class frmPrint : public EntryDialog {
     Q_OBJECT
 
 public:
-    /// What `parts` refers to, `session` and `outside` must outlive the window.
+    /// The objects in `parts`, `session` and `outside` must outlive the window.
     frmPrint(PreviewParts parts, Session& session, Host& outside, QWidget* parent = nullptr);
 
     const PrintDocument& Document() const { return m_document; }
 
-    /// Fills the pick lists, chooses a printer and composes the report. The constructor does it.
+    /// Fills the pick lists, chooses a printer and composes the report. The constructor calls it.
     void Load();
     void InitPicklists();
     void LoadPrinters();
     void InitvsPrinter();
-    /// Composes the report afresh.
+    /// Composes the report again.
     void RefreshPrintView();
 
-    /// While tracing, each procedure tells its name in a message box. Loading ends it.
+    /// While tracing, each procedure shows its name in a message box. Loading ends the tracing.
     void SetTrace(bool on) { m_tracing = on; }
 
 protected:
@@ -75,7 +75,7 @@ private:
     bool m_tracing = false;
     bool m_loading = false;
     bool m_previewMode = true;
-    QSize m_normalSize; ///< at load
+    QSize m_normalSize; ///< as at loading
 
     PreviewPane* m_preview;
     QComboBox* m_printers;

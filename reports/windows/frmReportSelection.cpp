@@ -24,7 +24,7 @@ struct SectionBox {
     bool ReportSections::*Section;
 };
 
-// There is no second box; the numbers keep the gap.
+// There is intentionally no second box; the numbers keep the gap.
 constexpr SectionBox sectionBoxes[] = {
     {"chkReport1", "Cash &Flow", &ReportSections::CashFlow},
     {"chkReport3", "&More Home", &ReportSections::MoreHome},

@@ -6,7 +6,7 @@
 
 namespace Ledgrove {
 
-/// Which sections of the report to print; opens the report header's dialog and the preview.
+/// Asks which sections of the report to print; opens the report header's dialog and the preview.
 class frmReportSelection : public EntryDialog {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
     frmReportSelection(Session& session, Host& outside, const PrintOutside& machine,
                        QWidget* parent = nullptr);
 
-    /// The boxes as they are ticked.
+    /// The sections whose boxes are ticked.
     ReportSections Sections() const;
 
 private:

@@ -5,7 +5,7 @@
 
 namespace Ledgrove {
 
-/// What the program finds in the loaded library.
+/// The factory that the program finds in the loaded library.
 class CupsModule : public QObject, public PrintServerFactory {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID LEDGROVE_PRINT_SERVER_FACTORY)

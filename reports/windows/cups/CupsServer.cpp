@@ -32,7 +32,7 @@ struct FreeInfo {
 };
 using DestinationInfo = std::unique_ptr<cups_dinfo_t, FreeInfo>;
 
-/// Named options of a job.
+/// The named options of a job.
 class JobOptions {
 public:
     JobOptions() = default;
@@ -56,15 +56,15 @@ std::string Option(const cups_dest_t& destination, const char* name) {
     return value ? value : "";
 }
 
-/// What the user has set up for a printer goes with each job, but for what the window asks: the pages are
-/// turned and sized already.
+/// The user's settings for a printer apply to each job, except those that the window sets: the pages already
+/// have their size and orientation.
 bool IsDecidedHere(std::string_view option) {
     constexpr std::string_view decided[] = {"PageSize", "media-col", "orientation-requested", "landscape",
                                             "fit-to-page"};
     return std::find(std::begin(decided), std::end(decided), option) != std::end(decided);
 }
 
-/// With the instance that a user may have set up on it, as lp writes it.
+/// The printer's name, with the user's instance in the form that lp uses.
 std::string NameOf(const cups_dest_t& destination) {
     std::string name = destination.name;
     return destination.instance ? name + '/' + destination.instance : name;
@@ -95,7 +95,7 @@ Twips FromHundredthsOfMillimetre(int length) {
     return static_cast<Twips>(length * static_cast<double>(TwipsPerInch) / 2540 + 0.5);
 }
 
-/// A paper by any of the names that it goes by; nothing for a name that is not known.
+/// Finds a paper by any of its names; null for an unknown name.
 const pwg_media_t* MediaNamed(const std::string& name) {
     if (name.empty())
         return nullptr;
@@ -107,10 +107,10 @@ const pwg_media_t* MediaNamed(const std::string& name) {
 }
 
 std::string DefaultMediaName(cups_dest_t& destination, cups_dinfo_t& info) {
-    // The user's own choice for this printer comes before the printer's. cupsGetDestMediaDefault would give
-    // letter where the user made none.
+    // The user's choice for this printer comes before the printer's default. cupsGetDestMediaDefault would
+    // give letter if the user has made no choice.
     for (const char* option : {"media", "PageSize"}) {
-        // A tray may stand behind the size, "A4,Upper".
+        // A tray may follow the size, as in "A4,Upper".
         const std::string chosen = Option(destination, option);
         if (!chosen.empty())
             return chosen.substr(0, chosen.find(','));
@@ -128,7 +128,7 @@ std::optional<Paper> PaperOf(cups_dest_t& destination, cups_dinfo_t& info) {
                  FromHundredthsOfMillimetre(media->length)};
 }
 
-/// Never empty, which would stand for success.
+/// Never empty, because empty means success.
 std::string LastError() {
     const char* const reason = cupsLastErrorString();
     return reason && *reason ? reason : "the print service gave no reason";
@@ -169,7 +169,7 @@ std::string CupsServer::Send(const PrintJob& job) {
     }
     options.Add("copies", std::to_string(job.Copies));
     options.Add("media", job.PaperName);
-    // The pages have the paper's size; fitting them into the printable area would shrink them.
+    // The pages have the paper's size; fitting them to the printable area would shrink them.
     options.Add("print-scaling", "none");
     const int id = cupsPrintFile2(CUPS_HTTP_DEFAULT, destination->name, job.PdfFile.c_str(),
                                   job.Title.c_str(), options.Count(), options.Items());

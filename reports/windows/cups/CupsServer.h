@@ -4,7 +4,7 @@
 
 namespace Ledgrove {
 
-/// The machine's own print server, or the one that CUPS_SERVER names.
+/// The system's print server, or the one that CUPS_SERVER names.
 class CupsServer : public PrintServer {
 public:
     std::vector<PrinterDevice> Devices() override;
