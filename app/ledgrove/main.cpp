@@ -56,14 +56,15 @@ QString SampleFile(const std::filesystem::path& folder) {
     return QString::fromStdString((folder / "samples" / "first-home.ledgrove.json").string());
 }
 
-/// Reads the list of the machine's fonts, for which the first text waits. The display is served first.
+/// Reads the list of the system's fonts early, because the first text needs it. The display connection has
+/// priority.
 void ReadFonts() {
-    [[maybe_unused]] const int priority = nice(10); // of this thread alone
+    [[maybe_unused]] const int priority = nice(10); // only for this thread
     FcInit();
 }
 
-/// Draws the visible labels' letters, which are kept for the first picture, while the window manager puts its
-/// frame around the window.
+/// Renders the glyphs of the visible labels into the glyph cache while the window manager adds the window's
+/// frame. The first paint then finds them ready.
 void DrawLettersAhead(const QWidget& window) {
     QImage paper(1, 1, QImage::Format_RGB32);
     QPainter painter(&paper);
@@ -76,9 +77,9 @@ void DrawLettersAhead(const QWidget& window) {
     }
 }
 
-/// `file` is a comparison to open, "" for none.
+/// `file` is a comparison to open, or "" for none.
 int ShowWindow(const std::filesystem::path& folder, const QString& file) {
-    // Screen readers are found over the session's bus: it is connected beside the fonts.
+    // Qt finds screen readers through the session bus. A thread connects to it while the fonts load.
     const std::jthread bus([] { QDBusConnection::sessionBus(); });
     Ledgrove::FormStyle::Use();
     Ledgrove::Session session;
@@ -121,12 +122,12 @@ int ShowWindow(const std::filesystem::path& folder, const QString& file) {
 int main(int argc, char* argv[]) {
     QCoreApplication::setApplicationName("ledgrove");
     QCoreApplication::setApplicationVersion(LEDGROVE_VERSION);
-    // The name of the desktop entry: by it some desktops find the window's icon.
+    // Some desktops find the window's icon by the name of the desktop entry.
     QGuiApplication::setDesktopFileName("org.ledgrove.Ledgrove");
 
     const bool hasDisplay = HasDisplay(argc, argv);
-    // The first text waits for the list of the machine's fonts: it is read beside the connection to the
-    // display.
+    // The first text needs the list of the system's fonts. A thread reads it while the program connects to
+    // the display.
     const std::jthread fonts = hasDisplay ? std::jthread(ReadFonts) : std::jthread();
     const std::unique_ptr<QCoreApplication> application(hasDisplay ? new QApplication(argc, argv)
                                                                    : new QCoreApplication(argc, argv));

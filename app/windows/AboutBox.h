@@ -4,7 +4,7 @@
 
 namespace Ledgrove {
 
-/// What the program is, its version and its licence.
+/// Shows what the program is, its version and its licence.
 void ShowAbout(QWidget& above);
 
 } // namespace Ledgrove

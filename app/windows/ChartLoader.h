@@ -6,7 +6,7 @@
 
 namespace Ledgrove {
 
-/// Loads the charts' library from `folder`/modules. Loaded once, it stays for the program's life.
+/// Loads the chart library from `folder`/modules. It stays loaded until the program ends.
 ChartSource LoadCharts(const QString& folder);
 
 } // namespace Ledgrove

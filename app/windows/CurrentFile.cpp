@@ -137,7 +137,7 @@ void CurrentFile::StartEntering() {
 }
 
 bool CurrentFile::IsModified() const {
-    // A new comparison without a single figure is nothing to lose.
+    // A new comparison without any figures needs no question.
     if (m_name.isEmpty() && IsUntouched(m_session.Screen))
         return false;
     return ComparisonText(m_session.Screen) != m_saved;
@@ -159,8 +159,8 @@ bool CurrentFile::MayLoseInputs() {
 }
 
 void CurrentFile::ShowTitle() {
-    // "[*]" is where the mark appears; doubled it stands for itself. Without a file the program's name
-    // carries the mark.
+    // "[*]" marks the place of the change mark; doubled, it stands for itself. Without a file, the mark
+    // follows the program's name.
     const QString name = QFileInfo(m_name).fileName().replace("[*]", "[*][*]");
     m_window.setWindowTitle(name.isEmpty() ? QString(ApplicationTitle) + "[*]"
                                            : name + "[*] - " + ApplicationTitle);

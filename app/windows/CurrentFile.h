@@ -11,37 +11,38 @@
 
 namespace Ledgrove {
 
-/// The comparison file that the main window shows: new, open, save, and the question before inputs are lost.
-/// The window's title tells its name and whether it was changed.
+/// The comparison file that the main window shows: new, open, save, and the question before unsaved inputs
+/// are lost. The window's title shows its name and whether it has changed.
 class CurrentFile : public QObject {
     Q_OBJECT
 
 public:
-    /// `session` is as loading left it and is what a new comparison starts from. All must outlive this.
+    /// `session` must be in its state after loading; a new comparison starts from that state. All arguments
+    /// must outlive this object.
     CurrentFile(frmMain& window, Session& session, Host& outside, RecentFiles recent,
                 FileQuestions questions);
 
-    /// "" while the comparison was never saved.
+    /// "" until the comparison is saved.
     const QString& Name() const { return m_name; }
     RecentFiles& Recent() { return m_recent; }
 
-    /// `name` with this ending, beside the comparison: what an export is suggested to be called.
+    /// The suggested name for an export: `name` with this ending, in the comparison's folder.
     QString NameBeside(const QString& ending) const;
 
 public slots:
     void New();
     void Open();
-    /// A faulty file is told and leaves everything as it was.
+    /// Reports a faulty file and then changes nothing.
     void OpenNamed(const QString& file);
-    /// Fills in the inputs of `file` and leaves the comparison without a name, so that saving does not write
-    /// over the original.
+    /// Fills in the inputs of `file` and leaves the comparison without a name, so that a save does not
+    /// overwrite the original.
     void OpenCopy(const QString& file);
-    /// False when it was not saved: no name was chosen, or the fault has been told.
+    /// False if nothing was saved: the user chose no name, or the fault has been reported.
     bool Save();
     bool SaveAs();
 
 protected:
-    /// Asks before the window closes over unsaved inputs.
+    /// Asks before the window closes with unsaved inputs.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -61,7 +62,7 @@ private:
     RecentFiles m_recent;
     FileQuestions m_questions;
     QString m_name;
-    std::string m_saved; ///< the inputs as they are in the file, or as a new comparison has them
+    std::string m_saved; ///< the inputs in the file, or those of a new comparison
 };
 
 } // namespace Ledgrove

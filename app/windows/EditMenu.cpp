@@ -28,7 +28,8 @@ EditMenu::EditMenu(QWidget& window)
 void EditMenu::AddCommand(const Command& command) {
     QAction* action = addAction(command.Text);
     action->setShortcut(command.Key);
-    // The field with the focus takes these keys itself; elsewhere they would change a field unseen.
+    // The focused field handles these keys itself. Elsewhere they would change a field that the user is not
+    // looking at.
     action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, [this, act = command.Act] {
         if (m_field)
@@ -40,7 +41,7 @@ void EditMenu::AddCommand(const Command& command) {
 }
 
 void EditMenu::RememberField(QWidget* focused) {
-    // While the menu bar is used by keyboard it has the focus itself.
+    // While the keyboard uses the menu bar, the menu bar has the focus.
     if (focused && focused->window() == &m_window && focused->focusPolicy() != Qt::NoFocus)
         m_field = qobject_cast<QLineEdit*>(focused);
 }

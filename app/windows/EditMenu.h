@@ -12,7 +12,7 @@ class EditMenu : public QMenu {
     Q_OBJECT
 
 public:
-    /// Its fields are those of `window`.
+    /// The menu works on the fields of `window`.
     explicit EditMenu(QWidget& window);
 
 private:

@@ -2,10 +2,10 @@
 
 #include "app/windows/CurrentFile.h"
 
-// What takes the comparison out of the program. All complain through `outside`.
+// The commands that export the comparison. They report faults through `outside`.
 namespace Ledgrove {
 
-/// What the export commands work on.
+/// The objects that the export commands work on.
 struct ExportContext {
     frmMain& Window;
     Session& State;
@@ -14,15 +14,15 @@ struct ExportContext {
     FileQuestions Questions;
 };
 
-/// Asks for a name and writes the whole report there.
+/// Asks for a file name and writes the whole report there.
 void ExportPdf(const ExportContext& context);
 
-/// Asks for a name and writes the inputs and main results there, for a spreadsheet.
+/// Asks for a file name and writes the inputs and main results there, for a spreadsheet.
 void ExportCsv(const ExportContext& context);
 
 enum class TabForm { Text, Spreadsheet };
 
-/// Puts what the shown tab says on the clipboard.
+/// Copies the texts of the current tab to the clipboard.
 void CopyTab(const ExportContext& context, TabForm form);
 
 } // namespace Ledgrove

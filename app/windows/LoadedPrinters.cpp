@@ -30,7 +30,7 @@ std::vector<PrinterDevice> LoadedPrinters::Devices() {
     return m_server->Devices();
 }
 
-// Only a device that was listed is asked about, so the library is there.
+// The caller only asks about listed devices, so the library is loaded.
 PrinterDetails LoadedPrinters::Details(const std::string& printer) {
     return m_server ? m_server->Details(printer) : PrinterDetails();
 }

@@ -8,8 +8,8 @@
 
 namespace Ledgrove {
 
-/// The machine's printers by the library of `folder`/modules, which is loaded when they are first asked for.
-/// Where it cannot be, that is said through `outside` each time, and there are no printers.
+/// The system's printers, from a library in `folder`/modules that is loaded on first use. If it cannot be
+/// loaded, each use shows a message through `outside`, and there are no printers.
 class LoadedPrinters : public PrintServer {
 public:
     LoadedPrinters(QString folder, Host& outside);

@@ -24,13 +24,14 @@ QAction* AddCommand(QMenu& menu, const QString& text, const QKeySequence& keys,
     return action;
 }
 
-/// Moves the focus as a click would, so that the field being left is accepted first. False when it was not.
+/// Moves the focus as a click would, so that the current field is committed first. False if the field refused
+/// its text.
 bool LeaveFieldFor(QWidget& widget) {
     widget.setFocus(Qt::ShortcutFocusReason);
     return widget.window()->focusWidget() == &widget;
 }
 
-/// A command that is one of the window's buttons.
+/// Adds a command that presses one of the window's buttons.
 void AddButtonCommand(QMenu& menu, frmMain& window, const char* name, const QString& text,
                       const QKeySequence& keys = {}) {
     auto* button = window.findChild<QPushButton*>(name);
@@ -41,7 +42,7 @@ void AddButtonCommand(QMenu& menu, frmMain& window, const char* name, const QStr
     action->setEnabled(button->isEnabled());
 }
 
-/// A name in a menu: "&" would mark a letter.
+/// A file name for a menu, with "&" doubled because a single one would mark a mnemonic.
 QString MenuName(qsizetype number, const QString& file) {
     return QString("&%1 %2").arg(number).arg(QFileInfo(file).fileName().replace('&', "&&"));
 }
@@ -82,7 +83,7 @@ void AddFileMenu(QMenuBar& bar, CurrentFile& file, const ExportContext& context)
     AddCommand(menu, "&Save", QKeySequence::Save, [&file] { file.Save(); });
     AddCommand(menu, "Save &As…", QKeySequence("Ctrl+Shift+S"), [&file] { file.SaveAs(); });
     menu.addSeparator();
-    // Ctrl+E and Ctrl+Shift+E are a field's own: to its end.
+    // Ctrl+E and Ctrl+Shift+E move to the end of a field.
     AddCommand(menu, "&Export PDF…", QKeySequence("Ctrl+Shift+P"), [context] { ExportPdf(context); });
     AddCommand(menu, "Export &CSV…", QKeySequence("Ctrl+Shift+X"), [context] { ExportCsv(context); });
     menu.addSeparator();
@@ -136,7 +137,7 @@ void AddToolsMenu(QMenuBar& bar, frmMain& window) {
 
 void AddHelpMenu(QMenuBar& bar, frmMain& window) {
     QMenu& menu = *bar.addMenu("&Help");
-    // F1 is the window's own key; here it is only shown.
+    // The window handles F1; the menu only shows it.
     AddButtonCommand(menu, window, "bHelp", "&Help\tF1");
     AddButtonCommand(menu, window, "bDisclaimer", "&Disclaimer");
     menu.addSeparator();

@@ -5,8 +5,8 @@
 
 namespace Ledgrove {
 
-/// Puts the menu bar into the window. Everything that its buttons do is there too, done by the same buttons.
-/// What `context` refers to must outlive the window.
+/// Adds the menu bar to the window. It contains all commands of the window's buttons and presses those
+/// buttons. The objects in `context` must outlive the window.
 void BuildMainMenu(CurrentFile& file, const ExportContext& context);
 
 } // namespace Ledgrove

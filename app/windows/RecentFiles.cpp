@@ -21,7 +21,7 @@ RecentFiles::RecentFiles(QString store)
     : m_store(std::move(store)) {}
 
 QStringList RecentFiles::Names() const {
-    // Read afresh each time: another window of the program may have added to it.
+    // Read again each time, because another window of the program may have added a name.
     return QSettings(m_store, QSettings::IniFormat).value(key).toStringList().mid(0, Most);
 }
 

@@ -5,13 +5,14 @@
 
 namespace Ledgrove {
 
-/// The comparisons opened or saved last, newest first. They are kept in a small file among the user's own
-/// configuration, not in Ledgrove.ini, which only the dialogs write.
+/// The comparisons opened or saved last, newest first. They are stored in a small file in the user's
+/// configuration folder, not in Ledgrove.ini, which only the dialogs write.
 class RecentFiles {
 public:
     static constexpr qsizetype Most = 8;
 
-    /// `store` is the file in which the names are kept; a name that cannot be kept is forgotten at the end.
+    /// `store` is the file with the names. If a name cannot be stored, the list loses it when the program
+    /// ends.
     explicit RecentFiles(QString store);
 
     QStringList Names() const;
@@ -25,7 +26,7 @@ private:
     QString m_store;
 };
 
-/// Where the names are kept for this user.
+/// The store for this user.
 QString RecentFilesStore();
 
 } // namespace Ledgrove
