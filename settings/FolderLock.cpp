@@ -12,8 +12,8 @@ FolderLock::State Acquire(const Descriptor& folder, int operation, std::chrono::
     using namespace std::chrono_literals;
     if (!folder.IsOpen())
         return FolderLock::State::NoFolder;
-    // Polled, since a lock that is waited for in the system cannot be given up after a while; and often,
-    // since a copy that saves again and again leaves only short gaps.
+    // Polls, because a blocking flock call cannot time out; and polls often, because a copy that saves
+    // repeatedly leaves only short gaps.
     const auto deadline = std::chrono::steady_clock::now() + patience;
     while (flock(folder.Number(), operation | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR)

@@ -7,26 +7,26 @@
 
 namespace Ledgrove {
 
-/// Keeps copies of the program apart while they use a folder's files, without a file of its own; the system
-/// lets go of it when its owner ends, however that ends. Where the file system knows no locks there is none,
-/// and the program works as if it were alone.
+/// Prevents copies of the program from using a folder's files at the same time, without creating a lock file.
+/// The system releases the lock when its owner ends, for whatever reason. On a file system without locks
+/// there is no lock, and the program works as if it were alone.
 class FolderLock {
 public:
     enum class Sharing { Shared, Exclusive };
     enum class State {
         Held,
-        Busy,        ///< others kept the lock all the time
-        Unsupported, ///< the file system knows no locks
+        Busy,        ///< others held the lock the whole time
+        Unsupported, ///< the file system does not support locks
         NoFolder     ///< the folder cannot be opened
     };
 
-    /// Waits for the lock as long as `patience`. A lock held by this process elsewhere is another's too.
+    /// Waits up to `patience` for the lock. A lock that this process holds elsewhere also counts as taken.
     FolderLock(const std::filesystem::path& folder, Sharing sharing, std::chrono::milliseconds patience);
 
     State What() const { return m_state; }
 
-    /// Brings the folder's entries to the disk. No fault on file systems that know nothing of the kind, nor
-    /// in a folder that may not be opened.
+    /// Flushes the folder's entries to disk. Not a fault on file systems that do not support it, or if the
+    /// folder cannot be opened.
     int SyncFolder() const;
 
 private:

@@ -9,15 +9,15 @@
 namespace Ledgrove::Module1 {
 
 /// Appends one house per `HOMELIST` line, in file order. An amount that is not a number is a fault that names
-/// its line; a list read so far must not be saved, since saving replaces every line.
+/// its line. Do not save the incomplete list after that: a save replaces every line.
 std::optional<SettingsFault> LoadHomeList(const SettingsFile& file, HouseList& houses);
 
-/// The same from lines already read; `file` is named in a fault.
+/// The same from lines already read; a fault names `file`.
 std::optional<SettingsFault> ReadHomeList(const SettingsFile& file, const FileLines& lines,
                                           HouseList& houses);
 
-/// Drops every `HOMELIST` line, appends one per house with whole amounts, and marks the dialog closed. A name
-/// must not contain a comma.
+/// Removes every `HOMELIST` line, appends one per house with whole amounts, and marks the dialog as closed. A
+/// name must not contain a comma.
 std::optional<SettingsFault> WriteHomeList(const SettingsFile& file, const HouseList& houses);
 
 } // namespace Ledgrove::Module1

@@ -12,7 +12,7 @@
 namespace Ledgrove::Module1 {
 namespace {
 
-/// Takes the fields of one line in turn into a record. A field that is not there leaves the record's default.
+/// Reads the fields of one line in order into a record. A missing field keeps the record's default.
 class RecordReader {
 public:
     explicit RecordReader(std::string_view value)

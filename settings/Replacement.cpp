@@ -14,25 +14,26 @@ namespace Ledgrove {
 namespace {
 
 constexpr mode_t modeBits = 07777;
-constexpr mode_t ownersAlone = 0600; // nobody else reads a half-made file whose old one may be private
+constexpr mode_t ownersAlone =
+    0600; // the old file may be private, so nobody else may read an incomplete new one
 
 SettingsFault Unwritable(const std::filesystem::path& path, int error) {
     return {SettingsFault::Kind::Unwritable, path, Describe(error), 0, {}};
 }
 
-/// Makes the new file what the old one was to its users, after a look at its size: a write may have reached
-/// the file less far than it said.
+/// Gives the new file the owner and mode of the old one, after checking its size: a write may have stored
+/// fewer bytes than it reported.
 int TakeOver(int number, std::size_t size, const struct stat& old) {
     struct stat made {};
     if (fstat(number, &made) != 0)
         return errno;
     if (made.st_size < 0 || static_cast<std::size_t>(made.st_size) != size)
         return EIO;
-    // Giving a file away is the administrator's right; whoever else may not do it keeps the new file.
+    // Only an administrator may change a file's owner. Without that right, the user keeps the new file.
     if ((made.st_uid != old.st_uid || made.st_gid != old.st_gid) &&
         fchown(number, old.st_uid, old.st_gid) != 0 && errno != EPERM)
         return errno;
-    // File systems without modes refuse any change, but give all files the same one.
+    // File systems without modes refuse any change, but all their files have the same mode.
     if ((made.st_mode & modeBits) != (old.st_mode & modeBits) && fchmod(number, old.st_mode & modeBits) != 0)
         return errno;
     return 0;
@@ -51,14 +52,14 @@ int Fill(Descriptor& file, std::string_view bytes, const struct stat& old) {
 /// A fault leaves no temporary file.
 std::optional<SettingsFault> WriteTemporary(const SavePlaces& places, std::string_view bytes,
                                             const struct stat& old, const FolderLock& lock) {
-    // One left by an interrupted save goes first: writing into it could write through a link.
+    // A leftover from an interrupted save is removed first, because writing to it could follow a link.
     if (unlink(places.Temporary.c_str()) != 0 && errno != ENOENT)
         return Unwritable(places.Temporary, errno);
     Descriptor file(places.Temporary, O_WRONLY | O_CREAT | O_EXCL, ownersAlone);
     if (!file.IsOpen())
         return Unwritable(places.Temporary, file.OpenError());
     int error = Fill(file, bytes, old);
-    // The temporary file must be found after a power cut, before the old one may go.
+    // The temporary file must survive a power cut before the old file is deleted.
     if (error == 0)
         error = lock.SyncFolder();
     if (error == 0)
@@ -67,12 +68,13 @@ std::optional<SettingsFault> WriteTemporary(const SavePlaces& places, std::strin
     return Unwritable(places.Temporary, error);
 }
 
-/// A fault leaves the old file, and no temporary one where the old one is certainly there.
+/// A fault leaves the old file. It leaves no temporary file if the old file certainly exists.
 std::optional<SettingsFault> DeleteOld(const SavePlaces& places) {
     if (unlink(places.File.c_str()) == 0)
         return std::nullopt;
     const int error = errno;
-    // A network's answer may get lost behind the deed: what counts is whether the file is there.
+    // On a network file system the reply may be lost after the delete succeeded, so this checks whether the
+    // file exists.
     int presenceError = 0;
     const Presence presence = PresenceOf(places.File, presenceError);
     if (presence == Presence::Absent)
@@ -127,8 +129,7 @@ std::optional<SettingsFault> ReplaceFile(const SavePlaces& places, std::string_v
         return fault;
     if (auto fault = DeleteOld(places))
         return fault;
-    // From here to the end of the rename only the temporary file holds the settings: it must stay whatever
-    // happens.
+    // From here to the end of the rename, only the temporary file holds the settings: it must not be removed.
     return GiveName(places, lock);
 }
 

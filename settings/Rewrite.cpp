@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view lineEnd = "\r\n";
 
-/// Turns a text into the file's bytes in place, or says why the file cannot hold it.
+/// Converts a text to the file's bytes in place, or returns the reason why the file cannot hold it.
 std::optional<SettingsFault> EncodeText(const SettingsFile& file, std::string& text) {
     const auto refuse = [&](const std::string& reason) {
         return SettingsFault{SettingsFault::Kind::RefusedText, file.Path(), reason, 0, text};
@@ -45,12 +45,12 @@ std::optional<SettingsFault> EncodePlan(const SettingsFile& file, RewritePlan& p
     return EncodeTexts(file, plan.AppendedAlways);
 }
 
-/// The new file's bytes, line by line.
+/// Builds the bytes of the new file, line by line.
 class Output {
 public:
     void Keep(const FileLine& line) {
         FinishLastLine();
-        // A line of nothing but LF behind a line that ends in CR would be taken for the second half of CR LF.
+        // After a line that ends in CR, an empty line that ends in LF would be read as part of CR LF.
         const bool wouldMerge = m_bytes.ends_with('\r') && line.Text.empty() && line.End == "\n";
         m_bytes += line.Text;
         m_bytes += wouldMerge ? lineEnd : std::string_view(line.End);
@@ -71,7 +71,7 @@ private:
     std::string m_bytes;
 };
 
-/// How many lines each rule of the plan has matched so far.
+/// The number of lines that each rule of the plan has matched so far.
 using SeenCounts = std::vector<std::size_t>;
 
 void CopyLine(const FileLine& line, const RewritePlan& plan, SeenCounts& seen, Output& output) {

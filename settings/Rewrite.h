@@ -7,24 +7,25 @@
 #include <string_view>
 #include <vector>
 
-// The one way in which the settings file is changed.
+// All changes to the settings file go through here.
 namespace Ledgrove {
 
-/// What becomes of the lines that belong to a key. All texts are UTF-8, lines stand without their ends.
+/// A rule for the lines that belong to a key. All texts are UTF-8, without line endings.
 struct RewriteRule {
     enum class Match {
         Replace,       ///< every line becomes the first of `NewLines`
-        ReplaceInTurn, ///< the k-th line becomes the k-th of `NewLines`; lines beyond those stay
+        ReplaceInTurn, ///< the k-th line becomes the k-th of `NewLines`; further lines do not change
         Drop
     };
 
     std::string Key;
     Match OnMatch = Match::Replace;
     std::vector<std::string> NewLines;
-    std::vector<std::string> AppendedWhenUnseen; ///< where no line belonged to the key
+    std::vector<std::string> AppendedWhenUnseen; ///< if no line belongs to the key
 };
 
-/// A writer: its rules in its key order, the first that matches deciding, and the lines it always appends.
+/// A writer's changes: its rules in key order, of which the first match applies, and the lines that it always
+/// appends.
 struct RewritePlan {
     std::vector<RewriteRule> Rules;
     std::vector<std::string> AppendedAlways;
@@ -33,21 +34,21 @@ struct RewritePlan {
 /// "KEY=value".
 std::string SettingLine(std::string_view key, std::string_view value);
 
-/// Every line of the key becomes "KEY=value"; without one, the same line is appended.
+/// Every line of the key becomes "KEY=value"; if there is none, the line is appended.
 RewriteRule ReplaceOrAppend(std::string_view key, std::string_view value);
 
-/// Every line of the key becomes "KEY=value"; without one, nothing is added.
+/// Every line of the key becomes "KEY=value"; if there is none, nothing is added.
 RewriteRule ReplaceOnly(std::string_view key, std::string_view value);
 
 RewriteRule DropLines(std::string_view key);
 
-/// The whole file that the plan makes of these lines. The plan's texts are bytes here, as the file holds
-/// them.
+/// The bytes of the whole file after the plan. Here the plan's texts are in the file's encoding.
 std::string RewrittenBytes(const FileLines& lines, const RewritePlan& plan);
 
-/// Rewrites the settings file by the plan. Lines of no rule keep their bytes and their ends, new lines end in
-/// CR LF. A text that the file cannot hold (a line break, a character outside Windows-1252) is refused before
-/// anything is written; on every fault but InterruptedSave and Unconfirmed the old file is whole.
+/// Rewrites the settings file by the plan. Lines without a rule keep their bytes and line endings; new lines
+/// end in CR LF. A text that the file cannot hold (a line break, a character outside Windows-1252) is refused
+/// before anything is written. On every fault except InterruptedSave and Unconfirmed, the old file is
+/// complete.
 std::optional<SettingsFault> Rewrite(const SettingsFile& file, const RewritePlan& plan);
 
 } // namespace Ledgrove

@@ -21,27 +21,28 @@ using namespace std::chrono_literals;
 using Sharing = FolderLock::Sharing;
 
 constexpr const char* temporaryName = "Pennaro2.INI";
-constexpr mode_t ordinaryMode = 0666;             // less the user's umask
-constexpr std::size_t longestFile = 64UL << 20UL; // far above any settings, far below what memory holds
+constexpr mode_t ordinaryMode = 0666; // minus the user's umask
+constexpr std::size_t longestFile = 64UL
+                                    << 20UL; // far more than any settings need, and little enough for memory
 
 SettingsFault Fault(SettingsFault::Kind kind, const std::filesystem::path& path, int error) {
     return {kind, path, Describe(error), 0, {}};
 }
 
-/// The whole open file, or why there is none.
+/// Reads the whole open file, or returns the reason why it cannot.
 std::optional<std::string> ReadOrdinaryFile(int number, std::string& bytes) {
     struct stat status {};
     if (fstat(number, &status) != 0)
         return Describe(errno);
-    // A pipe or a device has no end to wait for. A folder says itself what it is, at the first read.
+    // A pipe or a device may never end. A folder gives its own error at the first read.
     if (!S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode))
         return "not an ordinary file";
     if (const int error = ReadAll(number, bytes, longestFile))
         return Describe(error);
-    // An end before the end: half the settings must not be taken, and then saved, for all of them. Files that
-    // the system makes up while they are read have no size.
+    // A file that ends early must not be used and then saved as if it were complete. Files that the system
+    // generates while they are read have no size.
     if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) != bytes.size())
-        return "its end came before or behind its size";
+        return "its content does not match its size";
     return std::nullopt;
 }
 
@@ -69,12 +70,12 @@ FileLines SplitLines(std::string_view bytes) {
 
 SettingsFile::SettingsFile(const std::filesystem::path& folder, std::chrono::milliseconds patience)
     : m_patience(patience) {
-    // A full path holds even if the current folder changes, and sentences can name it.
+    // An absolute path stays valid when the current folder changes, and messages can show it.
     std::error_code error;
     std::filesystem::path full = std::filesystem::absolute(folder.empty() ? "." : folder, error);
     if (error)
         full = folder;
-    // Only "." goes: taking ".." out of a path would be wrong behind a symbolic link.
+    // Removes only ".": removing ".." would be wrong after a symbolic link.
     std::filesystem::path plain;
     for (const std::filesystem::path& part : full) {
         if (part != ".")
@@ -135,7 +136,7 @@ std::optional<SettingsFault> SettingsFile::RestoreInterruptedSave() const {
     int error = 0;
     switch (PresenceOf(places.File, error)) {
     case Presence::Present:
-        return std::nullopt; // another copy of the program was asked the same
+        return std::nullopt; // another copy of the program has restored the file
     case Presence::Unknown:
         return Fault(SettingsFault::Kind::Unreadable, places.File, error);
     case Presence::Absent:
@@ -151,8 +152,8 @@ std::optional<SettingsFault> SettingsFile::RestoreInterruptedSave() const {
 std::shared_ptr<const FolderLock> SettingsFile::LockForReading() const {
     if (m_held)
         return m_held;
-    // Shorter than for saving: a file that is there can be read without the lock, since none is ever written
-    // in its place.
+    // Shorter than for saving: an existing file can be read without the lock, because no file is written in
+    // place.
     return std::make_shared<FolderLock>(FollowLinks(m_path).parent_path(), Sharing::Shared, m_patience / 5);
 }
 
@@ -167,13 +168,13 @@ Outcome<std::shared_ptr<const FolderLock>> SettingsFile::LockForWriting() const 
 }
 
 Outcome<FileLines> SettingsFile::ReadUnder(const FolderLock& lock) const {
-    // Where there are no locks, or others kept theirs in turn, no file may only mean that another copy of the
-    // program is between delete and rename.
+    // Without a lock, a missing file may only mean that another copy of the program is between delete and
+    // rename.
     const bool mayBeBetween =
         lock.What() == FolderLock::State::Unsupported || lock.What() == FolderLock::State::Busy;
     int triesLeft = mayBeBetween ? 50 : 0;
     while (true) {
-        // Without O_NONBLOCK a pipe of this name would keep the program waiting.
+        // Without O_NONBLOCK, opening a pipe of this name would block.
         const Descriptor file(m_path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
         if (file.OpenError() == ENOENT && triesLeft > 0) {
             --triesLeft;
@@ -213,12 +214,12 @@ std::optional<SettingsFault> SettingsFile::CreateEmpty() const {
     if (!lock)
         return lock.Fault();
     const SavePlaces places = PlacesOf(m_path);
-    // Looked at again under the lock: another copy may have been killed in a save meanwhile.
+    // Checked again under the lock: in the meantime another copy may have been killed during a save.
     if (const SettingsFault fault = AbsenceFault(); fault.What != SettingsFault::Kind::Missing)
         return fault;
     Descriptor file(places.File, O_WRONLY | O_CREAT | O_EXCL, ordinaryMode);
     if (file.OpenError() == EEXIST)
-        return std::nullopt; // made by someone meanwhile, with a content to keep
+        return std::nullopt; // another copy has created it, and its content must stay
     if (!file.IsOpen())
         return Fault(SettingsFault::Kind::Unwritable, m_path, file.OpenError());
     if (const int error = file.Close())

@@ -15,54 +15,54 @@ namespace Ledgrove {
 
 class FolderLock;
 
-/// One line as it stands in the file, in the file's bytes.
+/// One line of the file, in the file's bytes.
 struct FileLine {
     std::string Text;
-    std::string End; ///< CR LF, LF or CR; empty where the file ends without one
+    std::string End; ///< CR LF, LF or CR; empty if the file ends without a line ending
 };
 
 using FileLines = std::vector<FileLine>;
 
-/// The bytes as lines. NUL and all other bytes are part of their line.
+/// Splits the bytes into lines. NUL and all other bytes are part of their line.
 FileLines SplitLines(std::string_view bytes);
 
-/// Ledgrove.ini in the program's folder, or the file that it links to. Nothing is cached: each call meets the
-/// file as it then is, and keeps copies of the program that use the same file apart meanwhile.
+/// Ledgrove.ini in the program's folder, or the file that it links to. Nothing is cached: each call reads the
+/// current file, and a lock prevents other copies of the program from using it at the same time.
 class SettingsFile {
 public:
     enum class WhenMissing { Fail, CreateEmpty };
 
-    /// A save waits for those of other copies of the program as long as `patience`, a reader a fifth of it.
+    /// A save waits up to `patience` for other copies of the program; a reader waits up to a fifth of it.
     explicit SettingsFile(const std::filesystem::path& folder,
                           std::chrono::milliseconds patience = std::chrono::seconds(10));
 
     const std::filesystem::path& Path() const { return m_path; }
-    /// Beside the file itself, which may lie elsewhere than a link to it. Exists only during a save, or after
-    /// an interrupted one.
+    /// In the folder of the file itself, which may differ from the folder of a link. It exists only during a
+    /// save or after an interrupted one.
     std::filesystem::path TemporaryPath() const;
 
-    /// The whole file. With CreateEmpty a missing file is created and has no lines; after an interrupted save
-    /// it is not, whatever is asked.
+    /// Reads the whole file. With CreateEmpty, a missing file is created and has no lines, except after an
+    /// interrupted save.
     Outcome<FileLines> ReadLines(WhenMissing whenMissing = WhenMissing::Fail) const;
 
-    /// The same file for several steps that no other copy of the program may come between: none saves as long
-    /// as the result lives. Only the result must be used meanwhile; `this` would wait for it in vain.
+    /// The same file for several steps: no other copy of the program can save while the result exists. Use
+    /// only the result during that time; `this` would wait for it until the time is up.
     Outcome<SettingsFile> Hold() const;
 
-    /// What a save makes of the lines that are there: the bytes of the whole new file.
+    /// Makes the bytes of the whole new file from the current lines.
     using Rewriting = std::function<std::string(const FileLines&)>;
 
-    /// Reads the whole file and puts the rewriting's result in its place: temporary file, delete, rename,
-    /// each brought to the disk before the next. The old file's mode is kept. A failure before the delete
-    /// leaves the old file whole and no temporary file; after that, the new settings are in the temporary
-    /// file (InterruptedSave) or in place (Unconfirmed).
+    /// Reads the whole file and replaces it with the result of `rewriting`: temporary file, delete, rename,
+    /// each flushed to disk before the next. The new file gets the old one's mode. A fault before the delete
+    /// leaves the complete old file and no temporary file. After the delete, the new settings are in the
+    /// temporary file (InterruptedSave) or in place (Unconfirmed).
     std::optional<SettingsFault> Update(const Rewriting& rewriting) const;
 
-    /// The same with bytes that do not depend on the old ones.
+    /// The same with bytes that do not depend on the old file.
     std::optional<SettingsFault> ReplaceContent(std::string_view bytes) const;
 
-    /// After an interrupted save: gives the temporary file the settings file's name. Nothing to do, and no
-    /// fault, where the settings file is there.
+    /// After an interrupted save: renames the temporary file to the settings file. If the settings file
+    /// exists, does nothing and returns no fault.
     std::optional<SettingsFault> RestoreInterruptedSave() const;
 
 private:
@@ -74,7 +74,7 @@ private:
 
     std::filesystem::path m_path;
     std::chrono::milliseconds m_patience;
-    std::shared_ptr<const FolderLock> m_held; ///< by Hold, else none
+    std::shared_ptr<const FolderLock> m_held; ///< set by Hold, otherwise null
 };
 
 } // namespace Ledgrove

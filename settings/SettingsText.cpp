@@ -66,7 +66,7 @@ Outcome<std::string> AssumptionText(const SettingsFile& file, const FileLines& l
         return std::string(assumptions.UsePVVars ? "TRUE" : "FALSE");
     if (key == Key::YearsInHome)
         return std::to_string(assumptions.YearsInHome);
-    // The record holds the rate as a fraction; taken from the line, no digit changes on the way.
+    // The record holds the rate as a fraction. Reading the line directly keeps every digit.
     const std::string value = line ? Module1::StripPercent(ValueOf(lines[*line].Text, key)) : "0";
     return Module1::ShortestText(ToSingle(value).value_or(0.0f));
 }
@@ -111,7 +111,7 @@ std::optional<std::string> CheckText(std::string_view what, std::string_view tex
 } // namespace
 
 Outcome<std::string> SettingText(const SettingsFile& file, std::string_view key) {
-    // Read here first, so that no reader below meets a missing file and creates it.
+    // Reads the file first, so that no reader below creates a missing file.
     const Outcome<FileLines> lines = file.ReadLines();
     if (!lines)
         return lines.Fault();
@@ -146,7 +146,7 @@ std::optional<std::string> CheckSetRequest(std::string_view key, std::string_vie
                " has one line for each item of a list, and setting it would make all lines alike. Change the "
                "list "
                "in the window program or in the file.";
-    // A key owns every line that begins with it.
+    // Every line that begins with a key belongs to it.
     const auto longer = FindKnownKey(
         [&](std::string_view known) { return known.size() > key.size() && known.starts_with(key); });
     if (longer)

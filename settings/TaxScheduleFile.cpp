@@ -11,8 +11,7 @@
 namespace Ledgrove::Module1 {
 namespace {
 
-/// Stores the next field of the line; false where its text is not a number. A field that is not there is
-/// skipped.
+/// Stores the next field of the line; false if its text is not a number. A missing field is skipped.
 bool StoreNext(FieldSplitter& fields, float& target) {
     const std::optional<std::string_view> text = fields.Next();
     if (!text)

@@ -19,8 +19,8 @@ bool IsAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-/// One iconv conversion. Where the platform has no such conversion every step stops at its first character,
-/// so that decoding falls back on the bytes' own numbers and encoding refuses.
+/// One iconv conversion. On a platform without it, every step stops at its first character: decoding then
+/// uses the byte values as character codes, and encoding refuses.
 class Conversion {
 public:
     Conversion(const char* to, const char* from)
@@ -32,11 +32,12 @@ public:
     Conversion(const Conversion&) = delete;
     Conversion& operator=(const Conversion&) = delete;
 
-    /// Appends what converts to `out` and gives what is left, from the first character that does not.
+    /// Converts as much of `text` as possible into `out` and returns the rest, from the first character that
+    /// does not convert.
     std::string_view Append(std::string_view text, std::string& out) {
         if (m_handle == Failed())
             return text;
-        char* in = const_cast<char*>(text.data()); // iconv reads only; its signature is older than const
+        char* in = const_cast<char*>(text.data()); // iconv only reads the text; its signature predates const
         std::size_t left = text.size();
         std::array<char, 512> buffer;
         std::size_t result = 0;
@@ -58,7 +59,7 @@ private:
     iconv_t m_handle;
 };
 
-/// The character whose number is the byte's.
+/// Appends the character whose code is the byte's value.
 void AppendUtf8(char byte, std::string& out) {
     const auto number = static_cast<unsigned char>(byte);
     if (number < 0x80) {
@@ -74,7 +75,7 @@ struct Utf8Character {
     unsigned long CodePoint = 0;
 };
 
-/// The character that `text` begins with; empty where it begins with none.
+/// The first character of `text`, or nothing if `text` does not begin with a character.
 std::optional<Utf8Character> FirstCharacter(std::string_view text) {
     constexpr std::array<unsigned long, 5> smallest = {0, 0, 0x80, 0x800, 0x10000}; // by number of bytes
     const auto lead = static_cast<unsigned char>(text.front());
