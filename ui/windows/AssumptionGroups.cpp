@@ -16,7 +16,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// A head whose mnemonic reaches the first field of its column.
+/// A column heading whose mnemonic moves to the first field of the column.
 QLabel* MakeColumnHead(const QString& text, QWidget* firstField) {
     QLabel* head = MakeHead(text);
     head->setBuddy(firstField);
@@ -27,7 +27,7 @@ QString HumanName(QString caption) {
     return caption.remove('&').remove(':');
 }
 
-/// A caption, its field and the words behind it.
+/// Adds a caption, its field and the unit after it.
 void AddRow(QGridLayout& grid, const QString& caption, QWidget* field, const QString& unit = {}) {
     const int row = grid.rowCount();
     grid.addWidget(MakeCaption(caption, field), row, 0);
@@ -52,14 +52,14 @@ void AddOptions(QGridLayout& grid, QGroupBox* parent) {
     }
 }
 
-/// Words over the whole width, broken into lines.
+/// Adds a note over the whole width, with word wrap.
 void AddNote(QGridLayout& grid, const QString& text) {
     QLabel* note = TextLabel(text);
     note->setWordWrap(true);
     grid.addWidget(note, grid.rowCount(), 0, 1, grid.columnCount());
 }
 
-/// The last bracket has no upper limit: its high end is in the record, but not on the screen.
+/// The last bracket has no upper limit: the record holds its high end, but the screen shows words instead.
 void HideBehindWords(QGridLayout& grid, QWidget* field, int row, int column) {
     field->hide();
     QLabel* words = TextLabel("or greater");

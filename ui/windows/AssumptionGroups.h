@@ -4,18 +4,18 @@
 
 #include "ui/AssumptionsScreen.h"
 
-// The groups of the assumptions dialog: only the controls and their places; the window connects them.
+// Creates the groups of the assumptions dialog: the controls and their layout; the window connects them.
 namespace Ledgrove {
 
-/// The name of a row's control, "FER1" for the first.
+/// The control name of a row, such as "FER1" for the first.
 QString RowControl(const char* control, std::size_t row);
 
 QGroupBox* MakePMIMultipliers();
 QGroupBox* MakePresentValue();
-/// A row for each loan type that the record shows.
+/// One row for each loan type in the record.
 QGroupBox* MakeQualifierRatios(const AssumptionsScreen& record);
 QGroupBox* MakeTaxesAndInsurance();
-/// The high end of the row `lastRow` (counted from 0) is hidden behind words.
+/// Words replace the high end of the row `lastRow` (counted from 0).
 QGroupBox* MakeTaxSchedule(std::size_t lastRow);
 QGroupBox* MakeOtherVariables();
 

@@ -10,21 +10,21 @@ namespace Ledgrove {
 
 enum class PictureFormat { Png, Svg };
 
-/// A chart on the screen. It says in words what it draws: as its accessible description and as tool tip.
-/// No meta-object: the program and the charts' library would each have one of their own.
+/// A chart on the screen. Its accessible description and its tool tip describe the figures in words. It has
+/// no meta-object, because the program and the chart library would each have their own copy.
 class ChartWidget : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// Draws these figures instead of those before. They are of the kind that the chart was made for.
+    /// Replaces the figures. They must be of the kind for which the chart was made.
     virtual void Show(const ChartFigures& figures) = 0;
 
-    /// The chart as a file, on white whatever the screen's palette.
+    /// The chart as a picture file, on white whatever the screen's palette.
     virtual QByteArray Picture(PictureFormat format) const = 0;
 };
 
-/// Makes charts. It lives in a library of its own that is loaded when the first chart is shown, so that the
-/// program starts without it.
+/// Makes charts. It is in a separate library that is loaded with the first chart, so the program starts
+/// without it.
 class ChartFactory {
 public:
     virtual ~ChartFactory() = default;

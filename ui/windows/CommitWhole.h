@@ -4,8 +4,8 @@
 
 namespace Ledgrove {
 
-/// Puts what was written in the place of the file; false, and the file as it was, where any of it could not
-/// be written. QSaveFile alone passes over a fault of the last write, the one that empties its buffer.
+/// Replaces the file with the written data. Returns false, and leaves the old file, if any part could not be
+/// written. QSaveFile alone misses an error of the last write, the one that flushes its buffer.
 inline bool CommitWhole(QSaveFile& file) {
     return file.flush() && file.commit();
 }

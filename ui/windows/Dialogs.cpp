@@ -10,7 +10,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// Shows the dialog above the window that asked for it, until it is closed.
+/// Shows the dialog above the active window until it is closed.
 template <typename Dialog, typename Record>
 void Show(Record& record, const std::optional<SettingsFault>& fault, Session& session, Host& outside) {
     if (fault) {

@@ -23,7 +23,7 @@ bool MayReplace(QWidget& above, const QString& file) {
 }
 
 QString AskSaveName(QWidget& above, const FileRequest& request) {
-    // The dialog would ask about the name as typed, not about the one with its ending.
+    // Qt's own question would check the typed name, not the name with its suffix.
     const QString typed = QFileDialog::getSaveFileName(&above, request.Title, request.Start, request.Filter,
                                                        nullptr, QFileDialog::DontConfirmOverwrite);
     if (typed.isEmpty())

@@ -8,28 +8,29 @@ namespace Ledgrove {
 
 enum class SaveAnswer { Save, Discard, Cancel };
 
-/// What a file dialog is asked for: "Open Comparison", where to begin, "Comparisons (*.ledgrove.json)".
+/// The settings of a file dialog: title such as "Open Comparison", start folder, filter such as "Comparisons
+/// (*.ledgrove.json)".
 struct FileRequest {
     QString Title;
     QString Start; ///< a folder, or a folder with a suggested name
     QString Filter;
-    QString Suffix; ///< what the name of a file to be written ends in
+    QString Suffix; ///< the ending for the name of a new file
 };
 
-/// What the file commands ask the person at the screen. Tests answer instead.
+/// The questions that the file commands ask the user. Tests replace them.
 struct FileQuestions {
-    /// The name of a file to open or to write, "" when none was chosen. A file that is there is written over
-    /// only after a question of its own.
+    /// The name of a file to open or to write, "" if none was chosen. An existing file is overwritten only
+    /// after another question.
     std::function<QString(QWidget& above, const FileRequest&)> OpenName;
     std::function<QString(QWidget& above, const FileRequest&)> SaveName;
-    /// Whether the unsaved inputs of `name` are to be saved.
+    /// Whether to save the unsaved inputs of `name`.
     std::function<SaveAnswer(QWidget& above, const QString& name)> Unsaved;
 };
 
 /// The questions as dialogs.
 FileQuestions AskAtScreen();
 
-/// `name` with `suffix` behind it where it does not end so, in capitals or not.
+/// `name` with `suffix`, which is appended unless the name already ends in it, ignoring case.
 QString WithSuffix(const QString& name, const QString& suffix);
 
 } // namespace Ledgrove

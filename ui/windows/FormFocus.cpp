@@ -26,7 +26,7 @@ void MoveFocus(QWidget& form, Step step, Qt::FocusReason reason) {
 } // namespace
 
 std::string FormFocus::FocusedControl() const {
-    // The form's own record of its focus holds while another window is active, too.
+    // focusWidget() also works while another window is active.
     const QWidget* focused = m_form.focusWidget();
     return focused ? focused->objectName().toStdString() : std::string();
 }

@@ -6,7 +6,7 @@
 
 namespace Ledgrove {
 
-/// The keyboard focus among the controls of a form. Controls are known by their object names.
+/// The keyboard focus among the controls of a form. Controls are identified by their object names.
 class FormFocus : public EntryFocus {
 public:
     explicit FormFocus(QWidget& form)

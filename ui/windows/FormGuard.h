@@ -3,15 +3,14 @@
 #include <QObject>
 #include <QWidget>
 
-// A control acts only after the field being left has been accepted.
+// A control acts only after the field that loses the focus has been committed.
 namespace Ledgrove {
 
-/// Keeps the mouse press that is being delivered from its control. To be called while the press moves the
-/// focus.
+/// Keeps the current mouse press from its control. Call it while the press moves the focus.
 void SwallowPendingPress();
 
-/// Watches a form for what would act without moving the focus first: a mnemonic moves it to its control, and
-/// does nothing when the field being left is refused; the wheel turns only the control that has the focus.
+/// Handles input that would act without moving the focus first: a mnemonic moves the focus to its control and
+/// does nothing if the current field refuses its text; the wheel changes only the control with the focus.
 class FormGuard : public QObject {
     Q_OBJECT
 

@@ -8,29 +8,29 @@ class QLineEdit;
 class QPushButton;
 class QWidget;
 
-// What the forms are made of, so that they look and read alike. Names are given as to Identify.
+// Creates the parts of the forms, so that all forms look and read alike. For the names, see Identify.
 namespace Ledgrove {
 
 class EntryField;
 
-/// An edit field for a figure, right-aligned.
+/// A right-aligned edit field for a figure.
 EntryField* MakeField(const QString& control, const QString& humanName);
 
-/// A figure among the fields that cannot be edited.
+/// A figure among the fields that the user cannot edit.
 QLineEdit* MakeDisplay(const QString& control, const QString& humanName);
 
-/// The caption of `field`, which its mnemonic reaches.
+/// The caption of `field`; its mnemonic moves the focus to the field.
 QLabel* MakeCaption(const QString& text, QWidget* field);
 
-/// The head of a column.
+/// A column heading.
 QLabel* MakeHead(const QString& text);
 
-/// A push button. Enter is for the fields, so no button is pressed by it from elsewhere.
+/// A push button. Enter belongs to the fields, so it does not press a button without the focus.
 QPushButton* MakeButton(const char* control, const QString& caption);
 
 QGridLayout* MakeGrid(QWidget* parent);
 
-/// Gives the window its natural size, in the middle of its screen.
+/// Gives the window its natural size and centres it on its screen.
 void CentreOnScreen(QWidget& window);
 
 } // namespace Ledgrove

@@ -18,7 +18,7 @@ HelpBrowser::HelpBrowser(QWidget* parent)
     setDocument(new SilentDocument(this));
     setOpenLinks(false);
     setOpenExternalLinks(false);
-    // Reading by keyboard: Tab walks through the links, the arrows scroll.
+    // For reading with the keyboard: Tab moves between the links and the arrow keys scroll.
     setTextInteractionFlags(Qt::TextBrowserInteraction);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::Follow);
     KeepSelectionVisible();
@@ -55,7 +55,7 @@ void HelpBrowser::SetZoom(int percent) {
         return;
     const int reading = TopPosition();
     m_zoom = percent;
-    // The document follows the widget's font, and all its sizes are relative to that.
+    // The document uses the widget's font, and all its sizes are relative to that font.
     QFont font = QApplication::font(this);
     font.setPointSizeF(font.pointSizeF() * percent / 100);
     setFont(font);
@@ -77,13 +77,13 @@ void HelpBrowser::Follow(const QUrl& link) {
 
 void HelpBrowser::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
-    // Its own change, below, is one of these too.
+    // KeepSelectionVisible below also changes the palette and causes this event.
     if (event->type() != QEvent::PaletteChange || QApplication::palette() == m_application)
         return;
     KeepSelectionVisible();
     if (source().isEmpty())
         return;
-    // Links took their colour from the palette when the file was read.
+    // Links got their colour from the palette when the file was read.
     const int reading = TopPosition();
     reload();
     ScrollTo(reading);
@@ -97,7 +97,7 @@ void HelpBrowser::wheelEvent(QWheelEvent* event) {
         emit ZoomStepped(turn > 0 ? 1 : -1);
 }
 
-/// What was found is marked while the focus is still in the field that it was typed into.
+/// Keeps the match marked while the focus is still in the find field.
 void HelpBrowser::KeepSelectionVisible() {
     m_application = QApplication::palette();
     QPalette own;

@@ -4,30 +4,30 @@
 
 namespace Ledgrove {
 
-/// Shows one help file. It reads nothing but this file and follows no link out of it.
+/// Shows one help file. It reads only this file and follows no link outside it.
 class HelpBrowser : public QTextBrowser {
     Q_OBJECT
 
 public:
     explicit HelpBrowser(QWidget* parent = nullptr);
 
-    /// Opens the file at the topic of this anchor. Without such a topic the file is shown from its start, and
-    /// the answer is false.
+    /// Opens the file at the topic of this anchor. If there is no such topic, it shows the start of the file
+    /// and returns false.
     bool ShowTopic(const QString& path, const QString& anchor);
-    /// The start of the file, where its contents are listed.
+    /// Shows the start of the file, which lists its contents.
     void ShowContents();
     bool HasAnchor(const QString& name) const;
 
-    /// In percent of the application's own text size. The text keeps its place.
+    /// In percent of the application's text size. The text keeps its position.
     void SetZoom(int percent);
     int Zoom() const { return m_zoom; }
 
     QVariant loadResource(int type, const QUrl& name) override;
 
 signals:
-    /// A link out of the help was chosen, and nothing was opened.
+    /// The user chose a link outside the help; nothing was opened.
     void LinkRefused(const QString& address);
-    /// Ctrl and the wheel: 1 for larger, -1 for smaller.
+    /// Ctrl with the wheel: 1 for larger, -1 for smaller.
     void ZoomStepped(int step);
 
 protected:
@@ -40,8 +40,8 @@ private:
     int TopPosition() const;
     void ScrollTo(int position);
 
-    QUrl m_file;            ///< without a topic
-    QPalette m_application; ///< when it was last looked at
+    QUrl m_file;            ///< without the anchor
+    QPalette m_application; ///< the palette at the last change
     int m_zoom = 100;
 };
 

@@ -11,15 +11,15 @@ namespace {
 
 constexpr qint64 longestHelp = 16 * 1024 * 1024;
 
-/// A byte that no text holds in the encodings of HTML that are read here.
+/// A byte that does not occur in text in the encodings of HTML.
 bool IsRubbish(char byte) {
     const auto code = static_cast<unsigned char>(byte);
     return code < ' ' && byte != '\t' && byte != '\n' && byte != '\r' && byte != '\f';
 }
 
-/// What is wrong with a file that is there; "" when nothing is.
+/// The fault of an existing file, or "".
 QString FaultOf(const QFileInfo& info) {
-    // Anything else, a pipe for one, might never come to an end.
+    // Other kinds of file, such as a pipe, might never end.
     if (info.isDir())
         return "cannot be read: it is a folder";
     if (!info.isFile())

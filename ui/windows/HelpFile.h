@@ -7,11 +7,11 @@
 
 namespace Ledgrove {
 
-/// Where the help file is looked for: `name` in `folder`.
+/// The path of the help file: `name` in `folder`.
 QString HelpFilePath(const std::filesystem::path& folder, const std::string& name);
 
-/// A sentence that says why there is no help, with the file's name and where it was looked for; nothing when
-/// the file holds a text that can be read.
+/// A message that says why there is no help, with the file's name and folder; nothing if the file holds
+/// readable text.
 std::optional<std::string> HelpComplaint(const std::filesystem::path& folder, const std::string& name);
 
 } // namespace Ledgrove

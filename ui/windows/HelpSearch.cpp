@@ -16,7 +16,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// More are counted no further; a single letter has thousands, and nobody steps through them.
+/// Counting stops here: a single letter has thousands of matches, and nobody steps through them.
 constexpr std::size_t mostMatches = 999;
 
 } // namespace
@@ -75,7 +75,7 @@ bool HelpSearch::IsEmpty() const {
 void HelpSearch::Step(int direction) {
     if (IsEmpty())
         return Begin();
-    // A text that was read afresh has other places.
+    // After a reload, the matches are at other positions.
     CollectMatches();
     if (m_matches.empty())
         return Mark();
@@ -91,7 +91,7 @@ void HelpSearch::Step(int direction) {
 }
 
 void HelpSearch::Find() {
-    // A longer word is looked for where its beginning was, not behind it.
+    // A longer search text is searched from the start of the current match, not from its end.
     const QTextCursor here = m_text.textCursor();
     if (!here.hasSelection())
         m_start = m_text.cursorForPosition(QPoint(0, 0)).position();
@@ -152,8 +152,7 @@ void HelpSearch::Mark() {
     Tell(QString("%1 of %2%3").arg(m_match + 1).arg(m_matches.size()).arg(all ? "" : "+"));
 }
 
-/// Whoever does not see the words hears them: they are the label's name, and the field describes itself by
-/// them.
+/// Screen readers get the result as the label's name and as the field's description.
 void HelpSearch::Tell(const QString& words) {
     m_count->setText(words);
     m_field->setAccessibleDescription(words.isEmpty() ? m_field->objectName() : words);

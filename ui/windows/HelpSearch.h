@@ -11,8 +11,8 @@ class QTextEdit;
 
 namespace Ledgrove {
 
-/// A row for finding words in a text: a field, "Previous", "Next", and how many matches there are. Case does
-/// not matter. Every match is marked and the one looked at is selected.
+/// A row for finding text: a field, "Previous", "Next", and the number of matches. Case does not matter. All
+/// matches are marked and the current one is selected.
 class HelpSearch : public QWidget {
     Q_OBJECT
 
@@ -20,9 +20,9 @@ public:
     /// `text` must outlive this.
     explicit HelpSearch(QTextEdit& text, QWidget* parent = nullptr);
 
-    /// Puts the focus into the field, its text selected.
+    /// Moves the focus to the field and selects its text.
     void Begin();
-    /// To the match behind (1) or before (-1) the one looked at, round and round.
+    /// Moves to the next (1) or previous (-1) match and wraps around at the ends.
     void Step(int direction);
     void Clear();
     bool IsEmpty() const;
@@ -43,7 +43,7 @@ private:
     QLabel* m_count;
     std::vector<QTextCursor> m_matches;
     std::size_t m_match = 0;
-    int m_start = 0; ///< where in the text the search began
+    int m_start = 0; ///< the position in the text where the search began
 };
 
 } // namespace Ledgrove

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::array zooms{50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 
-/// The next zoom up or down, the same one at the end.
+/// The next zoom up or down; stops at the ends.
 int SteppedZoom(int percent, int step) {
     const auto here = std::find(zooms.begin(), zooms.end(), percent) - zooms.begin();
     const auto last = static_cast<std::ptrdiff_t>(zooms.size()) - 1;
@@ -87,7 +87,7 @@ QHBoxLayout* HelpWindow::MakeButtonRow() {
 QPushButton* HelpWindow::AddButton(QHBoxLayout& row, const char* control, const QString& caption,
                                    void (HelpWindow::*action)()) {
     QPushButton* button = MakeButton(control, caption);
-    // Enter presses the button with the focus, as everywhere else.
+    // Enter presses the button with the focus, as in the other windows.
     button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this, action);
     row.addWidget(button);
@@ -104,7 +104,7 @@ void HelpWindow::ConnectKeys() {
     OnKey(Qt::Key_Escape, &HelpWindow::LeaveSearchOrClose);
     OnKey(Qt::CTRL | Qt::Key_W, &HelpWindow::CloseWindow);
     OnKey(Qt::CTRL | Qt::Key_P, &HelpWindow::Print);
-    // Whether or not the keyboard has "+" on a shifted key.
+    // Works whether or not the keyboard has "+" on a shifted key.
     OnKey(Qt::CTRL | Qt::Key_Plus, &HelpWindow::ZoomIn);
     OnKey(Qt::CTRL | Qt::Key_Equal, &HelpWindow::ZoomIn);
     OnKey(Qt::CTRL | Qt::Key_Minus, &HelpWindow::ZoomOut);
@@ -182,7 +182,7 @@ void HelpWindow::StepZoom(int step) {
 void HelpWindow::ShowHistory() {
     for (const auto& [button, possible] : {std::pair{m_back, m_browser->isBackwardAvailable()},
                                            std::pair{m_forward, m_browser->isForwardAvailable()}}) {
-        // The button that was just pressed must not take the keyboard with it.
+        // If the pressed button becomes disabled, the focus moves to the text.
         if (!possible && button->hasFocus())
             m_browser->setFocus();
         button->setEnabled(possible);

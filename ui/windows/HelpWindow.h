@@ -16,14 +16,14 @@ class HelpBrowser;
 class HelpPrinter;
 class HelpSearch;
 
-/// The help file, an HTML document, with its history, a search, zoom and printing. Its anchors are
-/// "ctx<number>" for the help contexts of the main window's tabs and "ctxHouses", "ctxAssumptions" and so on
+/// Shows the help file, an HTML document, with history, search, zoom and printing. Its anchors are
+/// "ctx<number>" for the help contexts of the main window's tabs, and "ctxHouses", "ctxAssumptions" and so on
 /// for the dialogs.
 class HelpWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// Prints through the first of its parent windows that is a HelpPrinter.
+    /// Prints through its nearest parent window that is a HelpPrinter.
     explicit HelpWindow(QWidget* parent);
 
     /// Opens the file at the topic of this anchor and comes to the front.
@@ -67,13 +67,13 @@ private:
 /// The help of one window.
 class Help {
 public:
-    /// `owner`'s help opens above it and closes with it. All three must outlive this.
+    /// The help window opens above `owner` and closes with it. All three arguments must outlive this object.
     Help(QWidget& owner, const Session& session, Host& outside)
         : m_owner(owner)
         , m_session(session)
         , m_outside(outside) {}
 
-    /// Opens the session's help file at the topic of this anchor, or tells why there is no help.
+    /// Opens the session's help file at the topic of this anchor, or shows why there is no help.
     void Open(const QString& anchor);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace Ledgrove {
 
-/// The names of the houses for a list view, in their order.
+/// The names of the houses for a list view, in order.
 class HouseListModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     /// `houses` must outlive the model.
     explicit HouseListModel(const HouseList& houses, QObject* parent = nullptr);
 
-    /// Tells the views when houses came or went. A name never changes.
+    /// Notifies the views of added and removed houses. Names never change.
     void Refresh();
 
     int rowCount(const QModelIndex& parent = {}) const override;

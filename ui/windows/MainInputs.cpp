@@ -29,7 +29,7 @@ QComboBox* MakePickList(const char* control, const QString& description) {
     auto* list = new QComboBox;
     IdentifyByDescription(*list, control, description);
     list->setFocusPolicy(Qt::StrongFocus);
-    // The labelled home's items change with the base option; the list keeps the width of its longest text.
+    // The labelled home's items change with the base option; the list keeps the width of its longest item.
     list->setMinimumContentsLength(15);
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     return list;
@@ -76,11 +76,11 @@ void AddDownPayment(QGridLayout& grid, QWidget* parent) {
     grid.addWidget(MakeField("ecFixedDown", "or Fixed $, Down Payment"), row + 1, 1);
 }
 
-/// The house scenario's button and name above the columns, and the columns' heads.
+/// Adds the house scenario's button and name above the columns, and the column headings.
 void AddHomeHeads(QGridLayout& grid) {
     QPushButton* houses = MakeButton("bHouses", "House Scenarios");
     houses->setIcon(HousePicture(16));
-    // A house may have a name of any length.
+    // A house name may have any length.
     auto* name = new ElidedLabel;
     name->setObjectName("lblHomeName");
     name->setAccessibleDescription("House Scenarios");
@@ -97,7 +97,7 @@ MainInputs::MainInputs(QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);
-    // On a wide screen the figures stay near their captions.
+    // On a wide screen, the fields stay close to their captions.
     const int letter = fontMetrics().averageCharWidth();
     QWidget* buyer = MakeBuyer();
     buyer->setMaximumWidth(letter * 60);

@@ -4,11 +4,11 @@
 
 namespace Ledgrove {
 
-/// The room that the emblem above the buttons has, in pixels. Its picture comes after the first paint.
+/// The height of the emblem above the buttons, in pixels. Its picture loads after the first paint.
 inline constexpr int EmblemHeight = 72;
 
-/// The upper part of the main window: the buyer's and the two homes' inputs and the column of buttons. Only
-/// the controls and their places; the window connects them.
+/// The upper part of the main window: the inputs of the buyer and the two homes, and the column of buttons.
+/// It creates the controls and their layout; the window connects them.
 class MainInputs : public QWidget {
     Q_OBJECT
 

@@ -17,7 +17,7 @@ MainKeys::MainKeys(QWidget& window, EntryFocus& focus, std::function<void()> hel
 bool MainKeys::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress)
         return false;
-    // An open pick list or menu is a window of its own and keeps its keys; the menu bar keeps them too.
+    // Open pick lists and menus are separate windows and keep their keys; so does the menu bar.
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (!widget || widget->window() != &m_window || qobject_cast<const QMenuBar*>(widget))
         return false;

@@ -9,7 +9,7 @@
 
 namespace Ledgrove {
 
-/// The keys that a window sees before its controls: Down and Up move between them, F1 opens the help.
+/// The keys that a window handles before its controls: Down and Up move between fields, F1 opens the help.
 class MainKeys : public QObject {
     Q_OBJECT
 

@@ -7,12 +7,12 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr int sharpness = 4; ///< device pixels a pixel, enough for every usual scaling
+constexpr int sharpness = 4; ///< device pixels per pixel, enough for all usual scale factors
 const QColor roofGreen(0x2e, 0x7d, 0x32);
 const QColor wallGreen(0x81, 0xc7, 0x84);
 const QColor coinGold(0xf9, 0xa8, 0x25);
 
-/// Drawing happens on a sheet of 32 by 32.
+/// `draw` works on a grid of 32 by 32.
 QPixmap Draw(int size, void (*draw)(QPainter&)) {
     QPixmap picture(size * sharpness, size * sharpness);
     picture.setDevicePixelRatio(sharpness);

@@ -4,7 +4,7 @@
 
 namespace Ledgrove {
 
-/// Small pictures, drawn at `size` pixels of a normal screen and sharp on finer ones.
+/// Small pictures of `size` logical pixels, sharp on high-resolution screens too.
 QPixmap HousePicture(int size);
 QPixmap FinancingPicture(int size);
 

@@ -5,8 +5,8 @@
 
 namespace Ledgrove {
 
-/// Puts `content` in the place of the whole file: all of it, or the file stays as it was. Gives a sentence
-/// when it cannot be written, else "".
+/// Replaces the whole file with `content`, or does not change it. Returns a message if it cannot be written,
+/// else "".
 QString WriteWholeFile(const QString& path, const QByteArray& content);
 
 } // namespace Ledgrove

@@ -4,8 +4,8 @@
 
 namespace Ledgrove {
 
-/// A text that fetches nothing: pictures and styles that it names elsewhere, on this machine or another one,
-/// are left out. QTextDocument itself would read them, whatever the widget around it refuses.
+/// A text that loads nothing: it omits pictures and styles from other files or other computers. QTextDocument
+/// would load them, whatever the widget around it refuses.
 class SilentDocument : public QTextDocument {
 public:
     using QTextDocument::QTextDocument;

@@ -19,7 +19,7 @@ std::optional<QColor> ColourOn(const QPalette& palette, TextColour colour) {
 
 void SetTextColour(QWidget& widget, const std::optional<QColor>& colour) {
     QPalette palette;
-    // A fresh palette states no role, so that all of them are inherited.
+    // A new palette sets no role, so the widget inherits all roles.
     palette.setResolveMask(0);
     if (colour) {
         palette.setColor(QPalette::Text, *colour);

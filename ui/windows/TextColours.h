@@ -9,10 +9,10 @@
 
 namespace Ledgrove {
 
-/// How a text colour of the record looks on this palette's background; nothing for the palette's own colour.
+/// The text colour of the record on this palette's background; nothing for the palette's own colour.
 std::optional<QColor> ColourOn(const QPalette& palette, TextColour colour);
 
-/// Gives the widget's text this colour, or the inherited one back.
+/// Sets the colour of the widget's text, or restores the inherited one.
 void SetTextColour(QWidget& widget, const std::optional<QColor>& colour);
 
 } // namespace Ledgrove

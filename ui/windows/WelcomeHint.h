@@ -8,20 +8,20 @@
 
 namespace Ledgrove {
 
-/// The strip of the Welcome tab that leads to the first result: what to do next, a button that goes there,
-/// and a sample for whoever wants to look first.
+/// The strip on the Welcome tab that leads to the first result: the next step, a button that goes there, and
+/// a sample.
 class WelcomeHint : public QWidget {
     Q_OBJECT
 
 public:
     explicit WelcomeHint(QWidget* parent = nullptr);
 
-    /// `openSample` fills in a sample; without one its button does not appear.
+    /// `openSample` fills in a sample. Without it the sample button is hidden.
     void Connect(const MainScreen& screen, std::function<void()> openSample);
     void Refresh();
 
 signals:
-    /// The button was pressed: the control of this name is to be used next.
+    /// The button was pressed; the focus should move to the control of this name.
     void Chosen(const QString& control);
 
 private:

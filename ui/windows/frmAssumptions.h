@@ -10,7 +10,7 @@ class frmAssumptions : public EntryDialog {
     Q_OBJECT
 
 public:
-    /// Shows the filled record, which must outlive the dialog as `session` and `outside` must.
+    /// Shows the filled record. The record, `session` and `outside` must outlive the dialog.
     frmAssumptions(AssumptionsScreen& record, Session& session, Host& outside, QWidget* parent = nullptr);
 
     void Refresh() override;

@@ -20,11 +20,11 @@ namespace Ledgrove {
 namespace {
 
 constexpr const char* houseScenarios = "House Scenarios";
-// What is open in one mode and closed in the other, the control that gets the focus first.
+// The controls that one mode enables and the other disables; the first one gets the focus.
 constexpr std::array fieldNames{"ecStdCost", "ecGMHCost", "ecStdUtil", "ecGMHUtil"};
 constexpr std::array viewNames{"lbHomes", "bAdd", "bOK", "bCancel", "bHelp"};
 
-/// A field that is closed, as in view mode, where its amount is as readable as in edit mode.
+/// A disabled field, as in view mode, whose amount is as readable as in edit mode.
 EntryField* MakeAmount(const char* control, const QString& humanName) {
     EntryField* field = MakeField(control, humanName);
     QPalette palette;
@@ -78,7 +78,7 @@ void frmHomeSelection::reject() {
 }
 
 void frmHomeSelection::closeEvent(QCloseEvent* event) {
-    // Unlike Escape, the close button means the whole dialog.
+    // Unlike Escape, the close button closes the whole dialog.
     if (m_record.Editing)
         CancelEdit();
     if (!MayClose())
@@ -153,7 +153,7 @@ void frmHomeSelection::ConnectList() {
         Module1::SelectHouse(m_record, current.row());
         Refresh();
     });
-    // Ctrl and a click would leave the list without a selected house.
+    // Ctrl with a click would leave the list without a selected house.
     connect(selection, &QItemSelectionModel::selectionChanged, this, [this, selection] {
         if (!selection->hasSelection())
             ShowSelection();
@@ -209,13 +209,13 @@ void frmHomeSelection::ShowMode() {
 void frmHomeSelection::SwitchMode(ControlNames opening, ControlNames closing) {
     for (const char* name : opening)
         findChild<QWidget*>(name)->setEnabled(true);
-    // Before its control closes, so that the toolkit does not look for another one.
+    // Sets the focus before the old control is disabled; otherwise Qt would choose another control.
     findChild<QWidget*>(opening.front())->setFocus(Qt::OtherFocusReason);
     for (const char* name : closing)
         findChild<QWidget*>(name)->setEnabled(false);
 }
 
-/// Where nothing can be saved, as in a read-only folder, the user decides; the dialog must not hold him.
+/// If nothing can be saved, as in a read-only folder, the user may still close the dialog.
 bool frmHomeSelection::MayClose() {
     const auto fault = Module1::SaveHouseScenarios(m_record, State());
     return !fault ||

@@ -11,12 +11,12 @@ namespace Ledgrove {
 
 class HouseListModel;
 
-/// The saved house scenarios: list, view and edit mode. Both ways of closing it save the list.
+/// The saved house scenarios: list, view mode and edit mode. Both ways to close it save the list.
 class frmHomeSelection : public EntryDialog {
     Q_OBJECT
 
 public:
-    /// Shows the opened record, which must outlive the dialog as `session` and `outside` must.
+    /// Shows the opened record. The record, `session` and `outside` must outlive the dialog.
     frmHomeSelection(HouseScenarios& record, Session& session, Host& outside, QWidget* parent = nullptr);
 
     void Refresh() override;

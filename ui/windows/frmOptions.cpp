@@ -52,9 +52,9 @@ void frmOptions::BindFields() {
          {std::pair{"ecFeat1", &m_record.ecFeat1}, {"ecFeat2", &m_record.ecFeat2}}) {
         EntryEvents events =
             StandardEvents(*field, {FieldFormat::String, FieldFormat::String, Module1::AfterEdit::Nothing});
-        // Any text may stay; what cannot be saved is told when it is saved.
+        // Leaving a field accepts any text; the save reports text that it cannot store.
         events.LostFocus = {};
-        // Tab only moves: committing would make the "0" of an empty number field out of an option left empty.
+        // Tab only moves the focus: a commit would set an empty option to the "0" of an empty number field.
         events.KeyPress = [enter = events.KeyPress](KeyCode key) {
             return key == KeyCode::Enter ? enter(key) : Module1::EntryOutcome::Accepted;
         };

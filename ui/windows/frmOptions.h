@@ -5,12 +5,12 @@
 
 namespace Ledgrove {
 
-/// The two additional features of the More Home tab.
+/// The dialog for the two additional features of the More Home tab.
 class frmOptions : public EntryDialog {
     Q_OBJECT
 
 public:
-    /// Shows the filled record, which must outlive the dialog as `session` and `outside` must.
+    /// Shows the filled record. The record, `session` and `outside` must outlive the dialog.
     frmOptions(OptionsScreen& record, Session& session, Host& outside, QWidget* parent = nullptr);
 
     void accept() override;

@@ -29,7 +29,7 @@ BarChart::BarChart(ChartKind kind, QWidget* parent)
     AddAxes(m_homes, Qt::AlignBottom, Qt::AlignLeft);
     m_homes->setGridLineVisible(false);
     m_homes->setTruncateLabels(false);
-    // Six names do not fit beside one another.
+    // Six names do not fit next to each other.
     Chart().legend()->setAlignment(kind == ChartKind::MonthlyCost ? Qt::AlignRight : Qt::AlignBottom);
 }
 

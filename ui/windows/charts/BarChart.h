@@ -10,8 +10,7 @@ class QBarSet;
 
 namespace Ledgrove {
 
-/// Bars of both homes: the parts of the monthly cost on one another, or mortgage and maximum loan side by
-/// side.
+/// Bars of both homes: the parts of the monthly cost stacked, or mortgage and maximum loan side by side.
 class BarChart : public QtChart {
     Q_OBJECT
 

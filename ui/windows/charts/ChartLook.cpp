@@ -8,7 +8,7 @@ namespace Ledgrove {
 
 namespace {
 
-// From dark to light: about 25, 43, 63, 79 and 90 percent.
+// From dark to light, with a lightness of about 25, 43, 63, 79 and 90 percent.
 const std::array<QColor, 5> fills{QColor(0x17, 0x40, 0x4f), QColor(0x2f, 0x6f, 0x83),
                                   QColor(0x6e, 0xa3, 0xb3), QColor(0xa9, 0xcc, 0xd6),
                                   QColor(0xff, 0xe2, 0xa0)};

@@ -4,7 +4,7 @@
 
 namespace Ledgrove {
 
-/// What the program finds in the loaded library.
+/// The factory that the program finds in the loaded library.
 class ChartModule : public QObject, public ChartFactory {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID LEDGROVE_CHART_FACTORY)

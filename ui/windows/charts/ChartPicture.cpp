@@ -17,7 +17,7 @@ namespace {
 constexpr int dotsPerPixel = 2;
 constexpr int margin = 12;
 
-/// A chart of its own, so that the screen's size and colours do not matter.
+/// Makes a separate chart, so that the screen's size and colours do not matter.
 std::unique_ptr<QtChart> MakePicture(const ChartFigures& figures, const QSize& size) {
     std::unique_ptr<QtChart> chart(MakeQtChart(figures.Kind, nullptr));
     QPalette paper;
@@ -30,7 +30,7 @@ std::unique_ptr<QtChart> MakePicture(const ChartFigures& figures, const QSize& s
     chart->layout()->setContentsMargins(margin, margin, margin, margin);
     chart->show();
     chart->Show(figures);
-    // What is drawn where is settled by queued events.
+    // Qt Charts finishes its layout in queued events.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     return chart;
 }

@@ -23,9 +23,9 @@ QtChart::QtChart(QWidget* parent)
     m_view->setRenderHint(QPainter::Antialiasing);
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setFocusPolicy(Qt::NoFocus);
-    // The chart is one thing with one description; what it is made of says nothing.
+    // The chart has one description as a whole; its parts have none.
     m_view->setAttribute(Qt::WA_TransparentForMouseEvents);
-    // The tab's own background shows through.
+    // The tab's background shows through.
     m_view->setBackgroundBrush(Qt::NoBrush);
     m_view->viewport()->setAutoFillBackground(false);
     Chart().setBackgroundVisible(false);
@@ -46,7 +46,7 @@ void QtChart::AddAxes(QAbstractAxis* other, Qt::Alignment otherSide, Qt::Alignme
 }
 
 void QtChart::Show(const ChartFigures& figures) {
-    // What has not changed is not drawn again.
+    // Unchanged figures are not drawn again.
     if (m_figures == figures)
         return;
     ShowTicks(figures);

@@ -8,7 +8,7 @@ class QCategoryAxis;
 
 namespace Ledgrove {
 
-/// What all charts share: the view, the axis of dollars, the words.
+/// Shared by all charts: the view, the dollar axis and the description.
 class QtChart : public ChartWidget {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ protected:
     virtual void Recolour() = 0;
 
     QChart& Chart() const { return *m_view->chart(); }
-    /// Gives all series their axes: the dollars' and the other one.
+    /// Gives all series their axes: the dollar axis and the other one.
     void AddAxes(QAbstractAxis* other, Qt::Alignment otherSide, Qt::Alignment dollarSide);
 
     void changeEvent(QEvent* event) override;

@@ -18,12 +18,12 @@ SavingsChart::SavingsChart(QWidget* parent)
     m_marks->setMarkerSize(9);
     for (QAbstractSeries* series : std::initializer_list<QAbstractSeries*>{m_zero, m_savings, m_marks})
         Chart().addSeries(series);
-    // A little wider than the years, so that the last point is drawn whole.
+    // The axis is slightly wider than the years, so that the last point is drawn completely.
     auto* years = new QCategoryAxis(this);
     years->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
     for (int year = 0; year <= ChartYears; year += 5)
         years->append(QString::number(year), year);
-    // Upright lines would be blended by several threads, for which every answer waited.
+    // Qt would blend vertical lines with several threads, and every update would wait for them.
     years->setGridLineVisible(false);
     years->setRange(0, ChartYears + 0.5);
     AddAxes(years, Qt::AlignBottom, Qt::AlignLeft);
@@ -57,7 +57,7 @@ void SavingsChart::ShowMarks(const std::vector<ChartMark>& marks) {
     PlaceTexts();
 }
 
-/// Above its point, or below where the line falls, and within the plot.
+/// Puts each text above its point, or below it for a loss, and inside the plot.
 void SavingsChart::PlaceTexts() {
     constexpr qreal gap = 8;
     const QRectF plot = Chart().plotArea();

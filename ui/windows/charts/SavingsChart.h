@@ -10,7 +10,7 @@ class QScatterSeries;
 
 namespace Ledgrove {
 
-/// The accumulated savings over the years as a line over the line of zero, with the years pointed out.
+/// The accumulated savings over the years as a line around zero, with marked years.
 class SavingsChart : public QtChart {
     Q_OBJECT
 
