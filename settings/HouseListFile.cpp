@@ -52,7 +52,7 @@ std::optional<SettingsFault> ReadHomeList(const SettingsFile& file, const FileLi
         if (!BelongsTo(line, Key::HomeList))
             continue;
         if (!ReadHouse(ValueOf(line, Key::HomeList), houses.emplace_back()))
-            return BadLine(file, lines, i, "the four amounts behind the name must be numbers");
+            return BadLine(file, lines, i, "the four amounts after the name must be numbers");
     }
     return std::nullopt;
 }

@@ -14,8 +14,7 @@ namespace Ledgrove {
 namespace {
 
 constexpr mode_t modeBits = 07777;
-constexpr mode_t ownersAlone =
-    0600; // the old file may be private, so nobody else may read an incomplete new one
+constexpr mode_t ownersAlone = 0600; // an incomplete file may hold private settings
 
 SettingsFault Unwritable(const std::filesystem::path& path, int error) {
     return {SettingsFault::Kind::Unwritable, path, Describe(error), 0, {}};
@@ -121,7 +120,7 @@ std::optional<SettingsFault> ReplaceFile(const SavePlaces& places, std::string_v
     if (places.File == places.Temporary) {
         return SettingsFault{SettingsFault::Kind::Unwritable,
                              places.File,
-                             "\"Ledgrove.ini\" is a link to the file of this name, which saving needs",
+                             "\"Ledgrove.ini\" is a link to this file, which a save replaces",
                              0,
                              {}};
     }

@@ -100,7 +100,7 @@ Outcome<std::string> LastValue(const SettingsFile& file, const FileLines& lines,
 std::optional<std::string> CheckText(std::string_view what, std::string_view text) {
     if (text.find_first_of("\r\n") != std::string_view::npos)
         return "The " + std::string(what) +
-               " holds a line break. A setting is one line; leave the break out.";
+               " contains a line break. A setting is one line; remove the break.";
     const auto encoded = EncodeWindows1252(text);
     if (const auto* character = std::get_if<UnencodableCharacter>(&encoded))
         return "The " + std::string(what) + " holds " + character->Name +
@@ -140,7 +140,8 @@ std::optional<std::string> CheckSetRequest(std::string_view key, std::string_vie
     if (auto refusal = CheckText("key", key))
         return refusal;
     if (key.find('=') != std::string_view::npos)
-        return "The key " + Quoted(key) + " holds \"=\", which ends a key. Give the key and its value apart.";
+        return "The key " + Quoted(key) +
+               " holds \"=\", which ends a key. Give the key and its value separately.";
     if (Contains(listKeys, key))
         return "The key " + Quoted(key) +
                " has one line for each item of a list, and setting it would make all lines alike. Change the "

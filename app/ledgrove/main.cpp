@@ -137,8 +137,8 @@ int main(int argc, char* argv[]) {
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption folderOption("folder",
-                                          "The folder where Ledgrove.ini lies; the program's own by default.",
-                                          "DIR", QCoreApplication::applicationDirPath());
+                                          "The folder of Ledgrove.ini (default: the program's own).", "DIR",
+                                          QCoreApplication::applicationDirPath());
     parser.addOption(folderOption);
     parser.addPositionalArgument("FILE", "A comparison to open (*.ledgrove.json).", "[FILE]");
     if (!parser.parse(QCoreApplication::arguments()))

@@ -16,7 +16,7 @@ void ShowAbout(QWidget& above) {
         QString("Compares a base home with an energy-efficiency-labelled home: mortgage, taxes, utilities, "
                 "cash flow and the loan a buyer qualifies for.\n\n"
                 "Free software under the GNU General Public License, version 3 or later. It comes without "
-                "any warranty; the file LICENSE tells the terms.\n\n"
+                "any warranty; the file LICENSE has the terms.\n\n"
                 "Built with Qt %1.")
             .arg(qVersion()));
     box.setIconPixmap(QApplication::windowIcon().pixmap(64));

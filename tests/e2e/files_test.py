@@ -150,7 +150,7 @@ class Saving(FilesTest):
         for answer in ("No", "Yes"):
             self.desktop.key("ctrl+shift+s")
             self.name_file(SAVE, self.folder / "a")
-            self.assertIn(f"\"{file}\" is there already", self.in_box(answer))
+            self.assertIn(f"\"{file}\" already exists", self.in_box(answer))
             self.program.no_box()
             if answer == "No":
                 self.assertEqual(file.read_text(), "of someone else")

@@ -120,8 +120,8 @@ TEST_P(CheckSetRequestRefusal, IsASentenceThatNamesTheProblem) {
 INSTANTIATE_TEST_SUITE_P(
     Requests, CheckSetRequestRefusal,
     testing::Values(BadRequest{"", "x", "The key is empty"},
-                    BadRequest{"A\nB", "x", "The key holds a line break"},
-                    BadRequest{"BUILDERNAME", "a\r", "The value holds a line break"},
+                    BadRequest{"A\nB", "x", "The key contains a line break"},
+                    BadRequest{"BUILDERNAME", "a\r", "The value contains a line break"},
                     BadRequest{"BUILDERNAME", "a\xE2\x86\x92",
                                "The value holds the character \"\xE2\x86\x92\" (U+2192)"},
                     BadRequest{"\xE2\x86\x92", "a", "The key holds the character \"\xE2\x86\x92\" (U+2192)"},

@@ -17,7 +17,7 @@ QString AskOpenName(QWidget& above, const FileRequest& request) {
 
 bool MayReplace(QWidget& above, const QString& file) {
     const QString question =
-        QString("\"%1\" is there already. Replace it?").arg(QDir::toNativeSeparators(file));
+        QString("\"%1\" already exists. Replace it?").arg(QDir::toNativeSeparators(file));
     return QMessageBox::question(&above, ApplicationTitle, question, QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
 }

@@ -23,7 +23,7 @@ QString FaultOf(const QFileInfo& info) {
     if (info.isDir())
         return "cannot be read: it is a folder";
     if (!info.isFile())
-        return "cannot be read: it is no ordinary file";
+        return "cannot be read: it is not an ordinary file";
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly))
         return "cannot be read: " + file.errorString();
@@ -33,7 +33,7 @@ QString FaultOf(const QFileInfo& info) {
     if (content.trimmed().isEmpty())
         return "is empty";
     if (std::any_of(content.begin(), content.end(), IsRubbish))
-        return "holds no text: it is damaged, or it is another kind of file";
+        return "holds no text: it is damaged or is another kind of file";
     return {};
 }
 
@@ -53,8 +53,8 @@ std::optional<std::string> HelpComplaint(const std::filesystem::path& folder, co
     const std::string quoted = '"' + name + '"';
     const std::string place = info.absolutePath().toStdString();
     if (!info.exists())
-        return "The help file " + quoted + " is missing. It was looked for in " + place +
-               ". Put it there, or name another one after HELPFILE= in Ledgrove.ini.";
+        return "The help file " + quoted + " is missing. Put it into " + place +
+               ", or name another one after HELPFILE= in Ledgrove.ini.";
     const QString fault = FaultOf(info);
     if (fault.isEmpty())
         return std::nullopt;

@@ -54,7 +54,7 @@ void HelpWindow::ShowTopic(const QString& path, const QString& anchor) {
     Tell(found ? QString() : "This help file has no topic for that. This is its start.");
     const bool printable = Printer() != nullptr;
     m_print->setEnabled(printable);
-    m_print->setToolTip(printable ? QString() : "No printing from here");
+    m_print->setToolTip(printable ? QString() : "Printing is not available here");
     show();
     raise();
     activateWindow();

@@ -10,8 +10,8 @@ QString WriteWholeFile(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && CommitWhole(file))
         return {};
-    return QString("\"%1\" cannot be saved: %2. What was there before is unchanged. Choose another name or "
-                   "folder, or make room there.")
+    return QString("\"%1\" cannot be saved: %2. Any old file is unchanged. Choose another name or folder, "
+                   "or free some space there.")
         .arg(QDir::toNativeSeparators(path), file.errorString());
 }
 
