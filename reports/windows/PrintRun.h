@@ -16,7 +16,7 @@ struct PrintRequest {
     QString PdfFile; ///< if the device is "Print to PDF"
 };
 
-/// Prints with a progress dialog above `parent`; its "Cancel" stops before anything is printed. Returns a
+/// Prints with a progress dialog above `parent`; if the user presses "Cancel", nothing is printed. Returns a
 /// message if printing failed, else "".
 QString RunPrint(const PrintRequest& request, PrintServer& server, QWidget& parent);
 
