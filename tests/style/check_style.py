@@ -3,15 +3,19 @@
 import re
 import subprocess
 import sys
-from pathlib import Path
+from pathlib import Path, PurePath
 
 ROOT = Path(__file__).resolve().parents[2]
-FLOORS = ("base", "engine", "settings", "ui", "reports", "app")
+LAYERS = ("base", "engine", "settings", "ui", "reports", "app/batch", "app/files", "app/windows")  # lowest first
+PROGRAMS = ("app/ledgrove", "app/cli", "app/report", "app/chart", "app/metafile")
+TOOLKIT_PROGRAMS = ("app/ledgrove", "app/report", "app/chart")
+LOADED = {"ui/windows/charts": "app/chart", "reports/windows/cups": None}  # and the program that links it all the same
+BESIDE = ("tests", "bench")
 LONGEST = 400
 
 
 def sources():
-    folders = [ROOT / name for name in (*FLOORS, "tests", "bench")]
+    folders = [ROOT / name for name in sorted({PurePath(layer).parts[0] for layer in LAYERS}) + list(BESIDE)]
     return sorted(path for folder in folders if folder.is_dir() for path in folder.rglob("*")
                   if path.suffix in (".h", ".cpp"))
 
@@ -22,26 +26,62 @@ def format_faults(paths):
                    if "code should be clang-formatted" in line})
 
 
-def include_faults(path):
-    """A core does not include Qt, and no file includes a higher layer."""
-    place = path.relative_to(ROOT).parts
-    if place[0] not in FLOORS:
+def within(folder, name):
+    """Whether the file lies in the folder or below it."""
+    return name.startswith(folder + "/")
+
+
+def layer_of(name):
+    """How high the file lies, from 0; None outside the layers. The programs share the top layer."""
+    for height, folder in enumerate(LAYERS):
+        if within(folder, name):
+            return height
+    return len(LAYERS) if any(within(program, name) for program in PROGRAMS) else None
+
+
+def has_toolkit(name):
+    return "windows" in PurePath(name).parent.parts or any(within(program, name) for program in TOOLKIT_PROGRAMS)
+
+
+def include_fault(name, include):
+    """What is wrong with this include of the file, both named from the root; "" for nothing."""
+    if re.match(r"Q[A-Z]|Qt", include):
+        return "" if has_toolkit(name) else "only windows/ may"
+    height, included = layer_of(name), layer_of(include)
+    if included is None:
+        return ""
+    if included > height:
+        return "from a higher layer"
+    if height == included == len(LAYERS) and PurePath(name).parent != PurePath(include).parent:
+        return "from another program"
+    if "windows" in PurePath(include).parts and not has_toolkit(name):
+        return "from windows/, into a core"
+    for folder, program in LOADED.items():
+        if within(folder, include) and not within(folder, name) and not (program and within(program, name)):
+            return "from a library that is loaded when it is needed"
+    return ""
+
+
+def include_faults(name, text):
+    """A core includes neither Qt nor a window, and no file includes a higher layer. Tests and benchmarks are exempt."""
+    if PurePath(name).parts[0] in BESIDE:
         return
-    may_use_toolkit = "windows" in place or place[:2] in (("app", "ledgrove"), ("app", "report"), ("app", "chart"))
-    higher = FLOORS[FLOORS.index(place[0]) + 1:]
-    for include in re.findall(r'^#include ["<]([^">]+)', path.read_text(), re.M):
-        if not may_use_toolkit and re.match(r"Q[A-Z]|Qt", include):
-            yield f"{path}: includes {include}; only windows/ may"
-        if include.split("/")[0] in higher:
-            yield f"{path}: includes {include} from a higher layer"
+    if layer_of(name) is None:
+        yield f"{name}: belongs to no layer; its folder has no place in check_style.py"
+        return
+    for include in re.findall(r'^\s*#\s*include ["<]([^">]+)', text, re.M):
+        fault = include_fault(name, include)
+        if fault:
+            yield f"{name}: includes {include}, {fault}"
 
 
 def main():
     paths = sources()
     faults = format_faults(paths)
     for path in paths:
-        faults += include_faults(path)
-        length = path.read_text().count("\n")
+        text = path.read_text()
+        faults += include_faults(path.relative_to(ROOT).as_posix(), text)
+        length = text.count("\n")
         if length > LONGEST:
             faults.append(f"{path}: {length} lines; split the file")
     print("\n".join(faults))
@@ -49,4 +89,5 @@ def main():
     return 1 if faults or not paths else 0
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())
