@@ -87,8 +87,8 @@ void AppendDecimal(std::string& out, std::int64_t digits, int places) {
     out.append(text.data(), end);
 }
 
-/// The fewest digits that read back as the same single. Amounts and rates are written here in a fraction of
-/// the time that the general way takes, which is left for the very large and the very small.
+/// The fewest digits that read back as the same single. Of two decimals that are equally near, amounts and
+/// rates take the one further from 0, where the library would take the even one.
 void AppendNumber(std::string& out, float value) {
     const float magnitude = std::fabs(value);
     if (magnitude == 0 || (magnitude >= 1e-3F && magnitude < 1e6F)) {

@@ -5,8 +5,8 @@
 
 #include "app/batch/Comparison.h"
 
-// Results as JSON text, appended to a buffer: building a tree of two hundred values for each comparison would
-// cost more than the comparison.
+// Results as JSON text, appended to a buffer: a tree of two hundred values for each comparison would cost
+// more than the comparison, and a writer that keeps account of what is open nearly as much.
 namespace Ledgrove {
 
 /// Writes results. What is the same in all of them is put together once.

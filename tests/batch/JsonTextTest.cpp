@@ -94,6 +94,12 @@ TEST_F(JsonTextTest, NumbersHaveNoMoreDigitsThanTheyNeed) {
     EXPECT_STREQ(result["GMHCase"]["Cost"].GetString(), "0");
 }
 
+TEST_F(JsonTextTest, OfTwoDecimalsThatAreEquallyNearItIsTheOneFurtherFromZero) {
+    // An eighth of the price is 490,771.625. Singles are 2^-5 apart here, so 490771.62 would read back, too.
+    const rapidjson::Document result = ResultOf({{Input::ecStdHome, "3926173"}, {Input::ecPctDown, "12.50"}});
+    EXPECT_STREQ(result["StdCase"]["DownPayment"].GetString(), "490771.63");
+}
+
 TEST_F(JsonTextTest, ALossIsANegativeNumber) {
     // The labelled home is cheaper by 6,000.
     const rapidjson::Document result = ResultOf({{Input::ecStdHome, "206000"}, {Input::ecGMHHome, "200000"}});
