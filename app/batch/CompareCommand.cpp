@@ -1,7 +1,6 @@
 #include "app/batch/CompareCommand.h"
 
 #include <algorithm>
-#include <iostream>
 #include <memory>
 #include <unistd.h>
 
@@ -16,10 +15,6 @@
 namespace Ledgrove {
 
 namespace {
-
-void ReportUnreadable(const std::string& name, const std::string& reason) {
-    std::cerr << "ledgrove-cli: " << UnreadableInput(name, reason) << '\n';
-}
 
 std::unique_ptr<ComparisonReader> MakeReader(const CompareRequest& request, const Session& start,
                                              Comparison& comparison) {
@@ -40,16 +35,12 @@ std::unique_ptr<ComparisonReader> MakeReader(const CompareRequest& request, cons
 
 int ReadFile(const std::string& name, ComparisonReader& reader, OutputBuffer& output) {
     const InputFile file(name);
-    if (file.Number() < 0) {
-        ReportUnreadable(name, file.Failure());
-        return CannotRun;
-    }
+    if (file.Number() < 0)
+        return Complain(UnreadableInput(name, file.Failure()), CannotRun);
     LineReader lines(file.Number(), [&reader, &output] { reader.BeforeWaiting(output); });
     const bool allWell = reader.Read(lines, output);
-    if (!lines.Failure().empty()) {
-        ReportUnreadable(name, lines.Failure());
-        return CannotRun;
-    }
+    if (!lines.Failure().empty())
+        return Complain(UnreadableInput(name, lines.Failure()), CannotRun);
     return allWell ? AllWell : SomeRefused;
 }
 
@@ -77,10 +68,8 @@ int RunCompare(const CompareRequest& request, const Session& start) {
         status = std::max(status, ReadFile(name, *reader, output));
     }
     output.Flush();
-    if (!output.Failure().empty()) {
-        std::cerr << "ledgrove-cli: " << UnwrittenOutput("results", output.Failure()) << '\n';
-        return CannotRun;
-    }
+    if (!output.Failure().empty())
+        return Complain(UnwrittenOutput("results", output.Failure()), CannotRun);
     return status;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/batch/Comparison.h"
+#include "app/batch/ExitStatus.h"
 #include "app/batch/LineReader.h"
 #include "app/batch/OutputBuffer.h"
 
@@ -18,9 +19,6 @@ struct CompareRequest {
     int Jobs = 1;                   ///< threads for JSON lines, at least 1
     std::vector<std::string> Files; ///< "-" is standard input; none at all too
 };
-
-/// Exit statuses of ledgrove-cli.
-enum ExitStatus { AllWell = 0, SomeRefused = 1, CannotRun = 2 };
 
 /// What reads one input and appends one result for each comparison in it. True when none was refused.
 class ComparisonReader {

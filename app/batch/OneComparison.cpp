@@ -1,7 +1,5 @@
 #include "app/batch/OneComparison.h"
 
-#include <iostream>
-
 #include "app/batch/ObjectInput.h"
 #include "ui/StartUp.h"
 
@@ -19,11 +17,6 @@ OneComparison CompareOne(const std::string& folder, const std::string& input) {
     if (read.Refused)
         return {SomeRefused, RefusalSentence(*read.Refused), {}};
     return {AllWell, {}, comparison.State()};
-}
-
-ExitStatus Complain(const std::string& sentence, ExitStatus status) {
-    std::cerr << "ledgrove-cli: " << sentence << '\n';
-    return status;
 }
 
 } // namespace Ledgrove

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/batch/CompareCommand.h"
+#include "app/batch/ExitStatus.h"
 #include "engine/Session.h"
 
 // What the verbs of ledgrove-cli that work on a single comparison have in common.
@@ -17,8 +17,5 @@ struct OneComparison {
 /// Runs the comparison of `input`, a file of one JSON object or "-" for standard input, on the settings in
 /// `folder`.
 OneComparison CompareOne(const std::string& folder, const std::string& input);
-
-/// Says `sentence` on standard error and gives `status`.
-ExitStatus Complain(const std::string& sentence, ExitStatus status);
 
 } // namespace Ledgrove

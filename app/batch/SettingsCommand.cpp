@@ -1,10 +1,9 @@
 #include "app/batch/SettingsCommand.h"
 
-#include <iostream>
 #include <unistd.h>
 
-#include "app/batch/CompareCommand.h"
 #include "app/batch/CsvCompare.h"
+#include "app/batch/ExitStatus.h"
 #include "app/batch/OutputBuffer.h"
 #include "engine/NumberText.h"
 #include "settings/HeaderSettings.h"
@@ -14,11 +13,6 @@
 namespace Ledgrove {
 
 namespace {
-
-int Complain(const std::string& sentence, ExitStatus status) {
-    std::cerr << "ledgrove-cli: " << sentence << '\n';
-    return status;
-}
 
 /// A key or value at fault is the caller's input; all else keeps the program from running at all.
 int Complain(const SettingsFault& fault) {

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <iostream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,23 +25,20 @@ using namespace Ledgrove;
 int HandOver(const std::string& verb, char** argv) {
     const std::string program = (ProgramFolder() / ("ledgrove-" + verb)).string();
     ::execv(program.c_str(), argv);
-    std::cerr << "ledgrove-cli: " << Quoted(program) << " cannot be started (" << Describe(errno) << "). "
-              << Quoted(verb) << " needs that program beside ledgrove-cli.\n";
-    return CannotRun;
+    const int error = errno;
+    return Complain(Quoted(program) + " cannot be started (" + Describe(error) + "). " + Quoted(verb) +
+                        " needs that program beside ledgrove-cli.",
+                    CannotRun);
 }
 
 int Compare(const std::filesystem::path& folder, const CompareRequest& request) {
     Session session;
     CollectingHost host;
-    if (const auto fault = Module1::LoadMainScreen(session, host, folder)) {
-        std::cerr << "ledgrove-cli: " << Sentence(*fault) << '\n';
-        return CannotRun;
-    }
+    if (const auto fault = Module1::LoadMainScreen(session, host, folder))
+        return Complain(Sentence(*fault), CannotRun);
     if (!request.House.empty()) {
-        if (const std::string sentence = StartWithHouse(session, request.House); !sentence.empty()) {
-            std::cerr << "ledgrove-cli: " << sentence << '\n';
-            return CannotRun;
-        }
+        if (const std::string sentence = StartWithHouse(session, request.House); !sentence.empty())
+            return Complain(sentence, CannotRun);
     }
     return RunCompare(request, session);
 }

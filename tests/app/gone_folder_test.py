@@ -1,4 +1,4 @@
-"""The programs started in a folder that was deleted meanwhile: what they are told by whole paths they find, and nothing ends in a crash.
+"""The programs started in a folder that was deleted meanwhile: they find what whole paths name, and none of them crashes.
 
 gone_folder_test.py PROGRAM-FOLDER SOURCE [--windows]"""
 import os

@@ -82,7 +82,7 @@ TEST(JsonInput, AnythingButAnObjectIsRefused) {
 }
 
 TEST(JsonInput, MalformedJsonIsRefusedWithItsPlace) {
-    // The comma that is missing is missed at the third quote: behind two characters of the first line and 14
+    // The comma that is missing is missed at the third quote: after two characters of the first line and 14
     // of the second.
     const Refusal refusal = RefusalOf("{\n\"ecIncome\": 1 \"ecStdHome\": 2}");
     EXPECT_EQ(refusal.Line, 2u);

@@ -61,7 +61,7 @@ TEST(LineReader, TakesALineOfTheGreatestLengthWhole) {
     EXPECT_THAT(LinesOf("a\n" + longest), ElementsAre("a", longest));
 }
 
-TEST(LineReader, GivesOnlyTheBeginningOfALongerLineAndGoesOnBehindIt) {
+TEST(LineReader, GivesOnlyTheBeginningOfALongerLineAndGoesOnAfterIt) {
     for (const std::size_t length : {LongestLine + 1, 3 * LongestLine}) {
         const MemoryFile file("a\n" + std::string(length, 'x') + "\nb\n");
         LineReader reader(file.Number(), [] {});

@@ -30,7 +30,7 @@ TEST(OutputBuffer, WritesByItselfOnceMuchHasGathered) {
     EXPECT_EQ(file.Content(), much);
 }
 
-TEST(OutputBuffer, WritesATextBehindWhatHasGathered) {
+TEST(OutputBuffer, WritesATextAfterWhatHasGathered) {
     const MemoryFile file;
     OutputBuffer output(file.Number());
     output.Text() += "first ";

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "app/batch/CompareCommand.h"
+#include "app/batch/ExitStatus.h"
 #include "tests/batch/BatchDesk.h"
 #include "tests/settings/TemporaryFolder.h"
 
