@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/files/ComparisonFile.h"
+#include "app/files/ScreenInputs.h"
 #include "ui/FirstSteps.h"
 #include "ui/windows/SafeFile.h"
 #include "ui/windows/UsersFolder.h"
@@ -38,7 +39,7 @@ CurrentFile::CurrentFile(frmMain& window, Session& session, Host& outside, Recen
     , m_start(session)
     , m_recent(std::move(recent))
     , m_questions(std::move(questions))
-    , m_saved(ComparisonText(session.Screen)) {
+    , m_saved(ScreenInputs(session.Screen)) {
     connect(&window, &frmMain::Refreshed, this, &CurrentFile::ShowTitle);
     window.installEventFilter(this);
     ShowTitle();
@@ -63,7 +64,7 @@ void CurrentFile::New() {
         return;
     NewComparison(m_session, m_start, m_outside);
     m_name.clear();
-    m_saved = ComparisonText(m_session.Screen);
+    m_saved = ScreenInputs(m_session.Screen);
     m_window.Refresh();
     StartEntering();
 }
@@ -86,7 +87,7 @@ void CurrentFile::OpenCopy(const QString& file) {
     if (!MayLoseInputs() || !Load(file))
         return;
     m_name.clear();
-    m_saved = ComparisonText(m_session.Screen);
+    m_saved = ScreenInputs(m_session.Screen);
     ShowTitle();
 }
 
@@ -126,7 +127,7 @@ bool CurrentFile::Write(const QString& file) {
 
 void CurrentFile::TakeName(const QString& file) {
     m_name = QFileInfo(file).absoluteFilePath();
-    m_saved = ComparisonText(m_session.Screen);
+    m_saved = ScreenInputs(m_session.Screen);
     m_recent.Add(m_name);
 }
 
@@ -140,7 +141,7 @@ bool CurrentFile::IsModified() const {
     // A new comparison without any figures needs no question.
     if (m_name.isEmpty() && IsUntouched(m_session.Screen))
         return false;
-    return ComparisonText(m_session.Screen) != m_saved;
+    return ScreenInputs(m_session.Screen) != m_saved;
 }
 
 bool CurrentFile::MayLoseInputs() {

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 
+#include "app/batch/InputRecord.h"
 #include "app/windows/RecentFiles.h"
 #include "engine/Host.h"
 #include "engine/Session.h"
@@ -62,7 +63,7 @@ private:
     RecentFiles m_recent;
     FileQuestions m_questions;
     QString m_name;
-    std::string m_saved; ///< the inputs in the file, or those of a new comparison
+    InputRecord m_saved; ///< the inputs in the file, or those of a new comparison
 };
 
 } // namespace Ledgrove
