@@ -22,6 +22,15 @@ Widget* Find(const QWidget& window, std::string_view name) {
     return window.findChild<Widget*>(Shown(name));
 }
 
+/// A control that the window must have. A window without it would show half a record, so it ends the program.
+template <typename Widget>
+Widget* Required(const QWidget& window, std::string_view name) {
+    auto* found = Find<Widget>(window, name);
+    if (!found)
+        qFatal("The main window has no control \"%s\".", qUtf8Printable(Shown(name)));
+    return found;
+}
+
 bool HoldsItems(const QComboBox& combo, std::span<const PickItem> items) {
     if (combo.count() != static_cast<int>(items.size()))
         return false;
@@ -47,23 +56,23 @@ MainBinding::MainBinding(const MainScreen& screen, QWidget& window)
 }
 
 void MainBinding::FindControls() {
-    // A field of the record without a control is one that the window does not show.
     for (const auto& [name, member] : FieldTable()) {
-        if (auto* edit = Find<QLineEdit>(m_window, name))
-            m_fields.push_back({&(m_screen.*member), edit, {}});
+        // The window does not show these two rates.
+        if (member != &MainScreen::ecRate && member != &MainScreen::ecSaveRate)
+            m_fields.push_back({&(m_screen.*member), Required<QLineEdit>(m_window, name), {}});
     }
     for (const auto& [name, member] : PickListTable())
-        m_pickLists.push_back({&(m_screen.*member), Find<QComboBox>(m_window, name), {}});
+        m_pickLists.push_back({&(m_screen.*member), Required<QComboBox>(m_window, name), {}});
     for (const auto& [name, member] : LabelTable())
-        m_labels.push_back({&(m_screen.*member), Find<QLabel>(m_window, name), {}});
+        m_labels.push_back({&(m_screen.*member), Required<QLabel>(m_window, name), {}});
     for (ResultLabel* result : m_window.findChildren<ResultLabel*>())
         m_results.push_back(result);
     for (const char* name : {"optDownPayment0", "optDownPayment1"})
-        m_downPaymentOptions.push_back(Find<QAbstractButton>(m_window, name));
-    m_taxes = Find<QAbstractButton>(m_window, "chkDoTax0");
-    m_tabs = Find<QTabWidget>(m_window, "SSTab1");
+        m_downPaymentOptions.push_back(Required<QAbstractButton>(m_window, name));
+    m_taxes = Required<QAbstractButton>(m_window, "chkDoTax0");
+    m_tabs = Required<QTabWidget>(m_window, "SSTab1");
     for (int i = 0; i < TabCount; ++i)
-        m_panels.push_back(Find<QWidget>(m_window, "DetlFrame" + std::to_string(i)));
+        m_panels.push_back(Required<QWidget>(m_window, "DetlFrame" + std::to_string(i)));
 }
 
 void MainBinding::Refresh() {

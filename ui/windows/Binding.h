@@ -22,7 +22,7 @@ class ResultLabel;
 /// that it does counts as typed or clicked.
 class MainBinding {
 public:
-    /// Both must outlive the binding.
+    /// Both must outlive the binding. Ends the program when the window lacks a control.
     MainBinding(const MainScreen& screen, QWidget& window);
 
     /// Makes the controls that differ from the record equal to it.

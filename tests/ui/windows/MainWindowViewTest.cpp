@@ -4,8 +4,13 @@
 #include <QPushButton>
 #include <QTabBar>
 
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "WindowTest.h"
 #include "ui/MainScreenRules.h"
+#include "ui/windows/Binding.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/ResultPanels.h"
 
@@ -39,6 +44,7 @@ private slots:
     void footnoteShowsOneAmpersand();
     void welcomeShowsTheSteps();
     void buttonsOfMissingDialogsAreDisabled();
+    void aWindowWithoutTheControlsEndsTheProgram();
     void actionsEnableTheirButtons();
     void printRunsTheDataCheckFirst();
     void toolTipsDistinguishThePayments();
@@ -234,6 +240,21 @@ void MainWindowViewTest::welcomeShowsTheSteps() {
              "Review/Edit Financial Assumptions and Options to match user preferences.");
     QCOMPARE(open.LabelText("lblStep5Des"), "View results by selecting tabs above.");
     QVERIFY(open.LabelText("lblStep5Des2").startsWith("Select Print Reports.  Add"));
+}
+
+void MainWindowViewTest::aWindowWithoutTheControlsEndsTheProgram() {
+    const pid_t child = fork();
+    if (child == 0) {
+        std::signal(SIGABRT, SIG_DFL);
+        const MainScreen screen;
+        QWidget window;
+        const MainBinding binding(screen, window);
+        _exit(0);
+    }
+    int status = 0;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QVERIFY(WIFSIGNALED(status));
+    QCOMPARE(WTERMSIG(status), SIGABRT);
 }
 
 void MainWindowViewTest::buttonsOfMissingDialogsAreDisabled() {
