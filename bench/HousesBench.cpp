@@ -5,7 +5,7 @@
 #include "bench/Sample.h"
 #include "settings/HouseListFile.h"
 #include "ui/HouseScenarios.h"
-#include "ui/windows/FormStyle.h"
+#include "ui/windows/FormFont.h"
 #include "ui/windows/frmHomeSelection.h"
 
 #include <QApplication>
@@ -21,7 +21,7 @@ using namespace Ledgrove;
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    FormStyle::Use();
+    UseFormFont();
     const int lots = argc > 1 ? std::atoi(argv[1]) : 10000;
     const QTemporaryDir folder;
     QFile::copy(LEDGROVE_DATA_DIR "/Ledgrove.ini", folder.filePath("Ledgrove.ini"));

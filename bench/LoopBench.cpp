@@ -3,7 +3,7 @@
 // (KiB), after the warm-up and at the end, both with the same figures on the same tab.
 
 #include "bench/RealWindow.h"
-#include "ui/windows/FormStyle.h"
+#include "ui/windows/FormFont.h"
 
 #include <QElapsedTimer>
 
@@ -73,7 +73,7 @@ void RunCycle(Bench::RealWindow& window) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    FormStyle::Use();
+    UseFormFont();
     if (argc != 3)
         return 2;
     const bool isTimed = std::string_view(argv[1]) == "seconds";

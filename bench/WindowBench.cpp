@@ -3,7 +3,7 @@
 // milliseconds.
 
 #include "bench/RealWindow.h"
-#include "ui/windows/FormStyle.h"
+#include "ui/windows/FormFont.h"
 
 #include <QElapsedTimer>
 
@@ -40,7 +40,7 @@ double Change(Bench::RealWindow& window, QLineEdit& price, int round) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    FormStyle::Use();
+    UseFormFont();
     Bench::RealWindow window;
     QLineEdit& price = window.FieldNamed("ecStdHome");
     for (const int tab : {1, 3, 4}) {

@@ -1,11 +1,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDBusConnection>
 #include <QFile>
-#include <QImage>
-#include <QLabel>
 #include <QMessageBox>
-#include <QPainter>
 #include <cstdio>
 #include <filesystem>
 #include <fontconfig/fontconfig.h>
@@ -24,7 +20,7 @@
 #include "reports/windows/PrintAction.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
-#include "ui/windows/FormStyle.h"
+#include "ui/windows/FormFont.h"
 #include "ui/windows/Pictures.h"
 #include "ui/windows/QtHost.h"
 #include "ui/windows/frmMain.h"
@@ -47,6 +43,11 @@ bool HasDisplay(int argc, char* argv[]) {
     return false;
 }
 
+int Answer(const QString& text) {
+    std::fputs(qPrintable(text), stdout);
+    return Fine;
+}
+
 int Refuse(const QString& sentence) {
     std::fprintf(stderr, "%s\n", qPrintable(sentence));
     return CannotStart;
@@ -63,25 +64,9 @@ void ReadFonts() {
     FcInit();
 }
 
-/// Renders the glyphs of the visible labels into the glyph cache while the window manager adds the window's
-/// frame. The first paint then finds them ready.
-void DrawLettersAhead(const QWidget& window) {
-    QImage paper(1, 1, QImage::Format_RGB32);
-    QPainter painter(&paper);
-    for (const QLabel* label : window.findChildren<QLabel*>()) {
-        if (!label->isVisible())
-            continue;
-        painter.setFont(label->font());
-        painter.drawText(label->rect(), label->wordWrap() ? Qt::TextWordWrap : Qt::TextShowMnemonic,
-                         label->text());
-    }
-}
-
 /// `file` is a comparison to open, or "" for none.
 int ShowWindow(const std::filesystem::path& folder, const QString& file) {
-    // Qt finds screen readers through the session bus. A thread connects to it while the fonts load.
-    const std::jthread bus([] { QDBusConnection::sessionBus(); });
-    Ledgrove::FormStyle::Use();
+    Ledgrove::UseFormFont();
     Ledgrove::Session session;
     Ledgrove::QtHost host;
     if (const auto fault = Ledgrove::Module1::OpenMainScreen(session, host, folder)) {
@@ -110,7 +95,6 @@ int ShowWindow(const std::filesystem::path& folder, const QString& file) {
     current = new Ledgrove::CurrentFile(window, session, host,
                                         Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
     window.show();
-    DrawLettersAhead(window);
     Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
     if (!file.isEmpty())
         current->OpenNamed(file);
@@ -143,10 +127,12 @@ int main(int argc, char* argv[]) {
     parser.addPositionalArgument("FILE", "A comparison to open (*.ledgrove.json).", "[FILE]");
     if (!parser.parse(QCoreApplication::arguments()))
         return Refuse(parser.errorText() + " See ledgrove --help.");
+    // The parser's own way to show these would end the process while the fonts are still being read.
     if (parser.isSet("help"))
-        parser.showHelp();
+        return Answer(parser.helpText());
     if (parser.isSet("version"))
-        parser.showVersion();
+        return Answer(QCoreApplication::applicationName() + ' ' + QCoreApplication::applicationVersion() +
+                      '\n');
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
         return Refuse("Ledgrove opens one comparison at a time. See ledgrove --help.");

@@ -3,13 +3,13 @@
 #include "reports/windows/FittedPicture.h"
 #include "reports/windows/Pictures.h"
 #include "ui/windows/FormParts.h"
+#include "ui/windows/HeadedGroup.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -63,7 +63,7 @@ void FrmPrintOptions::BuildControls() {
 }
 
 QGroupBox* FrmPrintOptions::MakeHeaderGroup() {
-    auto* group = new QGroupBox("Report Header");
+    auto* group = new HeadedGroup("Report Header");
     QGridLayout* grid = MakeGrid(group);
     AddNames(*grid);
     AddLogo(*grid);

@@ -4,12 +4,12 @@
 #include "reports/windows/FrmPrintOptions.h"
 #include "reports/windows/frmPrint.h"
 #include "ui/windows/FormParts.h"
+#include "ui/windows/HeadedGroup.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QGroupBox>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -69,7 +69,7 @@ void frmReportSelection::BuildControls() {
 }
 
 QWidget* frmReportSelection::MakeBoxes() {
-    auto* group = new QGroupBox("Sections");
+    auto* group = new HeadedGroup("Sections");
     auto* column = new QVBoxLayout(group);
     for (const SectionBox& section : sectionBoxes) {
         auto* box = new QCheckBox(section.Caption);

@@ -9,6 +9,7 @@
 
 #include "ui/windows/EntryField.h"
 #include "ui/windows/FormParts.h"
+#include "ui/windows/HeadedGroup.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 
@@ -74,7 +75,7 @@ QString RowControl(const char* control, std::size_t row) {
 }
 
 QGroupBox* MakePMIMultipliers() {
-    auto* group = new QGroupBox("PMI Multipliers");
+    auto* group = new HeadedGroup("PMI Multipliers");
     QGridLayout* grid = MakeGrid(group);
     grid->addWidget(MakeHead("Percent Down (less than)"), 0, 0);
     for (std::size_t i = 0; i < PMIRowCount; ++i) {
@@ -93,7 +94,7 @@ QGroupBox* MakePMIMultipliers() {
 }
 
 QGroupBox* MakePresentValue() {
-    auto* group = new QGroupBox("Present Value of Energy Savings");
+    auto* group = new HeadedGroup("Present Value of Energy Savings");
     QGridLayout* grid = MakeGrid(group);
     grid->addWidget(TextLabel("To calculate PV of energy savings use:"), 0, 0, 1, 3);
     AddOptions(*grid, group);
@@ -106,7 +107,7 @@ QGroupBox* MakePresentValue() {
 }
 
 QGroupBox* MakeQualifierRatios(const AssumptionsScreen& record) {
-    auto* group = new QGroupBox("Mortgage Qualifier Ratios");
+    auto* group = new HeadedGroup("Mortgage Qualifier Ratios");
     QGridLayout* grid = MakeGrid(group);
     for (std::size_t i = 0; i < record.RatioRows; ++i) {
         const QString name = QString::fromStdString(record.lblLoanType[i]);
@@ -135,7 +136,7 @@ QGroupBox* MakeQualifierRatios(const AssumptionsScreen& record) {
 }
 
 QGroupBox* MakeTaxesAndInsurance() {
-    auto* group = new QGroupBox("Taxes and Insurance");
+    auto* group = new HeadedGroup("Taxes and Insurance");
     QGridLayout* grid = MakeGrid(group);
     AddFieldRow(*grid, "Real &Estate Taxes:", "ecRealEstateTaxPct", "of House Value");
     AddFieldRow(*grid, "Home Owner's &Insurance:", "ecInsurancePct", "of House Value");
@@ -143,7 +144,7 @@ QGroupBox* MakeTaxesAndInsurance() {
 }
 
 QGroupBox* MakeTaxSchedule(std::size_t lastRow) {
-    auto* group = new QGroupBox("Income Tax Rate Schedule");
+    auto* group = new HeadedGroup("Income Tax Rate Schedule");
     QGridLayout* grid = MakeGrid(group);
     const std::array<std::pair<const char*, const char*>, 3> columns{
         {{"ecLowEnd", "&Low End"}, {"ecHighEnd", "Hi&gh End"}, {"ecRate", "R&ate"}}};
@@ -163,7 +164,7 @@ QGroupBox* MakeTaxSchedule(std::size_t lastRow) {
 }
 
 QGroupBox* MakeOtherVariables() {
-    auto* group = new QGroupBox("Other Financial Variables");
+    auto* group = new HeadedGroup("Other Financial Variables");
     QGridLayout* grid = MakeGrid(group);
     AddFieldRow(*grid, "Anticipated &Years in Home:", "ecYrsInHome");
     const QString upgrade = "Calculated Value of Upgrade:";

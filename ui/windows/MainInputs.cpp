@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -14,6 +13,7 @@
 
 #include "ui/windows/EntryField.h"
 #include "ui/windows/FormParts.h"
+#include "ui/windows/HeadedGroup.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/Pictures.h"
@@ -110,7 +110,7 @@ MainInputs::MainInputs(QWidget* parent)
 }
 
 QWidget* MainInputs::MakeBuyer() {
-    auto* group = new QGroupBox("Buyer");
+    auto* group = new HeadedGroup("Buyer");
     QGridLayout* grid = MakeGrid(group);
     EntryField* income = MakeField("ecIncome", "Annual Income");
     grid->addWidget(MakeCaption("Annual &Income", income), 0, 0);
@@ -128,7 +128,7 @@ QWidget* MainInputs::MakeBuyer() {
 }
 
 QWidget* MainInputs::MakeHomes() {
-    auto* group = new QGroupBox("Homes");
+    auto* group = new HeadedGroup("Homes");
     QGridLayout* grid = MakeGrid(group);
     AddHomeHeads(*grid);
     for (const HomeRow& row : fieldRows)

@@ -185,6 +185,7 @@ void FillPage(QWidget& page, QWidget* panel) {
 ResultPanels::ResultPanels(QWidget* parent)
     : QTabWidget(parent) {
     setObjectName("SSTab1");
+    setDocumentMode(true);
     // A click on a tab takes the focus, so that the field being left is committed before its results are
     // shown.
     tabBar()->setFocusPolicy(Qt::StrongFocus);

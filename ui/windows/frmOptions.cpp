@@ -1,11 +1,11 @@
 #include "ui/windows/frmOptions.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include "ui/windows/FormParts.h"
+#include "ui/windows/HeadedGroup.h"
 
 namespace Ledgrove {
 
@@ -38,7 +38,7 @@ void frmOptions::accept() {
 void frmOptions::BuildControls() {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(12);
-    auto* group = new QGroupBox(" Additional Features ");
+    auto* group = new HeadedGroup(" Additional Features ");
     QGridLayout* grid = MakeGrid(group);
     AddFeature(*grid, "ecFeat1", "Option &1:", "Option 1");
     AddFeature(*grid, "ecFeat2", "Option &2:", "Option 2");
