@@ -173,4 +173,29 @@ TEST(NumberTextTest, CentsMatchThePictureFormat) {
     }
 }
 
+// The pairs that the header promises and that no row above holds.
+TEST(NumberText, KeepsThePairsOfItsContract) {
+    EXPECT_EQ(ReadNumber("$1,234.50"), 1234.5);
+    EXPECT_EQ(ReadNumber(" -$5 "), -5.0);
+    EXPECT_EQ(ReadNumber("$-5"), -5.0);
+    EXPECT_EQ(ReadNumber("+5"), 5.0);
+    EXPECT_EQ(ReadNumber("$"), std::nullopt);
+    EXPECT_EQ(StripPercent("6%.5%"), "6.5");
+    EXPECT_EQ(ReadStrippedNumber("6.5%"), 6.5);
+    EXPECT_EQ(ReadStrippedNumber("%"), std::nullopt);
+    EXPECT_EQ(ParseFieldValue("6.5%", 100), 0.065F);
+    EXPECT_EQ(ParseFieldValue("$72,000", 1), 72000);
+    EXPECT_EQ(ParseFieldValue("abc", 1), 0);
+    EXPECT_EQ(PlainText(16777216), "16777220");
+    EXPECT_EQ(ShortestText(-2.5F), "-2.5");
+    EXPECT_EQ(FormatPicture(1234.5, "$#,##0"), "$1,235");
+    EXPECT_EQ(FormatPicture(-0.4, "$#,##0"), "$0");
+    EXPECT_EQ(FormatPicture(0.0, "#"), "");
+    EXPECT_EQ(FormatPicture(-1234.0, "###,##0"), "-1,234");
+    EXPECT_EQ(FormatPicture(0.125, "0.00"), "0.13");
+    EXPECT_EQ(FormatPicture(0.145F, "0.00"), "0.15"); // 0.144999996 as a double
+    EXPECT_EQ(MoneyText(1465.06F), "$1,465");
+    EXPECT_EQ(MoneyText(-47.97F), "-$48");
+}
+
 } // namespace
