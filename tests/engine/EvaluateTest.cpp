@@ -5,9 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <thread>
-
 namespace Ledgrove::Module1 {
 
 namespace {
@@ -31,22 +28,6 @@ protected:
 TEST_F(Evaluation, GivesTheSameForTheSame) {
     EXPECT_EQ(Run(), Run());
     EXPECT_EQ(Run().From, m_inputs);
-}
-
-TEST_F(Evaluation, OfSeveralThreadsIsThatOfOne) {
-    const Results alone = Run();
-    std::array<bool, 4> same{};
-    {
-        std::array<std::jthread, 4> threads;
-        for (std::size_t i = 0; i < threads.size(); ++i)
-            threads[i] = std::jthread([&, i] {
-                same[i] = true;
-                for (int round = 0; round < 200; ++round)
-                    same[i] = Run() == alone && same[i];
-            });
-    }
-    for (const bool each : same)
-        EXPECT_TRUE(each);
 }
 
 TEST_F(Evaluation, SaysHowTheSampleWasDecided) {
