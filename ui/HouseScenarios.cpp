@@ -1,5 +1,6 @@
 #include "ui/HouseScenarios.h"
 
+#include "base/Text.h"
 #include "engine/NumberText.h"
 #include "settings/HeaderSettings.h"
 #include "settings/HouseListFile.h"
@@ -78,7 +79,7 @@ void SelectHouse(HouseScenarios& dialog, int index) {
 }
 
 std::string HouseNameComplaint(const HouseList& houses, std::string_view name) {
-    if (name.find_first_not_of(' ') == name.npos)
+    if (IsBlank(name))
         return "No Name Entered. Add Aborted";
     if (name.find(',') != name.npos)
         return "A name cannot contain a comma.";

@@ -5,6 +5,7 @@
 
 #include "app/batch/ObjectInput.h"
 #include "app/files/ScreenInputs.h"
+#include "base/Text.h"
 #include "engine/Recalculate.h"
 #include "ui/MainScreenRules.h"
 
@@ -35,9 +36,9 @@ Session FreshSession(const Session& session, const Session& start) {
 }
 
 std::string NoComparison(const std::filesystem::path& file, const Refusal& refusal) {
-    std::string sentence = "\"" + file.string() + "\" is not a comparison that Ledgrove can open. ";
+    std::string sentence = Quoted(file.string()) + " is not a comparison that Ledgrove can open. ";
     if (!refusal.Control.empty())
-        sentence += refusal.Control + " \"" + refusal.Value + "\": ";
+        sentence += refusal.Control + ' ' + Quoted(refusal.Value) + ": ";
     return sentence + refusal.Message;
 }
 
