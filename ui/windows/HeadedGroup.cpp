@@ -3,15 +3,27 @@
 #include <QLayout>
 #include <QStyleOptionGroupBox>
 #include <QStylePainter>
+#include <algorithm>
 
 namespace Ledgrove {
+
+namespace {
+
+/// Where the leftmost control of the group begins; some styles put room around a layout's controls.
+int LeftOfControls(const QWidget& group) {
+    int left = group.width();
+    for (int i = 0; group.layout() && i < group.layout()->count(); ++i)
+        left = std::min(left, group.layout()->itemAt(i)->geometry().left());
+    return left < group.width() ? left : group.contentsRect().left();
+}
+
+} // namespace
 
 void HeadedGroup::paintEvent(QPaintEvent*) {
     QStyleOptionGroupBox option;
     initStyleOption(&option);
     QRect heading = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
-    // The heading begins where the captions below it begin.
-    heading.setLeft(layout() ? layout()->contentsRect().left() : contentsRect().left());
+    heading.setLeft(LeftOfControls(*this));
     heading.setRight(rect().right());
     QStylePainter painter(this);
     QFont bold = font();
