@@ -27,7 +27,7 @@ std::string InterruptedSave(const SettingsFault& fault, const std::string& path)
     const std::string remedy = "Your settings are in " + path + ". Rename that file to " + Quoted(name) + ".";
     if (fault.Reason.empty())
         return "The last save was interrupted. " + remedy;
-    return "The saved settings could not be given their name (" + fault.Reason + "). " + remedy;
+    return "The new settings file could not be renamed (" + fault.Reason + "). " + remedy;
 }
 
 } // namespace
@@ -45,14 +45,15 @@ std::string Sentence(const SettingsFault& fault) {
                "). Check that it is an ordinary file and that you may read it.";
     case SettingsFault::Kind::Unwritable:
         return "The settings were not saved: " + path + " cannot be written (" + fault.Reason +
-               "). Check that you may write to that folder and that its disk has room, then save again.";
+               "). Check that you may write to that folder and that the disk is not full, then save again.";
     case SettingsFault::Kind::Unconfirmed:
         return "The settings were written to " + path + ", but the disk did not confirm it (" + fault.Reason +
                "). Check the disk, then save again.";
     case SettingsFault::Kind::Busy:
         return "The settings file " + path +
-               " is in use by another copy of the program, which is saving it. Wait until it has finished or "
-               "end it, then try again.";
+               " is being saved by another copy of the program. Wait until that copy has finished, or close "
+               "it, "
+               "then try again.";
     case SettingsFault::Kind::BadLine:
         return "Line " + std::to_string(fault.Line) + " of the settings file " + path + " cannot be used (" +
                fault.Reason + "): " + Excerpt(fault.Text) + ". Correct that line.";
@@ -60,7 +61,7 @@ std::string Sentence(const SettingsFault& fault) {
         return "The settings file " + path + " has no line for " + Excerpt(fault.Text) +
                ". Check the spelling (keys are upper case), or add the line: key, \"=\", value.";
     case SettingsFault::Kind::RefusedText:
-        return "The settings were not saved to " + path + ": " + Excerpt(fault.Text) + " holds " +
+        return "The settings were not saved to " + path + ": " + Excerpt(fault.Text) + " contains " +
                fault.Reason + ". Remove it, then save again.";
     }
     return {};

@@ -103,8 +103,9 @@ std::optional<std::string> CheckText(std::string_view what, std::string_view tex
                " contains a line break. A setting is one line; remove the break.";
     const auto encoded = EncodeWindows1252(text);
     if (const auto* character = std::get_if<UnencodableCharacter>(&encoded))
-        return "The " + std::string(what) + " holds " + character->Name +
-               ", which the settings file's character set (Windows-1252) does not have. Use another.";
+        return "The " + std::string(what) + " contains " + character->Name +
+               ", which the settings file's character set (Windows-1252) does not have. Use another "
+               "character.";
     return std::nullopt;
 }
 
@@ -141,12 +142,12 @@ std::optional<std::string> CheckSetRequest(std::string_view key, std::string_vie
         return refusal;
     if (key.find('=') != std::string_view::npos)
         return "The key " + Quoted(key) +
-               " holds \"=\", which ends a key. Give the key and its value separately.";
+               " contains \"=\", which ends a key. Give the key and its value separately.";
     if (Contains(listKeys, key))
         return "The key " + Quoted(key) +
-               " has one line for each item of a list, and setting it would make all lines alike. Change the "
-               "list "
-               "in the window program or in the file.";
+               " has one line for each item of a list, so setting it would make all the lines the same. "
+               "Change "
+               "the list in the Ledgrove window or in the file.";
     // Every line that begins with a key belongs to it.
     const auto longer = FindKnownKey(
         [&](std::string_view known) { return known.size() > key.size() && known.starts_with(key); });
