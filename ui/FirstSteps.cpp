@@ -16,12 +16,12 @@ struct Needed {
 constexpr Needed needed[] = {
     {&MainScreen::ecIncome, {"Begin with the buyer's annual income.", "Enter Income", "ecIncome"}},
     {&MainScreen::ecStdHome,
-     {"Now the price of the base home, or one of the house scenarios.", "Enter Price", "ecStdHome"}},
-    {&MainScreen::ecGMHHome, {"Now the price of the GREENMARK home.", "Enter Price", "ecGMHHome"}},
+     {"Now enter the price of the base home, or choose a house scenario.", "Enter Price", "ecStdHome"}},
+    {&MainScreen::ecGMHHome, {"Now enter the price of the GREENMARK home.", "Enter Price", "ecGMHHome"}},
     {&MainScreen::ecStdUtil,
-     {"Now what the utilities of the base home cost in a year.", "Enter Utilities", "ecStdUtil"}},
+     {"Now enter the annual utility cost of the base home.", "Enter Utilities", "ecStdUtil"}},
     {&MainScreen::ecGMHUtil,
-     {"Now what the utilities of the GREENMARK home cost in a year.", "Enter Utilities", "ecGMHUtil"}},
+     {"Now enter the annual utility cost of the GREENMARK home.", "Enter Utilities", "ecGMHUtil"}},
 };
 
 bool IsMissing(const Field& field) {
@@ -37,9 +37,9 @@ FirstStep NextFirstStep(const MainScreen& screen) {
     }
     const Field& down = screen.optDownPayment == 0 ? screen.ecPctDown : screen.ecFixedDown;
     if (down.Text.empty())
-        return {"Now the down payment: a percentage or a fixed amount.", "Enter Down Payment",
+        return {"Now enter the down payment, as a percentage or a fixed amount.", "Enter Down Payment",
                 screen.optDownPayment == 0 ? "ecPctDown" : "ecFixedDown"};
-    return {"Everything needed is entered.", "See the Results", "SSTab1"};
+    return {"All the needed inputs are entered.", "See the Results", "SSTab1"};
 }
 
 bool IsUntouched(const MainScreen& screen) {
