@@ -176,9 +176,9 @@ void CsvReader::TakeRow(OutputBuffer& output) {
 
 void CsvReader::TakeLongRow(OutputBuffer& output) {
     output.Text().append(m_heading.size(), ',');
-    AppendRefusal(output.Text(),
-                  {m_rowLine, "", "",
-                   "The row is longer than 1 MiB. Close its quotes and run the list again from here."});
+    AppendRefusal(output.Text(), {m_rowLine, "", "",
+                                  "The row is longer than 1 MiB. Add the missing closing quote, then run the "
+                                  "list again from this row."});
     output.Text() += '\n';
     m_allWell = false;
 }

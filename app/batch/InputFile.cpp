@@ -22,7 +22,7 @@ std::string InputFile::Failure() const {
 
 std::string UnreadableInput(const std::string& name, const std::string& reason) {
     return (name == "-" ? "Standard input" : Quoted(name)) + " cannot be read (" + reason +
-           "). Name a file with the homes to compare.";
+           "). Give a readable file with the homes to compare.";
 }
 
 } // namespace Ledgrove

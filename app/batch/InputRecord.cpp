@@ -34,7 +34,7 @@ void InputRecord::Clear() {
 }
 
 Refusal UnknownInput(std::string_view name, std::string_view value) {
-    std::string message = "There is no input of this name. The inputs are ";
+    std::string message = "This is not the name of an input. The inputs are ";
     for (const NamedInput& known : InputTable) {
         if (&known != std::begin(InputTable))
             message += ", ";

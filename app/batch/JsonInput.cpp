@@ -112,7 +112,7 @@ Refusal MalformedJson(std::string_view json, std::size_t position) {
     const std::string_view before = json.substr(0, std::min(position, json.size()));
     const auto line = 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
     return {line, "", "",
-            "This is malformed JSON (at character " + std::to_string(position + 1) +
+            "This is not valid JSON (error at character " + std::to_string(position + 1) +
                 "). Write a JSON object, such as {\"ecIncome\": \"72000\"}."};
 }
 

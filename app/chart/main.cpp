@@ -54,7 +54,7 @@ std::optional<PictureFormat> FormatOf(const std::string& file) {
 void AddOptions(CLI::App& app, Arguments& arguments) {
     app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
     app.add_option("--output", arguments.Output, "The picture to write, *.png or *.svg")->required();
-    app.add_option("--tab", "Whose chart: cashflow, affordability or summary (default)")
+    app.add_option("--tab", "The tab with the chart: cashflow, affordability or summary (default)")
         ->each([&arguments](const std::string& name) {
             if (const std::string fault = ReadTab(name, arguments.Kind); !fault.empty())
                 throw CLI::ValidationError("--tab", fault);
@@ -63,14 +63,13 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
     app.add_option("--width", arguments.Width, "In pixels of 1/96 inch (default: 960)")->check(sides);
     app.add_option("--height", arguments.Height, "In pixels of 1/96 inch (default: 600)")->check(sides);
     app.add_option("FILE", arguments.Input,
-                   "The comparison, as for \"compare --format json\"; none or \"-\": stdin");
+                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"");
 }
 
 int Draw(const Arguments& arguments) {
     const auto format = FormatOf(arguments.Output);
     if (!format)
-        return Complain("A chart is written as *.png or *.svg; " + Quoted(arguments.Output) +
-                            " ends otherwise.",
+        return Complain("Name the chart file *.png or *.svg, not " + Quoted(arguments.Output) + ".",
                         CannotRun);
     const OneComparison comparison = CompareOne(arguments.Folder, arguments.Input);
     if (comparison.Status != AllWell)

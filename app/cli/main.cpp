@@ -26,8 +26,8 @@ int HandOver(const std::string& verb, char** argv) {
     const std::string program = (ProgramFolder() / ("ledgrove-" + verb)).string();
     ::execv(program.c_str(), argv);
     const int error = errno;
-    return Complain(Quoted(program) + " cannot be started (" + Describe(error) + "). " + Quoted(verb) +
-                        " needs that program beside ledgrove-cli.",
+    return Complain(Quoted(program) + " cannot be started (" + Describe(error) + "). The command " +
+                        Quoted(verb) + " needs that program in the folder of ledgrove-cli.",
                     CannotRun);
 }
 
@@ -64,21 +64,21 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
     compare
         ->add_option_function<std::string>(
             "--format", [&request](const std::string& name) { request.Format = *ReadFormat(name); },
-            "text: one JSON object in, a table out; json: one object in and out; jsonl: one object a line; "
+            "text: one JSON object in, a table out; json: one object in, one out; jsonl: one object per "
+            "line; "
             "csv: a price list with a heading row")
         ->check([](const std::string& name) {
             return ReadFormat(name) ? std::string()
                                     : "There is no such format. Choose text, json, jsonl or csv.";
         })
         ->type_name("text|json|jsonl|csv");
-    compare->add_option("--house", request.House,
-                        "A saved house scenario whose four amounts the inputs start with");
+    compare->add_option("--house", request.House, "Start with the four amounts of this saved house scenario");
     request.Jobs = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
     compare
         ->add_option("--jobs", request.Jobs,
                      "Threads for jsonl (default: one for each core); the results keep their order")
         ->check(CLI::Range(1, mostJobs));
-    compare->add_option("FILE", request.Files, "Inputs; none or \"-\" is standard input");
+    compare->add_option("FILE", request.Files, "Files with the inputs; standard input if none or \"-\"");
     return compare;
 }
 
@@ -98,7 +98,7 @@ SettingsActions AddSettings(CLI::App& app, std::string& folder, std::string& key
     set->add_option("KEY", key)->required();
     set->add_option("VALUE", value)->required();
     auto* houses = settings->add_subcommand("houses", "List the saved house scenarios");
-    // --folder may stand before or behind the verb.
+    // --folder may stand before or after the verb.
     for (CLI::App* verb : {get, set, houses})
         verb->fallthrough();
     return {get, set, houses};

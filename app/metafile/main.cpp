@@ -122,8 +122,9 @@ int main(int argc, char** argv) {
     }
     const int longestSide = argc == 2 ? std::atoi(argv[1]) : 0;
     if (longestSide < 1 || longestSide > 4000) {
-        std::fputs("ledgrove-metafile LONGEST-SIDE turns the metafile on standard input into a PNG.\n",
-                   stderr);
+        std::fputs(
+            "Usage: ledgrove-metafile LONGEST-SIDE < METAFILE > PNG (LONGEST-SIDE: 1 to 4000 pixels)\n",
+            stderr);
         return failed;
     }
     std::string bytes = ReadInput();

@@ -49,7 +49,7 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
             sections.FinancialAssumptions = true;
         else if (name != "none")
             return "There is no section " + Quoted(name) +
-                   ". Choose from cashflow, morehome, affordability, summary, assumptions, or all, or "
+                   ". Choose from cashflow, morehome, affordability, summary and assumptions, or give all or "
                    "none.";
     }
     return {};
@@ -57,7 +57,7 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
 
 std::string ReadOrientation(const std::string& name, PageOrientation& orientation) {
     if (name != "portrait" && name != "landscape")
-        return "The orientation is portrait or landscape.";
+        return "The orientation must be portrait or landscape.";
     orientation = name == "landscape" ? PageOrientation::Landscape : PageOrientation::Portrait;
     return {};
 }
@@ -67,7 +67,7 @@ std::string ReadLogo(const std::string& name, std::optional<int>& option) {
     for (int index = 0; index < 3; ++index)
         if (name == names[index])
             option = index;
-    return option ? "" : "The logo is none, generic or user.";
+    return option ? "" : "The logo must be none, generic or user.";
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
@@ -89,10 +89,11 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
             if (const std::string fault = ReadLogo(name, arguments.LogoOption); !fault.empty())
                 throw CLI::ValidationError("--logo", fault);
         });
-    app.add_option("--builder", arguments.Builder, "Who prepared it (default: as in Ledgrove.ini)");
-    app.add_option("--buyer", arguments.Buyer, "Whom it was prepared for");
+    app.add_option("--builder", arguments.Builder,
+                   "Name after \"Prepared By:\" (default: as in Ledgrove.ini)");
+    app.add_option("--buyer", arguments.Buyer, "Name after \"Prepared For:\"");
     app.add_option("FILE", arguments.Input,
-                   "The comparison, as for \"compare --format json\"; none or \"-\": stdin");
+                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"");
 }
 
 int Report(const Arguments& arguments) {

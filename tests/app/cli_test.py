@@ -151,7 +151,7 @@ class CompareRefusals(CliTest):
         for half in (r"\uDFF5", r"\uD800", r"\uD800x", r"\uD800\uD800"):
             for text in (f'{{"ecStdHome": "{half}"}}', f'{{"{half}": "1"}}'):
                 refused = json.loads(self.compare("json", text, status=1))
-                self.assertIn("This is malformed JSON", refused["error"]["message"], text)
+                self.assertIn("This is not valid JSON", refused["error"]["message"], text)
         whole = json.loads(self.compare("json", r'{"ecStdHome": "\uD83C\uDFE0"}', status=1))
         self.assertEqual(whole["error"]["value"], "\U0001F3E0")
 
@@ -241,7 +241,7 @@ class CompareCsv(CliTest):
 
     def test_faulty_rows_carry_their_reason_and_the_list_continues(self):
         rows = self.rows("ecIncome,Model\n5,Lot 7\n", status=1)
-        self.assertIn("Model: There is no input of this name", rows[0]["error"])
+        self.assertIn("Model: This is not the name of an input", rows[0]["error"])
         rows = self.rows("ecIncome,ecStdHome\nabc,1\n1,2,3\n5,5\n", status=1)
         self.assertEqual(rows[0]["error"], "Line 2: ecIncome: You must enter a number here.")
         self.assertEqual(rows[2]["error"], "")
@@ -272,7 +272,7 @@ class CompareCsv(CliTest):
 
     def test_a_quote_that_is_never_closed_is_reported(self):
         rows = self.rows('ecIncome\n"' + "1\n" * 1_200_000, status=1)
-        self.assertIn("Close its quotes", rows[0]["error"])
+        self.assertIn("missing closing quote", rows[0]["error"])
 
 
 class CompareHouse(CliTest):

@@ -61,7 +61,8 @@ class Metafile(unittest.TestCase):
         for arguments in ((), ("wide",), ("0",), ("4001",), ("64", "64")):
             done = play(b"", *arguments)
             self.assertEqual(done.returncode, 1)
-            self.assertEqual(done.stderr, b"ledgrove-metafile LONGEST-SIDE turns the metafile on standard input into a PNG.\n")
+            self.assertEqual(
+                done.stderr, b"Usage: ledgrove-metafile LONGEST-SIDE < METAFILE > PNG (LONGEST-SIDE: 1 to 4000 pixels)\n")
 
 
 unittest.main()

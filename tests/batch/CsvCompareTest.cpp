@@ -122,7 +122,7 @@ TEST_F(CsvReaderTest, ARefusedRowSaysItsLineAndControlAndTheNextIsCompared) {
 TEST_F(CsvReaderTest, AnUnknownHeadingRefusesItsRows) {
     const auto rows = Rows("ecStdHome,Plot\n200000,7\n");
     ASSERT_EQ(rows.size(), 2u);
-    EXPECT_THAT(rows[1], HasSubstr("Line 2: Plot: There is no input of this name."));
+    EXPECT_THAT(rows[1], HasSubstr("Line 2: Plot: This is not the name of an input."));
 }
 
 TEST_F(CsvReaderTest, SemicolonsAndTooManyCellsAreRefused) {

@@ -70,7 +70,7 @@ TEST(Refusal, OfAnUnknownNameListsTheInputs) {
     EXPECT_EQ(refusal.Control, "ecHouse");
     EXPECT_EQ(refusal.Value, "5");
     EXPECT_TRUE(refusal.Message.starts_with(
-        "There is no input of this name. The inputs are ecIncome, ecMonthlyDebt, "));
+        "This is not the name of an input. The inputs are ecIncome, ecMonthlyDebt, "));
     EXPECT_TRUE(refusal.Message.ends_with(", cboGMHMortOption, chkDoTax0."));
 }
 

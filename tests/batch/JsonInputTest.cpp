@@ -55,7 +55,7 @@ TEST(JsonInput, AnUnknownNameIsRefusedWithItsValue) {
     EXPECT_EQ(refusal.Line, 1u);
     EXPECT_EQ(refusal.Control, "ecHouse");
     EXPECT_EQ(refusal.Value, "5");
-    EXPECT_TRUE(refusal.Message.starts_with("There is no input of this name."));
+    EXPECT_TRUE(refusal.Message.starts_with("This is not the name of an input."));
 }
 
 TEST(JsonInput, NullListsAndObjectsAreNoValues) {
@@ -87,7 +87,8 @@ TEST(JsonInput, MalformedJsonIsRefusedWithItsPlace) {
     const Refusal refusal = RefusalOf("{\n\"ecIncome\": 1 \"ecStdHome\": 2}");
     EXPECT_EQ(refusal.Line, 2u);
     EXPECT_EQ(refusal.Control, "");
-    EXPECT_TRUE(refusal.Message.starts_with("This is malformed JSON (at character 17).")) << refusal.Message;
+    EXPECT_TRUE(refusal.Message.starts_with("This is not valid JSON (error at character 17)."))
+        << refusal.Message;
 }
 
 TEST(JsonInput, MalformedJsonIsRefusedWhateverComesBefore) {
@@ -95,20 +96,20 @@ TEST(JsonInput, MalformedJsonIsRefusedWhateverComesBefore) {
          {"", " ", "{", R"({"ecIncome": 1)", R"({"ecIncome" 1})", "{} {}", "{}x", R"({"ecHouse": 1,})",
           R"({"ecIncome": nul})", "{'ecIncome': 1}"}) {
         const Refusal refusal = RefusalOf(json);
-        EXPECT_TRUE(refusal.Message.starts_with("This is malformed JSON")) << json << refusal.Message;
+        EXPECT_TRUE(refusal.Message.starts_with("This is not valid JSON")) << json << refusal.Message;
     }
 }
 
 TEST(JsonInput, ANulIsMalformedWhereverItStands) {
     using namespace std::string_view_literals;
     for (const std::string_view json : {"\0"sv, "{}\0"sv, "{\"ecIncome\": \"\0\"}"sv})
-        EXPECT_TRUE(RefusalOf(json).Message.starts_with("This is malformed JSON"));
+        EXPECT_TRUE(RefusalOf(json).Message.starts_with("This is not valid JSON"));
 }
 
 TEST(JsonInput, BytesThatAreNoUtf8AreMalformed) {
     for (const std::string_view json :
          {"{\"ecIncome\": \"\xFF\"}", "{\"ecIncome\": \"\\uDFF5\"}", "{\"\\uDFF5\": \"1\"}"})
-        EXPECT_TRUE(RefusalOf(json).Message.starts_with("This is malformed JSON")) << json;
+        EXPECT_TRUE(RefusalOf(json).Message.starts_with("This is not valid JSON")) << json;
 }
 
 TEST(JsonInput, DeepNestingIsRefusedLikeAnyOther) {

@@ -117,9 +117,9 @@ TEST_F(ComparisonFileTest, AFaultyFileChangesNothing) {
     const std::string before = ComparisonText(session.Screen);
     const std::pair<const char*, const char*> faults[] = {
         {R"({"ecIncome": "abc"})", "ecIncome \"abc\""},
-        {R"({"ecHouse": "1"})", "There is no input of this name"},
+        {R"({"ecHouse": "1"})", "This is not the name of an input"},
         {"[1]", "Write a JSON object"},
-        {"", "malformed JSON"},
+        {"", "not valid JSON"},
         {R"({"cboGMHMortOption": "VA EEM"})", "not in the list"}};
     for (const auto& [text, complaint] : faults) {
         const auto fault = Open(text, session);
