@@ -19,7 +19,7 @@ Descriptor::Descriptor(const std::filesystem::path& path, int flags, mode_t mode
 int Descriptor::Close() {
     const int number = m_number;
     m_number = -1;
-    // After EINTR the descriptor is closed all the same; a second close could meet another file's.
+    // Linux closes the descriptor even if close returns EINTR. A second close could close another file.
     return number >= 0 && close(number) != 0 && errno != EINTR ? errno : 0;
 }
 
@@ -51,7 +51,7 @@ int WriteAll(int number, std::string_view bytes) {
         if (count > 0)
             bytes.remove_prefix(static_cast<std::size_t>(count));
         else if (count == 0)
-            return EIO; // no progress and no error: asking again could go on for ever
+            return EIO; // no progress and no error: repeating the call could loop forever
         else if (errno != EINTR)
             return errno;
     }

@@ -8,14 +8,14 @@
 #include <fcntl.h>
 #include <sys/types.h>
 
-// System calls on file descriptors with their errors. Every error is an errno; 0 is none. A call that a
-// signal interrupts is made again.
+// System calls on file descriptors. Errors are errno values, 0 for success. A call that a signal interrupts
+// is repeated.
 namespace Ledgrove {
 
-/// A file descriptor that is closed at the latest when it leaves its scope.
+/// Owns a file descriptor and closes it at the end of its scope.
 class Descriptor {
 public:
-    /// `mode` counts for a file that is made.
+    /// `mode` only matters if the call creates the file.
     Descriptor(const std::filesystem::path& path, int flags, mode_t mode = 0);
     ~Descriptor() { Close(); }
     Descriptor(const Descriptor&) = delete;
@@ -23,10 +23,10 @@ public:
 
     bool IsOpen() const { return m_number >= 0; }
     int Number() const { return m_number; }
-    /// Why it is not open.
+    /// The error of the call that opened the file, 0 if it succeeded.
     int OpenError() const { return m_openError; }
 
-    /// What was written may get lost even here.
+    /// Returns the error: some file systems report a failed write only when the file is closed.
     int Close();
 
 private:
@@ -34,23 +34,23 @@ private:
     int m_openError;
 };
 
-/// What one read gave: the number of bytes, 0 at the end and after an error.
+/// The result of one read. `Bytes` is 0 at the end of the input and after an error.
 struct ReadCount {
     std::size_t Bytes = 0;
     int Error = 0;
 };
 
-/// Reads at most `size` bytes into `buffer`, as many as there are now.
+/// Reads up to `size` bytes into `buffer`. Returns as soon as any bytes are available.
 ReadCount ReadSome(int number, char* buffer, std::size_t size);
 
-/// Appends all that can be read to `bytes`. More than `most` bytes are EFBIG.
+/// Appends the rest of the input to `bytes`. Fails with EFBIG once `bytes` holds more than `most` bytes.
 int ReadAll(int number, std::string& bytes, std::size_t most);
 
-/// Writes all of `bytes`, in as many steps as the system takes. A step that writes nothing and gives no error
-/// is EIO.
+/// Writes all of `bytes`, in several steps if necessary. Fails with EIO if a step writes nothing and reports
+/// no error.
 int WriteAll(int number, std::string_view bytes);
 
-/// Brings what was written, or a folder's entries, to the disk.
+/// Flushes a file's data or a folder's entries to the disk.
 int Sync(int number);
 
 } // namespace Ledgrove

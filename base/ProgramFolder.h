@@ -4,8 +4,8 @@
 
 namespace Ledgrove {
 
-/// The folder of the running executable, where its settings and pictures lie. The current folder where the
-/// system does not say; empty where that is gone, too.
+/// The folder of the running executable, which holds its settings and pictures. If the system does not report
+/// it, the current folder; empty if that folder no longer exists.
 std::filesystem::path ProgramFolder();
 
 } // namespace Ledgrove

@@ -4,7 +4,7 @@
 
 namespace Ledgrove {
 
-/// The system's words for an error; `error` is an errno.
+/// The system's message for `error`, an errno value.
 std::string Describe(int error);
 
 } // namespace Ledgrove

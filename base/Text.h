@@ -6,10 +6,10 @@
 
 namespace Ledgrove {
 
-/// Without the leading and trailing characters that `blanks` holds.
+/// The text without leading and trailing characters from `blanks`.
 constexpr std::string_view Trimmed(std::string_view text, std::string_view blanks = " ") {
-    // Every field of every comparison comes through here: a loop over two characters costs less than the
-    // library's search.
+    // Every field of every comparison is trimmed here. For one or two blank characters this loop is faster
+    // than the library's search.
     const auto isBlank = [blanks](char c) {
         for (const char blank : blanks) {
             if (c == blank)
@@ -24,17 +24,17 @@ constexpr std::string_view Trimmed(std::string_view text, std::string_view blank
     return text;
 }
 
-/// Whether the text is empty or made of the characters in `blanks` alone.
+/// Whether the text is empty or holds only characters from `blanks`.
 constexpr bool IsBlank(std::string_view text, std::string_view blanks = " ") {
     return Trimmed(text, blanks).empty();
 }
 
-/// Whether this byte of a UTF-8 text begins a character, and does not go on with one.
+/// Whether this byte of a UTF-8 text is the first byte of a character.
 constexpr bool BeginsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
 
-/// The number of characters of a UTF-8 text: how many places it takes in a column.
+/// The number of characters in a UTF-8 text, which is its width in a text column.
 constexpr std::size_t CharacterCount(std::string_view text) {
     std::size_t count = 0;
     for (const char byte : text)
@@ -42,7 +42,7 @@ constexpr std::size_t CharacterCount(std::string_view text) {
     return count;
 }
 
-/// The text in double quotes, as a sentence names a file or a key. What it holds stays as it is.
+/// The text in double quotes, for file names and keys in messages. Quotes inside the text are not escaped.
 std::string Quoted(std::string_view text);
 
 } // namespace Ledgrove
