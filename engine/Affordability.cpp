@@ -9,7 +9,7 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-/// What the steps of one home's affordability work on.
+/// The arguments that all steps of one home's affordability share.
 struct QualifyingSteps {
     const Rules& By;
     const Scenario& Buyer;
@@ -24,8 +24,8 @@ struct AllowanceLimits {
     float Least, Most;
 };
 
-/// 5 % of the base home's price within the program's limits; an option without an allowance leaves the last
-/// one in place.
+/// The allowance is 5 % of the base home's price, within the limits of the option. An option without an
+/// allowance keeps the last value.
 void SetEEMAllowance(Results& results, MortgageOption option) {
     if (BenefitOf(option) != EEMBenefit::FinancedUpgrade)
         return;
@@ -43,7 +43,7 @@ void SetEEMAllowance(Results& results, MortgageOption option) {
     }
 }
 
-/// The smaller of the two payments.
+/// The smaller of the payments that the two ratios allow, per month.
 float LimitedPayment(QualifyingSteps& steps, PaymentRule rule, double front, double back) {
     const float byFront = steps.Faults.Single(front);
     const float byBack = steps.Faults.Single(back);
@@ -59,7 +59,8 @@ float OrdinaryPayment(QualifyingSteps& steps, PaymentRule rule, float frontRatio
                               static_cast<double>(steps.Buyer.MonthlyDebt));
 }
 
-/// The first operand takes the whole monthly income, not its share: the EEM rule is applied so, on purpose.
+/// The front-end payment uses the whole monthly income instead of its front-ratio share. This is intended:
+/// the EEM rule is applied this way.
 float StretchedPayment(QualifyingSteps& steps) {
     const double income = static_cast<double>(steps.Buyer.AnnualIncome) / 12;
     const double savings = steps.Buyer.UtilitySavings;
@@ -69,7 +70,7 @@ float StretchedPayment(QualifyingSteps& steps) {
                               static_cast<double>(steps.Buyer.MonthlyDebt));
 }
 
-/// The loan that the largest payment carries after taxes, insurance and PMI.
+/// The loan that the largest payment repays after taxes, insurance and PMI.
 double LoanFromPayment(const QualifyingSteps& steps) {
     return PV(steps.Rate, steps.Periods,
               static_cast<double>(steps.Home.TIPMonthly) - static_cast<double>(steps.Home.MaxPayment));
@@ -80,7 +81,7 @@ void ComputeOrdinaryLoan(QualifyingSteps& steps) {
     steps.Home.MaxLoan = steps.Faults.Single(LoanFromPayment(steps));
 }
 
-/// The energy allowance adds at most the present value of the savings.
+/// The loan grows by the energy allowance or the present value of the savings, whichever is smaller.
 void ComputeAllowanceLoan(QualifyingSteps& steps) {
     HomeCase& home = steps.Home;
     const float allowance = steps.Buyer.EEMAllowance;
@@ -90,8 +91,8 @@ void ComputeAllowanceLoan(QualifyingSteps& steps) {
         steps.Faults.Single(LoanFromPayment(steps) + static_cast<double>(MinOf(home.PVSavings, allowance)));
 }
 
-/// The FHA and VA EEMs add the energy allowance when the savings are worth the upgrade and fall back to the
-/// plain option's ratios when they are not. The payment shown is the one that carries the whole loan.
+/// The FHA and VA EEMs add the energy allowance if the savings are worth the upgrade; otherwise they use the
+/// plain option's ratios. In both cases the payment shown is the one that repays the whole loan.
 void ComputeFinancedUpgrade(QualifyingSteps& steps, MortgageOption option, bool savingsPay) {
     HomeCase& home = steps.Home;
     if (savingsPay) {
@@ -108,7 +109,8 @@ void ComputeFinancedUpgrade(QualifyingSteps& steps, MortgageOption option, bool 
     home.MaxPayment = steps.Faults.Single(PMT(steps.Rate, steps.Periods, -static_cast<double>(home.MaxLoan)));
 }
 
-/// `option` is what the rules go by: the base home's options are plain ones, and an unknown one is plain too.
+/// `option` selects the rules. It is Conventional for the base home, whose options are all plain, and if no
+/// option is chosen.
 void ComputeMaximums(QualifyingSteps& steps, MortgageOption option) {
     HomeCase& home = steps.Home;
     const bool savingsPay = home.PVSavings >= steps.Buyer.CostDifference;
@@ -149,7 +151,7 @@ void ComputeAffordability(const Inputs& inputs, const Rules& rules, HomeCode cod
     if (arithmetic.Faulted())
         home.MaxPayment = home.MaxLoan = home.MaxHome = 0;
 
-    // The whole dollars as shown decide, and equal amounts do not qualify.
+    // Intended: this compares the whole dollars that are shown, and equal amounts do not qualify.
     (labelled ? results.GMHQualifies : results.StdQualifies) =
         ShownDollars(home.LoanAmount) < ShownDollars(home.MaxLoan);
 }

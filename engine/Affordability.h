@@ -6,10 +6,10 @@
 
 namespace Ledgrove::Module1 {
 
-/// Fills the largest payment, loan and home the buyer qualifies for under the home's option, and whether the
-/// buyer qualifies; for the labelled home also the energy allowance. Needs both home records complete.
-/// `inputs` gives the term and the option. A fault sets `MaxPayment`, `MaxLoan` and `MaxHome` to 0; the
-/// qualification then follows from these.
+/// Sets `MaxPayment` (dollars per month), `MaxLoan` and `MaxHome` (dollars) by the home's mortgage option,
+/// and whether the buyer qualifies; for the labelled home also the energy allowance (dollars). Both home
+/// records must be complete. `inputs` supplies the term and the option. A fault sets `MaxPayment`, `MaxLoan`
+/// and `MaxHome` to 0, and the qualification follows from these values.
 void ComputeAffordability(const Inputs& inputs, const Rules& rules, HomeCode code, Results& results);
 
 } // namespace Ledgrove::Module1

@@ -1,4 +1,5 @@
-// The two pictures of amounts that a comparison shows by the dozen, without the general way's detours.
+// Fast formatting for the two pictures that a comparison uses dozens of times. Amounts that need more care go
+// to FormatPicture.
 
 #include "engine/NumberText.h"
 
@@ -11,14 +12,14 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-/// A single that is further from its neighbours than a cent: at most two places tell it from them, and the
-/// fewest that do are its shortest decimal text.
+/// For a single whose neighbours are more than a cent away: at most two decimal places identify it, and its
+/// shortest decimal text is the one with the fewest places that do.
 std::optional<std::int64_t> CentsFromFewestPlaces(double magnitude) {
     constexpr std::int64_t tens[] = {1, 10, 100};
     for (int places = 0; places <= 2; ++places) {
         const auto scale = static_cast<double>(tens[places]);
         const double scaled = magnitude * scale;
-        // Two texts are equally near: the general way knows which one is taken.
+        // Two texts are equally near: FormatPicture decides between them.
         if (scaled - std::floor(scaled) == 0.5)
             return std::nullopt;
         const auto digits = static_cast<std::int64_t>(scaled + 0.5);
@@ -28,8 +29,7 @@ std::optional<std::int64_t> CentsFromFewestPlaces(double magnitude) {
     return std::nullopt;
 }
 
-/// The amount of a single in whole cents, where that is clear without the single's decimal digits; empty
-/// otherwise.
+/// The amount of a single in whole cents; empty if that depends on the single's exact decimal digits.
 std::optional<std::int64_t> CentsClearly(double magnitude) {
     constexpr double singlesBeyondCents = 131072;
     constexpr double singlesAreWhole = 16777216;
@@ -40,8 +40,8 @@ std::optional<std::int64_t> CentsClearly(double magnitude) {
     const double scaled = magnitude * 100;
     const double whole = std::floor(scaled);
     const double fraction = scaled - whole;
-    // The shortest decimal text is nearer to the single than half of its last bit, so only that close to a
-    // half can the text round another way. Whole cents are their own text.
+    // The shortest decimal text differs from the single by less than half of its last bit. So only a value
+    // this close to half a cent can round differently as a text. Whole cents need no rounding.
     const double halfBit = scaled / singlesAreWhole + 1e-6;
     if (fraction != 0 && std::fabs(fraction - 0.5) <= halfBit)
         return std::nullopt;
@@ -57,9 +57,9 @@ std::string MoneyText(float amount) {
 }
 
 void MoneyText(float amount, std::string& text) {
-    // Below 2^22 a single holds every half dollar, so adding one half in double rounds exactly as the decimal
-    // text would. Every result label passes here at each recalculation; the general way costs five times as
-    // much.
+    // Below 2^22 a single represents every half dollar, so adding one half in double rounds exactly as the
+    // decimal text would. Every recalculation formats all result labels here, and FormatPicture takes five
+    // times as long.
     constexpr float halvesAreExact = 4194304.0F;
     if (!std::isfinite(amount)) {
         text = "FormatError";

@@ -6,19 +6,20 @@
 
 namespace Ledgrove {
 
-/// Carries the first fault of a calculation from the step that made it to the place that says what follows.
-/// Floating point raises nothing by itself, so the steps that can fault go through here.
+/// Records the first fault of a calculation, so that the caller can handle it once at the end. Floating-point
+/// arithmetic raises no errors, so every step that can fault goes through this class.
 class Arithmetic {
 public:
     bool Faulted() const { return m_fault != Fault::None; }
     Fault What() const { return m_fault; }
 
+    /// Records the fault, unless an earlier one is recorded.
     void Fail(Fault fault) {
         if (!Faulted())
             m_fault = fault;
     }
 
-    /// `dividend` / `divisor`; a divisor of 0 is the fault `whenZero` and gives 0.
+    /// `dividend` / `divisor`. If the divisor is 0, records the fault `whenZero` and returns 0.
     double Quotient(double dividend, double divisor, Fault whenZero) {
         if (divisor == 0) {
             Fail(whenZero);
@@ -27,8 +28,8 @@ public:
         return dividend / divisor;
     }
 
-    /// The rounding of a result to single precision, done once, when it is stored. A result that is not
-    /// finite or beyond single precision is a fault and gives 0.
+    /// Rounds a result to single precision; call it once, when the result is stored. If the result is not
+    /// finite or exceeds single precision, records OutOfRange and returns 0.
     float Single(double value) {
         const auto single = static_cast<float>(value);
         if (std::isfinite(single))

@@ -10,7 +10,7 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-/// The interest part of the payment in the middle month of the loan.
+/// The interest in the payment in the middle month of the loan. The tax savings use it for every month.
 double MiddleInterest(const HomeCase& home, double periods) {
     return IPMT(static_cast<double>(home.IntRate) / 12, periods / 2, periods,
                 -static_cast<double>(home.LoanAmount));
@@ -19,7 +19,7 @@ double MiddleInterest(const HomeCase& home, double periods) {
 float TaxSavingsOf(const Results& results, double periods, Arithmetic& arithmetic) {
     const double extraInterest =
         MiddleInterest(results.GMHCase, periods) - MiddleInterest(results.StdCase, periods);
-    // Whoever stays longer than the mortgage runs has years without interest to deduct.
+    // A buyer who stays longer than the mortgage term has years without interest to deduct.
     const double share = results.Decisions.StaysBeyondTerm ? 0.75 : 1.0;
     return arithmetic.Single(extraInterest * static_cast<double>(results.Scenario.MarginalTaxRate) * share);
 }

@@ -46,7 +46,7 @@ void StartScenario(const Inputs& inputs, const Rules& rules, Results& results) {
     scenario.DownAsPercent = inputs.DownAsPercent;
     scenario.YearsInHome = rules.Assumptions.YearsInHome;
     scenario.CostDifference = Difference(inputs.GMH.Cost, inputs.Std.Cost);
-    // The labelled home's rules need the savings before the cash flow computes them again.
+    // The labelled home's rules need the savings before the cash flow computes them.
     scenario.UtilitySavings = Difference(results.StdCase.UtilMonthly, results.GMHCase.UtilMonthly);
 }
 
@@ -60,8 +60,8 @@ Results Evaluate(const Inputs& inputs, const Rules& rules, Carried& carried) {
     results.Scenario.EEMAllowance = carried.EEMAllowance;
     results.Scenario.EEMNoticeFlag = carried.EEMNoticeFlag;
     StartScenario(inputs, rules, results);
-    // The order matters: the labelled home's down payment and notice need the base home's price and the
-    // savings, either home's affordability needs both records complete, and the cash flow needs both PITIs.
+    // The order matters: affordability needs the records of both homes, and the cash flow needs the PITI of
+    // both.
     ComputeHomeCase(inputs, rules, HomeCode::Std, results);
     ComputeHomeCase(inputs, rules, HomeCode::GMH, results);
     ComputeAffordability(inputs, rules, HomeCode::Std, results);

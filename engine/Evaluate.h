@@ -6,9 +6,9 @@
 
 namespace Ledgrove::Module1 {
 
-/// Computes a whole comparison. It reads its arguments alone, writes `carried` alone and asks for no memory,
-/// so any number of threads may evaluate at once with a `Carried` of their own. `inputs` and `rules` may hold
-/// any finite numbers; a fault of a home clears that home's figures and stands in the decisions.
+/// Computes a whole comparison. It reads only its arguments, writes only `carried` and allocates no memory,
+/// so threads may call it at the same time, each with its own `Carried`. `inputs` and `rules` may hold any
+/// finite numbers. A fault sets the affected figures to 0 and is recorded in the decisions.
 Results Evaluate(const Inputs& inputs, const Rules& rules, Carried& carried);
 
 } // namespace Ledgrove::Module1

@@ -7,13 +7,12 @@
 #include <span>
 #include <string_view>
 
-// Every figure of the records by name, in the order of the records: whatever lists figures goes by this
-// table.
+// Every figure of the records by name, in the order of the records. All lists of figures use this table.
 namespace Ledgrove {
 
 enum class FigureUnit : std::uint8_t { Dollars, DollarsPerMonth, DollarsPerYear, Fraction, FractionPerYear };
 
-// One row a figure: its name and its unit.
+// One row per figure: its name and its unit.
 #define LEDGROVE_HOME_FIGURES(X)                                                                             \
     X(Cost, Dollars)                                                                                         \
     X(DownPayment, Dollars)                                                                                  \
@@ -64,7 +63,7 @@ enum class FigureUnit : std::uint8_t { Dollars, DollarsPerMonth, DollarsPerYear,
 #define LEDGROVE_STD_NAME(name, unit) Std##name,
 #define LEDGROVE_GMH_NAME(name, unit) GMH##name,
 #define LEDGROVE_OWN_NAME(name, unit) name,
-/// A home's figures have "Std" or "GMH" in front, as the names of the controls have.
+/// The figures of a home begin with "Std" or "GMH", like the names of the controls.
 enum class Figure : std::uint8_t {
     LEDGROVE_HOME_FIGURES(LEDGROVE_STD_NAME)
     LEDGROVE_HOME_FIGURES(LEDGROVE_GMH_NAME)
@@ -81,17 +80,18 @@ struct FigureEntry {
     Figure Id;
     FigureRecord Record;
     std::string_view Name;     ///< "Cost"
-    std::string_view FullName; ///< with its record in front, "StdCase.Cost"
+    std::string_view FullName; ///< with the name of its record, "StdCase.Cost"
     FigureUnit Unit;
     float (*Value)(const Records& records);
 };
 
-/// Every figure; the place of each is its enumerator.
+/// Every figure, in the order of `Figure`.
 std::span<const FigureEntry> FigureTable();
 
 /// The figures of one record.
 std::span<const FigureEntry> FiguresOf(FigureRecord record);
 
+/// The table's entry for a figure.
 inline const FigureEntry& EntryOf(Figure figure) {
     return FigureTable()[static_cast<std::size_t>(figure)];
 }

@@ -6,7 +6,7 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-/// 1 - (1 + rate)^-periods without losing the small rates' digits to the subtraction.
+/// 1 - (1 + rate)^-periods, computed without the cancellation that a subtraction causes at small rates.
 double DiscountShortfall(double rate, double periods) {
     return -std::expm1(-periods * std::log1p(rate));
 }
@@ -35,7 +35,8 @@ double UnpaidBalance(double rate, double paid, double periods, double presentVal
     const double left = periods - paid;
     if (rate == 0)
         return presentValue * (left / periods);
-    // What the payments still to come are worth, as a fraction of what all of them were worth.
+    // The balance is the present value of the remaining payments, here as a fraction of the value of all
+    // payments.
     return presentValue * (DiscountShortfall(rate, left) / DiscountShortfall(rate, periods));
 }
 

@@ -1,24 +1,25 @@
 #pragma once
 
-// Annuities with payments at the end of each period and no future (for FV: no present) value. `rate` is a
-// fraction per period; money paid out is negative, money received positive, so PV(rate, n, +1) is negative.
-// Arguments that have no result (no periods, a rate of -1 or below) give a value that is not finite; callers
-// test for it.
+// Annuities with payments at the end of each period and a future value of 0 (FV: a present value of 0).
+// `rate` is a fraction per period, so a yearly rate / 12 for monthly payments. Amounts are dollars: negative
+// if paid out, positive if received, so PV(rate, n, +1) is negative. Without a valid result (0 periods, a
+// rate of -1 or below) the returned value is not finite, and the caller must check for that.
 namespace Ledgrove::Module1 {
 
-/// What `periods` payments of `payment` are worth today.
+/// The present value of `periods` payments of `payment`.
 double PV(double rate, double periods, double payment);
 
-/// What `periods` payments of `payment` have grown to after the last one.
+/// The future value of `periods` payments of `payment`, right after the last one.
 double FV(double rate, double periods, double payment);
 
-/// The level payment that repays `presentValue` in `periods`.
+/// The constant payment per period that repays `presentValue` in `periods`.
 double PMT(double rate, double periods, double presentValue);
 
-/// What is still owed of `presentValue` after `paid` (0 to `periods`) such payments, with its sign.
+/// The part of `presentValue` that is still owed after `paid` (0 to `periods`) payments of PMT, with the sign
+/// of `presentValue`.
 double UnpaidBalance(double rate, double paid, double periods, double presentValue);
 
-/// The interest part of that payment in period `period` (1 to `periods`).
+/// The interest in the payment of period `period` (1 to `periods`).
 double IPMT(double rate, double period, double periods, double presentValue);
 
 } // namespace Ledgrove::Module1

@@ -17,8 +17,8 @@ struct Message {
     MessageButtons Buttons = MessageButtons::Ok;
 };
 
-/// The little that the core asks of the outside. The window shows message boxes, the command line collects
-/// them, tests script the answers.
+/// What the core needs from the program around it. The window shows message boxes, the command line collects
+/// the messages, and tests script the answers.
 class Host {
 public:
     virtual ~Host() = default;
@@ -26,7 +26,7 @@ public:
     /// Shows the message and waits for its answer.
     virtual MessageAnswer ShowMessage(const Message& message) = 0;
 
-    /// Lets queued user-interface events run, then comes back.
+    /// Processes pending user-interface events, then returns.
     virtual void RunPendingEvents() = 0;
 };
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-// What a comparison is computed from, as values. Amounts are dollars in single precision, rates fractions.
+// The input values of a comparison. Amounts are dollars in single precision, rates are fractions per year.
 namespace Ledgrove {
 
 struct HomeInputs {
@@ -13,7 +13,7 @@ struct HomeInputs {
     float UtilAnnual = 0;                 ///< utility bill per year
     float IntRate = 0;                    ///< per year
     float Stretch = 0;                    ///< mortgage stretch; no formula uses it
-    std::optional<MortgageOption> Option; ///< empty while none is chosen, which is a fault of the home
+    std::optional<MortgageOption> Option; ///< empty if none is chosen, which is a fault of the home
 
     bool operator==(const HomeInputs&) const = default;
 };
@@ -23,7 +23,7 @@ struct Inputs {
     float MonthlyDebt = 0;
     float PctDown = 0;         ///< fraction of the price
     float FixedDown = 0;       ///< dollars
-    bool DownAsPercent = true; ///< true: PctDown is in force, false: FixedDown
+    bool DownAsPercent = true; ///< true: PctDown applies, false: FixedDown
     bool IncludeTaxes = true;  ///< whether the shown figures include the income-tax savings
     std::int32_t TermYears = 0;
     HomeInputs Std; ///< the base home

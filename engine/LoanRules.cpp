@@ -8,7 +8,7 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-/// What the steps of one home's case work on.
+/// The arguments that all steps of one home's housing cost share.
 struct CaseSteps {
     const Inputs& In;
     const Rules& By;
@@ -44,24 +44,24 @@ float PresentValueOfSavings(CaseSteps& steps) {
         PV(rate / 12, years * 12, -static_cast<double>(steps.All.Scenario.UtilitySavings)));
 }
 
-/// The notice is due at most once per edit of the inputs that feed it.
+/// The notice appears at most once after each edit of the inputs that set the flag.
 void SpendNoticeFlag(Results& results, const LoanType& loanType) {
     if (!SpendsNoticeFlag(results, &loanType))
         return;
     results.Scenario.EEMNoticeFlag = false;
-    // Equality included, although such a buyer's savings do pay for the upgrade.
+    // Intended: the notice also appears if both are equal, although the savings then pay for the upgrade.
     results.NoticeApplies = results.GMHCase.PVSavings <= results.Scenario.CostDifference;
 }
 
-/// The FHA and VA EEMs finance the whole upgrade when the savings are worth it: the down payment is then
-/// taken on the base home's price.
+/// The FHA and VA EEMs finance the whole upgrade if the savings are worth it. The down payment is then a
+/// percentage of the base home's price.
 DownPaymentBase LabelledDownPaymentBase(const Results& results, MortgageOption option) {
     const bool upgradeFinanced = BenefitOf(option) == EEMBenefit::FinancedUpgrade &&
                                  results.GMHCase.PVSavings >= results.Scenario.CostDifference;
     return upgradeFinanced ? DownPaymentBase::BasePrice : DownPaymentBase::OwnPrice;
 }
 
-/// A down payment exactly on a band's edge falls in the cheaper band.
+/// A down payment exactly on an edge belongs to the cheaper band.
 PMIBand BandOf(float downFraction) {
     if (downFraction < 0.05F)
         return PMIBand::Below5;
@@ -72,7 +72,7 @@ PMIBand BandOf(float downFraction) {
     return downFraction < 0.20F ? PMIBand::Below20 : PMIBand::NoPMI;
 }
 
-/// Annual PMI as a fraction of the loan.
+/// The annual PMI premium as a fraction of the loan.
 float PMIMultiplier(const AssumptionSet& assumptions, PMIBand band) {
     switch (band) {
     case PMIBand::Below5:
@@ -94,7 +94,7 @@ float DownFraction(CaseSteps& steps) {
     const Scenario& scenario = steps.All.Scenario;
     if (scenario.DownAsPercent)
         return scenario.PctDown;
-    // The base home's price for both homes, on purpose.
+    // Intended: both homes use the base home's price.
     return steps.Faults.Single(
         steps.Faults.Quotient(scenario.FixedDown, steps.All.StdCase.Cost, Fault::ZeroBasePrice));
 }
@@ -139,7 +139,7 @@ void ComputeIncomeNeeded(CaseSteps& steps, HomeCode code) {
         front = byRatio(piti, home.FrontRatio) * 12;
         back = byRatio(debt + piti, home.BackRatio) * 12;
     } else {
-        // Only the savings are divided by the front ratio, on purpose.
+        // Intended: only the savings are divided by the front ratio.
         front = (piti - byRatio(savings, home.FrontRatio)) * 12;
         back = byRatio(debt + piti - savings, home.BackRatio) * 12;
     }
@@ -160,7 +160,7 @@ void ComputeCase(CaseSteps& steps, HomeCode code) {
     auto percentOf = DownPaymentBase::OwnPrice;
     if (labelled) {
         home.PVSavings = PresentValueOfSavings(steps);
-        // A fault abandons the rest, and the rest may spend the notice flag.
+        // After a fault, the notice flag must stay as it is.
         if (steps.Faults.Faulted())
             return;
         SpendNoticeFlag(steps.All, *loanType);

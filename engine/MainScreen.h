@@ -8,18 +8,17 @@
 
 #include "engine/MortgageOption.h"
 
-// The main screen as plain data: one member per control, named as the control. The texts of the fields are
-// the only store of the inputs; the texts of the labels are what the tabs show, the report prints and a
-// script reads.
+// The main screen as plain data: one member per control, with the control's name. The inputs are stored only
+// as the texts of the fields. The tabs, the report and the command line all show the texts of the labels.
 namespace Ledgrove {
 
-/// `Normal` is the window's own text colour, readable on its background; black in reports and in JSON.
+/// `Normal` is the window's text colour, and black in reports and in JSON.
 enum class TextColour { Normal, Red, Grey };
 
 struct Field {
     std::string Text;
     TextColour Colour = TextColour::Normal;
-    bool SetsEEMNotice = false; ///< a change of this input can change EEM eligibility
+    bool SetsEEMNotice = false; ///< a change of this input can change the EEM eligibility
 
     static Field FeedingEEMRule() {
         Field field;
@@ -41,9 +40,9 @@ struct PickList {
         return HasSelection() ? Items[static_cast<std::size_t>(Selected)].Text : "";
     }
     int Code() const { return HasSelection() ? Items[static_cast<std::size_t>(Selected)].Code : 0; }
-    /// The chosen mortgage option; empty when none is chosen.
+    /// The chosen mortgage option; empty if none is chosen.
     std::optional<MortgageOption> Option() const { return OptionOfCode(Code()); }
-    /// The index of the item with exactly this text, -1 when there is none.
+    /// The index of the item with exactly this text, -1 if there is none.
     int IndexOf(std::string_view text) const;
 
 private:
@@ -69,7 +68,7 @@ struct MainScreen {
     int optDownPayment = 0; ///< 0: "% Down", 1: "or Fixed $"
     bool chkDoTax0 = true;
     bool PctDownConverted =
-        false; ///< the percent text was made from a dollar amount and is not converted again
+        false; ///< the percent text was computed from a dollar amount and is not converted again
 
     int SSTab1 = 0; ///< the selected tab
     std::array<bool, TabCount> DetlFrame{true, false, false, false,
@@ -78,7 +77,7 @@ struct MainScreen {
 
     Label lblHomeName;
 
-    // Affordability, and the Summary figures written with it
+    // Affordability, and the Summary figures of each home
     Label lblStdPITI, lblStdMortPayment, lblStdUtilMo, lblStdHome, lblStdDown, lblstddown2;
     Label lblStdMortgage, lblStdMort, lblStdInc, lblStdMaxHome, lblStdQual;
     Label lblGMHPITI, lblGMHMortPayment, lblGMHUtilMo, lblGMHHome, lblgmhDown, lblgmhdown2;
@@ -107,19 +106,19 @@ struct ControlEntry {
     Control MainScreen::*Member;
 };
 
-/// Every edit field of the main screen by name, the input fields first and in tab order.
+/// Every edit field of the main screen by name; the input fields come first, in tab order.
 std::span<const ControlEntry<Field>> FieldTable();
 
 /// Every pick list by name.
 std::span<const ControlEntry<PickList>> PickListTable();
 
-/// Every label that the program writes, by name: the result labels, then `lblHomeName`.
+/// Every label that changes, by name: the result labels, then `lblHomeName`.
 std::span<const ControlEntry<Label>> LabelTable();
 
-/// The name of a label of the table.
+/// The name of a label in this table.
 std::string_view LabelName(Label MainScreen::*label);
 
-/// The labels that a recalculation writes, which are all but `lblHomeName`.
+/// The labels that a recalculation writes: all except `lblHomeName`.
 std::span<const ControlEntry<Label>> ResultLabelTable();
 
 /// The term items, "10 years" to "40 years".
@@ -128,7 +127,7 @@ std::span<const PickItem> TermItems();
 /// The base home's mortgage options.
 std::span<const PickItem> BaseOptionItems();
 
-/// The labelled home's mortgage options that go with a base option; none without one.
+/// The labelled home's mortgage options for a base option; empty without one.
 std::span<const PickItem> LabelledOptionItems(std::optional<MortgageOption> base);
 
 } // namespace Ledgrove

@@ -4,29 +4,30 @@
 
 namespace Ledgrove {
 
-/// The seven mortgage options. The number of an option is its pick-list code and its row in the loan-type
+/// The seven mortgage options. Their numbers are the codes of the pick lists and the rows of the loan-type
 /// table, counted from 1.
 enum class MortgageOption { Conventional = 1, FannieMaeEEM, FreddieMacEEM, FHA, FHAEEM, VA, VAEEM };
 
-/// What an energy-efficient mortgage (EEM) does with savings that are worth the upgrade.
+/// How an energy-efficient mortgage (EEM) counts savings that are worth the upgrade.
 enum class EEMBenefit {
     None,
     StretchedPayment, ///< they raise the payment that the buyer qualifies for
-    FinancedUpgrade   ///< the upgrade needs no down payment of its own, and an allowance raises the largest
-                      ///< loan
+    FinancedUpgrade   ///< the upgrade needs no down payment, and an allowance raises the largest loan
 };
 
+/// The option's pick-list code, 1 to 7.
 constexpr int CodeOf(MortgageOption option) {
     return static_cast<int>(option);
 }
 
-/// The option with this pick-list code, nothing for a code that no option has.
+/// The option with this pick-list code; empty for an unknown code.
 constexpr std::optional<MortgageOption> OptionOfCode(int code) {
     if (code < CodeOf(MortgageOption::Conventional) || code > CodeOf(MortgageOption::VAEEM))
         return std::nullopt;
     return static_cast<MortgageOption>(code);
 }
 
+/// How the option counts savings that are worth the upgrade.
 constexpr EEMBenefit BenefitOf(MortgageOption option) {
     switch (option) {
     case MortgageOption::FannieMaeEEM:
@@ -43,7 +44,7 @@ constexpr EEMBenefit BenefitOf(MortgageOption option) {
     return EEMBenefit::None;
 }
 
-/// The option without energy savings of the same group; a plain option is its own.
+/// The option of the same group that is not an EEM; a plain option is its own partner.
 constexpr MortgageOption PlainPartner(MortgageOption option) {
     switch (option) {
     case MortgageOption::FHA:

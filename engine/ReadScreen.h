@@ -5,8 +5,8 @@
 
 namespace Ledgrove::Module1 {
 
-/// What the fields, pick lists and options of the main screen say. An empty or unreadable field counts as 0;
-/// the term is `xMortTerm`.
+/// Reads the inputs from the controls of the main screen: amounts in dollars, percentages as fractions. An
+/// empty field, or one that is not a number, counts as 0. The term is `xMortTerm`.
 Inputs ReadInputs(const MainScreen& screen);
 
 } // namespace Ledgrove::Module1

@@ -76,7 +76,7 @@ void ShowPanel4(MainScreen& screen) {
 
 void RefreshFeatureCaptions(Session& session) {
     const Scenario& scenario = session.Scenario;
-    // Only the first text is looked at, whatever the second holds, on purpose.
+    // Intended: only the first text is checked, whatever the second one holds.
     const bool nothingToShow =
         IsBlank(session.Features.Feature1) || (scenario.PVNetBeforeTax == 0 && scenario.PVNetCashFlow == 0);
     session.Screen.lblfeature1.Text = nothingToShow ? "" : session.Features.Feature1;

@@ -20,10 +20,10 @@ struct Records {
     bool operator==(const Records&) const = default;
 };
 
-/// All that an evaluation gives.
+/// The results of an evaluation.
 struct Results : Records {
-    std::optional<Inputs> From; ///< what they were computed from; empty before the first evaluation, and when
-                                ///< a table of the rules was loaded since
+    std::optional<Inputs> From; ///< the inputs of these results; empty before the first evaluation and after
+                                ///< a table of the rules was reloaded
     bool StdQualifies = false;
     bool GMHQualifies = false;
     bool NoticeApplies = false; ///< the EEM notice is due
@@ -34,19 +34,20 @@ struct Results : Records {
     bool operator==(const Results&) const = default;
 };
 
-/// What outlives an evaluation, by design.
+/// The state that one evaluation passes on to the next, by design.
 struct Carried {
     struct Ratios {
         float Front = 0;
         float Back = 0;
     };
 
-    float EEMAllowance = 0; ///< stays when an option sets none
+    float EEMAllowance = 0; ///< stays if the option sets none
     bool EEMNoticeFlag = false;
-    Ratios Std; ///< stay when the home's loan type is missing
+    Ratios Std; ///< fractions; stay if the home's loan type is missing
     Ratios GMH;
 };
 
+/// The state that these records pass on to the next evaluation.
 Carried CarriedBy(const Records& records);
 
 } // namespace Ledgrove

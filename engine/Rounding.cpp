@@ -9,7 +9,7 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-/// The double nearest to the decimal number that `value` is at `digits` significant digits.
+/// `value` rounded to `digits` significant decimal digits.
 double AtSignificantDigits(double value, int digits) {
     std::array<char, 40> text;
     char* const first = text.data();
@@ -19,7 +19,7 @@ double AtSignificantDigits(double value, int digits) {
     return value;
 }
 
-/// The same for seven digits.
+/// `value` rounded to seven significant decimal digits, without a text where possible.
 double AtSevenDigits(double value) {
     constexpr double smallest = 1e-3;
     constexpr double largest = 1e7;
@@ -31,29 +31,29 @@ double AtSevenDigits(double value) {
         scale /= 10;
     for (double power = 1; magnitude < power; power /= 10)
         scale *= 10;
-    // The 24 bits of a single times a power of ten up to 10^9 are exact, and so is the decimal point's place.
+    // The product is exact: a single has 24 bits, and the scale is a power of ten up to 10^9.
     return std::nearbyint(value * scale) / scale;
 }
 
 } // namespace
 
 float ShownDollars(float amount) {
-    // From here on singles are whole numbers.
+    // From this value on, all singles are whole numbers.
     constexpr float wholeFrom = 8388608;
     if (!std::isfinite(amount))
         return 0;
-    // Below it, halves are singles of their own, and half a dollar more is exact in double.
+    // Below it, singles represent every half dollar, so std::round rounds exactly.
     return std::fabs(amount) < wholeFrom ? std::round(amount) : amount;
 }
 
 double WholeDollarsFromCents(double amount) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    // From here on fifteen digits, at which amounts are written, no longer hold the cents.
+    // Amounts are written with 15 digits. From this value on, these no longer include the cents.
     constexpr double centsEnd = 1e13;
     double cents = std::nearbyint(amount * 100) / 100;
     if (std::fabs(cents) >= centsEnd)
         cents = AtSignificantDigits(cents, 15);
-    // Zero has no sign.
+    // Adding 0 turns -0 into 0.
     const double dollars = std::round(cents) + 0.0;
     return std::isfinite(static_cast<float>(dollars)) ? dollars : infinity;
 }

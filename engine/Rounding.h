@@ -1,21 +1,21 @@
 #pragma once
 
-// The roundings that the rules prescribe by way of a text, done on the numbers. Each agrees with its text for
-// every value.
+// The rules define these roundings by formatting a number and reading the text back. The functions compute
+// the same results from the numbers, for every value.
 namespace Ledgrove::Module1 {
 
-/// An amount as MoneyText shows it, read back: whole dollars, halves away from zero.
+/// An amount in dollars as MoneyText shows it: whole dollars, halves away from zero.
 ///     0.49 -> 0     0.5 -> 1     -2.5 -> -3     8388607.5 -> 8388608     1e30 -> 1e30
-/// An amount that is not finite gives 0.
+/// If the amount is not finite, returns 0.
 float ShownDollars(float amount);
 
-/// An amount rounded to cents, halves to even, and then to whole dollars, halves away from zero.
+/// An amount in dollars, rounded to cents (halves to even) and then to whole dollars (halves away from zero).
 ///     100.494 -> 100     100.495 -> 101 (100.50)     100.505 -> 101     -0.2 -> 0
-/// An amount beyond single precision, or not finite, gives infinity.
+/// If the amount is not finite or exceeds single precision, returns infinity.
 double WholeDollarsFromCents(double amount);
 
-/// A percentage as a fraction, taken at its decimal text of 7 significant digits, so that it is what a person
-/// would have typed.
+/// Converts a percentage to a fraction. It rounds the percentage to 7 significant digits first, because a
+/// person typed it as a decimal number.
 ///     1.5 -> 0.015     0.9 -> 0.009     39.6 -> 0.396     -0 -> 0
 float AsTyped(float percent);
 

@@ -7,7 +7,7 @@
 
 namespace Ledgrove {
 
-/// What the settings file says a comparison is computed by.
+/// The parts of the settings file that a comparison uses.
 struct Rules {
     AssumptionSet Assumptions;
     LoanTypeList LoanTypes;
@@ -18,7 +18,7 @@ struct Rules {
 
 namespace Ledgrove::Module1 {
 
-/// The loan type of an option, nullptr without an option or when the table has no such row.
+/// The loan type of an option; nullptr without an option or if the table has no row for it.
 const LoanType* FindLoanType(const LoanTypeList& loanTypes, std::optional<MortgageOption> option);
 
 } // namespace Ledgrove::Module1

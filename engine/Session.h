@@ -9,25 +9,25 @@
 
 namespace Ledgrove {
 
-/// The report header as the print options dialog holds it for the run.
+/// The report header, as set in the print options dialog.
 struct ReportHeader {
     std::string BuilderName;
-    std::string HomeBuyer;                           ///< kept for the run only
-    std::string LogoFile = "Full Path To Logo File"; ///< full path; as here while none was ever named
+    std::string HomeBuyer;                           ///< not saved
+    std::string LogoFile = "Full Path To Logo File"; ///< full path; this text until a logo is chosen
 };
 
-/// The whole state of the program in one value: the results of the last recalculation, the rules it went by,
-/// and what the windows hold.
+/// The whole state of the program: the results of the last recalculation, the rules, and the contents of the
+/// windows.
 struct Session : Results, Rules {
     FeatureTexts Features;
-    std::filesystem::path Folder; ///< the program's folder, where its settings, help and pictures lie
+    std::filesystem::path Folder; ///< the program's folder, which holds its settings, help and pictures
     std::string HelpFile;         ///< file name, "" for none
     ReportHeader Header;
-    House ChosenHouse; ///< the house scenario last copied to the screen; its amounts tell when a house is
-                       ///< "Custom"
+    House ChosenHouse; ///< the house scenario last copied to the screen; other amounts on the screen make the
+                       ///< house "Custom"
     MainScreen Screen;
 
-    /// The main screen's emblem, which the report shows too: a picture file beside the program.
+    /// The picture file of the emblem on the main screen and in the report.
     std::filesystem::path EmblemFile() const { return Folder / "LedgroveEmblem.png"; }
 };
 

@@ -36,7 +36,7 @@ void ShowAmount(Label& label, float amount) {
 
 struct CashFlowLine {
     Label &Caption, &Monthly, &Annual;
-    const char *WhenSaved, *WhenPaid; ///< the caption for v >= 0 and for v < 0
+    const char *WhenSaved, *WhenPaid; ///< the captions for a value >= 0 and for a value < 0
 };
 
 void ShowLine(const CashFlowLine& line, float value) {
@@ -72,7 +72,7 @@ void ShowMoreHomePanel(MainScreen& screen, const Results& results, bool withTaxe
     const Scenario& scenario = results.Scenario;
     const float monthly = withTaxes ? scenario.NetMonthlyCashFlow : scenario.NetBeforeTax;
     const float today = withTaxes ? scenario.PVNetCashFlow : scenario.PVNetBeforeTax;
-    // The same monthly housing budget for both homes, on purpose.
+    // Intended: both homes show the same monthly housing budget.
     MoneyText(results.StdCase.PITIU, screen.lblMonthlyHCStd.Text);
     MoneyText(results.StdCase.PITIU, screen.lblMonthlyHCGM.Text);
     MoneyText(results.StdCase.Cost, screen.lblHouseValueStd.Text);
@@ -94,14 +94,14 @@ void ShowSummaryPanel(MainScreen& screen, const Results& results, bool withTaxes
     ShowAmount(screen.lbltaxsavmo2, tax);
     screen.lblTaxSavmo2Text.Visible = screen.lbltaxsavmo2.Visible = withTaxes;
 
-    // The labelled home's payment is shown after its tax savings, so that the two payments differ by the cash
-    // flow.
+    // The tax savings are subtracted from the labelled home's payment, so that the two payments differ by the
+    // cash flow.
     MoneyText(results.StdCase.PITIU, screen.lblStdPITIU.Text);
     MoneyText(Sum(results.GMHCase.PITIU, -tax), screen.lblGMHPITIU.Text);
     MoneyText(withTaxes ? scenario.NetMonthlyCashFlow : scenario.NetBeforeTax, screen.lblNetCashMo2.Text);
 
     MoneyText(scenario.SavingsAfterYearsInHome, screen.lblExpYrPre.Text);
-    // Its colour follows the savings after 7 years, whatever the years in the home, on purpose.
+    // Intended: the colour depends on the savings after 7 years, whatever the number of years in the home.
     screen.lblExpYrPre.Colour = scenario.SavingsAfter7Years < 0 ? TextColour::Red : TextColour::Normal;
     MoneyText(scenario.SavingsAfter30Years, screen.lbl30YrPre.Text);
     screen.lblTerm.Text = "30 Years";

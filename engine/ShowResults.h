@@ -5,14 +5,14 @@
 
 namespace Ledgrove::Module1 {
 
-/// Writes every result label of the main screen. The tax box and the labelled home's option are those of
-/// `screen`.
+/// Writes every result label of the main screen, with amounts in whole dollars. Reads the tax box and the
+/// labelled home's option from `screen`.
 void ShowResults(const Results& results, MainScreen& screen);
 
-/// The labels of the Affordability panel, and the Summary's figures of each home.
+/// Writes the labels of the Affordability panel and the Summary figures of each home.
 void ShowAffordabilityResults(const Results& results, MainScreen& screen);
 
-/// The labels of the Cash Flow and More Home panels, and the Summary's savings.
+/// Writes the labels of the Cash Flow and More Home panels and the savings on the Summary panel.
 void ShowCashFlowResults(const Results& results, MainScreen& screen);
 
 } // namespace Ledgrove::Module1

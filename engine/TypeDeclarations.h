@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-// The records that several areas share. Amounts are dollars in single precision, rounded once when stored;
+// The records that several layers share. Amounts are dollars in single precision, rounded once when stored;
 // rates are fractions (0.075 is 7.5 %) unless a comment says percent.
 namespace Ledgrove {
 
 enum class HomeCode { Std, GMH };
 
-/// One of the two compared homes. `StdCase` is the base home, `GMHCase` the energy-efficiency-labelled one.
+/// One of the two homes. `StdCase` is the base home, `GMHCase` the energy-efficiency-labelled one.
 struct HomeCase {
     float Cost = 0; ///< sticker price
     float DownPayment = 0;
@@ -45,14 +45,14 @@ struct Scenario {
     float PctDown = 0; ///< fraction
     float FixedDown = 0;
     float CostDifference = 0;    ///< labelled price less base price, as typed
-    float ClosingCostAdjust = 0; ///< always 0: cleared by every recalculation and set nowhere
+    float ClosingCostAdjust = 0; ///< always 0, because nothing sets it
     float EEMAllowance = 0;      ///< FHA or VA energy allowance; keeps its last value, by design
     float MortgageSavings = 0;   ///< negative when the labelled home costs more
     float UtilitySavings = 0;
     float TaxSavings = 0;
     float ShownTaxSavings = 0; ///< TaxSavings, or 0 while the tax box is not checked
     float NetBeforeTax = 0;
-    float NetMonthlyCashFlow = 0; ///< with TaxSavings, whatever the tax box says
+    float NetMonthlyCashFlow = 0; ///< includes TaxSavings even if the tax box is not checked
     float ExtraCashToday = 0;
     float PriceDifference = 0;
     float PVNetBeforeTax = 0;
@@ -60,15 +60,16 @@ struct Scenario {
     float SavingsAfter7Years = 0;
     float SavingsAfterYearsInHome = 0;
     float SavingsAfter30Years = 0;
-    bool DownAsPercent = true;    ///< true: the percent field is in force, false: the fixed amount
-    bool EEMNoticeFlag = false;   ///< set by edits that can change EEM eligibility, cleared by the notice
-    std::int16_t YearsInHome = 0; ///< the assumption that the results were computed with
+    bool DownAsPercent = true; ///< true: the percent field applies, false: the fixed amount
+    bool EEMNoticeFlag =
+        false; ///< set by edits that can change the EEM eligibility, cleared when an evaluation checks it
+    std::int16_t YearsInHome = 0; ///< the assumption used for the results
 
     bool operator==(const Scenario&) const = default;
 };
 
-/// The financial assumptions. There are no built-in defaults: everything is 0 until the settings file says
-/// more.
+/// The financial assumptions. There are no built-in defaults: a value is 0 until it is read from the settings
+/// file.
 struct AssumptionSet {
     float RealEstateTaxPct = 0; ///< percent of the price per year
     float InsurancePct = 0;     ///< percent of the price per year
@@ -82,7 +83,7 @@ struct AssumptionSet {
     float PMIMult4 = 0; ///< below 20 % down
 };
 
-/// One `LOANTYPE` line. The texts 3, 6, 7 and 8 are carried through and used by no computation.
+/// One `LOANTYPE` line. The texts 3, 6, 7 and 8 are only kept for saving; no computation uses them.
 struct LoanType {
     std::int16_t Number = 0;
     std::string Name;
@@ -95,10 +96,11 @@ struct LoanType {
     bool IsEEM = false;
 };
 
-/// The loan types in file order. A pick-list code k names the k-th record, counted from 1.
+/// The loan types in file order. The pick-list code k selects the k-th record, counted from 1.
 using LoanTypeList = std::vector<LoanType>;
 
-/// One income tax bracket. It applies to incomes above LowEnd up to and including HighEnd.
+/// One income tax bracket, in dollars per year. It applies to incomes above LowEnd, up to and including
+/// HighEnd.
 struct TaxBracket {
     float LowEnd = -1;
     float HighEnd = 0; ///< -1: no upper limit
