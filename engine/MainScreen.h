@@ -67,8 +67,7 @@ struct MainScreen {
     PickList cboMortTerm, cboStdMortOption, cboGMHMortOption;
     int optDownPayment = 0; ///< 0: "% Down", 1: "or Fixed $"
     bool chkDoTax0 = true;
-    bool PctDownConverted =
-        false; ///< the percent text was computed from a dollar amount and is not converted again
+    bool PctDownConverted = false; ///< the percent text came from a dollar amount; not converted again
 
     int SSTab1 = 0; ///< the selected tab
     std::array<bool, TabCount> DetlFrame{true, false, false, false,

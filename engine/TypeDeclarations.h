@@ -60,9 +60,8 @@ struct Scenario {
     float SavingsAfter7Years = 0;
     float SavingsAfterYearsInHome = 0;
     float SavingsAfter30Years = 0;
-    bool DownAsPercent = true; ///< true: the percent field applies, false: the fixed amount
-    bool EEMNoticeFlag =
-        false; ///< set by edits that can change the EEM eligibility, cleared when an evaluation checks it
+    bool DownAsPercent = true;    ///< true: the percent field applies, false: the fixed amount
+    bool EEMNoticeFlag = false;   ///< set by edits that can change the EEM eligibility, cleared once checked
     std::int16_t YearsInHome = 0; ///< the assumption used for the results
 
     bool operator==(const Scenario&) const = default;
