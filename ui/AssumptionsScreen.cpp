@@ -15,7 +15,7 @@ std::string PercentText(double percent) {
     return FormatPicture(percent, "#0.00") + "%";
 }
 
-/// The picture "###" without its empty zero.
+/// The picture "###" shows nothing for 0; this shows "0".
 std::string YearsText(double years) {
     const std::string text = FormatPicture(years, "###");
     return text.empty() ? "0" : text;
@@ -85,19 +85,19 @@ std::string BytesOf(const FileLines& lines) {
     return bytes;
 }
 
-/// The three writers replace the file one after the other: what the first ones saved is taken back. Gives the
-/// fault that the user must be told.
+/// Each of the three writers replaces the whole file, so a later fault must undo the earlier saves. Returns
+/// the fault to show to the user.
 SettingsFault TakeBack(const SettingsFile& file, const FileLines& before, const SettingsFault& fault) {
     const auto now = file.ReadLines();
     if (!now || BytesOf(*now) == BytesOf(before))
         return fault;
     const auto failed = file.ReplaceContent(BytesOf(before));
-    // Where the settings now are counts more than why they could not be saved.
+    // The user must first learn where the settings are now; the reason of the failed save matters less.
     return failed && failed->What == SettingsFault::Kind::InterruptedSave ? *failed : fault;
 }
 
 std::optional<SettingsFault> SaveAndReload(const AssumptionsScreen& dialog, Session& session) {
-    // Taking back must not undo what another copy of the program saved in between.
+    // Held throughout, because TakeBack must not undo a save of another copy of the program.
     const auto held = SettingsFile(session.Folder).Hold();
     if (!held)
         return held.Fault();
@@ -109,7 +109,7 @@ std::optional<SettingsFault> SaveAndReload(const AssumptionsScreen& dialog, Sess
     if (auto fault = SaveAll(file, dialog, session.TaxBrackets, loanTypes))
         return TakeBack(file, *before, *fault);
     session.LoanTypes = std::move(loanTypes);
-    // The shown results went by the former tables, until the next recalculation.
+    // The results still come from the old tables, so the next recalculation must not be skipped.
     session.From.reset();
     if (auto fault = LoadTaxCats(file, session.TaxBrackets))
         return fault;
@@ -152,7 +152,7 @@ EntryOutcome LeaveHighEnd(EntryContext& context, AssumptionsScreen& dialog, std:
     Field& highEnd = dialog.ecHighEnd[row];
     if (LeaveField(context, highEnd, FieldFormat::Dollar, AfterEdit::Nothing) == EntryOutcome::Refused)
         return EntryOutcome::Refused;
-    // Nothing follows the last row, which has no upper limit.
+    // The last row has no upper limit and no next row.
     if (row + 1 < TaxRowCount) {
         const double nextLowEnd = ReadStrippedNumber(highEnd.Text).value_or(0) + 1;
         dialog.ecLowEnd[row + 1].Text = FormatPicture(nextLowEnd, "$###,##0");

@@ -43,7 +43,7 @@ struct Range {
     double Highest = 0; ///< never below 0
 };
 
-/// A stack's ends: what lies above 0 and what lies below it.
+/// The range of the stacks: in each, values above 0 and values below 0 add up separately.
 Range RangeOfStacks(const ChartFigures& chart) {
     Range range;
     for (std::size_t home = 0; home < chart.Categories.size(); ++home) {
@@ -90,7 +90,7 @@ ChartFigures MonthlyCostChart(const Session& session) {
     add("Insurance", &HomeCase::InsMonthly);
     add("PMI", &HomeCase::PMIMonthly);
     add("Utilities", &HomeCase::UtilMonthly);
-    // The savings are the labelled home's, against the base home.
+    // The labelled home saves taxes compared with the base home, so only its stack has this part.
     chart.Series.push_back({taxSavings < 0 ? "Additional Taxes" : "Tax Savings", {0, -taxSavings}});
 
     double baseCost = 0;
@@ -131,8 +131,8 @@ ChartFigures AffordabilityChart(const Session& session) {
     return chart;
 }
 
-/// The net cash flow put aside each month at the labelled home's interest rate, as in the savings after 7
-/// and 30 years.
+/// The net cash flow saved each month at the labelled home's interest rate, as in the savings after 7 and 30
+/// years.
 double SavingsAfter(int years, const Session& session) {
     const double rate = Amount(session.GMHCase.IntRate) / 12;
     const double savings = Module1::FV(rate, years * 12.0, -Amount(session.Scenario.NetMonthlyCashFlow));
@@ -150,7 +150,7 @@ void AddMark(ChartFigures& chart, int year, float value) {
         chart.Marks.push_back({year, Amount(value), YearsText(year) + ": " + Money(Amount(value))});
 }
 
-/// Each fifth year; those that are pointed out stand in the sentence.
+/// Every fifth year. `Sentence` lists the labelled years.
 std::string SavingsNumbers(const ChartSeries& series) {
     std::string text = "Accumulated net savings after";
     for (int year = 5; year <= ChartYears; year += 5)
@@ -182,16 +182,16 @@ ChartFigures SavingsChart(const Session& session) {
                      Money(Amount(scenario.SavingsAfter30Years)) + " after 30 years.";
     chart.Numbers = SavingsNumbers(chart.Series.front());
     const Range range = RangeOfValues(chart);
-    // Room for the words at the highest point; this chart is the flattest.
+    // Leaves room for the label at the highest point, because this chart is the flattest.
     SetScale(chart, range.Lowest, range.Highest * 1.15, coarseSteps);
     return chart;
 }
 
-/// The smallest of 1, 2, 2.5 and 5 times a power of ten that takes at most `mostSteps` over `range`.
+/// The smallest step of 1, 2, 2.5 or 5 times a power of ten that covers `range` in at most `mostSteps`.
 double RoundStep(double range, int mostSteps) {
     const double power = std::pow(10, std::floor(std::log10(range / mostSteps)));
     for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
-        // A hair more room, so that a range of exactly five steps does not miss by rounding.
+        // The tolerance keeps a range of exactly `mostSteps` steps from failing because of rounding.
         if (range <= factor * power * mostSteps * (1 + 1e-9))
             return factor * power;
     }
@@ -214,7 +214,7 @@ std::optional<ChartKind> ChartOfTab(int tab) {
 }
 
 void SetScale(ChartFigures& chart, double lowest, double highest, int mostSteps) {
-    // Whole dollars: below five there is nothing to divide.
+    // Ticks are whole dollars, so a range below 5 is too small to divide.
     const double step = RoundStep(std::max(highest - lowest, 5.0), mostSteps);
     constexpr double belowLowest = 1.05;
     chart.Lowest = lowest * belowLowest;

@@ -6,26 +6,26 @@
 
 #include "engine/Session.h"
 
-// What the charts of the result tabs draw, and the same in words. Amounts are dollars.
+// The contents of the charts on the result tabs, as figures and as text. Amounts are dollars.
 namespace Ledgrove {
 
 enum class ChartKind {
-    MonthlyCost,   ///< Cash Flow: what each home costs a month, one part on the other
-    Affordability, ///< the mortgage beside the largest loan the buyer qualifies for
-    Savings        ///< Summary: what the labelled home saves over the years
+    MonthlyCost,   ///< Cash Flow: the monthly cost of each home, its parts stacked
+    Affordability, ///< the mortgage next to the largest loan that the buyer qualifies for
+    Savings        ///< Summary: the savings of the labelled home over the years
 };
 
-/// The chart of a tab of the main screen; nothing for the tabs without one.
+/// The chart of a tab of the main screen; empty for a tab without a chart.
 std::optional<ChartKind> ChartOfTab(int tab);
 
 struct ChartSeries {
     std::string Name;
-    std::vector<double> Values; ///< one a category, or one a year from 0 on
+    std::vector<double> Values; ///< one per category, or one per year, beginning with year 0
 
     bool operator==(const ChartSeries&) const = default;
 };
 
-/// A year that is pointed out.
+/// A labelled year on the savings curve.
 struct ChartMark {
     int Year = 0;
     double Value = 0;
@@ -44,27 +44,27 @@ struct ChartTick {
 struct ChartFigures {
     ChartKind Kind = ChartKind::MonthlyCost;
     std::string Title;
-    std::vector<std::string> Categories; ///< the homes; none where years are drawn
+    std::vector<std::string> Categories; ///< the homes; empty if the chart shows years
     std::vector<ChartSeries> Series;
     std::vector<ChartMark> Marks;
-    double Lowest = 0; ///< where the axis of dollars begins and ends
+    double Lowest = 0; ///< the lower end of the dollar axis; `Highest` is the upper end
     double Highest = 0;
-    std::vector<ChartTick> Ticks; ///< round amounts between those, 0 among them
-    std::string Sentence;         ///< what there is to see
-    std::string Numbers;          ///< every drawn amount by name
+    std::vector<ChartTick> Ticks; ///< round amounts within the axis, including 0
+    std::string Sentence;         ///< describes the chart for a screen reader
+    std::string Numbers;          ///< lists every amount of the chart by name
 
     bool operator==(const ChartFigures&) const = default;
 };
 
-/// The last year of the savings' chart.
+/// The last year of the savings chart.
 inline constexpr int ChartYears = 30;
 
-/// The chart of the session's figures as they are. An amount that cannot be computed is drawn as 0.
+/// Makes the chart of the session's current figures. An amount that cannot be computed is drawn as 0.
 ChartFigures MakeChart(ChartKind kind, const Session& session);
 
-/// Gives the chart an axis on which everything from `lowest` (0 or below) to `highest` (0 or above) is seen:
-/// `mostSteps` round steps at most, the last of them beyond the highest value. Values below 0 get their own
-/// room only, since the savings of a month are small beside its cost.
+/// Sets the chart's axis so that it shows all values from `lowest` (0 or below) to `highest` (0 or above),
+/// with at most `mostSteps` round steps. The axis ends at a round step above `highest`, but just below
+/// `lowest`, because a month's savings are small compared with its cost.
 void SetScale(ChartFigures& chart, double lowest, double highest, int mostSteps);
 
 } // namespace Ledgrove

@@ -6,7 +6,7 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
-/// Thresholds are held in single precision, as the values are that they are compared with.
+/// Thresholds are in single precision, like the values they are compared with.
 float Single(double value) {
     return static_cast<float>(value);
 }
@@ -25,7 +25,7 @@ private:
     std::string m_text;
 };
 
-/// Rates and stretches as fractions. Several tests differ on purpose from what their messages suggest.
+/// Rates and stretches are fractions. Intended: several conditions differ from what their messages suggest.
 std::string CheckLoans(const MainScreen& screen) {
     const float baseRate = ParseFieldValue(screen.ecStdRate.Text, 100);
     const float labelledRate = ParseFieldValue(screen.ecGMHRate.Text, 100);

@@ -7,7 +7,7 @@
 
 namespace Ledgrove::Module1 {
 
-/// The amounts of a base and a labelled home that belong together on a form.
+/// The prices (dollars) and utility bills (dollars per year) of a base home and a labelled home.
 struct HousePair {
     float StdCost = 0;
     float GMHCost = 0;
@@ -15,15 +15,15 @@ struct HousePair {
     float GMHUtil = 0;
 };
 
-/// Prices and utility bills that are missing or look implausible: each message followed by a carriage return,
-/// nothing when all is well.
+/// Reports missing or implausible prices and utility bills. Each message ends in a carriage return; empty if
+/// there are none.
 std::string CheckHousePair(const HousePair& pair);
 
-/// The whole text of the data check's message box for the main screen's inputs, "" when there is nothing to
-/// say. Changes nothing and stops nothing.
+/// The text of the data check's message box for the inputs on the main screen; empty if they look plausible.
+/// The check only warns: it changes nothing and blocks nothing.
 std::string DataCheckText(const MainScreen& screen);
 
-/// Runs the data check and shows its message, if any.
+/// Runs the data check and shows its message if there is one.
 void RunDataCheck(const MainScreen& screen, Host& host);
 
 } // namespace Ledgrove::Module1

@@ -74,7 +74,7 @@ EntryOutcome LeaveField(EntryContext& context, Field& field, FieldFormat format,
     if (!ValidateField(context, field, format))
         return EntryOutcome::Refused;
     FormatEntry(session, field, format);
-    // Enter and Tab have committed the field before it is left.
+    // After Enter or Tab, the results are already up to date.
     const bool recalculates = after != AfterEdit::Nothing && !IsUpToDate(session);
     if (recalculates)
         Recalculate(session, context.Outside);

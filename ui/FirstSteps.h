@@ -6,18 +6,18 @@
 
 namespace Ledgrove {
 
-/// What leads to a first result: a sentence, and the control that is to be used for it.
+/// The next step towards a first result: a sentence for the user and the control to use.
 struct FirstStep {
     std::string_view Sentence;
-    std::string_view Button;  ///< the caption of a button that goes there
-    std::string_view Control; ///< its name; a tab strip when everything needed is entered
+    std::string_view Button;  ///< the caption of the button that goes to the control
+    std::string_view Control; ///< the control's name; the tab strip if no input is missing
 };
 
-/// The first input that is still missing for a comparison with figures; the results when none is.
+/// The first input that a comparison still needs; the results if none is missing.
 FirstStep NextFirstStep(const MainScreen& screen);
 
-/// Whether none of the inputs that a comparison needs has been entered; a field that was only passed through
-/// shows $0.
+/// Whether none of the needed inputs has been entered. A field that shows $0 counts as not entered, because
+/// leaving an empty field sets it to $0.
 bool IsUntouched(const MainScreen& screen);
 
 } // namespace Ledgrove

@@ -31,7 +31,7 @@ House& SelectedHouse(HouseScenarios& dialog) {
     return dialog.Houses[static_cast<std::size_t>(dialog.Selected)];
 }
 
-/// The house check's question about the amounts as typed, "" when they look right.
+/// The question about implausible amounts in the fields; empty if they look plausible.
 std::string EditQuestion(const HouseScenarios& dialog) {
     const std::string remarks = CheckHousePair(
         {ParseFieldValue(dialog.ecStdCost.Text, 1), ParseFieldValue(dialog.ecGMHCost.Text, 1),

@@ -108,7 +108,7 @@ std::optional<Message> OptionMessage(std::optional<MortgageOption> labelledOptio
 }
 
 void ClickBaseOption(Session& session, Host& host, std::string_view text) {
-    // The refill selects the first labelled option, and that selection is what reaches the results.
+    // Selecting the first labelled option is a click too: its message and recalculation produce the results.
     if (SetBaseOption(session.Screen, text))
         ClickLabelledOption(session, host, session.Screen.cboGMHMortOption.Text());
 }

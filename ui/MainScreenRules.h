@@ -7,14 +7,14 @@
 #include "engine/Session.h"
 #include "ui/Entry.h"
 
-// What the controls of the main screen do, on the screen record.
+// The behaviour of the main screen's controls, on the screen record.
 namespace Ledgrove {
 
-/// How one edit field of the main screen is entered.
+/// The entry rules of one edit field on the main screen.
 struct EntryRule {
     std::string_view Name;
     Field MainScreen::*Member;
-    FieldFormat Format; ///< the same on key press and on lost focus
+    FieldFormat Format; ///< the same for key presses and for lost focus
     Module1::AfterEdit After;
 };
 
@@ -33,41 +33,42 @@ inline constexpr std::array<TabPage, TabCount> TabPages{
 
 namespace Ledgrove::Module1 {
 
-/// Fills the labelled home's options by the base choice and selects the first, without message or
-/// recalculation. True when the base list has an item of this text.
+/// Selects a base option, fills the list of the labelled home's options for it and selects the first of them,
+/// without a message or a recalculation. Returns whether the base list has an item with this text.
 bool SetBaseOption(MainScreen& screen, std::string_view text);
 
-/// Selects one of the labelled home's options and remembers an EEM type in the notice flag. True as above.
+/// Selects one of the labelled home's options; an EEM option sets the notice flag. Returns whether the list
+/// has the text.
 bool SetLabelledOption(Session& session, std::string_view text);
 
-/// Selects the term, "10 years" to "40 years". True as above.
+/// Selects the term, "10 years" to "40 years". Returns whether the list has the text.
 bool SetTerm(Session& session, std::string_view text);
 
-/// Puts one of the two down payment fields in force: 0 the percentage, 1 the fixed amount; the other is
-/// greyed.
+/// Selects the down payment field that applies: 0 the percentage, 1 the fixed amount. The other field becomes
+/// grey.
 void SetDownPayment(Session& session, int option);
 
-/// The message that goes with choosing "Fannie Mae EEM"; nothing for other options.
+/// The message that appears when "Fannie Mae EEM" is chosen; empty for other options.
 std::optional<Message> OptionMessage(std::optional<MortgageOption> labelledOption);
 
-// The clicks: the same with message, flag and recalculation as the window's user meets them.
+// A user's clicks on the controls, including the messages, the notice flag and the recalculation.
 void ClickBaseOption(Session& session, Host& host, std::string_view text);
 void ClickLabelledOption(Session& session, Host& host, std::string_view text);
 void ClickTerm(Session& session, Host& host, std::string_view text);
 void ClickDownPayment(Session& session, Host& host, int option);
 void ClickTaxes(Session& session, Host& host, bool checked);
 
-/// Shows the panel of `tab` instead of the one shown last; another result tab runs the data check.
+/// Shows the panel of `tab`. Switching to a different result tab runs the data check.
 void ClickTab(Session& session, Host& host, int tab);
 
 Message DisclaimerMessage();
 
-/// The five numbered steps of the Welcome tab, and the second caption of the fifth.
+/// The five numbered steps of the Welcome tab; WelcomePrintStep is the second caption of step five.
 inline constexpr int WelcomeStepCount = 5;
 std::array<std::string_view, WelcomeStepCount> WelcomeSteps();
 std::string_view WelcomePrintStep();
 
-/// The footnote of the Summary tab, as it is read.
+/// The footnote of the Summary tab as plain text: its "&" does not mark a mnemonic.
 std::string_view SummaryFootnote();
 
 } // namespace Ledgrove::Module1

@@ -16,16 +16,16 @@ struct OptionsScreen {
 
 namespace Ledgrove::Module1 {
 
-/// Reads the two features into the fields, and builder name and logo file of the report header, which saving
-/// writes too, into the session.
+/// Reads the two features into the fields. Also reads the report header's builder name and logo file into the
+/// session, because saving the options writes them too.
 std::optional<SettingsFault> FillOptions(OptionsScreen& dialog, Session& session);
 
-/// The feature captions of the More Home tab: both texts, or nothing while there is no monthly difference to
+/// Shows the feature texts on the More Home tab, or empty captions if there is no monthly difference to
 /// spend.
 void ShowFeatureCaptions(Session& session, const FeatureTexts& features);
 
-/// Shows the features on the main screen and saves them. On a fault the main screen and the file are as they
-/// were.
+/// Shows the features on the main screen and saves them. If a save fails, the main screen and the file do not
+/// change.
 std::optional<SettingsFault> ConfirmOptions(const OptionsScreen& dialog, Session& session);
 
 } // namespace Ledgrove::Module1

@@ -8,35 +8,35 @@
 
 #include "engine/MainScreen.h"
 
-// The tables of the results, described once for all places that show them: the tabs, what is copied from
-// them, the table of the command line, the report.
+// The result tables, described once for every output: the tabs, copied text, the command line's table and the
+// report.
 namespace Ledgrove {
 
-/// A total stands bold under a line.
+/// A total is bold, with a line above it.
 enum class RowWeight : std::uint8_t { Plain, Total };
 
 using LabelMember = Label MainScreen::*;
 
 struct SheetRow {
-    std::string_view Caption = {}; ///< fixed words, "" where CaptionLabel holds them
+    std::string_view Caption = {}; ///< fixed text, empty if CaptionLabel supplies it
     LabelMember CaptionLabel = nullptr;
-    /// The label whose words up to the colon go before CaptionLabel's where the row is read alone.
+    /// If the row is read on its own, this label's text up to the colon precedes the text of CaptionLabel.
     LabelMember Stem = nullptr;
-    LabelMember First = nullptr;  ///< the base home's figure, or the monthly one; none leaves the cell empty
+    LabelMember First = nullptr;  ///< the base home's figure, or the monthly one; nullptr for an empty cell
     LabelMember Second = nullptr; ///< the labelled home's figure, or the yearly one
     RowWeight Weight = RowWeight::Plain;
-    std::string_view Meaning = {};       ///< what the figure consists of, where the caption leaves that open
-    std::string_view ReportCaption = {}; ///< the report's words where they differ
-    std::string_view TextCaption = {};   ///< those of the command line's table where they differ
+    std::string_view Meaning = {};       ///< what the figure includes, if the caption does not say it
+    std::string_view ReportCaption = {}; ///< the caption in the report, if different
+    std::string_view TextCaption = {};   ///< the caption in the command line's table, if different
 };
 
 enum class SheetKind : std::uint8_t {
     CashFlow,
-    Purchase,    ///< More Home: the net cash flow and what it buys
-    HouseValues, ///< More Home: the same monthly cost, two houses
+    Purchase,    ///< More Home: the net cash flow and the amount it buys
+    HouseValues, ///< More Home: two houses at the same monthly cost
     Affordability,
     SummaryHomes,  ///< Summary: both homes side by side
-    SummarySavings ///< Summary: what the labelled home brings
+    SummarySavings ///< Summary: the savings of the labelled home
 };
 
 struct ResultSheet {
@@ -48,13 +48,13 @@ struct ResultSheet {
 
 const ResultSheet& SheetOf(SheetKind kind);
 
-/// The row's caption as it reads alone, without blanks around it.
+/// The row's caption for reading the row on its own, trimmed.
 std::string CaptionOf(const SheetRow& row, const MainScreen& screen);
 
-/// The text of one of the row's cells, "" for an empty one.
+/// The text of a cell of the row; empty for an empty cell.
 std::string_view CellOf(LabelMember cell, const MainScreen& screen);
 
-/// Whether the screen shows the row: a hidden figure hides it.
+/// Whether the screen shows the row. A hidden figure hides its row.
 bool IsShown(const SheetRow& row, const MainScreen& screen);
 
 } // namespace Ledgrove

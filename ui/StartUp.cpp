@@ -27,7 +27,7 @@ void SetScreenDefaults(Session& session, Host& host) {
     SetTerm(session, "30 years");
     for (Field* rate : {&screen.ecRate, &screen.ecGMHRate, &screen.ecStdRate})
         SetFieldText(session, *rate, "6.5");
-    // The base home's rate stays as it is until it is first left, on purpose.
+    // Intended: the base home's rate is not formatted until its field is left.
     FormatField(session, screen.ecRate, FieldFormat::IntRate);
     FormatField(session, screen.ecGMHRate, FieldFormat::IntRate);
     SetDownPayment(session, 0);

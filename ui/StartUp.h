@@ -9,15 +9,15 @@
 
 namespace Ledgrove::Module1 {
 
-/// Loads a fresh session: loan types, tax schedule and assumptions from the settings file in `folder`, the
-/// screen's start-up state, the pick lists, a first recalculation, then features, help file, logo file and
-/// builder name. A missing or unreadable settings file, or a loan type that does not convert, is the fault
-/// that ends the start.
+/// Loads a new session from the settings file in `folder`: loan types, tax schedule and assumptions, then the
+/// start-up state of the screen with a first recalculation, then features, help file, logo file and builder
+/// name. Stops with a fault if the settings file is missing or unreadable, or if a loan type does not
+/// convert.
 std::optional<SettingsFault> LoadMainScreen(Session& session, Host& host,
                                             const std::filesystem::path& folder);
 
-/// The same for a user who can be asked: after an interrupted save, whether to restore the settings that it
-/// left. Without a Yes nothing is touched, and the interrupted save is the fault.
+/// Like LoadMainScreen, but after an interrupted save asks the user whether to restore the settings. If the
+/// answer is not Yes, changes nothing and returns the interrupted save as the fault.
 std::optional<SettingsFault> OpenMainScreen(Session& session, Host& host,
                                             const std::filesystem::path& folder);
 
