@@ -52,8 +52,7 @@ std::string Sentence(const SettingsFault& fault) {
     case SettingsFault::Kind::Busy:
         return "The settings file " + path +
                " is being saved by another copy of the program. Wait until that copy has finished, or close "
-               "it, "
-               "then try again.";
+               "it, then try again.";
     case SettingsFault::Kind::BadLine:
         return "Line " + std::to_string(fault.Line) + " of the settings file " + path + " cannot be used (" +
                fault.Reason + "): " + Excerpt(fault.Text) + ". Correct that line.";

@@ -146,8 +146,7 @@ std::optional<std::string> CheckSetRequest(std::string_view key, std::string_vie
     if (Contains(listKeys, key))
         return "The key " + Quoted(key) +
                " has one line for each item of a list, so setting it would make all the lines the same. "
-               "Change "
-               "the list in the Ledgrove window or in the file.";
+               "Change the list in the Ledgrove window or in the file.";
     // Every line that begins with a key belongs to it.
     const auto longer = FindKnownKey(
         [&](std::string_view known) { return known.size() > key.size() && known.starts_with(key); });
