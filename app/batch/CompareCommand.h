@@ -15,26 +15,27 @@ enum class CompareFormat { Text, Json, JsonLines, Csv };
 
 struct CompareRequest {
     CompareFormat Format = CompareFormat::Text;
-    std::string House;              ///< name of a saved house scenario to start with, "" for none
+    std::string House;              ///< name of the saved house scenario to start with; empty for none
     int Jobs = 1;                   ///< threads for JSON lines, at least 1
-    std::vector<std::string> Files; ///< "-" is standard input; none at all too
+    std::vector<std::string> Files; ///< "-" is standard input, and so is an empty list
 };
 
-/// What reads one input and appends one result for each comparison in it. True when none was refused.
+/// Reads one input and appends a result for each comparison in it. Returns whether all were accepted.
 class ComparisonReader {
 public:
     virtual ~ComparisonReader() = default;
     virtual bool Read(LineReader& lines, OutputBuffer& output) = 0;
-    /// Called when the input has to be waited for: what is finished must not wait with it.
+    /// Called before the reader waits for input. Finished results must be written now, because the input may
+    /// take long.
     virtual void BeforeWaiting(OutputBuffer& output) { output.Flush(); }
 };
 
-/// Puts the saved house scenario of this name into the four house fields that every comparison starts with.
-/// Gives a sentence when the list cannot be read or has no such house, else "".
+/// Copies the saved house scenario with this name to the four house fields that every comparison starts with.
+/// Returns a message if the list cannot be read or does not have the house, otherwise an empty text.
 std::string StartWithHouse(Session& session, std::string_view name);
 
-/// Runs the comparisons of every file and writes the results to standard output; a sentence on standard error
-/// for a file that cannot be read. Gives the exit status.
+/// Runs the comparisons of every file and writes the results to standard output. Reports a file that cannot
+/// be read on standard error. Returns the exit status.
 int RunCompare(const CompareRequest& request, const Session& start);
 
 } // namespace Ledgrove

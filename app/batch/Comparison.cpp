@@ -64,7 +64,7 @@ Comparison::Comparison(Session start)
     , m_state(m_start) {}
 
 void Comparison::Reset() {
-    // The tables stay as they are: no comparison changes them.
+    // The tables need no reset, because comparisons do not change them.
     m_state.Screen = m_start.Screen;
     static_cast<Results&>(m_state) = m_start;
     m_host.Clear();
@@ -72,7 +72,7 @@ void Comparison::Reset() {
 
 std::optional<Refusal> Comparison::EnterFields(const InputRecord& inputs) {
     for (const EntryInput& entry : EntryInputs()) {
-        // The down payment option stands before its two fields.
+        // The option comes first, because it decides which of the two fields applies.
         if (entry.Which == Input::ecPctDown)
             if (auto refusal = EnterDownPayment(m_state, inputs[Input::optDownPayment]))
                 return refusal;

@@ -10,7 +10,7 @@
 
 namespace Ledgrove {
 
-/// A host without a window: keeps the messages in order of appearance.
+/// A host without a window. Collects the messages in order and answers Yes to every question.
 class CollectingHost : public Host {
 public:
     MessageAnswer ShowMessage(const Message& message) override {
@@ -26,19 +26,19 @@ private:
     std::vector<Message> m_messages;
 };
 
-/// Runs comparisons one after the other, each from the same start-up state.
+/// Runs comparisons one after another, each from the same start-up state.
 class Comparison {
 public:
-    /// `start` is a session as LoadMainScreen leaves it.
+    /// `start` is a session after LoadMainScreen.
     explicit Comparison(Session start);
 
-    /// Enters the inputs as a person would, then recalculates once. The refusal of the first faulty input, if
-    /// any; State, Messages and DataCheck then mean nothing.
+    /// Enters the inputs as a person would, then recalculates once. Returns the refusal of the first invalid
+    /// input, if there is one; do not use State, Messages and DataCheck then.
     std::optional<Refusal> Run(const InputRecord& inputs);
 
     const Session& State() const { return m_state; }
     const std::vector<Message>& Messages() const { return m_host.Messages(); }
-    /// What the data check says of the inputs, "" when they are plausible.
+    /// The text of the data check for the inputs; empty if they are plausible.
     std::string DataCheck() const;
 
 private:

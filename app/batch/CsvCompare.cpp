@@ -37,7 +37,7 @@ constexpr Figure resultColumns[] = {
     Figure::SavingsAfter30Years,
 };
 
-// Texts that follow the figures.
+// Text columns after the figures.
 constexpr std::string_view lblStdQualColumn = "lblStdQual";
 constexpr std::string_view lblGMHQualColumn = "lblGMHQual";
 constexpr std::string_view errorColumn = "error";
@@ -46,14 +46,14 @@ constexpr std::size_t columnsBehindInputs = std::size(resultColumns) + 3;
 bool LooksLikeFormula(std::string_view cell) {
     if (cell.empty())
         return false;
-    // Many programs pass over the blanks in front.
+    // Many spreadsheets ignore leading blanks.
     const std::size_t first = std::min(cell.find_first_not_of(" \t\r\n"), cell.size() - 1);
     const bool startsLikeOne = cell.front() == '\t' || cell.front() == '\r' ||
                                std::string_view("=+-@").find(cell[first]) != std::string_view::npos;
     return startsLikeOne && !Module1::ReadNumber(cell);
 }
 
-/// Blanks at its ends would be lost without quotes, by our own reader too.
+/// Without quotes, readers drop leading and trailing blanks, as our own does.
 bool NeedsQuotes(std::string_view cell) {
     const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
     const auto isMark = [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; };
@@ -61,7 +61,7 @@ bool NeedsQuotes(std::string_view cell) {
            (!cell.empty() && (isBlank(cell.front()) || isBlank(cell.back())));
 }
 
-/// Empty results and the reason in the last column.
+/// Appends empty results, and the reason in the last column.
 void AppendRefusal(std::string& out, const Refusal& refusal) {
     out.append(columnsBehindInputs - 1, ',');
     const std::string control = refusal.Control.empty() ? "" : refusal.Control + ": ";
@@ -104,7 +104,7 @@ std::string DefusedCell(std::string_view cell) {
 
 void AppendCsvCell(std::string& out, std::string_view cell) {
     if (LooksLikeFormula(cell)) {
-        // With the apostrophe in front it is none.
+        // With the apostrophe the cell is not a formula, so this recurses only once.
         return AppendCsvCell(out, DefusedCell(cell));
     }
     if (!NeedsQuotes(cell)) {
@@ -208,7 +208,7 @@ bool CsvReader::Read(LineReader& lines, OutputBuffer& output) {
                 continue;
         }
         parsing.Held += line->Text.size() + 1;
-        // A quote that is never closed would swallow the rest of the file.
+        // A quote that is never closed would make the rest of the file one row.
         rowTooLong = line->TooLong || parsing.Held > LongestLine;
         if (rowTooLong || !output.Failure().empty())
             break;

@@ -4,9 +4,9 @@
 
 namespace Ledgrove {
 
-/// A price list as a spreadsheet saves it: a heading row of control names, one comparison a row. An empty
-/// cell leaves its input as at start-up. Each row goes out again with the main results behind it and a last
-/// column for what was wrong with it.
+/// Reads a price list that a spreadsheet saved: a heading row of control names, then one comparison per row.
+/// An input with an empty cell keeps its start-up value. Writes each row again, followed by the main results
+/// and a column for the error.
 class CsvReader : public ComparisonReader {
 public:
     explicit CsvReader(Comparison& comparison)
@@ -24,24 +24,24 @@ private:
     Comparison& m_comparison;
     InputRecord m_inputs;
     Cells m_heading;
-    std::vector<std::optional<Input>> m_columns; ///< the input of each column, none for an unknown name
+    std::vector<std::optional<Input>> m_columns; ///< the input of each column; empty for an unknown name
     Cells m_row;
     std::size_t m_rowLine = 0;
     bool m_headingRead = false;
     bool m_allWell = true;
 };
 
-/// The heading row: the inputs' names, then the results' and "error".
+/// Appends the heading row: the names of the inputs, then those of the results, then "error".
 void AppendCsvHeading(std::string& out, const std::vector<std::string>& inputs);
 
-/// The results behind the inputs of a comparison that was not refused. No line end.
+/// Appends the results that follow the inputs in the row of an accepted comparison, without a line ending.
 void AppendCsvResults(std::string& out, const Session& session);
 
-/// `cell` with an apostrophe in front where a spreadsheet would take it for a formula (it begins with a tab
-/// or a carriage return, or with "=", "+", "-" or "@" behind any blanks, and is no number).
+/// Puts an apostrophe before a cell that a spreadsheet would run as a formula: it begins with a tab or a
+/// carriage return, or after blanks with "=", "+", "-" or "@", and is not a number.
 std::string DefusedCell(std::string_view cell);
 
-/// `cell` as CSV: defused, and quoted where it must be.
+/// Appends `cell` as CSV, made safe by DefusedCell, and in quotes if necessary.
 void AppendCsvCell(std::string& out, std::string_view cell);
 
 } // namespace Ledgrove

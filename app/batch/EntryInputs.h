@@ -7,13 +7,13 @@
 
 namespace Ledgrove {
 
-/// An edit field of the main screen and the input that fills it.
+/// An edit field of the main screen and its input.
 struct EntryInput {
     const EntryRule& Rule;
     Input Which;
 };
 
-/// The main screen's edit fields in tab order. Each has an input of its name.
+/// The edit fields of the main screen in tab order. Each has an input with the same name.
 std::span<const EntryInput> EntryInputs();
 
 } // namespace Ledgrove

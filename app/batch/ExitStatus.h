@@ -4,10 +4,10 @@
 
 namespace Ledgrove {
 
-/// Exit statuses of ledgrove-cli and of the programs that it hands over to.
+/// The exit statuses of ledgrove-cli and of the programs that it starts.
 enum ExitStatus { AllWell = 0, SomeRefused = 1, CannotRun = 2 };
 
-/// Writes `sentence` to standard error and gives `status`.
+/// Writes `sentence` to standard error and returns `status`.
 ExitStatus Complain(const std::string& sentence, ExitStatus status);
 
 } // namespace Ledgrove

@@ -7,20 +7,20 @@
 
 namespace Ledgrove {
 
-/// A file descriptor to read from, closed at the end; "-" is standard input, which stays open.
+/// Opens a file for reading and closes it at the end of the scope; "-" is standard input, which stays open.
 class InputFile {
 public:
     explicit InputFile(const std::string& name);
 
-    /// The descriptor's number, negative when the file could not be opened; Failure then says why.
+    /// The descriptor, negative if the file could not be opened. Failure then returns the reason.
     int Number() const;
     std::string Failure() const;
 
 private:
-    std::optional<Descriptor> m_file; ///< none for standard input
+    std::optional<Descriptor> m_file; ///< empty for standard input
 };
 
-/// The sentence for an input that cannot be read.
+/// The message for an input that cannot be read.
 std::string UnreadableInput(const std::string& name, const std::string& reason);
 
 } // namespace Ledgrove

@@ -15,7 +15,7 @@ constexpr bool StandsInOrder() {
     }
     return true;
 }
-static_assert(StandsInOrder(), "the name of an input stands at its place in the table");
+static_assert(StandsInOrder(), "InputTable must follow the order of Input");
 
 } // namespace
 

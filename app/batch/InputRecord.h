@@ -8,10 +8,11 @@
 #include <string>
 #include <string_view>
 
-// One comparison as a script states it: values of the main screen's input controls by name.
+// The inputs of one comparison in a file: values for the main screen's input controls, by name.
 namespace Ledgrove {
 
-/// The main screen's input controls, in the order in which they are entered, and so in which a fault is met.
+/// The main screen's input controls. They are entered in this order, which decides the input that is refused
+/// first.
 enum class Input : std::uint8_t {
     ecIncome,
     ecMonthlyDebt,
@@ -34,11 +35,11 @@ enum class Input : std::uint8_t {
 
 struct NamedInput {
     Input Which;
-    std::string_view Name; ///< ended by a NUL
+    std::string_view Name; ///< with a terminating NUL
 };
 
-/// The one place where inputs have names, in the order of Input: a key of JSON, a heading of CSV, the control
-/// of a refusal.
+/// The names of the inputs, in the order of `Input`. JSON keys, CSV headings and the controls in refusals all
+/// use them.
 inline constexpr NamedInput InputTable[] = {
     {Input::ecIncome, "ecIncome"},
     {Input::ecMonthlyDebt, "ecMonthlyDebt"},
@@ -63,7 +64,7 @@ constexpr std::string_view NameOf(Input input) {
     return InputTable[static_cast<std::size_t>(input)].Name;
 }
 
-/// The input of this name; nothing where there is none.
+/// The input with this name; empty if there is none.
 std::optional<Input> InputNamed(std::string_view name);
 
 enum class InputKind { Text, Number, Boolean };
@@ -71,14 +72,14 @@ enum class InputKind { Text, Number, Boolean };
 struct InputValue {
     bool Present = false;
     InputKind Kind = InputKind::Text;
-    std::string Text; ///< as typed; a number stands for its own text
+    std::string Text; ///< as typed; a number as it is written in the file
 
     bool operator==(const InputValue&) const = default;
 };
 
 class InputRecord {
 public:
-    /// Forgets all values, keeping their memory.
+    /// Removes all values and keeps their memory.
     void Clear();
 
     InputValue& operator[](Input input) { return m_values[static_cast<std::size_t>(input)]; }
@@ -90,22 +91,21 @@ private:
     std::array<InputValue, std::size(InputTable)> m_values;
 };
 
-/// Why an input was refused: which line, which control, its text, and what to do.
+/// Why an input was refused: the line, the control, its text, and a message that says what to do.
 struct Refusal {
     std::size_t Line = 0; ///< counted from 1
-    std::string Control;  ///< "" when no single control is at fault
+    std::string Control;  ///< empty if no single control is at fault
     std::string Value;
     std::string Message;
 };
 
-/// The refusal of a name that is no input.
+/// The refusal of a name that is not an input.
 Refusal UnknownInput(std::string_view name, std::string_view value);
 
-/// The refusal of a single comparison in one sentence, for standard error: what is wrong, where, with which
-/// text.
+/// The refusal of a single comparison as one line for standard error: the message, the place and the text.
 std::string RefusalSentence(const Refusal& refusal);
 
-/// The refusal of an input beyond all measure.
+/// The refusal of an input that exceeds the size limit.
 Refusal InputTooLong(std::size_t line);
 
 } // namespace Ledgrove

@@ -5,13 +5,13 @@
 
 namespace Ledgrove {
 
-/// One object of a line in, one object of a line out.
+/// Compares one line of JSON lines: one object per line, in and out.
 class JsonLine {
 public:
     explicit JsonLine(Comparison& comparison)
         : m_comparison(comparison) {}
 
-    /// Appends the result, or why there is none, as a line. A blank line is passed over. False when it was
+    /// Appends the result or the refusal as a line. Skips a blank line. Returns false if the line was
     /// refused.
     bool Append(std::string& out, const InputLine& line);
 
@@ -23,7 +23,7 @@ private:
     ResultJson m_results;
 };
 
-/// JSON lines, one after the other.
+/// Reads JSON lines and compares them one after another.
 class JsonLinesReader : public ComparisonReader {
 public:
     explicit JsonLinesReader(Comparison& comparison)
@@ -34,7 +34,7 @@ private:
     JsonLine m_line;
 };
 
-/// One object, over as many lines as it likes; the result is an object too, or a table for people.
+/// Reads one object, which may span several lines. The result is an object, or a table for people.
 class JsonReader : public ComparisonReader {
 public:
     enum class Result { Json, Table };

@@ -11,8 +11,8 @@ namespace Ledgrove {
 
 namespace {
 
-/// False for a text with the second half of a character by itself: the parser lets it pass, as
-/// bytes that are no UTF-8.
+/// False for a text with an unpaired low surrogate: the parser accepts its escape and produces bytes that are
+/// not valid UTF-8.
 bool IsWhole(std::string_view text) {
     for (std::size_t at = text.find('\xED'); at != text.npos; at = text.find('\xED', at + 1)) {
         if (at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) >= 0xA0)
@@ -21,7 +21,7 @@ bool IsWhole(std::string_view text) {
     return true;
 }
 
-/// Takes the values as the parser meets them, so that no tree is built.
+/// Stores each value while the text is parsed, so that no document tree is built.
 class InputHandler {
 public:
     using Ch = char;
@@ -58,7 +58,7 @@ public:
     }
     bool EndArray(rapidjson::SizeType) { return Leave(); }
 
-    // Numbers arrive as their texts, so these are never called; the parser wants to see them all the same.
+    // Never called, because numbers arrive as texts, but the parser requires these functions.
     bool Int(int) { return false; }
     bool Uint(unsigned) { return false; }
     bool Int64(std::int64_t) { return false; }
@@ -87,7 +87,7 @@ private:
         return true;
     }
 
-    /// Reading goes on, to learn whether the rest is JSON at all.
+    /// Parsing continues, because invalid JSON is reported first.
     bool RefuseValue(std::string_view text) {
         if (m_depth > 1 || m_refusal)
             return true;
@@ -120,10 +120,10 @@ Refusal MalformedJson(std::string_view json, std::size_t position) {
 
 std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs) {
     inputs.Clear();
-    // The parser takes this byte for the end of the text.
+    // The parser would treat a NUL as the end of the text.
     if (const std::size_t nul = json.find('\0'); nul != json.npos)
         return MalformedJson(json, nul);
-    // Iterative, so that deep nesting costs no stack.
+    // Iterative parsing uses no stack for deep nesting.
     constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag |
                                rapidjson::kParseValidateEncodingFlag;
     rapidjson::MemoryStream stream(json.data(), json.size());

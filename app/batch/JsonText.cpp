@@ -15,7 +15,7 @@ constexpr bool NeedsEscape(char c) {
     return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\';
 }
 
-/// Hardly any text needs an escape; without an early exit the loop looks at many characters at a time.
+/// Few texts need an escape. Without an early exit, the compiler can vectorise this loop.
 bool IsPlain(std::string_view text) {
     unsigned char special = 0;
     for (const char c : text)
@@ -72,14 +72,14 @@ void AppendKey(std::string& out, std::string_view name, char opening = ',') {
 
 constexpr std::int64_t tens[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000};
 
-/// `digits` with the point before the last `places` of them, without zeros at the end.
+/// Appends `digits` with a decimal point before the last `places`, without trailing zeros.
 void AppendDecimal(std::string& out, std::int64_t digits, int places) {
     for (; places > 0 && digits % 10 == 0; --places)
         digits /= 10;
     std::array<char, 24> text;
     auto end = std::to_chars(text.data(), text.data() + text.size(), digits / tens[places]).ptr;
     if (places > 0) {
-        // A one in front keeps the fraction's leading zeros; the point then takes its place.
+        // A leading 1 keeps the leading zeros of the fraction. The point then replaces it.
         char* const point = end;
         end = std::to_chars(point, text.data() + text.size(), tens[places] + digits % tens[places]).ptr;
         *point = '.';
@@ -87,8 +87,8 @@ void AppendDecimal(std::string& out, std::int64_t digits, int places) {
     out.append(text.data(), end);
 }
 
-/// The fewest digits that read back as the same single. Of two decimals that are equally near, amounts and
-/// rates take the one further from 0, where the library would take the even one.
+/// Appends the shortest decimal number that reads back as the same single. If two are equally near, chooses
+/// the one further from 0; the library would choose the even one.
 void AppendNumber(std::string& out, float value) {
     const float magnitude = std::fabs(value);
     if (magnitude == 0 || (magnitude >= 1e-3F && magnitude < 1e6F)) {
@@ -117,7 +117,7 @@ void AppendFlag(std::string& out, bool value) {
 void AppendFields(std::string& out, const MainScreen& screen) {
     char opening = '{';
     for (const auto& [name, member] : FieldTable()) {
-        // The mirror of the term and the two rates that are not shown say nothing of their own.
+        // The remaining fields are not visible and only repeat the term and the rates.
         if (member == &MainScreen::ecRate)
             break;
         AppendKey(out, name, opening);
@@ -135,7 +135,7 @@ void AppendFields(std::string& out, const MainScreen& screen) {
     out += '}';
 }
 
-/// What follows a label's text: by colour, hidden and visible.
+/// The members after a label's text, by colour and visibility.
 constexpr std::string_view appearances[][2] = {
     {R"(,"color":"#000000","visible":false})", R"(,"color":"#000000","visible":true})"},
     {R"(,"color":"#ff0000","visible":false})", R"(,"color":"#ff0000","visible":true})"},
@@ -147,7 +147,7 @@ std::string_view AppearanceText(const Label& label) {
     return appearances[static_cast<std::size_t>(label.Colour)][label.Visible ? 1 : 0];
 }
 
-/// The members of one record, without the brace that ends them.
+/// Appends the members of one record, without the closing brace.
 void AppendFigures(std::string& out, const Records& records, FigureRecord record) {
     char opening = '{';
     for (const FigureEntry& figure : FiguresOf(record)) {

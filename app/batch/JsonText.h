@@ -5,25 +5,25 @@
 
 #include "app/batch/Comparison.h"
 
-// Results as JSON text, appended to a buffer: a tree of two hundred values for each comparison would cost
-// more than the comparison, and a writer that keeps account of what is open nearly as much.
+// Appends results as JSON text to a buffer. A document tree of two hundred values would take longer than the
+// comparison, and a general JSON writer nearly as long.
 namespace Ledgrove {
 
-/// Writes results. What is the same in all of them is put together once.
+/// Writes results. The parts that are the same in all of them are built once.
 class ResultJson {
 public:
     ResultJson();
 
-    /// One object: fields, labels, Scenario, StdCase, GMHCase, messages, dataCheck. No line end.
+    /// Appends one object: fields, labels, Scenario, StdCase, GMHCase, messages, dataCheck. No line ending.
     void Append(std::string& out, const Comparison& comparison) const;
 
 private:
     void AppendLabels(std::string& out, const MainScreen& screen) const;
 
-    std::vector<std::string> m_labelKeys; ///< of ResultLabelTable, up to the text's opening
+    std::vector<std::string> m_labelKeys; ///< for ResultLabelTable, up to the opening of the text
 };
 
-/// {"error": {"line", "control", "value", "message"}}. No line end.
+/// Appends {"error": {"line", "control", "value", "message"}}. No line ending.
 void AppendRefusalJson(std::string& out, const Refusal& refusal);
 
 } // namespace Ledgrove

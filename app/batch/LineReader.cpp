@@ -45,7 +45,7 @@ InputLine LineReader::Take(std::size_t length, std::size_t consumed) {
 }
 
 InputLine LineReader::SkipLongLine() {
-    // Only the beginning is kept; the rest goes by until the line ends.
+    // Keeps only the beginning and skips the rest of the line.
     const std::string beginning = m_buffer.substr(m_start, LongestLine);
     std::size_t end = std::string::npos;
     do {

@@ -8,25 +8,25 @@
 
 namespace Ledgrove {
 
-/// The longest line that is read; longer ones are refused, so that memory stays constant whatever comes in.
+/// The longest accepted line. Longer lines are refused, so that memory use is bounded for any input.
 inline constexpr std::size_t LongestLine = std::size_t{1024} * 1024;
 
 struct InputLine {
-    std::string_view Text;  ///< without its line end; valid until the next line is read
+    std::string_view Text;  ///< without the line ending; valid until the next line is read
     std::size_t Number = 0; ///< counted from 1
-    bool TooLong = false;   ///< Text is then only the beginning
+    bool TooLong = false;   ///< Text then holds only the beginning of the line
 };
 
-/// Lines of a file descriptor, ended by LF or CR LF. A UTF-8 mark at the start is passed over.
+/// Reads lines that end in LF or CR LF from a file descriptor. Skips a UTF-8 byte order mark at the start.
 class LineReader {
 public:
-    /// `beforeWaiting` is called each time the reader has to ask the system for more.
+    /// Calls `beforeWaiting` before each read, which may have to wait.
     LineReader(int descriptor, std::function<void()> beforeWaiting);
 
-    /// The next line, nothing at the end of the input or after a failed read.
+    /// The next line; empty at the end of the input or after a failed read.
     std::optional<InputLine> Next();
 
-    /// The system's reason when a read failed, else "".
+    /// The system's reason if a read failed, otherwise empty.
     const std::string& Failure() const { return m_failure; }
 
 private:

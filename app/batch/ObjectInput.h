@@ -8,15 +8,15 @@
 
 namespace Ledgrove {
 
-/// Enters the one JSON object that `lines` hold and recalculates.
+/// Enters the inputs of the JSON object in `lines` and recalculates.
 std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison);
 
 struct ObjectInput {
-    std::string Unreadable;         ///< a sentence when the file cannot be read, else ""
+    std::string Unreadable;         ///< a message if the file cannot be read, otherwise empty
     std::optional<Refusal> Refused; ///< why its input was refused
 };
 
-/// The same from a file, or standard input for "-".
+/// The same for a file; "-" is standard input.
 ObjectInput RunObjectFile(const std::string& name, Comparison& comparison);
 
 } // namespace Ledgrove

@@ -5,17 +5,17 @@
 #include "app/batch/ExitStatus.h"
 #include "engine/Session.h"
 
-// What the verbs of ledgrove-cli that work on a single comparison have in common.
+// Shared by the commands of ledgrove-cli that use a single comparison.
 namespace Ledgrove {
 
 struct OneComparison {
     ExitStatus Status = AllWell;
-    std::string Complaint; ///< a sentence unless all is well
-    Session State;         ///< with the comparison's figures when all is well
+    std::string Complaint; ///< a message if `Status` is not AllWell
+    Session State;         ///< the session with the figures if `Status` is AllWell
 };
 
-/// Runs the comparison of `input`, a file of one JSON object or "-" for standard input, on the settings in
-/// `folder`.
+/// Runs the comparison in `input`, a file with one JSON object or "-" for standard input, with the settings
+/// in `folder`.
 OneComparison CompareOne(const std::string& folder, const std::string& input);
 
 } // namespace Ledgrove

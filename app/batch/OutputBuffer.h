@@ -5,25 +5,25 @@
 
 namespace Ledgrove {
 
-/// Collects output and writes it to a file descriptor in large pieces. A failed write is remembered and
-/// everything after it dropped.
+/// Collects output and writes it to a file descriptor in large blocks. After a failed write, it drops all
+/// further output.
 class OutputBuffer {
 public:
     explicit OutputBuffer(int descriptor);
 
-    /// Where the next result is appended; the owner calls Commit after each.
+    /// The text to append the next result to. Call Commit after each result.
     std::string& Text() { return m_text; }
 
-    /// Writes when enough has gathered.
+    /// Writes the collected text if it is long enough.
     void Commit();
 
-    /// Writes all that has gathered, so that a waiting reader has every finished result.
+    /// Writes all collected text, so that a program that waits for results gets them now.
     void Flush();
 
-    /// Writes `text` at once, behind what has gathered.
+    /// Writes the collected text, then `text`, immediately.
     void Write(std::string_view text);
 
-    /// The system's reason when a write failed, else "".
+    /// The system's reason if a write failed, otherwise empty.
     const std::string& Failure() const { return m_failure; }
 
 private:
@@ -34,7 +34,7 @@ private:
     std::string m_failure;
 };
 
-/// The sentence for output that could not be written; `what` names it in the plural.
+/// The message for output that could not be written; `what` names the output in the plural.
 std::string UnwrittenOutput(const std::string& what, const std::string& reason);
 
 } // namespace Ledgrove

@@ -7,13 +7,13 @@ namespace Ledgrove {
 
 namespace {
 
-/// Large enough that handing out costs little beside comparing, small enough for memory.
+/// Large enough to make the cost of the queue negligible, small enough to bound the memory.
 constexpr std::size_t pieceSize = std::size_t{64} * 1024;
 constexpr std::size_t pieceLines = 256;
-/// A little more than the results of so many lines take.
+/// Slightly more than the results of `pieceLines` lines need.
 constexpr std::size_t resultSize = pieceLines * 8 * 1024;
-/// Free when a thread is started: up to 64 MB of addresses become the heap of the new thread, the rest is for
-/// what all threads ask for later.
+/// Address space that must be available before a thread starts: the C library reserves up to 64 MB for the
+/// heap of the thread, and the rest is for later allocations of all threads.
 constexpr std::size_t spareSize = std::size_t{96} * 1024 * 1024;
 
 } // namespace
@@ -34,9 +34,10 @@ ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs)
 
 void ParallelJsonReader::StartThread(OutputBuffer& output) {
     try {
-        // Memory that cannot be had must be missing here, where the work can go on without the thread.
+        // If memory is short, these allocations must fail now, while the work can continue without this
+        // thread.
         m_spare = std::make_unique_for_overwrite<char[]>(spareSize);
-        m_queue.Add(2, resultSize); // one in work and one in waiting
+        m_queue.Add(2, resultSize); // one in work and one waiting
         m_threads.emplace_back([this, &output, worker = std::make_unique<PieceWorker>(m_start)] {
             while (worker->Work(m_queue, output)) {
             }
@@ -52,7 +53,8 @@ void ParallelJsonReader::StartThread(OutputBuffer& output) {
 void ParallelJsonReader::HandOut(OutputBuffer& output) {
     if (m_queue.GatheredLines() == 0)
         return;
-    // One for each piece: a short input is done before further threads would have started.
+    // Starts at most one thread per piece, because a short input is finished before further threads would
+    // start.
     if (m_threads.size() < m_mostThreads)
         StartThread(output);
     m_queue.HandOut();

@@ -11,8 +11,7 @@
 
 namespace Ledgrove {
 
-/// Compares pieces of a queue, one thread's share. Each has a state of its own: a comparison shares nothing
-/// with another.
+/// Compares pieces of a queue in one thread. Each worker has its own state, so comparisons share nothing.
 class PieceWorker {
 public:
     explicit PieceWorker(const Session& start)
@@ -21,7 +20,8 @@ public:
     PieceWorker(const PieceWorker&) = delete;
     PieceWorker& operator=(const PieceWorker&) = delete;
 
-    /// Waits for the next piece, compares it and puts it back; false once no more will come.
+    /// Waits for the next piece, compares its lines and finishes it. Returns false when no more pieces will
+    /// come.
     bool Work(PieceQueue& queue, OutputBuffer& output);
 
 private:
@@ -29,17 +29,17 @@ private:
     JsonLine m_lines;
 };
 
-/// JSON lines, compared by several threads. The results stand in the order of the lines, memory does not grow
-/// with the input, and whoever waits for each answer gets it at once, as with one thread. Where the system
-/// gives fewer threads, those that there are do the work, or the calling one alone.
+/// Compares JSON lines in several threads. The results keep the order of the lines, memory use does not grow
+/// with the input, and a program that waits for each answer gets it immediately, as with one thread. If the
+/// system provides fewer threads, those do the work; if it provides none, the calling thread does.
 class ParallelJsonReader : public ComparisonReader {
 public:
-    /// Every comparison starts from `start`, a session as LoadMainScreen leaves it, which must outlive this.
+    /// Every comparison starts from `start`, a session after LoadMainScreen, which must outlive this object.
     /// `jobs` is the number of threads, at least 1.
     ParallelJsonReader(const Session& start, int jobs);
 
     bool Read(LineReader& lines, OutputBuffer& output) override;
-    /// Hands out what has been gathered, so that it is answered while the reader waits.
+    /// Hands out the gathered lines, so that they are compared while the reader waits.
     void BeforeWaiting(OutputBuffer& output) override;
 
 private:
@@ -49,8 +49,8 @@ private:
     const Session& m_start;
     std::size_t m_mostThreads;
     PieceQueue m_queue;
-    std::optional<PieceWorker> m_own; ///< where there are no threads
-    std::unique_ptr<char[]> m_spare;  ///< memory that is free again once a thread has been started
+    std::optional<PieceWorker> m_own; ///< used if there are no threads
+    std::unique_ptr<char[]> m_spare;  ///< released after a thread has started
     std::vector<std::jthread> m_threads;
 };
 

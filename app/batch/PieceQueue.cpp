@@ -62,7 +62,7 @@ Piece* PieceQueue::Take() {
 void PieceQueue::Finish(Piece& piece, OutputBuffer& output) {
     std::unique_lock lock(m_mutex);
     piece.Done = true;
-    // Another thread that is writing already comes to this piece, too.
+    // A thread that is already writing will write this piece too.
     if (!m_isWriting)
         WriteFinished(lock, output);
 }

@@ -13,7 +13,7 @@
 
 namespace Ledgrove {
 
-/// Lines of the input that one thread works on, and what becomes of them.
+/// Some lines of the input, which one thread compares, and their results.
 struct Piece {
     struct Line {
         std::size_t Offset;
@@ -34,33 +34,35 @@ struct Piece {
     }
 };
 
-/// Pieces between one thread that reads and several that work. The results are written in the order in which
-/// the pieces were handed out, by whichever thread finishes the next one. The reading thread waits while all
-/// pieces are on their way, so that memory stays the same whatever comes in.
+/// Passes pieces from one reading thread to several working threads. The results are written in the order of
+/// the pieces, by the thread that finishes the next one. The reading thread waits while all pieces are in
+/// use, so that memory use does not grow with the input.
 class PieceQueue {
 public:
-    /// With one piece, for gathering.
+    /// Starts with one piece, for gathering.
     PieceQueue();
 
-    // For the thread that reads.
-    /// So many further pieces, with memory for a result of `resultSize` bytes each: what cannot be had must
-    /// be missing here (std::bad_alloc), and not in the middle of the work. Pieces that could be had stay.
+    // For the reading thread.
+    /// Adds `pieces` pieces, each with memory for a result of `resultSize` bytes. Allocates it now, so that a
+    /// shortage shows here (std::bad_alloc) and not during the work. Keeps the pieces that were allocated
+    /// before the shortage.
     void Add(std::size_t pieces, std::size_t resultSize);
     void Gather(const InputLine& line);
     std::size_t GatheredBytes() const { return m_gathering->Text.size(); }
     std::size_t GatheredLines() const { return m_gathering->Lines.size(); }
-    /// Gives the gathered lines to whoever is free. There is at least one line.
+    /// Hands the gathered lines to a working thread. There must be at least one line.
     void HandOut();
-    /// Waits for room for more.
+    /// Waits for a free piece to gather lines in.
     void WaitForRoom();
-    /// No more pieces will come; those handed out are finished.
+    /// Ends the input. Pieces that were already handed out are still compared.
     void Close();
     bool OutputFailed() const;
-    /// Whether every line was well, once all is finished.
+    /// Whether every line was accepted. Valid when all pieces are finished.
     bool AllWell() const { return m_allWell; }
 
-    // For the threads that work.
-    /// The next piece, which is the caller's until Finish; nullptr after Close.
+    // For the working threads.
+    /// Waits for the next piece, which belongs to the caller until Finish. nullptr if none is left after
+    /// Close.
     Piece* Take();
     void Finish(Piece& piece, OutputBuffer& output);
 
@@ -68,12 +70,12 @@ private:
     void WriteFinished(std::unique_lock<std::mutex>& lock, OutputBuffer& output);
 
     std::vector<std::unique_ptr<Piece>> m_pieces;
-    Piece* m_gathering = nullptr; ///< the reading thread's; none between HandOut and WaitForRoom
+    Piece* m_gathering = nullptr; ///< belongs to the reading thread; nullptr between HandOut and WaitForRoom
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::vector<Piece*> m_free;
-    std::deque<Piece*> m_waiting;    ///< to be taken
-    std::deque<Piece*> m_onTheirWay; ///< to be written, in the order of the input
+    std::deque<Piece*> m_waiting;    ///< not taken yet
+    std::deque<Piece*> m_onTheirWay; ///< not written yet, in the order of the input
     bool m_isWriting = false;
     bool m_closed = false;
     bool m_failed = false;

@@ -14,7 +14,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// A key or value at fault is the caller's input; all else keeps the program from running at all.
+/// An invalid key or value is a refused input. With any other fault, the command cannot run.
 int Complain(const SettingsFault& fault) {
     using Kind = SettingsFault::Kind;
     const bool input =
@@ -22,7 +22,7 @@ int Complain(const SettingsFault& fault) {
     return Complain(Sentence(fault), input ? SomeRefused : CannotRun);
 }
 
-/// A script must not take a full disk for an empty setting.
+/// A script must be able to tell a full disk from an empty setting.
 int Print(const std::string& text) {
     OutputBuffer output(STDOUT_FILENO);
     output.Text() = text;

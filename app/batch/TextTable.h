@@ -6,10 +6,11 @@
 
 namespace Ledgrove {
 
-/// The comparison as a table for people: inputs, results of both homes side by side, messages and data check.
+/// The comparison as a table for people: inputs, the results of both homes side by side, messages and data
+/// check.
 std::string ResultTable(const Comparison& comparison);
 
-/// The refusal as one sentence, with its line end.
+/// The refusal as one line, with its line ending.
 std::string RefusalText(const Refusal& refusal);
 
 } // namespace Ledgrove

@@ -1,4 +1,4 @@
-// What `ledgrove-cli chart` hands over to: drawing needs the toolkit, which ledgrove-cli does without.
+// `ledgrove-cli chart` starts this program, because drawing needs Qt, which ledgrove-cli does not use.
 
 #include <optional>
 #include <string>
@@ -41,7 +41,7 @@ std::string ReadTab(const std::string& name, ChartKind& kind) {
     return {};
 }
 
-/// The format by the ending of the file's name; nothing for another ending.
+/// The format for the file name's ending; empty for an unknown ending.
 std::optional<PictureFormat> FormatOf(const std::string& file) {
     const QString name = QString::fromStdString(file);
     if (name.endsWith(".png", Qt::CaseInsensitive))

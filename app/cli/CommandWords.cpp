@@ -11,14 +11,14 @@ bool LooksLikeOption(std::string_view word) {
     return word.starts_with('-') && word != "--";
 }
 
-/// The place of the first word from `at` on that is neither an option nor an option's value.
+/// The index of the first word from `at` on that is neither an option nor the value of one.
 std::size_t BehindOptions(const std::vector<std::string>& words, std::size_t at) {
     while (at < words.size() && LooksLikeOption(words[at]))
         at += words[at] == "--folder" ? 2 : 1;
     return std::min(at, words.size());
 }
 
-/// Where KEY stands in "settings set KEY VALUE", else `words.size()`.
+/// The index of KEY in "settings set KEY VALUE", otherwise `words.size()`.
 std::size_t SetKey(const std::vector<std::string>& words) {
     if (words.empty() || words.front() != "settings")
         return words.size();

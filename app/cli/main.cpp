@@ -21,7 +21,7 @@ namespace {
 
 using namespace Ledgrove;
 
-/// What needs the toolkit is done by a program beside this one, which is named as its verb.
+/// Commands that need Qt are separate programs in the same folder, named after the command.
 int HandOver(const std::string& verb, char** argv) {
     const std::string program = (ProgramFolder() / ("ledgrove-" + verb)).string();
     ::execv(program.c_str(), argv);
@@ -65,8 +65,7 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
         ->add_option_function<std::string>(
             "--format", [&request](const std::string& name) { request.Format = *ReadFormat(name); },
             "text: one JSON object in, a table out; json: one object in, one out; jsonl: one object per "
-            "line; "
-            "csv: a price list with a heading row")
+            "line; csv: a price list with a heading row")
         ->check([](const std::string& name) {
             return ReadFormat(name) ? std::string()
                                     : "There is no such format. Choose text, json, jsonl or csv.";
@@ -98,7 +97,7 @@ SettingsActions AddSettings(CLI::App& app, std::string& folder, std::string& key
     set->add_option("KEY", key)->required();
     set->add_option("VALUE", value)->required();
     auto* houses = settings->add_subcommand("houses", "List the saved house scenarios");
-    // --folder may stand before or after the verb.
+    // Accepts --folder before and after the verb.
     for (CLI::App* verb : {get, set, houses})
         verb->fallthrough();
     return {get, set, houses};
@@ -110,7 +109,7 @@ int main(int argc, char** argv) {
     CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
     app.set_version_flag("--version", "ledgrove-cli " LEDGROVE_VERSION);
     app.require_subcommand(1);
-    // Their arguments are the other programs' to read.
+    // The other programs parse their own arguments.
     for (const std::string_view verb : {"report", "chart"}) {
         if (argc > 1 && argv[1] == verb)
             return HandOver(std::string(verb), argv + 1);

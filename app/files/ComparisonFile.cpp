@@ -17,7 +17,7 @@ rapidjson::SizeType Length(std::string_view text) {
     return static_cast<rapidjson::SizeType>(text.size());
 }
 
-/// The tab stays where it is: a file says nothing of it.
+/// Keeps the selected tab, because a file does not store one.
 void PutScreen(Session& session, const Session& from) {
     const int tab = session.Screen.SSTab1;
     const auto panels = session.Screen.DetlFrame;
@@ -28,7 +28,7 @@ void PutScreen(Session& session, const Session& from) {
     session.ChosenHouse = {};
 }
 
-/// The state that a comparison starts from: a fresh screen on the tables as they are now.
+/// The state that a comparison starts from: a new screen with the current tables.
 Session FreshSession(const Session& session, const Session& start) {
     Session fresh = session;
     PutScreen(fresh, start);
@@ -42,7 +42,7 @@ std::string NoComparison(const std::filesystem::path& file, const Refusal& refus
     return sentence + refusal.Message;
 }
 
-/// Opening a file is not choosing an option, so what is said at that choice stays unsaid.
+/// Does not show the message that belongs to choosing an option, because the user only opened a file.
 void ShowNotices(const Comparison& comparison, Host& host) {
     const auto atChoice = Module1::OptionMessage(comparison.State().Screen.cboGMHMortOption.Option());
     for (const Message& message : comparison.Messages()) {

@@ -13,15 +13,15 @@ namespace Ledgrove {
 
 inline constexpr std::string_view ComparisonSuffix = ".ledgrove.json";
 
-/// The screen's inputs as one JSON object, a line each, in the order in which they are entered.
+/// The screen's inputs as one JSON object, one input per line, in the order of entry.
 std::string ComparisonText(const MainScreen& screen);
 
-/// Puts the inputs back to those of `start`, a session as it was after loading, and recalculates. Tables,
-/// settings and the report header stay, and so does the shown tab.
+/// Resets the inputs to those of `start`, a session after LoadMainScreen, and recalculates. Tables, settings,
+/// the report header and the selected tab do not change.
 void NewComparison(Session& session, const Session& start, Host& host);
 
-/// Reads a comparison into the session, on top of `start` as above, and shows what notices it gives. A
-/// sentence when the file cannot be read or holds something else; the session is then as it was.
+/// Resets the session as above, reads the inputs of a comparison from the file and shows its notices. If the
+/// file cannot be read or is not a comparison, returns a message and does not change the session.
 std::optional<std::string> OpenComparison(const std::filesystem::path& file, Session& session,
                                           const Session& start, Host& host);
 

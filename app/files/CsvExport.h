@@ -6,8 +6,8 @@
 
 namespace Ledgrove {
 
-/// The session's comparison as `ledgrove-cli compare --format csv` writes it: a heading row, one row of the
-/// inputs and the main results.
+/// The session's comparison in the format of `ledgrove-cli compare --format csv`: a heading row and one row
+/// of inputs and main results.
 std::string ComparisonCsv(const Session& session);
 
 } // namespace Ledgrove

@@ -14,8 +14,8 @@ void Put(InputRecord& inputs, Input input, InputKind kind, std::string_view text
     value.Text = text;
 }
 
-/// A percentage above 100 that was made from dollars would be taken for dollars when it is entered again, so
-/// the dollars are given.
+/// A percentage above 100 that was computed from dollars would count as dollars when it is entered again, so
+/// this returns the dollars.
 std::string PercentDownText(const MainScreen& screen) {
     const double percent = Module1::ParseFieldValue(screen.ecPctDown.Text, 1);
     if (!screen.PctDownConverted || percent <= 100)

@@ -5,8 +5,8 @@
 
 namespace Ledgrove {
 
-/// What the screen's input controls hold, such that entering it into a fresh screen gives the same inputs: an
-/// empty field is absent, since a present empty text would count as 0.
+/// The contents of the screen's input controls. Entering them on a new screen gives the same inputs. An empty
+/// field is left out, because an empty text in the record would count as 0.
 InputRecord ScreenInputs(const MainScreen& screen);
 
 } // namespace Ledgrove

@@ -22,7 +22,7 @@ TabTable WelcomeContent() {
     return table;
 }
 
-/// The shown rows of one or more sheets with the same heads.
+/// The visible rows of one or more sheets with the same heads.
 TabTable SheetContent(const MainScreen& screen, std::initializer_list<SheetKind> kinds) {
     TabTable table;
     for (const SheetKind kind : kinds) {

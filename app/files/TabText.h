@@ -5,7 +5,7 @@
 
 #include "engine/MainScreen.h"
 
-// What a result tab shows, to be pasted elsewhere.
+// The contents of a result tab for the clipboard.
 namespace Ledgrove {
 
 struct TabRow {
@@ -13,20 +13,20 @@ struct TabRow {
     std::vector<std::string> Cells;
 };
 
-/// A tab's table under the heads of its columns, and the sentences around it.
+/// The table of a tab with its column heads, and the sentences around the table.
 struct TabTable {
     std::vector<std::string> Heads;
     std::vector<TabRow> Rows;
     std::vector<std::string> Sentences;
 };
 
-/// What the tab shows now. `tab` is 0 to TabCount - 1; the first, Welcome, holds sentences only.
+/// The current contents of the tab. `tab` is 0 to TabCount - 1; tab 0, Welcome, has only sentences.
 TabTable TabContent(const MainScreen& screen, int tab);
 
-/// For a letter or a mail: columns aligned by blanks, figures to the right. Lines end in LF.
+/// For a letter or an email: columns aligned with blanks, figures on the right. Lines end in LF.
 std::string AlignedText(const TabTable& table);
 
-/// For a spreadsheet: cells separated by tabs. A text that a spreadsheet would run as a formula is defused.
+/// For a spreadsheet: cells separated by tabs. DefusedCell makes texts safe that would run as formulas.
 std::string SpreadsheetText(const TabTable& table);
 
 } // namespace Ledgrove

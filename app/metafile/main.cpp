@@ -1,6 +1,6 @@
-// Plays a metafile from standard input into a PNG on standard output: ledgrove-metafile LONGEST-SIDE. A
-// program of its own, because a metafile is a program, too: what it costs is bounded here, and when it breaks
-// the library that plays it, only its picture is missing.
+// Converts a metafile on standard input to a PNG on standard output: ledgrove-metafile LONGEST-SIDE. This is
+// a separate program because a metafile is a list of drawing commands: here its time and memory are limited,
+// and if it crashes the library, only the picture is missing.
 
 #include <algorithm>
 #include <cstdio>
@@ -35,15 +35,15 @@ using Api = std::unique_ptr<wmfAPI, ApiCloser>;
 
 using BitmapReader = void (*)(wmfAPI*, wmfBMP_Read_t*);
 
-/// Reads a record's bitmap by the library's own reader. The library would leave a bitmap that is cut or too
-/// large out of the picture; as an error it ends the playing, and there is no picture.
+/// Reads a bitmap with the library's own reader. The library silently omits a bitmap that is truncated or too
+/// large; reporting an error instead stops the conversion, so no incomplete picture is shown.
 void ReadBitmap(wmfAPI* api, wmfBMP_Read_t* bitmap) {
     (*static_cast<BitmapReader*>(api->user_data))(api, bitmap);
     if (bitmap->bmp.data == nullptr)
         api->err = wmf_E_BadFormat;
 }
 
-/// `libraryReader` becomes the library's own reader of bitmaps; it outlives what is made.
+/// Sets `libraryReader` to the library's own bitmap reader. It must outlive the returned object.
 Api MakeApi(BitmapReader& libraryReader) {
     wmfAPI_Options options{};
     options.function = wmf_gd_function;
@@ -64,7 +64,7 @@ struct Drawing {
     unsigned Height = 0;
 };
 
-/// The metafile's extent in `drawing`; false when it is damaged.
+/// Stores the metafile's extent in `drawing`. Returns false if the metafile is damaged.
 bool Measure(wmfAPI* api, std::string& bytes, Drawing& drawing) {
     return wmf_mem_open(api, reinterpret_cast<unsigned char*>(bytes.data()),
                         static_cast<long>(bytes.size())) == wmf_E_None &&
@@ -74,7 +74,7 @@ bool Measure(wmfAPI* api, std::string& bytes, Drawing& drawing) {
 }
 
 bool Play(wmfAPI* api, Drawing drawing, int longestSide) {
-    // The drawing is scaled to a sensible size: a metafile's own may be tiny or millions of pixels wide.
+    // The drawing is scaled, because a metafile's own size may be tiny or millions of pixels.
     const double scale = static_cast<double>(longestSide) / std::max(drawing.Width, drawing.Height);
     const auto scaled = [scale](unsigned side) { return std::max(1U, static_cast<unsigned>(side * scale)); };
     wmf_gd_t* const target = WMF_GD_GetData(api);
@@ -87,7 +87,7 @@ bool Play(wmfAPI* api, Drawing drawing, int longestSide) {
     return wmf_play(api, 0, &drawing.Box) == wmf_E_None && std::fflush(stdout) == 0;
 }
 
-/// False when the limit cannot be set. One that is lower already stays.
+/// Returns false if the limit cannot be set. Keeps a lower limit that is already set.
 bool Limit(int resource, rlim_t most) {
     rlimit limit{};
     if (getrlimit(resource, &limit) != 0)
@@ -97,7 +97,8 @@ bool Limit(int resource, rlim_t most) {
     return setrlimit(resource, &limit) == 0;
 }
 
-/// What a metafile may cost. It is not played where this cannot be bounded.
+/// Limits the time and memory of the conversion. Returns false if that fails; the metafile must not be read
+/// then.
 bool LimitCosts() {
     return Limit(RLIMIT_CPU, mostSeconds) && Limit(RLIMIT_DATA, mostMemory) && Limit(RLIMIT_CORE, 0);
 }

@@ -1,5 +1,5 @@
-// What `ledgrove-cli report` hands over to: composing and painting need the toolkit, which ledgrove-cli does
-// without.
+// `ledgrove-cli report` starts this program, because layout and painting need Qt, which ledgrove-cli does not
+// use.
 
 #include <optional>
 #include <sstream>
@@ -24,13 +24,13 @@ struct Arguments {
     std::string Output;
     ReportSections Sections;
     PageOrientation Orientation = PageOrientation::Portrait;
-    std::optional<int> LogoOption; ///< as in the settings file where not given
+    std::optional<int> LogoOption; ///< empty: as in the settings file
     std::optional<std::string> Builder;
     std::string Buyer;
     std::string Input = "-";
 };
 
-/// "" and the sections when every name is known, else a sentence.
+/// Sets `sections` and returns an empty text, or returns a message for an unknown name.
 std::string ReadSections(const std::string& names, ReportSections& sections) {
     sections = {};
     std::istringstream list(names);
