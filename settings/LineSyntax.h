@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-// One setting a line: a key in upper case, an equals sign, the value.
+// The file has one setting per line: a key in upper case, an equals sign, the value.
 namespace Ledgrove {
 
 /// The keys that the program reads or writes.
@@ -34,40 +34,41 @@ inline constexpr std::string_view HomeList = "HOMELIST";
 inline constexpr std::string_view HomeSelectionDialog = "HOMESELECTIONDIALOG";
 } // namespace Key
 
-/// Whether the line begins with the key, to the letter. What follows the key is not looked at, so a longer
-/// key that begins with this one belongs to it too.
+/// Whether the line begins with exactly this key. The text after the key is not checked, so a line with a
+/// longer key that begins with this one matches too.
 bool BelongsTo(std::string_view line, std::string_view key);
 
-/// Everything behind the key and the one character after it, whatever that is.
+/// The text after the key and the next character, which is not checked.
 std::string_view ValueOf(std::string_view line, std::string_view key);
 
-/// The last line of the key decides; empty where there is none.
+/// The index of the key's last line, which is the one that counts; empty if there is none.
 std::optional<std::size_t> LastLineOf(const FileLines& lines, std::string_view key);
 
-/// Takes a list value apart, field by field.
+/// Splits a list value into its fields.
 class FieldSplitter {
 public:
     explicit FieldSplitter(std::string_view value)
         : m_rest(value) {}
 
-    /// The text before the next comma. Behind the last comma the same text comes again for every further
-    /// field, so that a short line repeats its last field; empty once nothing is left.
+    /// The text before the next comma. The field after the last comma is returned again by every further
+    /// call, so a short line repeats its last field. Empty if no text is left.
     std::optional<std::string_view> Next();
 
 private:
     std::string_view m_rest;
 };
 
-/// A number in single precision; empty where the text is none.
+/// Reads a number in single precision; empty if the text is not a number.
 std::optional<float> ToSingle(std::string_view text);
 
-/// A 16-bit whole number; a half goes to the even neighbour. Empty where the text is none or out of range.
+/// Reads a number and rounds it to a 16-bit whole number, halves to even. Empty if the text is not a number
+/// or is out of range.
 std::optional<std::int16_t> ToInteger(std::string_view text);
 
 /// The same, rounded down.
 std::optional<std::int16_t> ToIntegerDown(std::string_view text);
 
-/// A fault that names the line; `line` counts from 0 here and from 1 in the fault.
+/// A fault that names the line; `line` is counted from 0 here and from 1 in the fault.
 SettingsFault BadLine(const SettingsFile& file, const FileLines& lines, std::size_t line,
                       std::string_view reason);
 

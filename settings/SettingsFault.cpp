@@ -7,7 +7,7 @@
 namespace Ledgrove {
 namespace {
 
-/// A text as a sentence can carry it: no control characters, and an end even for a line of a megabyte.
+/// Prepares a text for a message: replaces control characters and limits the length.
 std::string Excerpt(std::string text) {
     constexpr std::size_t longest = 80;
     if (text.size() > longest) {
