@@ -4,7 +4,7 @@
 #include "engine/NumberText.h"
 #include "ui/ResultSheets.h"
 
-// The sections of the report that can be chosen.
+// The sections that the user can select for the report.
 namespace Ledgrove::modPrint {
 
 namespace {
@@ -13,14 +13,14 @@ std::string Money(const Label& label) {
     return Pictured(label.Text, MoneyPicture);
 }
 
-/// The caption as the report words it; a label's words stand as they are.
+/// The caption in the report: its own text for the report, or the text of the label.
 std::string Caption(const SheetRow& row, const MainScreen& screen) {
     if (!row.ReportCaption.empty())
         return std::string(row.ReportCaption);
     return row.CaptionLabel ? CellText((screen.*row.CaptionLabel).Text) : std::string(row.Caption);
 }
 
-/// A row of two figures; "NONE" stands where the base home has none.
+/// A row of two figures, with "NONE" if the base home has no figure.
 std::string TwoFigures(const SheetRow& row, const MainScreen& screen) {
     return Row(
         {Caption(row, screen), row.First ? Money(screen.*row.First) : "NONE", Money(screen.*row.Second)});
@@ -30,7 +30,7 @@ std::string OneFigure(const SheetRow& row, const MainScreen& screen) {
     return Row({Caption(row, screen), Money(screen.*row.Second)});
 }
 
-/// The rows of the sheet that have this weight, whether or not the screen shows them.
+/// The sheet's rows of this weight, including rows that the screen hides.
 std::string RowsOf(SheetKind kind, RowWeight weight, const MainScreen& screen) {
     std::string rows;
     for (const SheetRow& row : SheetOf(kind).Rows) {

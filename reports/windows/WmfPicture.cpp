@@ -21,7 +21,7 @@ bool IsWmf(const QByteArray& bytes) {
     constexpr qsizetype headerSize = 18;
     if (bytes.startsWith("\xD7\xCD\xC6\x9A")) // placeable
         return true;
-    // Type 1 or 2, a header of 9 words, version 1.0 or 3.0
+    // A plain header: type 1 or 2, length 9 words, version 1.0 or 3.0.
     if (bytes.size() < headerSize)
         return false;
     const auto word = [&bytes](qsizetype at) { return qFromLittleEndian<quint16>(bytes.constData() + at); };

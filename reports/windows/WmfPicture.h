@@ -5,12 +5,12 @@
 
 namespace Ledgrove {
 
-/// Whether the bytes are a Windows metafile, going by its headers.
+/// Whether the bytes are a Windows metafile, judged by the header.
 bool IsWmf(const QByteArray& bytes);
 
-/// The metafile as a picture whose longer side has so many pixels, at most 4000. It is played by the program
-/// `ledgrove-metafile` beside the running one; null when it is damaged, takes more than a second or 64 MB, or
-/// breaks its player.
+/// Converts the metafile to a picture whose longer side has `longestSide` pixels, at most 4000. The program
+/// `ledgrove-metafile` in the program's folder does this. The picture is null if the metafile is damaged,
+/// needs more than a second or 64 MB, or crashes that program.
 QImage ReadWmf(const QByteArray& bytes, int longestSide = 1200);
 
 } // namespace Ledgrove
