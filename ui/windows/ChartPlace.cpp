@@ -18,7 +18,7 @@ namespace Ledgrove {
 
 namespace {
 
-/// A screen reader meets one picture with its words, not what it is made of.
+/// Presents the chart to a screen reader as one picture with a description, without its parts.
 class ChartAccessible : public QAccessibleWidget {
 public:
     explicit ChartAccessible(QWidget* place)
@@ -38,7 +38,7 @@ QAccessibleInterface* MakeChartAccessible(const QString&, QObject* object) {
 ChartPlace::ChartPlace(ChartKind kind, QWidget* parent)
     : QWidget(parent)
     , m_kind(kind) {
-    QAccessible::installFactory(MakeChartAccessible); // the same one again is no second one
+    QAccessible::installFactory(MakeChartAccessible); // Qt ignores a factory that is already installed
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(2, 2, 2, 2);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -46,7 +46,7 @@ ChartPlace::ChartPlace(ChartKind kind, QWidget* parent)
 
 void ChartPlace::Connect(ChartContext context) {
     m_context.emplace(std::move(context));
-    // The keyboard reaches the chart's menu, and a screen reader its words.
+    // With the focus, the keyboard can open the chart's menu, and a screen reader reads its description.
     setFocusPolicy(Qt::StrongFocus);
 }
 

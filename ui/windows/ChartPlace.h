@@ -11,13 +11,13 @@
 
 namespace Ledgrove {
 
-/// Where charts come from: the factory, or a sentence that says why there is none.
+/// The source of charts: the factory, or a message that says why there is none.
 struct ChartSource {
     ChartFactory* Factory = nullptr;
     QString Fault;
 };
 
-/// What a chart's place needs of the window.
+/// What a chart's place needs from the window.
 struct ChartContext {
     const Session& State;
     Host& Outside;
@@ -25,8 +25,8 @@ struct ChartContext {
     FileQuestions Questions;
 };
 
-/// The room that a chart has on its tab. The chart comes into it when the tab is first shown, and follows the
-/// figures from then on while it can be seen.
+/// The place of a chart on its tab. It creates the chart when the tab is first shown, and updates the chart
+/// while it is visible.
 class ChartPlace : public QWidget {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ public:
 
     void Connect(ChartContext context);
 
-    /// Shows the session's figures as they are now.
+    /// Shows the current figures of the session.
     void Refresh();
 
     QSize sizeHint() const override;

@@ -21,13 +21,13 @@ struct DialogIdentity {
     const char* HelpAnchor;
 };
 
-/// A modal form of entry fields with OK, Cancel and Help: a view of a record. OK accepts; Cancel, Escape and
-/// the window's close button reject.
+/// A modal dialog of entry fields with OK, Cancel and Help, which shows a record. OK accepts; Cancel, Escape
+/// and the window's close button reject.
 class EntryDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Shows the record again after a rule wrote it.
+    /// Shows the record again after a rule changed it.
     virtual void Refresh();
 
 protected:
@@ -36,19 +36,19 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override;
 
-    /// The row of `bOK`, `bCancel` and `bHelp`, connected.
+    /// The row of buttons `bOK`, `bCancel` and `bHelp`, already connected.
     QLayout* MakeButtonRow();
     void OnClick(QPushButton& button, std::function<void()> action);
 
-    /// The control of this name shows `field` and connects its events as most fields do.
+    /// Binds the control with this name to `field`, with the handlers that most fields use.
     void BindField(const QString& control, Field& field, const EntryTypes& types);
     void BindField(const QString& control, Field& field, EntryEvents events);
     EntryEvents StandardEvents(Field& field, const EntryTypes& types);
 
-    /// The last call of a constructor, when all is built and bound.
+    /// A constructor calls this last, after it has built and bound all controls.
     void Present();
 
-    /// True without a fault. A fault is told; the dialog that asks stays open as it is.
+    /// Returns true if there is no fault. Otherwise shows the fault, and the dialog stays open.
     bool Succeeded(const std::optional<SettingsFault>& fault);
 
     Session& State() { return m_context.State; }

@@ -14,7 +14,7 @@ using Module1::EntryOutcome;
 
 namespace {
 
-/// The field stays the form's current one: another window, a menu or a pick list's popup is in front for now.
+/// Whether the field stays the current one: the focus only moved to another window, a menu or a popup.
 bool KeepsCurrentField(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason;
@@ -60,7 +60,7 @@ void ShowText(QLineEdit& edit, const std::string& text) {
 
 EntryField::EntryField(QWidget* parent)
     : QLineEdit(parent) {
-    // textChanged, not textEdited: assistive technologies set the text without a key.
+    // textChanged, not textEdited, because assistive technologies set the text without key presses.
     connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (m_events.Change)
             m_events.Change(text.toStdString());
@@ -86,7 +86,7 @@ bool EntryField::Commit(KeyCode key) {
 }
 
 bool EntryField::event(QEvent* event) {
-    // The toolkit moves the focus on Tab before keyPressEvent would see the key.
+    // Qt moves the focus on Tab before it calls keyPressEvent.
     if (event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<QKeyEvent&>(*event);
         if (key.key() == Qt::Key_Tab && IsPlain(key) && !Commit(KeyCode::Tab)) {
@@ -131,12 +131,12 @@ void EntryField::focusOutEvent(QFocusEvent* event) {
     const int length = selectionLength();
     QLineEdit::focusOutEvent(event);
     if (KeepsCurrentField(event->reason())) {
-        // The menu bar would take the selection away, and its commands work on it.
+        // Qt removes the selection when the menu bar opens, but the menu's commands need it.
         if (length > 0)
             setSelection(start, length);
         return;
     }
-    // While a refusal takes the focus back, the field that was moved to loses a focus it never got.
+    // When a refusal returns the focus, the next field gets a focusOutEvent without a focusInEvent.
     if (!std::exchange(m_entered, false) || !m_events.LostFocus)
         return;
     if (m_events.LostFocus() == EntryOutcome::Refused) {
@@ -144,7 +144,7 @@ void EntryField::focusOutEvent(QFocusEvent* event) {
             SwallowPendingPress();
         return;
     }
-    // A text longer than the field shows its beginning: the end of a number would pass for a smaller one.
+    // Shows the beginning of a long text, because the end of a number looks like a smaller number.
     setCursorPosition(0);
 }
 

@@ -9,48 +9,49 @@
 
 namespace Ledgrove {
 
-/// What the events of an edit field do. An empty function leaves its event to the field.
+/// The handlers of an edit field's events. If a handler is empty, the field keeps Qt's behaviour.
 struct EntryEvents {
     std::function<void()> Click;
     std::function<void()> GotFocus;
     std::function<Module1::EntryOutcome(KeyCode)> KeyPress;
     std::function<Module1::EntryOutcome()> LostFocus;
     std::function<void(const std::string&)> Change;
-    std::function<bool(char)> Character; ///< sees a typed character before the field; true takes it
+    std::function<bool(char)>
+        Character; ///< gets a typed character before the field; returns true if it handled the character
 };
 
-/// How the field of a form is entered. The formats may differ between key press and lost focus.
+/// The entry rules of a field. Some fields use different formats for key presses and for lost focus.
 struct EntryTypes {
     FieldFormat OnKeyPress;
     FieldFormat OnLostFocus;
     Module1::AfterEdit After;
 };
 
-/// The events as most fields connect them. The rules run in `shows`; the three references must outlive the
+/// The handlers that most fields use. They run the rules in `shows`. The three references must outlive the
 /// field.
 EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const EntryTypes& types,
                                 RecordShow& shows);
 
-/// Shows `text` where it differs. Showing is not typing.
+/// Shows `text` if it differs. Sends no change event, because nobody typed it.
 void ShowText(QLineEdit& edit, const std::string& text);
 
-/// The edit field of every form: turns the toolkit's events into the five of the entry rules. Any text may be
-/// typed; what is wrong with it is said when the field is committed or left.
+/// The edit field of every form. Translates Qt's events to those of the entry rules. The user may type any
+/// text; it is checked when the field is committed or left.
 class EntryField : public QLineEdit {
     Q_OBJECT
 
 public:
     explicit EntryField(QWidget* parent = nullptr);
 
-    /// Connects the field of the record that this one shows. `field` must outlive the widget.
+    /// Connects the widget to a field of the record. `field` must outlive the widget.
     void Bind(const Field& field, EntryEvents events);
     bool Shows(const Field& field) const { return m_field == &field; }
 
-    /// Shows the bound field's text as it is now.
+    /// Shows the current text of the bound field.
     void Refresh();
 
-    /// Takes what was typed as leaving the field would, without moving. False when it was refused; the person
-    /// has then been told why.
+    /// Commits the typed text as if the user left the field, without moving the focus. Returns false if the
+    /// text was refused, after a message.
     bool CommitInPlace();
 
 protected:

@@ -5,8 +5,8 @@
 
 namespace Ledgrove {
 
-/// One line that never widens the layout around it: a text too long for its place ends in dots, and the tip
-/// shows the whole.
+/// A one-line label that never widens its layout. A text that is too long ends in dots, and the tool tip
+/// shows all of it.
 class ElidedLabel : public QLabel {
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);
@@ -21,16 +21,16 @@ private:
     bool IsTooLong() const;
 };
 
-/// A label that a recalculation writes, right-aligned. It keeps one width whatever its figure, and its place
-/// while it is hidden; a figure that is too long ends in dots instead of showing some of its digits.
+/// A right-aligned figure that a recalculation writes. Its width does not depend on the figure, and it keeps
+/// its place while it is hidden. A figure that is too long ends in dots instead of showing only some digits.
 class ResultLabel : public ElidedLabel {
     Q_OBJECT
 
 public:
-    /// `caption` and `column` say what the figure is; the caption's words may change.
+    /// `caption` and `column` describe the figure. The text of the caption may change.
     ResultLabel(const QString& control, const QLabel& caption, QString column, QWidget* parent = nullptr);
 
-    /// Brings the description up to date with the caption.
+    /// Updates the description from the caption.
     void Describe();
 
     QSize sizeHint() const override;
@@ -41,15 +41,15 @@ private:
     QString m_column;
 };
 
-/// A label for fixed words.
+/// A label with a fixed text.
 QLabel* TextLabel(const QString& text, QWidget* parent = nullptr);
 
-/// A label whose words a recalculation writes; it keeps its place while it is hidden.
+/// A label whose text a recalculation writes. It keeps its place while it is hidden.
 QLabel* CaptionLabel(const QString& control, QWidget* parent = nullptr);
 
 void MakeBold(QWidget& widget);
 
-/// The layout around the widget stays as it is while the widget is hidden.
+/// Keeps the layout unchanged while the widget is hidden.
 void KeepPlaceWhileHidden(QWidget& widget);
 
 } // namespace Ledgrove

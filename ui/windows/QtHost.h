@@ -7,15 +7,15 @@
 
 namespace Ledgrove {
 
-/// The outside as a person at the screen meets it.
+/// Shows messages in message boxes and processes Qt's events.
 class QtHost : public Host {
 public:
     MessageAnswer ShowMessage(const Message& message) override;
-    /// User input waits: a click must not meet a half-finished edit.
+    /// Does not process user input, so that no click interrupts an edit.
     void RunPendingEvents() override;
 };
 
-/// Shows the record in its window before a message box opens over it, so that nobody looks at old figures.
+/// Shows the record before a message box opens, so that the window behind the box shows the new figures.
 class RefreshingHost : public Host {
 public:
     RefreshingHost(Host& outside, std::function<void()> refresh)

@@ -6,15 +6,15 @@
 
 namespace Ledgrove {
 
-/// Shows a form's record once for each event. The rules behind an event may call one another, as Enter does,
-/// which commits a field and thereby leaves it: the record is shown when the outermost rule returns, if one
-/// of them changed it.
+/// Shows a form's record once per event. Rules may call each other: for example, Enter commits a field and
+/// thereby leaves it. The record is shown when the outermost rule returns, if any of them changed it.
 class RecordShow {
 public:
     explicit RecordShow(std::function<void()> show)
         : m_show(std::move(show)) {}
 
-    /// Runs a rule. One that returns a bool says by it whether it changed the record.
+    /// Runs a rule. A rule that returns a bool reports whether it changed the record; any other rule counts
+    /// as a change.
     template <typename Rule>
     void Run(Rule rule) {
         ++m_running;

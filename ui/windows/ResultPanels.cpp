@@ -35,7 +35,7 @@ QLabel* MakeWrapped(const QString& text) {
     return label;
 }
 
-/// One figure amid words. `caption` and `column` describe it.
+/// A figure within a sentence. `caption` and `column` describe it for a screen reader.
 ResultLabel* MakeFigure(const char* control, const QLabel& caption, const char* column) {
     auto* figure = new ResultLabel(control, caption, column);
     MakeBold(*figure);
@@ -70,7 +70,7 @@ QWidget* MakeWelcome() {
     return panel;
 }
 
-/// Panels keep to the left and the top; what the window has more stays free.
+/// Keeps a panel at the top left; the rest of a larger window stays empty.
 QVBoxLayout* MakeColumn(QWidget* panel) {
     auto* outer = new QHBoxLayout(panel);
     auto* column = new QVBoxLayout;
@@ -80,7 +80,7 @@ QVBoxLayout* MakeColumn(QWidget* panel) {
     return column;
 }
 
-/// A sheet at the left and a chart in the room that is left.
+/// A sheet on the left, and a chart in the remaining space.
 QWidget* MakeSheetPanel(SheetKind sheet, ChartKind chart) {
     auto* panel = new QWidget;
     auto* row = new QHBoxLayout(panel);
@@ -90,7 +90,7 @@ QWidget* MakeSheetPanel(SheetKind sheet, ChartKind chart) {
     return panel;
 }
 
-/// "A Monthly Net Cash Flow of $x more per month means $y more today", one figure under the other.
+/// "A Monthly Net Cash Flow of $x more per month means $y more today", with the figures one above the other.
 QLayout* MakeCashFlowSentence() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
@@ -108,7 +108,7 @@ QLabel* MakeSentence(const char* control, const QString& description) {
     QLabel* sentence = CaptionLabel(control);
     sentence->setAccessibleDescription(description);
     sentence->setWordWrap(true);
-    // Not as wide as its longest word, which may be the whole of it.
+    // Otherwise a text without blanks would set the window's minimum width.
     sentence->setMinimumWidth(1);
     return sentence;
 }
@@ -133,7 +133,7 @@ QWidget* MakeMoreHome() {
 
 ResultTable* MakeSummarySavings() {
     auto* table = new ResultTable(SheetOf(SheetKind::SummarySavings));
-    // "30 Years" goes on with the words above it.
+    // Aligns "30 Years" with the end of the line above it, which it continues.
     for (const char* caption : {"lblYrsIn", "lblTerm"})
         table->findChild<QLabel*>(caption)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return table;
@@ -159,7 +159,7 @@ QWidget* MakeSummary() {
     return panel;
 }
 
-/// A feature's text may be of any length: what does not fit is scrolled to, and squeezes nothing else.
+/// A feature's text may have any length. Scrolling keeps a long text from squeezing the rest.
 QScrollArea* MakeScrolled(QWidget* page) {
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
@@ -167,13 +167,13 @@ QScrollArea* MakeScrolled(QWidget* page) {
     area->setWidgetResizable(true);
     area->setMinimumHeight(page->sizeHint().height());
     area->setWidget(page);
-    // The tab's own background shows through.
+    // Lets the tab's own background show.
     page->setAutoFillBackground(false);
     area->viewport()->setAutoFillBackground(false);
     return area;
 }
 
-/// Panels come and go inside their tab's page, which keeps the room.
+/// Adds the panel to its tab's page, which keeps its size while the panel is hidden.
 void FillPage(QWidget& page, QWidget* panel) {
     auto* layout = new QVBoxLayout(&page);
     layout->addWidget(panel);
@@ -186,8 +186,8 @@ ResultPanels::ResultPanels(QWidget* parent)
     : QTabWidget(parent) {
     setObjectName("SSTab1");
     setDocumentMode(true);
-    // A click on a tab takes the focus, so that the field being left is committed before its results are
-    // shown.
+    // A click on a tab must take the focus, so that the current field is committed before the tab shows
+    // results.
     tabBar()->setFocusPolicy(Qt::StrongFocus);
     const char* mnemonics[TabCount] = {"&Welcome", "&Cash Flow", "&More Home", "Affordabi&lity", "Summar&y"};
     constexpr int moreHome = 2;
@@ -201,7 +201,8 @@ ResultPanels::ResultPanels(QWidget* parent)
             FillPage(*page, panels[i]);
             addTab(MakeScrolled(page), mnemonics[i]);
         } else {
-            // The first page is laid out as soon as it is added: empty, since its size is not known yet.
+            // Adds the page while it is empty, because Qt lays out the first page at once, before its size is
+            // known.
             addTab(page, mnemonics[i]);
             FillPage(*page, panels[i]);
         }

@@ -4,7 +4,7 @@
 
 namespace Ledgrove {
 
-/// The lower part of the main window: the tab strip with its five detail panels.
+/// The lower part of the main window: the tab strip with five detail panels.
 class ResultPanels : public QTabWidget {
     Q_OBJECT
 

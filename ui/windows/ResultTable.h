@@ -10,8 +10,8 @@ class QGridLayout;
 
 namespace Ledgrove {
 
-/// The rows of a sheet: captions at the left, right-aligned figures in columns under their heads. A column
-/// without figures is left out.
+/// Shows the rows of a sheet: captions on the left, right-aligned figures in columns under their heads. A
+/// column without figures is omitted.
 class ResultTable : public QWidget {
     Q_OBJECT
 

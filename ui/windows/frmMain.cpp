@@ -119,7 +119,7 @@ void frmMain::ConnectPickLists() {
                                                     {"cboGMHMortOption", Module1::ClickLabelledOption}};
     for (const auto& [name, click] : clicks) {
         auto* list = findChild<QComboBox*>(name);
-        // Choosing the item that is chosen already is a click, too.
+        // Choosing the current item again is a click too.
         connect(list, &QComboBox::activated, this, [this, list, act = click] {
             m_shows.Run([&] { act(m_session, m_host, list->currentText().toStdString()); });
         });
@@ -205,14 +205,14 @@ void frmMain::OpenHelp() {
 
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    // A dark palette wants another red.
+    // A dark palette uses a different red.
     if (event->type() == QEvent::PaletteChange && m_binding)
         Refresh();
 }
 
 void frmMain::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
-    // Reading the emblem and drawing the icon would take a good part of the start, so the window comes first.
+    // Reading the emblem and drawing the icon is slow, so the window appears first.
     if (!std::exchange(m_painted, true))
         QTimer::singleShot(0, this, &frmMain::ShowPictures);
 }

@@ -18,7 +18,7 @@ namespace Ledgrove {
 class MainBinding;
 class WelcomeHint;
 
-/// What the main window opens and shows that comes from elsewhere. An empty dialog leaves its button
+/// The dialogs, samples and charts that other layers provide. If a dialog's function is empty, its button is
 /// disabled.
 struct MainActions {
     std::function<void()> Houses;
@@ -26,32 +26,31 @@ struct MainActions {
     std::function<void()> Options;
     std::function<void()> Print;
     std::function<void(const QTextDocument&, QWidget& above)> PrintHelp;
-    std::function<void()> OpenSample;    ///< fills in a sample comparison, where there is one
-    std::function<ChartSource()> Charts; ///< without it there are none
-    FileQuestions Questions;             ///< asked where a chart is saved
+    std::function<void()> OpenSample;    ///< fills in a sample comparison; empty if there is none
+    std::function<ChartSource()> Charts; ///< empty: the tabs have no charts
+    FileQuestions Questions;             ///< asks where to save a chart
 };
 
-/// The main window: a view of the session's screen record. Events go to the rules, and what the rules wrote
-/// is shown again.
+/// The main window: a view of the session's screen record. It passes events to the rules and then shows the
+/// changed record.
 class frmMain : public QMainWindow, public HelpPrinter {
     Q_OBJECT
 
 public:
-    /// Shows the screen as it stands; loading it is done before. `session` and `outside` must outlive the
-    /// window.
+    /// Shows the loaded session. `session` and `outside` must outlive the window.
     frmMain(Session& session, Host& outside, MainActions actions = {}, QWidget* parent = nullptr);
     ~frmMain() override;
 
-    /// Shows the record again after it was changed elsewhere.
+    /// Shows the record again after code outside the window changed it.
     void Refresh();
 
-    /// Takes what is being typed into the focused field as leaving it would. False when it was refused.
+    /// Commits the text in the focused field as if the user left it. Returns false if the text was refused.
     bool CommitEntry();
 
     void PrintHelp(const QTextDocument& document, QWidget& above) override;
 
 signals:
-    /// The record was shown again: any of its texts may have changed.
+    /// The record was shown again; any of its texts may have changed.
     void Refreshed();
     void Closed();
 
