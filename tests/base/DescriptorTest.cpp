@@ -12,7 +12,7 @@
 namespace Ledgrove {
 namespace {
 
-/// A pipe whose ends the test may close one by one.
+/// A pipe whose ends a test can close separately.
 class Pipe {
 public:
     Pipe() {
@@ -65,12 +65,12 @@ TEST(Descriptor, SaysWhyItIsNotOpen) {
     EXPECT_EQ(missing.OpenError(), ENOENT);
 }
 
-TEST(Descriptor, IsNotHandedToOtherPrograms) {
+TEST(Descriptor, IsClosedInStartedPrograms) {
     const Descriptor null("/dev/null", O_RDONLY);
     EXPECT_NE(fcntl(null.Number(), F_GETFD) & FD_CLOEXEC, 0);
 }
 
-TEST(ReadSome, GivesWhatIsThereNowAndNothingAtTheEnd) {
+TEST(ReadSome, ReturnsTheAvailableBytesAndNothingAtTheEnd) {
     Pipe pipe;
     ASSERT_EQ(WriteAll(pipe.To(), "abc"), 0);
     std::array<char, 8> buffer{};
@@ -83,7 +83,7 @@ TEST(ReadSome, GivesWhatIsThereNowAndNothingAtTheEnd) {
     EXPECT_EQ(end.Error, 0);
 }
 
-TEST(ReadSome, GivesTheSystemsError) {
+TEST(ReadSome, ReturnsTheSystemsError) {
     std::array<char, 8> buffer{};
     const ReadCount none = ReadSome(-1, buffer.data(), buffer.size());
     EXPECT_EQ(none.Bytes, 0u);
@@ -99,7 +99,7 @@ TEST(ReadAll, AppendsUpToTheEnd) {
     EXPECT_EQ(bytes, "before abc");
 }
 
-TEST(ReadAll, MoreThanTheMostIsAnError) {
+TEST(ReadAll, MoreThanTheLimitIsAnError) {
     Pipe pipe;
     ASSERT_EQ(WriteAll(pipe.To(), "abcd"), 0);
     pipe.CloseTo();
@@ -107,14 +107,14 @@ TEST(ReadAll, MoreThanTheMostIsAnError) {
     EXPECT_EQ(ReadAll(pipe.From(), bytes, 3), EFBIG);
 }
 
-TEST(ReadAll, GivesTheSystemsError) {
+TEST(ReadAll, ReturnsTheSystemsError) {
     std::string bytes = "as it was";
     EXPECT_EQ(ReadAll(-1, bytes, 100), EBADF);
     EXPECT_EQ(bytes, "as it was");
 }
 
 TEST(WriteAll, WritesMoreThanTheSystemTakesAtOnce) {
-    // A pipe that does not wait takes what fits, and then nothing.
+    // A non-blocking pipe accepts only as many bytes as fit.
     Pipe pipe;
     ASSERT_EQ(fcntl(pipe.To(), F_SETFL, O_NONBLOCK), 0);
     const int room = fcntl(pipe.From(), F_GETPIPE_SZ);
@@ -123,7 +123,7 @@ TEST(WriteAll, WritesMoreThanTheSystemTakesAtOnce) {
     EXPECT_EQ(WriteAll(pipe.To(), "x"), EAGAIN);
 }
 
-TEST(WriteAll, GivesTheSystemsError) {
+TEST(WriteAll, ReturnsTheSystemsError) {
     const Descriptor full("/dev/full", O_WRONLY);
     EXPECT_EQ(WriteAll(full.Number(), "x"), ENOSPC);
     EXPECT_EQ(WriteAll(full.Number(), ""), 0);
@@ -135,7 +135,7 @@ TEST(WriteAll, NoProgressIsAnError) {
     EXPECT_EQ(Testing::StuckWrites(), before + 1);
 }
 
-TEST(Sync, GivesTheSystemsError) {
+TEST(Sync, ReturnsTheSystemsError) {
     EXPECT_EQ(Sync(-1), EBADF);
 }
 

@@ -12,11 +12,11 @@ int stuckWrites = 0;
 
 } // namespace
 
-/// Stands before the C library's: no device of the system can be made to give 0 on request.
+/// Replaces the C library's function, because no device returns 0 on request.
 extern "C" ssize_t write(int number, const void* bytes, std::size_t size) {
     if (number != Ledgrove::Testing::StuckDescriptor)
         return syscall(SYS_write, number, bytes, size);
-    // A loop without an end fails the test here, and does not keep it waiting.
+    // Fails the test if the code under test loops without end, instead of hanging.
     if (++stuckWrites > 1000)
         std::abort();
     return 0;

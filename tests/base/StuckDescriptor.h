@@ -2,11 +2,11 @@
 
 namespace Ledgrove::Testing {
 
-/// A descriptor that takes no byte and says nothing of it: `write` gives 0 for it in every program that
-/// StuckDescriptor.cpp is part of. It is not an open file.
+/// A descriptor for which `write` returns 0 without an error, in every program that includes
+/// StuckDescriptor.cpp. It is not an open file.
 inline constexpr int StuckDescriptor = 1'000'000;
 
-/// How often something was written to it.
+/// The number of writes to the descriptor.
 int StuckWrites();
 
 } // namespace Ledgrove::Testing

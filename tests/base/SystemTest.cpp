@@ -8,13 +8,13 @@
 namespace Ledgrove {
 namespace {
 
-TEST(SystemError, HasTheSystemsWords) {
+TEST(SystemError, HasTheSystemsMessage) {
     EXPECT_EQ(Describe(ENOENT), "No such file or directory");
     EXPECT_EQ(Describe(ENOSPC), "No space left on device");
     EXPECT_NE(Describe(EIO), Describe(EACCES));
 }
 
-TEST(ProgramFolder, IsThatOfTheRunningProgramAndNotTheCurrentOne) {
+TEST(ProgramFolder, IsTheFolderOfTheProgramNotTheCurrentFolder) {
     const auto before = std::filesystem::current_path();
     const auto folder = ProgramFolder();
     EXPECT_TRUE(std::filesystem::exists(folder / "base_tests"));

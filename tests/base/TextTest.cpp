@@ -5,7 +5,7 @@
 namespace Ledgrove {
 namespace {
 
-TEST(Text, TrimmingTakesTheNamedCharactersOffBothEnds) {
+TEST(Text, TrimmedRemovesTheBlanksAtBothEnds) {
     EXPECT_EQ(Trimmed("  a b  "), "a b");
     EXPECT_EQ(Trimmed("   "), "");
     EXPECT_EQ(Trimmed(""), "");
@@ -13,17 +13,17 @@ TEST(Text, TrimmingTakesTheNamedCharactersOffBothEnds) {
     EXPECT_EQ(Trimmed(" \ta \t", " \t"), "a");
 }
 
-TEST(Text, BlankIsNothingButTheNamedCharacters) {
+TEST(Text, ATextIsBlankIfItHoldsOnlyBlanks) {
     EXPECT_TRUE(IsBlank(""));
     EXPECT_TRUE(IsBlank("  "));
     EXPECT_FALSE(IsBlank(" \t"));
     EXPECT_TRUE(IsBlank(" \t\r", " \t\r"));
     EXPECT_FALSE(IsBlank(" . "));
-    // The characters, not the bytes that look like a blank in another character set.
+    // A no-break space does not count as a blank.
     EXPECT_FALSE(IsBlank("\xC2\xA0"));
 }
 
-TEST(Text, QuotesStandAroundTheTextAsItIs) {
+TEST(Text, QuotedDoesNotChangeTheText) {
     EXPECT_EQ(Quoted("a b"), "\"a b\"");
     EXPECT_EQ(Quoted(""), "\"\"");
     EXPECT_EQ(Quoted("a\"b"), "\"a\"b\"");

@@ -13,10 +13,10 @@
 #include "base/Descriptor.h"
 #include "ui/StartUp.h"
 
-// What the tests of app/batch share.
+// Shared by the tests of app/batch.
 namespace Ledgrove::Testing {
 
-/// A file in memory, for what reads and writes descriptors. Reading begins at its start.
+/// A file in memory, for code that reads and writes descriptors. Reading begins at the start.
 class MemoryFile {
 public:
     explicit MemoryFile(std::string_view content = {})
@@ -41,7 +41,7 @@ private:
     int m_number;
 };
 
-/// The session as it is right after the start, on the shipped settings.
+/// The session right after the start, with the shipped settings.
 inline Session ShippedSession() {
     Session session;
     CollectingHost host;
@@ -55,7 +55,7 @@ struct ReaderResult {
     bool AllWell = false;
 };
 
-/// What a reader of comparisons makes of a whole input.
+/// The output of a ComparisonReader for a whole input.
 template <typename Reader>
 ReaderResult ReadWith(Reader& reader, std::string_view input) {
     const MemoryFile in(input);

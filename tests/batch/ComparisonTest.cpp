@@ -79,14 +79,14 @@ TEST_F(ComparisonTest, EachRunStartsFromTheSameState) {
     EXPECT_EQ(ResultOf({}), first);
 }
 
-TEST_F(ComparisonTest, RefusesTheFirstFaultInTheOrderOfEntry) {
+TEST_F(ComparisonTest, RefusesTheFirstInvalidInputInTheOrderOfEntry) {
     const Refusal refusal = RefusalOf(
         Given({{Input::chkDoTax0, "maybe"}, {Input::ecStdHome, "x"}, {Input::ecMonthlyDebt, "-5"}}));
     EXPECT_EQ(refusal.Control, "ecMonthlyDebt");
     EXPECT_EQ(refusal.Value, "-5");
 }
 
-TEST_F(ComparisonTest, EachKindOfControlRefusesInItsOwnWords) {
+TEST_F(ComparisonTest, EachKindOfControlHasItsOwnRefusal) {
     const struct {
         Input Which;
         const char* Text;
@@ -109,13 +109,13 @@ TEST_F(ComparisonTest, EachKindOfControlRefusesInItsOwnWords) {
     }
 }
 
-TEST_F(ComparisonTest, ABooleanIsNoNumber) {
+TEST_F(ComparisonTest, ABooleanIsNotANumber) {
     InputRecord inputs;
     inputs[Input::ecIncome] = {true, InputKind::Boolean, "true"};
     EXPECT_EQ(RefusalOf(inputs).Message, "You must enter a number here.");
 }
 
-TEST_F(ComparisonTest, TheLabelledOptionsAreThoseOfTheBaseOption) {
+TEST_F(ComparisonTest, TheBaseOptionDeterminesTheLabelledOptions) {
     EXPECT_FALSE(
         m_comparison.Run(Given({{Input::cboStdMortOption, "VA"}, {Input::cboGMHMortOption, "VA EEM"}})));
     EXPECT_EQ(
@@ -123,14 +123,14 @@ TEST_F(ComparisonTest, TheLabelledOptionsAreThoseOfTheBaseOption) {
         "cboGMHMortOption");
 }
 
-TEST_F(ComparisonTest, KeepsTheMessagesOfTheLastRunAlone) {
+TEST_F(ComparisonTest, KeepsOnlyTheMessagesOfTheLastRun) {
     ASSERT_FALSE(m_comparison.Run(Given({{Input::cboGMHMortOption, "Fannie Mae EEM"}})));
     EXPECT_FALSE(m_comparison.Messages().empty());
     ASSERT_FALSE(m_comparison.Run({}));
     EXPECT_TRUE(m_comparison.Messages().empty());
 }
 
-TEST_F(ComparisonTest, TheDataCheckSpeaksOfTheInputs) {
+TEST_F(ComparisonTest, TheDataCheckReportsMissingInputs) {
     ASSERT_FALSE(m_comparison.Run(Given({{Input::ecGMHHome, "206000"}})));
     EXPECT_THAT(m_comparison.DataCheck(), HasSubstr("Cost of Standard Home is missing."));
     EXPECT_THAT(m_comparison.DataCheck(), testing::Not(HasSubstr("Cost of GREENMARK Home is missing.")));

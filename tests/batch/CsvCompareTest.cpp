@@ -16,12 +16,12 @@ std::string Cell(std::string_view text) {
     return out;
 }
 
-TEST(CsvCell, StandsAsItIsWhereItMay) {
+TEST(CsvCell, APlainTextIsNotChanged) {
     for (const std::string_view text : {"", "a", "72000", "a b", "a;b", "a'b", "\xC3\xA9"})
         EXPECT_EQ(Cell(text), text);
 }
 
-TEST(CsvCell, IsQuotedWhereItMustBe) {
+TEST(CsvCell, SpecialCharactersAndOuterBlanksNeedQuotes) {
     EXPECT_EQ(Cell("a,b"), "\"a,b\"");
     EXPECT_EQ(Cell("a\"b"), "\"a\"\"b\"");
     EXPECT_EQ(Cell("a\nb"), "\"a\nb\"");
@@ -30,7 +30,7 @@ TEST(CsvCell, IsQuotedWhereItMustBe) {
     EXPECT_EQ(Cell("a\t"), "\"a\t\"");
 }
 
-TEST(CsvCell, WhatASpreadsheetWouldRunIsDefused) {
+TEST(CsvCell, AFormulaGetsAnApostrophe) {
     for (const std::string_view text :
          {"=1+1", "+x", "-x", "@x", "\t=1", "\rx", "  =1", "\n=1", "+", "-", "=", "@", "-1+2", "\tx"})
         EXPECT_EQ(DefusedCell(text), "'" + std::string(text)) << text;
@@ -38,7 +38,7 @@ TEST(CsvCell, WhatASpreadsheetWouldRunIsDefused) {
     EXPECT_EQ(Cell("=a,b"), "\"'=a,b\"");
 }
 
-TEST(CsvCell, ANumberOrAPlainTextIsNotDefused) {
+TEST(CsvCell, ANumberOrAPlainTextGetsNoApostrophe) {
     for (const std::string_view text : {"", "-5", "+5", "-$1,000.50", " -5", "x=1", "a@b", "'=1", "5-3", " "})
         EXPECT_EQ(DefusedCell(text), text);
 }
@@ -50,7 +50,7 @@ TEST(CsvHeading, HasTheInputsThenTheResultsThenTheError) {
     EXPECT_TRUE(out.ends_with(",Scenario.SavingsAfter30Years,lblStdQual,lblGMHQual,error\n"));
 }
 
-TEST(CsvResults, FillEveryColumnButTheError) {
+TEST(CsvResults, FillEveryColumnExceptTheError) {
     std::string heading;
     AppendCsvHeading(heading, {});
     Session session;
@@ -69,7 +69,7 @@ TEST(CsvResults, FillEveryColumnButTheError) {
 
 class CsvReaderTest : public testing::Test {
 protected:
-    /// The lines of the output; a line break in a cell would part it, and no test here has one.
+    /// The lines of the output. No test here has a line break within a cell, which would split it.
     std::vector<std::string> Rows(std::string_view list) {
         Comparison comparison(Testing::ShippedSession());
         CsvReader reader(comparison);
@@ -87,17 +87,17 @@ protected:
     bool m_allWell = false;
 };
 
-TEST_F(CsvReaderTest, EachRowGoesOutAgainWithItsResults) {
+TEST_F(CsvReaderTest, EachRowIsWrittenAgainWithItsResults) {
     const auto rows = Rows("ecStdHome,ecPctDown\n200000,10\n100000,20\n");
     ASSERT_EQ(rows.size(), 3u);
     EXPECT_THAT(rows[0], StartsWith("ecStdHome,ecPctDown,StdCase.DownPayment,StdCase.LoanAmount,"));
-    // 10 percent of 200,000 down leave a loan of 180,000; 20 percent of 100,000 one of 80,000.
+    // 10 percent down on 200,000 leaves a loan of 180,000; 20 percent down on 100,000 leaves 80,000.
     EXPECT_THAT(rows[1], StartsWith("200000,10,20000.00,180000.00,"));
     EXPECT_THAT(rows[2], StartsWith("100000,20,20000.00,80000.00,"));
     EXPECT_TRUE(m_allWell);
 }
 
-TEST_F(CsvReaderTest, AnEmptyCellIsAnAbsentInput) {
+TEST_F(CsvReaderTest, AnEmptyCellKeepsTheStartUpValue) {
     const auto rows = Rows("ecStdHome,ecStdRate\n200000,\n");
     const auto same = Rows("ecStdHome,ecStdRate\n200000,6.5\n");
     EXPECT_EQ(rows[1].substr(rows[1].find(",,") + 2), same[1].substr(same[1].find(",6.5,") + 5));
@@ -108,7 +108,7 @@ TEST_F(CsvReaderTest, TrueAndFalseMayHaveCapitals) {
     EXPECT_TRUE(m_allWell);
 }
 
-TEST_F(CsvReaderTest, ARefusedRowSaysItsLineAndControlAndTheNextIsCompared) {
+TEST_F(CsvReaderTest, ARefusalNamesLineAndControlAndTheNextRowIsCompared) {
     const auto rows = Rows("ecStdHome\n\nabc\n200000\n");
     ASSERT_EQ(rows.size(), 3u);
     EXPECT_THAT(rows[1], StartsWith("abc,,"));

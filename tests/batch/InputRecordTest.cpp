@@ -8,7 +8,7 @@
 namespace Ledgrove {
 namespace {
 
-TEST(InputTable, EveryInputHasANameOfItsOwn) {
+TEST(InputTable, EveryInputHasItsOwnName) {
     std::set<std::string_view> names;
     for (const auto& [input, name] : InputTable) {
         EXPECT_EQ(NameOf(input), name);
@@ -18,12 +18,12 @@ TEST(InputTable, EveryInputHasANameOfItsOwn) {
     EXPECT_EQ(names.size(), std::size(InputTable));
 }
 
-TEST(InputTable, AnyOtherNameIsNoInput) {
+TEST(InputTable, AnyOtherNameIsNotAnInput) {
     for (const std::string_view name : {"", "ecincome", "ecIncome ", "ecIncom", "ecIncomes", "lblStdQual"})
         EXPECT_EQ(InputNamed(name), std::nullopt) << name;
 }
 
-TEST(EntryInputs, EachFieldIsFilledByTheInputOfItsName) {
+TEST(EntryInputs, EachFieldHasTheInputWithItsName) {
     ASSERT_EQ(EntryInputs().size(), MainEntryRules().size());
     for (std::size_t i = 0; i < EntryInputs().size(); ++i) {
         EXPECT_EQ(&EntryInputs()[i].Rule, &MainEntryRules()[i]);
@@ -37,7 +37,7 @@ TEST(InputRecord, IsEmptyAtFirst) {
         EXPECT_FALSE(inputs[input.Which].Present) << input.Name;
 }
 
-TEST(InputRecord, KeepsEachValueByItself) {
+TEST(InputRecord, KeepsEachValueSeparately) {
     InputRecord inputs;
     inputs[Input::ecIncome] = {true, InputKind::Text, "72000"};
     inputs[Input::chkDoTax0] = {true, InputKind::Boolean, "true"};
@@ -46,7 +46,7 @@ TEST(InputRecord, KeepsEachValueByItself) {
     EXPECT_FALSE(inputs[Input::ecMonthlyDebt].Present);
 }
 
-TEST(InputRecord, RecordsOfTheSameValuesAreEqual) {
+TEST(InputRecord, RecordsWithTheSameValuesAreEqual) {
     InputRecord one;
     InputRecord other;
     EXPECT_EQ(one, other);
@@ -58,7 +58,7 @@ TEST(InputRecord, RecordsOfTheSameValuesAreEqual) {
     EXPECT_EQ(one, other);
 }
 
-TEST(InputRecord, NothingOutlivesClear) {
+TEST(InputRecord, ClearRemovesEveryValue) {
     InputRecord inputs;
     inputs[Input::ecStdHome] = {true, InputKind::Number, "200000"};
     inputs.Clear();
@@ -74,7 +74,7 @@ TEST(Refusal, OfAnUnknownNameListsTheInputs) {
     EXPECT_TRUE(refusal.Message.ends_with(", cboGMHMortOption, chkDoTax0."));
 }
 
-TEST(Refusal, InOneSentenceSaysWhatWhereAndWithWhichText) {
+TEST(Refusal, TheSentenceGivesMessageLineControlAndText) {
     EXPECT_EQ(RefusalSentence({3, "ecIncome", "abc", "You must enter a number here."}),
               "You must enter a number here. (line 3, ecIncome \"abc\")");
 }

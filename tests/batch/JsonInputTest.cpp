@@ -5,7 +5,7 @@
 namespace Ledgrove {
 namespace {
 
-/// What an object is read as; a refusal fails the test.
+/// The inputs of an object. A refusal fails the test.
 InputRecord Inputs(std::string_view json) {
     InputRecord inputs;
     const auto refusal = ReadJsonObject(json, inputs);
@@ -20,7 +20,7 @@ Refusal RefusalOf(std::string_view json) {
     return refusal.value_or(Refusal{});
 }
 
-TEST(JsonInput, TakesTextsNumbersAndBooleansAsTheyStand) {
+TEST(JsonInput, KeepsTextsNumbersAndBooleansAsWritten) {
     InputRecord expected;
     expected[Input::ecIncome] = {true, InputKind::Text, "$72,000"};
     expected[Input::ecStdHome] = {true, InputKind::Number, "2.50e3"};
@@ -43,7 +43,7 @@ TEST(JsonInput, TheLastValueOfANameCounts) {
     EXPECT_EQ(Inputs(R"({"ecIncome": 1, "ecIncome": "2"})")[Input::ecIncome].Text, "2");
 }
 
-TEST(JsonInput, ForgetsWhatTheRecordHeld) {
+TEST(JsonInput, RemovesTheOldValuesOfTheRecord) {
     InputRecord inputs;
     inputs[Input::ecIncome] = {true, InputKind::Number, "1"};
     EXPECT_FALSE(ReadJsonObject("{}", inputs));
@@ -58,7 +58,7 @@ TEST(JsonInput, AnUnknownNameIsRefusedWithItsValue) {
     EXPECT_TRUE(refusal.Message.starts_with("This is not the name of an input."));
 }
 
-TEST(JsonInput, NullListsAndObjectsAreNoValues) {
+TEST(JsonInput, NullListsAndObjectsAreNotValues) {
     const struct {
         const char* Json;
         const char* Value;
@@ -82,8 +82,8 @@ TEST(JsonInput, AnythingButAnObjectIsRefused) {
 }
 
 TEST(JsonInput, MalformedJsonIsRefusedWithItsPlace) {
-    // The comma that is missing is missed at the third quote: after two characters of the first line and 14
-    // of the second.
+    // The parser notices the missing comma at the third quote: after 2 characters of the first line and 14 of
+    // the second.
     const Refusal refusal = RefusalOf("{\n\"ecIncome\": 1 \"ecStdHome\": 2}");
     EXPECT_EQ(refusal.Line, 2u);
     EXPECT_EQ(refusal.Control, "");
@@ -91,7 +91,7 @@ TEST(JsonInput, MalformedJsonIsRefusedWithItsPlace) {
         << refusal.Message;
 }
 
-TEST(JsonInput, MalformedJsonIsRefusedWhateverComesBefore) {
+TEST(JsonInput, MalformedJsonIsReportedBeforeOtherFaults) {
     for (const std::string_view json :
          {"", " ", "{", R"({"ecIncome": 1)", R"({"ecIncome" 1})", "{} {}", "{}x", R"({"ecHouse": 1,})",
           R"({"ecIncome": nul})", "{'ecIncome': 1}"}) {
@@ -100,19 +100,19 @@ TEST(JsonInput, MalformedJsonIsRefusedWhateverComesBefore) {
     }
 }
 
-TEST(JsonInput, ANulIsMalformedWhereverItStands) {
+TEST(JsonInput, ANulIsMalformedAnywhere) {
     using namespace std::string_view_literals;
     for (const std::string_view json : {"\0"sv, "{}\0"sv, "{\"ecIncome\": \"\0\"}"sv})
         EXPECT_TRUE(RefusalOf(json).Message.starts_with("This is not valid JSON"));
 }
 
-TEST(JsonInput, BytesThatAreNoUtf8AreMalformed) {
+TEST(JsonInput, BytesThatAreNotUtf8AreMalformed) {
     for (const std::string_view json :
          {"{\"ecIncome\": \"\xFF\"}", "{\"ecIncome\": \"\\uDFF5\"}", "{\"\\uDFF5\": \"1\"}"})
         EXPECT_TRUE(RefusalOf(json).Message.starts_with("This is not valid JSON")) << json;
 }
 
-TEST(JsonInput, DeepNestingIsRefusedLikeAnyOther) {
+TEST(JsonInput, DeepNestingIsRefusedLikeAnyOtherList) {
     const std::size_t depth = 100000;
     const std::string json = "{\"ecIncome\": " + std::string(depth, '[') + std::string(depth, ']') + "}";
     EXPECT_EQ(RefusalOf(json).Value, "[...]");

@@ -12,7 +12,7 @@ namespace {
 
 rapidjson::Document Parsed(const std::string& json) {
     rapidjson::Document document;
-    // Numbers as their texts, so that their digits can be looked at.
+    // Keeps numbers as texts, so that a test can check their digits.
     document.Parse<rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag>(
         json.data(), json.size());
     EXPECT_FALSE(document.HasParseError()) << json;
@@ -35,7 +35,7 @@ protected:
     Comparison m_comparison{Testing::ShippedSession()};
 };
 
-TEST_F(JsonTextTest, HasItsPartsInTheirOrder) {
+TEST_F(JsonTextTest, HasItsPartsInOrder) {
     const rapidjson::Document result = ResultOf({});
     std::vector<std::string> names;
     for (const auto& member : result.GetObject())
@@ -89,24 +89,25 @@ TEST_F(JsonTextTest, NumbersHaveNoMoreDigitsThanTheyNeed) {
     EXPECT_STREQ(result["StdCase"]["Cost"].GetString(), "200000");
     EXPECT_STREQ(result["StdCase"]["IntRate"].GetString(), "0.061");
     EXPECT_STREQ(result["Scenario"]["PctDown"].GetString(), "0.125");
-    // A twelfth of 1,000: singles are 2^-17 apart here, and the nearest to it is 83.33333587646484375.
+    // A twelfth of 1,000. Singles are 2^-17 apart here, and the nearest one is 83.33333587646484375.
     EXPECT_STREQ(result["StdCase"]["UtilMonthly"].GetString(), "83.333336");
     EXPECT_STREQ(result["GMHCase"]["Cost"].GetString(), "0");
 }
 
-TEST_F(JsonTextTest, OfTwoDecimalsThatAreEquallyNearItIsTheOneFurtherFromZero) {
-    // An eighth of the price is 490,771.625. Singles are 2^-5 apart here, so 490771.62 would read back, too.
+TEST_F(JsonTextTest, OfTwoEquallyNearDecimalsWritesTheOneFurtherFromZero) {
+    // An eighth of the price is 490,771.625. Singles are 2^-5 apart here, so 490771.62 reads back as the same
+    // single.
     const rapidjson::Document result = ResultOf({{Input::ecStdHome, "3926173"}, {Input::ecPctDown, "12.50"}});
     EXPECT_STREQ(result["StdCase"]["DownPayment"].GetString(), "490771.63");
 }
 
 TEST_F(JsonTextTest, ALossIsANegativeNumber) {
-    // The labelled home is cheaper by 6,000.
+    // The labelled home costs 6,000 less.
     const rapidjson::Document result = ResultOf({{Input::ecStdHome, "206000"}, {Input::ecGMHHome, "200000"}});
     EXPECT_STREQ(result["Scenario"]["CostDifference"].GetString(), "-6000");
 }
 
-TEST_F(JsonTextTest, MessagesStandInTheOrderOfAppearance) {
+TEST_F(JsonTextTest, MessagesKeepTheirOrder) {
     const rapidjson::Document result =
         ResultOf({{Input::ecStdHome, "200000"}, {Input::cboGMHMortOption, "Fannie Mae EEM"}});
     const auto& messages = m_comparison.Messages();
@@ -144,7 +145,7 @@ TEST(RefusalJson, EveryTextReadsBack) {
     }
 }
 
-TEST(RefusalJson, EscapesWhatJsonAsksFor) {
+TEST(RefusalJson, EscapesTheCharactersThatJsonRequires) {
     std::string json;
     AppendRefusalJson(json, {1, "", "\"\\\r\n\t\x01/", ""});
     EXPECT_NE(json.find(R"("value":"\"\\\r\n\u0009\u0001/")"), std::string::npos) << json;

@@ -31,7 +31,7 @@ TEST(LineReader, EndsLinesAtLfAndCrLf) {
     EXPECT_THAT(LinesOf("\n\r\n\n"), ElementsAre("", "", ""));
 }
 
-TEST(LineReader, TheLastLineNeedsNoEnd) {
+TEST(LineReader, TheLastLineNeedsNoLineEnding) {
     EXPECT_THAT(LinesOf("a\nb"), ElementsAre("a", "b"));
     EXPECT_THAT(LinesOf("a\nb\r"), ElementsAre("a", "b"));
     EXPECT_THAT(LinesOf(""), ElementsAre());
@@ -41,7 +41,7 @@ TEST(LineReader, ACrInsideALineIsPartOfIt) {
     EXPECT_THAT(LinesOf("a\rb\r\r\nc"), ElementsAre("a\rb\r", "c"));
 }
 
-TEST(LineReader, PassesOverAUtf8MarkAtTheStartAlone) {
+TEST(LineReader, SkipsAByteOrderMarkOnlyAtTheStart) {
     EXPECT_THAT(LinesOf("\xEF\xBB\xBF"
                         "a\n\xEF\xBB\xBF"
                         "b"),
@@ -55,13 +55,13 @@ TEST(LineReader, KeepsNulAndEveryOtherByte) {
     EXPECT_THAT(LinesOf(bytes + "\nb"), ElementsAre(bytes, "b"));
 }
 
-TEST(LineReader, TakesALineOfTheGreatestLengthWhole) {
+TEST(LineReader, ReadsALineOfTheGreatestLengthCompletely) {
     const std::string longest(LongestLine, 'x');
     EXPECT_THAT(LinesOf(longest + "\nb"), ElementsAre(longest, "b"));
     EXPECT_THAT(LinesOf("a\n" + longest), ElementsAre("a", longest));
 }
 
-TEST(LineReader, GivesOnlyTheBeginningOfALongerLineAndGoesOnAfterIt) {
+TEST(LineReader, KeepsTheBeginningOfALongerLineAndSkipsTheRest) {
     for (const std::size_t length : {LongestLine + 1, 3 * LongestLine}) {
         const MemoryFile file("a\n" + std::string(length, 'x') + "\nb\n");
         LineReader reader(file.Number(), [] {});
@@ -87,14 +87,14 @@ TEST(LineReader, ALongLineMayBeTheLast) {
     EXPECT_FALSE(reader.Next());
 }
 
-TEST(LineReader, SaysThatItWillWaitBeforeEachRead) {
+TEST(LineReader, ReportsThatItWillWaitBeforeEachRead) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe(ends.data()), 0);
     int waits = 0;
     LineReader reader(ends[0], [&waits] { ++waits; });
     ASSERT_EQ(WriteAll(ends[1], "a\nb\nc"), 0);
     EXPECT_EQ(reader.Next()->Text, "a");
-    EXPECT_EQ(reader.Next()->Text, "b"); // was read with the first
+    EXPECT_EQ(reader.Next()->Text, "b"); // was read together with the first line
     EXPECT_EQ(waits, 1);
     close(ends[1]);
     EXPECT_EQ(reader.Next()->Text, "c");
@@ -102,7 +102,7 @@ TEST(LineReader, SaysThatItWillWaitBeforeEachRead) {
     close(ends[0]);
 }
 
-TEST(LineReader, AFailedReadEndsTheLinesAndIsNotTheEndOfTheFile) {
+TEST(LineReader, AFailedReadEndsTheLinesWithAFailure) {
     const Descriptor folder("/", O_RDONLY);
     LineReader reader(folder.Number(), [] {});
     EXPECT_FALSE(reader.Next());

@@ -21,7 +21,7 @@ TEST(OutputBuffer, KeepsALittleUntilItIsFlushed) {
     EXPECT_EQ(output.Failure(), "");
 }
 
-TEST(OutputBuffer, WritesByItselfOnceMuchHasGathered) {
+TEST(OutputBuffer, WritesByItselfWhenTheTextIsLong) {
     const MemoryFile file;
     OutputBuffer output(file.Number());
     const std::string much(std::size_t{1} << 20U, 'x');
@@ -30,7 +30,7 @@ TEST(OutputBuffer, WritesByItselfOnceMuchHasGathered) {
     EXPECT_EQ(file.Content(), much);
 }
 
-TEST(OutputBuffer, WritesATextAfterWhatHasGathered) {
+TEST(OutputBuffer, WritesATextAfterTheCollectedText) {
     const MemoryFile file;
     OutputBuffer output(file.Number());
     output.Text() += "first ";
@@ -38,12 +38,12 @@ TEST(OutputBuffer, WritesATextAfterWhatHasGathered) {
     EXPECT_EQ(file.Content(), "first second");
 }
 
-TEST(OutputBuffer, RemembersAFailedWriteAndDropsWhatFollows) {
+TEST(OutputBuffer, RemembersAFailedWriteAndDropsFurtherOutput) {
     const Descriptor full("/dev/full", O_WRONLY);
     OutputBuffer output(full.Number());
     output.Write("lost");
     EXPECT_EQ(output.Failure(), "No space left on device");
-    output.Text() += "lost, too";
+    output.Text() += "lost";
     output.Flush();
     EXPECT_EQ(output.Text(), "");
     EXPECT_EQ(output.Failure(), "No space left on device");
@@ -58,7 +58,7 @@ TEST(OutputBuffer, AWriteThatTakesNothingIsAFailure) {
     EXPECT_EQ(Testing::StuckWrites(), before + 1);
 }
 
-TEST(OutputBuffer, TheSentenceNamesWhatIsLostAndWhy) {
+TEST(OutputBuffer, TheSentenceNamesTheLostOutputAndTheReason) {
     EXPECT_EQ(UnwrittenOutput("results", "No space left on device"),
               "the results could not be written (No space left on device). Free some space or choose "
               "another place for them.");

@@ -24,7 +24,7 @@ protected:
     const Session m_start = Testing::ShippedSession();
 };
 
-/// Homes of all prices; every seventh line something else.
+/// Homes of different prices. Every seventh line is something else.
 std::string Lines(int count) {
     const std::string others[] = {"", "nonsense", R"({"ecIncome": "abc"})", R"({"ecHouse": 1})", "  "};
     std::string lines;
@@ -48,7 +48,7 @@ TEST_F(ParallelJsonTest, GivesWhatOneThreadGives) {
     }
 }
 
-TEST_F(ParallelJsonTest, NothingAndLittle) {
+TEST_F(ParallelJsonTest, ComparesEmptyAndShortInputs) {
     for (const std::string_view input : {"", "\n\n", "{}", "{}\n", "nonsense"}) {
         const ReaderResult expected = OneAfterTheOther(input);
         const ReaderResult result = Parallel(input, 4);
@@ -63,7 +63,7 @@ TEST_F(ParallelJsonTest, LongLinesKeepTheirPlace) {
     EXPECT_TRUE(Parallel(input, 3).Output == OneAfterTheOther(input).Output);
 }
 
-TEST_F(ParallelJsonTest, EachLineThatIsWaitedForIsAnsweredAtOnce) {
+TEST_F(ParallelJsonTest, AnswersALineWhileTheNextIsAwaited) {
     std::array<int, 2> in{};
     std::array<int, 2> out{};
     ASSERT_EQ(pipe(in.data()), 0);
@@ -88,7 +88,7 @@ TEST_F(ParallelJsonTest, EachLineThatIsWaitedForIsAnsweredAtOnce) {
     close(out[1]);
 }
 
-TEST_F(ParallelJsonTest, OutputThatCannotBeWrittenEndsTheRun) {
+TEST_F(ParallelJsonTest, AFailedWriteEndsTheRun) {
     const MemoryFile in(Lines(20000));
     const Descriptor full("/dev/full", O_WRONLY);
     OutputBuffer output(full.Number());

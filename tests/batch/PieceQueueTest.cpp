@@ -14,13 +14,13 @@ void Gather(PieceQueue& queue, std::string_view text, std::size_t number) {
     queue.Gather({text, number, false});
 }
 
-/// Takes a piece and writes its lines, each in brackets.
+/// Stores the lines of a piece as its result, each in brackets.
 void Bracket(Piece& piece) {
     for (std::size_t i = 0; i < piece.Lines.size(); ++i)
         piece.Result.append("[").append(piece.LineAt(i).Text).append("]");
 }
 
-TEST(PieceQueue, AtFirstNothingIsGathered) {
+TEST(PieceQueue, StartsEmpty) {
     const PieceQueue queue;
     EXPECT_EQ(queue.GatheredLines(), 0u);
     EXPECT_EQ(queue.GatheredBytes(), 0u);
@@ -28,7 +28,7 @@ TEST(PieceQueue, AtFirstNothingIsGathered) {
     EXPECT_TRUE(queue.AllWell());
 }
 
-TEST(PieceQueue, APieceHoldsTheLinesAsTheyCame) {
+TEST(PieceQueue, APieceHoldsTheGatheredLines) {
     PieceQueue queue;
     queue.Gather({"one", 1, false});
     queue.Gather({"", 2, false});
@@ -47,7 +47,7 @@ TEST(PieceQueue, APieceHoldsTheLinesAsTheyCame) {
     EXPECT_FALSE(piece->LineAt(0).TooLong);
 }
 
-TEST(PieceQueue, ResultsKeepTheOrderOfTheLinesWhoeverFinishesFirst) {
+TEST(PieceQueue, ResultsKeepTheOrderOfTheLines) {
     const MemoryFile out;
     OutputBuffer output(out.Number());
     PieceQueue queue;
@@ -68,7 +68,7 @@ TEST(PieceQueue, ResultsKeepTheOrderOfTheLinesWhoeverFinishesFirst) {
     EXPECT_EQ(out.Content(), "[a][b][c]");
 }
 
-TEST(PieceQueue, AFinishedPieceIsEmptyWhenItIsGatheredAgain) {
+TEST(PieceQueue, AFinishedPieceIsEmptyWhenItIsReused) {
     const MemoryFile out;
     OutputBuffer output(out.Number());
     PieceQueue queue;
@@ -78,14 +78,14 @@ TEST(PieceQueue, AFinishedPieceIsEmptyWhenItIsGatheredAgain) {
         Piece* const piece = queue.Take();
         Bracket(*piece);
         queue.Finish(*piece, output);
-        queue.WaitForRoom(); // the same piece: there is no other
+        queue.WaitForRoom(); // the same piece, because there is only one
         EXPECT_EQ(queue.GatheredLines(), 0u);
         EXPECT_EQ(queue.GatheredBytes(), 0u);
     }
     EXPECT_EQ(out.Content(), "[a][b]");
 }
 
-TEST(PieceQueue, OneRefusedLineIsRememberedForGood) {
+TEST(PieceQueue, RemembersARefusedLine) {
     const MemoryFile out;
     OutputBuffer output(out.Number());
     PieceQueue queue;
@@ -100,7 +100,7 @@ TEST(PieceQueue, OneRefusedLineIsRememberedForGood) {
     EXPECT_FALSE(queue.AllWell());
 }
 
-TEST(PieceQueue, AfterCloseWhatWasHandedOutIsStillTaken) {
+TEST(PieceQueue, PiecesHandedOutBeforeCloseAreStillTaken) {
     PieceQueue queue;
     Gather(queue, "x", 1);
     queue.HandOut();
@@ -109,7 +109,7 @@ TEST(PieceQueue, AfterCloseWhatWasHandedOutIsStillTaken) {
     EXPECT_EQ(queue.Take(), nullptr);
 }
 
-TEST(PieceQueue, AFailedWriteIsKnownToTheReader) {
+TEST(PieceQueue, ReportsAFailedWriteToTheReader) {
     const Descriptor full("/dev/full", O_WRONLY);
     OutputBuffer output(full.Number());
     PieceQueue queue;
@@ -128,19 +128,19 @@ TEST(PieceQueue, AddedPiecesHaveMemoryForTheirResults) {
     queue.Add(1, resultSize);
     Gather(queue, "x", 1);
     queue.HandOut();
-    queue.WaitForRoom(); // the added one
+    queue.WaitForRoom(); // gives the added piece
     Gather(queue, "y", 2);
     queue.HandOut();
     queue.Take();
     EXPECT_GE(queue.Take()->Result.capacity(), resultSize);
 }
 
-TEST(PieceQueue, MemoryThatCannotBeHadIsMissingAtOnce) {
+TEST(PieceQueue, AddFailsAtOnceIfMemoryIsShort) {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    GTEST_SKIP() << "the sanitizers end a program that asks for so much";
+    GTEST_SKIP() << "the sanitizers stop a program that requests this much memory";
 #endif
     PieceQueue queue;
-    // More than any machine has, and less than a text may be long.
+    // More memory than any machine has, but less than the longest std::string.
     EXPECT_THROW(queue.Add(1, std::size_t{1} << 60U), std::bad_alloc);
     Gather(queue, "x", 1);
     queue.HandOut();

@@ -9,7 +9,8 @@
 namespace Ledgrove {
 namespace {
 
-/// Standard output goes into a file in memory, or wherever `number` leads, as long as this lives.
+/// Redirects standard output to a file in memory or to the descriptor `number` for the lifetime of the
+/// object.
 class Redirected {
 public:
     explicit Redirected(int number)
@@ -46,19 +47,19 @@ TEST_F(SettingsCommandTest, GetPrintsTheValueAsALine) {
     EXPECT_EQ(Output(PrintSetting, "BUILDERNAME"), std::pair(int{AllWell}, std::string("Acme Homes\n")));
 }
 
-TEST_F(SettingsCommandTest, GetOfAKeyThatIsNotThereIsRefused) {
+TEST_F(SettingsCommandTest, GetRefusesAMissingKey) {
     Given("BUILDERNAME=Acme\r\n");
     EXPECT_EQ(Output(PrintSetting, "NOSUCHKEY"), std::pair(int{SomeRefused}, std::string()));
 }
 
-TEST_F(SettingsCommandTest, WithoutTheSettingsFileNothingCanRun) {
+TEST_F(SettingsCommandTest, WithoutTheSettingsFileNoCommandRuns) {
     EXPECT_EQ(Output(PrintSetting, "BUILDERNAME"), std::pair(int{CannotRun}, std::string()));
     EXPECT_EQ(Output(PrintHouses), std::pair(int{CannotRun}, std::string()));
     EXPECT_EQ(Output(ChangeSetting, "BUILDERNAME", "Acme"), std::pair(int{CannotRun}, std::string()));
     EXPECT_FALSE(Exists(File().Path()));
 }
 
-TEST_F(SettingsCommandTest, OutputThatCannotBeWrittenIsAFailure) {
+TEST_F(SettingsCommandTest, AFailedWriteIsReported) {
     Given("BUILDERNAME=Acme\r\n");
     const Descriptor full("/dev/full", O_WRONLY);
     const Redirected redirected(full.Number());
@@ -66,13 +67,13 @@ TEST_F(SettingsCommandTest, OutputThatCannotBeWrittenIsAFailure) {
     EXPECT_EQ(PrintHouses(Folder()), int{CannotRun});
 }
 
-TEST_F(SettingsCommandTest, SetReplacesTheKeysLineAndLeavesTheRest) {
+TEST_F(SettingsCommandTest, SetReplacesTheKeysLineAndKeepsTheRest) {
     Given("# a note\r\nBUILDERNAME=Old\r\nLOGOOPTION=1\r\n");
     EXPECT_EQ(Output(ChangeSetting, "BUILDERNAME", "Acme"), std::pair(int{AllWell}, std::string()));
     EXPECT_EQ(Bytes(), "# a note\r\nBUILDERNAME=Acme\r\nLOGOOPTION=1\r\n");
 }
 
-TEST_F(SettingsCommandTest, SetRefusesAnInputAtFaultAndChangesNothing) {
+TEST_F(SettingsCommandTest, SetRefusesAnInvalidInputAndChangesNothing) {
     const std::string before = "BUILDERNAME=Old\r\n";
     Given(before);
     EXPECT_EQ(ChangeSetting(Folder(), "", "x"), int{SomeRefused});
