@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Rules for every source file: clang-format's layout, a limited length, and only includes that its layer allows."""
+"""Rules for every source file: clang-format's layout, a limited file length, and only includes that its layer allows."""
 import re
 import subprocess
 import sys
@@ -9,7 +9,8 @@ ROOT = Path(__file__).resolve().parents[2]
 LAYERS = ("base", "engine", "settings", "ui", "reports", "app/batch", "app/files", "app/windows")  # lowest first
 PROGRAMS = ("app/ledgrove", "app/cli", "app/report", "app/chart", "app/metafile")
 TOOLKIT_PROGRAMS = ("app/ledgrove", "app/report", "app/chart")
-LOADED = {"ui/windows/charts": "app/chart", "reports/windows/cups": None}  # and the program that links it all the same
+# Libraries that are loaded at run time, each with the program that may link it directly.
+LOADED = {"ui/windows/charts": "app/chart", "reports/windows/cups": None}
 BESIDE = ("tests", "bench")
 LONGEST = 400
 
@@ -27,12 +28,12 @@ def format_faults(paths):
 
 
 def within(folder, name):
-    """Whether the file lies in the folder or below it."""
+    """Whether the file is in the folder or in one of its subfolders."""
     return name.startswith(folder + "/")
 
 
 def layer_of(name):
-    """How high the file lies, from 0; None outside the layers. The programs share the top layer."""
+    """The number of the file's layer, from 0; None outside the layers. The programs share the top layer."""
     for height, folder in enumerate(LAYERS):
         if within(folder, name):
             return height
@@ -44,7 +45,7 @@ def has_toolkit(name):
 
 
 def include_fault(name, include):
-    """What is wrong with this include of the file, both named from the root; "" for nothing."""
+    """The fault of this include in the file, both as paths from the root; "" if it is allowed."""
     if re.match(r"Q[A-Z]|Qt", include):
         return "" if has_toolkit(name) else "only windows/ may"
     height, included = layer_of(name), layer_of(include)
@@ -58,16 +59,16 @@ def include_fault(name, include):
         return "from windows/, into a core"
     for folder, program in LOADED.items():
         if within(folder, include) and not within(folder, name) and not (program and within(program, name)):
-            return "from a library that is loaded when it is needed"
+            return "from a library that is loaded at run time"
     return ""
 
 
 def include_faults(name, text):
-    """A core includes neither Qt nor a window, and no file includes a higher layer. Tests and benchmarks are exempt."""
+    """Cores must not include Qt or windows/, and no file may include a higher layer. Tests and benchmarks are exempt."""
     if PurePath(name).parts[0] in BESIDE:
         return
     if layer_of(name) is None:
-        yield f"{name}: belongs to no layer; its folder has no place in check_style.py"
+        yield f"{name}: is in no layer; add its folder to check_style.py"
         return
     for include in re.findall(r'^\s*#\s*include ["<]([^">]+)', text, re.M):
         fault = include_fault(name, include)

@@ -1,4 +1,4 @@
-"""The rules of check_style.py: which file may include what."""
+"""Tests which files check_style.py allows to include which others."""
 import unittest
 
 from check_style import include_faults
@@ -20,7 +20,7 @@ class Includes(unittest.TestCase):
         self.refused("engine/Host.h", "settings/Rewrite.h", "ui/Entry.h", "reports/modPrint.h")
         self.refused("ui/Entry.cpp", "reports/modPrint.h", "app/files/TabText.h")
 
-    def test_the_layers_of_app_stand_above_each_other(self):
+    def test_the_layers_of_app_are_ordered(self):
         self.allowed("app/files/TabText.cpp", "app/batch/CsvCompare.h", "reports/modPrint.h")
         self.allowed("app/windows/MainMenu.cpp", "app/files/TabText.h", "app/batch/CsvCompare.h")
         self.allowed("app/cli/main.cpp", "app/batch/CompareCommand.h", "app/files/TabText.h", "app/cli/CommandWords.h")
@@ -28,7 +28,7 @@ class Includes(unittest.TestCase):
         self.refused("app/files/TabText.cpp", "app/windows/MainMenu.h", "app/report/Sections.h")
         self.refused("app/windows/MainMenu.cpp", "app/ledgrove/Options.h")
 
-    def test_a_program_includes_no_other(self):
+    def test_a_program_includes_no_other_program(self):
         self.refused("app/report/main.cpp", "app/cli/CommandWords.h", "app/chart/Kinds.h")
         self.refused("app/metafile/main.cpp", "app/report/Sections.h")
 
@@ -47,7 +47,7 @@ class Includes(unittest.TestCase):
         self.allowed("ui/windows/frmMain.cpp", "QString", "QtGlobal")
         self.allowed("app/chart/main.cpp", "QApplication")
 
-    def test_a_library_that_is_loaded_is_not_linked(self):
+    def test_a_library_that_is_loaded_at_run_time_is_not_linked(self):
         self.refused("ui/windows/ChartPlace.cpp", "ui/windows/charts/QtChart.h")
         self.refused("app/windows/ExportCommands.cpp", "ui/windows/charts/ChartPicture.h", "reports/windows/cups/CupsServer.h")
         self.refused("reports/windows/frmPrint.cpp", "reports/windows/cups/CupsServer.h")
@@ -55,11 +55,11 @@ class Includes(unittest.TestCase):
         self.allowed("ui/windows/charts/BarChart.cpp", "ui/windows/charts/ChartLook.h", "ui/windows/ChartWidget.h")
         self.allowed("app/chart/main.cpp", "ui/windows/charts/ChartPicture.h")
 
-    def test_a_new_folder_needs_its_place(self):
+    def test_a_folder_without_a_layer_is_refused(self):
         self.refused("app/mail/Send.cpp", "string")
         self.refused("app/main.cpp", "string")
 
-    def test_every_way_to_write_an_include_counts(self):
+    def test_every_spelling_of_an_include_is_checked(self):
         for line in ('#include <ui/Entry.h>', '  #include "ui/Entry.h"', '# include "ui/Entry.h"', '#include "ui/Entry.h" // why'):
             self.assertEqual(len(list(include_faults("engine/Host.h", line))), 1, line)
         self.assertEqual(list(include_faults("engine/Host.h", '// #include "ui/Entry.h"')), [])
