@@ -11,7 +11,7 @@ namespace {
 
 using namespace Ledgrove::Testing;
 
-/// The sample: FHA beside FHA EEM, savings worth $9,229 against an upgrade of $6,000.
+/// The sample: FHA and FHA EEM, with savings worth $9,229 and an upgrade of $6,000.
 class Evaluation : public testing::Test {
 protected:
     Results Run() {
@@ -25,12 +25,12 @@ protected:
     Carried m_carried;
 };
 
-TEST_F(Evaluation, GivesTheSameForTheSame) {
+TEST_F(Evaluation, GivesEqualResultsForEqualInputs) {
     EXPECT_EQ(Run(), Run());
     EXPECT_EQ(Run().From, m_inputs);
 }
 
-TEST_F(Evaluation, SaysHowTheSampleWasDecided) {
+TEST_F(Evaluation, RecordsTheDecisionsForTheSample) {
     const Results results = Run();
     const HomeDecisions& base = results.Decisions.Std;
     const HomeDecisions& labelled = results.Decisions.GMH;
@@ -56,7 +56,7 @@ TEST_F(Evaluation, SaysHowTheSampleWasDecided) {
     EXPECT_TRUE(results.StdQualifies);
 }
 
-TEST_F(Evaluation, SaysThatTheAllowanceIsAShareOrItsLeast) {
+TEST_F(Evaluation, RecordsAnAllowanceThatIsAShareOrTheLeast) {
     m_inputs.Std.Cost = m_inputs.GMH.Cost = 100000;
     EXPECT_EQ(Run().Decisions.Allowance, AllowanceRule::ShareOfPrice); // 5,000
     m_inputs.Std.Cost = 60000;
@@ -65,13 +65,13 @@ TEST_F(Evaluation, SaysThatTheAllowanceIsAShareOrItsLeast) {
     EXPECT_EQ(Run().Decisions.Allowance, AllowanceRule::Kept);
 }
 
-TEST_F(Evaluation, SaysThatTheSavingsAreTheSmallerAddition) {
+TEST_F(Evaluation, RecordsSavingsThatAreBelowTheAllowance) {
     m_inputs.GMH.Cost = 200000;
-    m_inputs.GMH.UtilAnnual = 2000; // 33.33 a month are worth 5,274
+    m_inputs.GMH.UtilAnnual = 2000; // 33.33 per month is worth 5,274
     EXPECT_EQ(Run().Decisions.GMH.MaxLoan, LoanRule::WithSavings);
 }
 
-TEST_F(Evaluation, SaysThatThePlainPartnersRatiosStandIn) {
+TEST_F(Evaluation, RecordsTheUseOfThePlainPartnersRatios) {
     m_inputs.GMH.Cost = 220000;
     const Results results = Run();
     EXPECT_EQ(results.Decisions.GMH.MaxPayment, PaymentRule::PlainPartner);
@@ -79,7 +79,7 @@ TEST_F(Evaluation, SaysThatThePlainPartnersRatiosStandIn) {
     EXPECT_EQ(results.Decisions.GMH.DownPayment, DownPaymentBase::OwnPrice);
 }
 
-TEST_F(Evaluation, SaysThatThePaymentIsStretched) {
+TEST_F(Evaluation, RecordsAStretchedPayment) {
     m_inputs.GMH.Option = MortgageOption::FreddieMacEEM;
     const Results results = Run();
     EXPECT_EQ(results.Decisions.GMH.MaxPayment, PaymentRule::Stretched);
@@ -87,7 +87,7 @@ TEST_F(Evaluation, SaysThatThePaymentIsStretched) {
     EXPECT_EQ(results.Decisions.GMH.MaxPaymentRatio, QualifyingRatio::BackEnd);
 }
 
-TEST_F(Evaluation, SaysWhichFaultClearedAHome) {
+TEST_F(Evaluation, RecordsTheFaultOfAHome) {
     m_inputs.GMH.Option = std::nullopt;
     EXPECT_EQ(Run().Decisions.GMH.CaseFault, Fault::MissingLoanType);
     m_inputs.GMH.Option = MortgageOption::FHAEEM;
@@ -95,38 +95,38 @@ TEST_F(Evaluation, SaysWhichFaultClearedAHome) {
     EXPECT_EQ(Run().Decisions.GMH.CaseFault, Fault::ZeroRatio);
     m_inputs.DownAsPercent = false;
     m_inputs.Std.Cost = 0;
-    EXPECT_EQ(Run().Decisions.GMH.CaseFault, Fault::ZeroBasePrice); // met before the ratio
+    EXPECT_EQ(Run().Decisions.GMH.CaseFault, Fault::ZeroBasePrice); // occurs before the fault of the ratio
     m_inputs = ReadInputs(m_session.Screen);
     m_inputs.TermYears = 0;
     EXPECT_EQ(Run().Decisions.Std.CaseFault, Fault::OutOfRange);
 }
 
-TEST_F(Evaluation, SaysThatThereIsNoBracket) {
+TEST_F(Evaluation, RecordsThatNoBracketMatches) {
     m_inputs.AnnualIncome = 0;
     m_rules.TaxBrackets.front().LowEnd = 0;
     EXPECT_EQ(Run().Decisions.TaxBracket, std::nullopt);
     EXPECT_EQ(Run().Scenario.MarginalTaxRate, 0);
 }
 
-TEST_F(Evaluation, CarriesTheAllowanceOn) {
+TEST_F(Evaluation, CarriesTheAllowance) {
     Evaluate(m_inputs, m_rules, m_carried);
     EXPECT_EQ(m_carried.EEMAllowance, 8000);
     m_inputs.GMH.Option = MortgageOption::FHA;
     EXPECT_EQ(Evaluate(m_inputs, m_rules, m_carried).Scenario.EEMAllowance, 8000);
 }
 
-TEST_F(Evaluation, CarriesRatiosOnWhileTheLoanTypeIsMissing) {
+TEST_F(Evaluation, CarriesTheRatiosWhileTheLoanTypeIsMissing) {
     Evaluate(m_inputs, m_rules, m_carried);
     m_rules.LoanTypes.clear();
     const Results results = Evaluate(m_inputs, m_rules, m_carried);
     EXPECT_EQ(results.StdCase.FrontRatio, 0.310F);
-    EXPECT_FLOAT_EQ(results.StdCase.MaxPayment, 1860); // 6,000 x 0.31, though the home itself faults
+    EXPECT_FLOAT_EQ(results.StdCase.MaxPayment, 1860); // 6,000 x 0.31, although the home's case has a fault
     EXPECT_EQ(m_carried.Std.Back, 0.430F);
 }
 
-TEST_F(Evaluation, SpendsTheNoticeFlag) {
+TEST_F(Evaluation, ClearsTheNoticeFlag) {
     m_carried.EEMNoticeFlag = true;
-    EXPECT_FALSE(Evaluate(m_inputs, m_rules, m_carried).NoticeApplies); // the upgrade pays
+    EXPECT_FALSE(Evaluate(m_inputs, m_rules, m_carried).NoticeApplies); // the savings pay for the upgrade
     EXPECT_FALSE(m_carried.EEMNoticeFlag);
     m_inputs.GMH.Cost = 220000;
     EXPECT_FALSE(Evaluate(m_inputs, m_rules, m_carried).NoticeApplies);

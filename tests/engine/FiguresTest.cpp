@@ -7,13 +7,13 @@
 namespace Ledgrove {
 namespace {
 
-TEST(FiguresTest, EachStandsAtItsEnumerator) {
-    ASSERT_EQ(FigureTable().size(), 63U); // 21 a record
+TEST(FiguresTest, AreInTheOrderOfTheirEnumerators) {
+    ASSERT_EQ(FigureTable().size(), 63U); // 21 per record
     for (std::size_t i = 0; i < FigureTable().size(); ++i)
         EXPECT_EQ(static_cast<std::size_t>(FigureTable()[i].Id), i);
 }
 
-TEST(FiguresTest, HasItsOwnName) {
+TEST(FiguresTest, HaveTheirOwnNames) {
     std::set<std::string_view> names;
     for (const FigureEntry& figure : FigureTable())
         EXPECT_TRUE(names.insert(figure.FullName).second) << figure.FullName;
@@ -40,10 +40,10 @@ TEST(FiguresTest, ReadTheirOwnMember) {
     float sum = 0;
     for (const FigureEntry& figure : FigureTable())
         sum += figure.Value(records);
-    EXPECT_EQ(sum, 6); // no figure reads another's member
+    EXPECT_EQ(sum, 6); // no figure reads the member of another
 }
 
-TEST(FiguresTest, SayTheirUnit) {
+TEST(FiguresTest, HaveTheirUnits) {
     EXPECT_EQ(EntryOf(Figure::StdIntRate).Unit, FigureUnit::FractionPerYear);
     EXPECT_EQ(EntryOf(Figure::GMHPITI).Unit, FigureUnit::DollarsPerMonth);
     EXPECT_EQ(EntryOf(Figure::StdIncomeNeeded).Unit, FigureUnit::DollarsPerYear);

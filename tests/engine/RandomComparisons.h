@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-// Random comparisons, the same in every run, and a digest of all that a recalculation leaves behind.
+// Random comparisons, the same in every run, and a digest of everything that a recalculation changes.
 namespace Ledgrove::Testing {
 
-/// A generator of numbers with the same sequence on every machine (splitmix64).
+/// A random number generator with the same sequence on every machine (splitmix64).
 class Random {
 public:
     explicit Random(std::uint64_t seed)
@@ -38,7 +38,7 @@ private:
     std::uint64_t m_state;
 };
 
-/// `value` with two decimals, or now and then a text that people do not mean or that is hardly a number.
+/// `value` with two decimals, or sometimes an extreme or invalid text.
 inline std::string RandomText(Random& random, double value) {
     static constexpr std::array<std::string_view, 14> odd{
         "",        "0",        "-250",  "abc", "$",     "99999999999999999999999999999999999999",  "0.01",
@@ -116,7 +116,7 @@ inline void ChangeInputs(Random& random, Session& session, int changes) {
     }
 }
 
-/// Changes assumptions, ratios, EEM flags and brackets; seldom into something that faults.
+/// Changes assumptions, ratios, EEM flags and brackets, rarely to values that cause a fault.
 inline void ChangeTables(Random& random, Session& session) {
     AssumptionSet& a = session.Assumptions;
     a.RealEstateTaxPct = static_cast<float>(random.Between(0, 3'000, 0.001));
@@ -142,7 +142,7 @@ inline void ChangeTables(Random& random, Session& session) {
         bracket.Rate = static_cast<float>(random.Between(0, 4'500, 0.01));
 }
 
-/// A session with every input and table changed.
+/// A session in which every input and table was changed.
 inline Session RandomSession(Random& random) {
     Session session = StartedSession();
     FillSample(session.Screen);
@@ -154,7 +154,7 @@ inline Session RandomSession(Random& random) {
     return session;
 }
 
-/// FNV-1a over what is added.
+/// The FNV-1a hash of all added data.
 class Digest {
 public:
     void Add(std::string_view bytes) {

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-// Every bit of 200,000 random recalculations. The digests were taken from an earlier engine that computed
-// through the texts of the screen, and both engines agreed on each comparison. They hold for the mathematical
-// functions of Debian 12's C library.
+// Checks every bit of 200,000 random recalculations. The digests come from an earlier engine that computed
+// with the texts of the screen, and both engines agreed on every comparison. They are valid for the
+// mathematical functions of Debian 12's C library.
 namespace Ledgrove::Testing {
 namespace {
 
@@ -21,7 +21,7 @@ void AddRecalculation(Digest& digest, Session& session, ScriptedHost& host) {
     AddOutcome(digest, session, host);
 }
 
-TEST(RandomComparisonsTest, GiveWhatTheyAlwaysGave) {
+TEST(RandomComparisonsTest, HaveTheRecordedDigests) {
     Random random(seed);
     Digest digest;
     ScriptedHost host;
@@ -31,7 +31,7 @@ TEST(RandomComparisonsTest, GiveWhatTheyAlwaysGave) {
     }
     EXPECT_EQ(digest.Value(), 0x03d78b7fb9001fe4U);
 
-    // What outlives a recalculation matters where one session goes through many of them.
+    // One session runs many recalculations, so this also checks the state that each passes on.
     Digest digestOfSequences;
     for (int i = 0; i < sequences; ++i) {
         Session session = RandomSession(random);

@@ -20,7 +20,7 @@ constexpr float infinite = std::numeric_limits<float>::infinity();
 constexpr double infiniteDollars = std::numeric_limits<double>::infinity();
 constexpr int randomValues = 1'000'000;
 
-// The same roundings by way of a text, as a screen would do them.
+// The same roundings through a text, as the rules define them.
 float ShownAsText(float amount) {
     return ParseFieldValue(MoneyText(amount), 1);
 }
@@ -59,14 +59,14 @@ TEST(WholeDollarsTest, RoundsToCentsFirst) {
     const Pair<double> pairs[] = {{0, 0},
                                   {100.494, 100},  // 100.49
                                   {100.4951, 101}, // 100.50
-                                  {100.505, 101},  // 100.50: halves of a cent go to the even one
+                                  {100.505, 101},  // 100.50: half a cent rounds to the even cent
                                   {-100.4951, -101},
                                   {2.5, 3},
                                   {-0.2, 0},
                                   {1e12 + 0.5, 1e12 + 1},
                                   {1e13 + 0.5, 1e13 + 1},
                                   {123456789012345.6, 123456789012346},     // fifteen digits
-                                  {1234567890123456.0, 1234567890123460.0}, // the sixteenth goes
+                                  {1234567890123456.0, 1234567890123460.0}, // the sixteenth digit is dropped
                                   {3e38, 3e38},
                                   {4e38, infiniteDollars},
                                   {infiniteDollars, infiniteDollars}};
@@ -75,7 +75,7 @@ TEST(WholeDollarsTest, RoundsToCentsFirst) {
     EXPECT_FALSE(std::signbit(WholeDollarsFromCents(-0.2)));
 }
 
-TEST(AsTypedTest, IsWhatSevenDigitsSay) {
+TEST(AsTypedTest, RoundsToSevenDigits) {
     const Pair<float> pairs[] = {{0, 0},
                                  {1.5F, 0.015F},
                                  {0.9F, 0.009F},
@@ -110,7 +110,7 @@ float UsualSingle(Random& random) {
            (random.OneIn(2) ? 1.0F : -1.0F);
 }
 
-/// Where digits, places and precisions change, with their neighbours.
+/// Values at which the number of digits or the precision changes, and their neighbours.
 std::vector<float> BorderSingles() {
     std::vector<float> borders{0.0F, std::numeric_limits<float>::max(), std::numeric_limits<float>::min(),
                                std::numeric_limits<float>::denorm_min()};

@@ -216,7 +216,7 @@ TEST_F(EntryKeys, TheNoticeOfAnEditAppearsOnce) {
 
 using LostFocus = EntryDesk;
 
-TEST_F(LostFocus, OfAFieldThatEnterCommittedCommitsNothing) {
+TEST_F(LostFocus, AfterEnterDoesNotRecalculateAgain) {
     SetFieldText(m_session, Screen().ecStdHome, "210000");
     HandleEntryKey(m_context, Screen().ecStdHome, KeyCode::Enter, FieldFormat::Dollar);
     m_log.clear();
@@ -226,7 +226,7 @@ TEST_F(LostFocus, OfAFieldThatEnterCommittedCommitsNothing) {
     EXPECT_THAT(m_log, IsEmpty());
 }
 
-TEST_F(LostFocus, TakesTheFormatThatEnterDidNot) {
+TEST_F(LostFocus, AppliesAFormatThatEnterDidNotApply) {
     Field tax;
     tax.Text = "0.5";
     HandleEntryKey(m_context, tax, KeyCode::Tab, FieldFormat::SmallPercent);
@@ -235,7 +235,7 @@ TEST_F(LostFocus, TakesTheFormatThatEnterDidNot) {
     EXPECT_EQ(tax.Text, "0.50%");
 }
 
-TEST_F(LostFocus, BringsTheNoticeOfATextTypedAndTypedBack) {
+TEST_F(LostFocus, ShowsTheNoticeForATextThatWasChangedBack) {
     SetFieldText(m_session, Screen().ecGMHHome, "220000"); // an upgrade of 20,000 for savings worth 9,229
     LeaveField(m_context, Screen().ecGMHHome, FieldFormat::Dollar, AfterEdit::RecalculateAndCheckHouse);
     ASSERT_EQ(m_host.Messages.size(), 1U);

@@ -10,7 +10,7 @@ namespace {
 constexpr SheetKind kinds[] = {SheetKind::CashFlow,      SheetKind::Purchase,     SheetKind::HouseValues,
                                SheetKind::Affordability, SheetKind::SummaryHomes, SheetKind::SummarySavings};
 
-TEST(ResultSheetsTest, StandAtTheirKind) {
+TEST(ResultSheetsTest, AreInTheOrderOfTheirKinds) {
     for (const SheetKind kind : kinds)
         EXPECT_EQ(SheetOf(kind).Kind, kind);
 }
@@ -28,14 +28,15 @@ TEST(ResultSheetsTest, ShowEachLabelInOneRowOnly) {
             }
         }
     }
-    // The rest stand outside tables: the sentence, two features, the note of the present value, the house.
+    // The other labels are not in tables: the sentence, two features, the note on the present value, the
+    // house.
     const std::set<std::string_view> outside{"Label6", "lblfeature1", "lblfeature2", "lblPVNote",
                                              "lblHomeName"};
     for (const auto& [name, member] : LabelTable())
         EXPECT_NE(names.contains(name), outside.contains(name)) << name;
 }
 
-TEST(ResultSheetsTest, ACaptionReadsAlone) {
+TEST(ResultSheetsTest, ACaptionIsCompleteOnItsOwn) {
     MainScreen screen;
     screen.lblYrsIn.Text = " Expected Savings After:   7 Years";
     screen.lblTerm.Text = "30 Years";
