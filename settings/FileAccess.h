@@ -2,16 +2,16 @@
 
 #include <filesystem>
 
-// What stands at a path. Every error is an errno; 0 is none.
+// Finds out what exists at a path. Errors are errno values, 0 for success.
 namespace Ledgrove {
 
-/// The file that `path` leads to when every link of its last part is followed, whether that file is there or
-/// not.
+/// The path after following every link in its last part. The file at its end need not exist.
 std::filesystem::path FollowLinks(const std::filesystem::path& path);
 
 enum class Presence { Present, Absent, Unknown };
 
-/// Whether something of this name, be it a link to nothing, is there. `error` says why it is unknown.
+/// Whether anything with this name exists, even a link without a target. `error` is the reason if this is
+/// unknown.
 Presence PresenceOf(const std::filesystem::path& path, int& error);
 
 } // namespace Ledgrove
