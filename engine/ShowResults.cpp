@@ -101,7 +101,7 @@ void ShowSummaryPanel(MainScreen& screen, const Results& results, bool withTaxes
     MoneyText(withTaxes ? scenario.NetMonthlyCashFlow : scenario.NetBeforeTax, screen.lblNetCashMo2.Text);
 
     MoneyText(scenario.SavingsAfterYearsInHome, screen.lblExpYrPre.Text);
-    // Intended: the colour depends on the savings after 7 years, whatever the number of years in the home.
+    // Intended: the colour depends on the savings after 7 years, not on those after the years in the home.
     screen.lblExpYrPre.Colour = scenario.SavingsAfter7Years < 0 ? TextColour::Red : TextColour::Normal;
     MoneyText(scenario.SavingsAfter30Years, screen.lbl30YrPre.Text);
     screen.lblTerm.Text = "30 Years";
