@@ -2,8 +2,9 @@
 
 // Annuities with payments at the end of each period and a future value of 0 (FV: a present value of 0).
 // `rate` is a fraction per period, so a yearly rate / 12 for monthly payments. Amounts are dollars: negative
-// if paid out, positive if received, so PV(rate, n, +1) is negative. Without a valid result (0 periods, a
-// rate of -1 or below) the returned value is not finite, and the caller must check for that.
+// if paid out, positive if received, so PV(rate, n, +1) is negative. If there is no result, for example for
+// PMT over 0 periods or a rate below -1, the returned value is not finite, and the caller must check for
+// that.
 namespace Ledgrove::Module1 {
 
 /// The present value of `periods` payments of `payment`.
