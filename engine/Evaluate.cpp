@@ -68,6 +68,7 @@ Results Evaluate(const Inputs& inputs, const Rules& rules, Carried& carried) {
     ComputeAffordability(inputs, rules, HomeCode::GMH, results);
     ComputeCashFlow(inputs, rules, results);
     carried = CarriedBy(results);
+    results.NoticeFlagAfter = carried.EEMNoticeFlag;
     return results;
 }
 

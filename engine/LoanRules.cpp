@@ -46,7 +46,7 @@ float PresentValueOfSavings(CaseSteps& steps) {
 
 /// The notice appears at most once after each edit of the inputs that set the flag.
 void SpendNoticeFlag(Results& results, const LoanType& loanType) {
-    if (!SpendsNoticeFlag(results, &loanType))
+    if (!loanType.IsEEM || !results.Scenario.EEMNoticeFlag || results.GMHCase.PVSavings <= 0)
         return;
     results.Scenario.EEMNoticeFlag = false;
     // Intended: the notice also appears if both are equal, although the savings then pay for the upgrade.
@@ -189,11 +189,6 @@ const LoanType* FindLoanType(const LoanTypeList& loanTypes, std::optional<Mortga
         return nullptr;
     const auto index = static_cast<std::size_t>(CodeOf(*option)) - 1;
     return index < loanTypes.size() ? &loanTypes[index] : nullptr;
-}
-
-bool SpendsNoticeFlag(const Records& records, const LoanType* labelledLoanType) {
-    return records.Scenario.EEMNoticeFlag && labelledLoanType && labelledLoanType->IsEEM &&
-           records.GMHCase.PVSavings > 0;
 }
 
 void ComputeHomeCase(const Inputs& inputs, const Rules& rules, HomeCode code, Results& results) {

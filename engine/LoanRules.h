@@ -25,8 +25,4 @@ inline float MaxOf(float a, float b) {
 /// a message.
 void ComputeHomeCase(const Inputs& inputs, const Rules& rules, HomeCode code, Results& results);
 
-/// Whether an evaluation would clear the notice flag: the flag is set, the labelled home's option is an EEM,
-/// and the present value of its savings is above 0.
-bool SpendsNoticeFlag(const Records& records, const LoanType* labelledLoanType);
-
 } // namespace Ledgrove::Module1

@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 #include "engine/Evaluate.h"
-#include "engine/LoanRules.h"
 #include "engine/ReadScreen.h"
 #include "engine/ShowResults.h"
 
@@ -29,8 +28,7 @@ void Recalculate(Session& session, Host& host) {
 
 bool IsUpToDate(const Session& session) {
     return session.From == ReadInputs(session.Screen) &&
-           !SpendsNoticeFlag(session,
-                             FindLoanType(session.LoanTypes, session.Screen.cboGMHMortOption.Option()));
+           session.Scenario.EEMNoticeFlag == session.NoticeFlagAfter;
 }
 
 void ShowCurrentPanel(Session& session, Host& host) {

@@ -26,7 +26,8 @@ struct Results : Records {
                                 ///< a table of the rules was reloaded
     bool StdQualifies = false;
     bool GMHQualifies = false;
-    bool NoticeApplies = false; ///< the EEM notice is due
+    bool NoticeApplies = false;   ///< the EEM notice is due
+    bool NoticeFlagAfter = false; ///< the notice flag as the evaluation left it; an edit may set it again
     struct Decisions Decisions;
 
     HomeDecisions& Decided(HomeCode code) { return code == HomeCode::GMH ? Decisions.GMH : Decisions.Std; }

@@ -7,7 +7,8 @@
 
 namespace Ledgrove {
 
-/// The parts of the settings file that a comparison uses.
+/// The parts of the settings file that a comparison uses. Code that changes them in a session resets the
+/// session's `From`, because the results then go by former rules.
 struct Rules {
     AssumptionSet Assumptions;
     LoanTypeList LoanTypes;

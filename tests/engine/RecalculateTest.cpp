@@ -278,6 +278,17 @@ TEST_F(Recalculation, IsUpToDateUntilAnInputChanges) {
     EXPECT_FALSE(IsUpToDate(m_session));
 }
 
+TEST_F(Recalculation, IsNotUpToDateWhileTheNoticeFlagWaitsAfterAFault) {
+    m_session.Screen.optDownPayment = 1; // on a base price of 0 a fault, which clears the savings' worth
+    m_session.Screen.ecStdHome.Text = "$0";
+    m_session.Scenario.EEMNoticeFlag = true;
+    Run();
+    ASSERT_EQ(m_host.Messages.size(), 1U);
+    ASSERT_EQ(m_session.GMHCase.PVSavings, 0);
+    m_session.Scenario.EEMNoticeFlag = true;
+    EXPECT_FALSE(IsUpToDate(m_session));
+}
+
 TEST_F(Recalculation, IsNotUpToDateWhileTheNoticeFlagWaitsToBeSpent) {
     Run();
     m_session.Scenario.EEMNoticeFlag = true; // typed and typed back
@@ -286,7 +297,8 @@ TEST_F(Recalculation, IsNotUpToDateWhileTheNoticeFlagWaitsToBeSpent) {
     EXPECT_TRUE(IsUpToDate(m_session));
     ChooseOptions(m_session, "FHA", "FHA");
     Run();
-    m_session.Scenario.EEMNoticeFlag = true; // an option that is not an EEM leaves it set
+    m_session.Scenario.EEMNoticeFlag = true;
+    Run(); // an option that is not an EEM leaves it set
     EXPECT_TRUE(IsUpToDate(m_session));
 }
 
