@@ -10,7 +10,7 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr std::size_t captionWidth = 32;
+constexpr std::size_t captionWidth = 36;
 constexpr std::size_t columnWidth = 18;
 
 std::string Blanks(std::string_view text, std::size_t width) {

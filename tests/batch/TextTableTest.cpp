@@ -30,10 +30,20 @@ std::string TableOf(const std::string& base, const std::string& option, bool tax
 TEST(TextTableTest, TheSummaryAddsUpAsShown) {
     const std::string table = TableOf("FHA", "FHA EEM", true);
     // 1,513 + 142 - 3 = 1,652
-    EXPECT_THAT(table, HasSubstr("Mortgage Payment                            $1,465            $1,513\n"
-                                 "Monthly Utility Bills                         $200              $142\n"
-                                 "Tax Savings                                                       $3\n"
-                                 "Net Monthly Payment                         $1,665            $1,652\n"));
+    EXPECT_THAT(table,
+                HasSubstr("Mortgage Payment                                $1,465            $1,513\n"
+                          "Monthly Utility Bills                             $200              $142\n"
+                          "Tax Savings                                                           $3\n"
+                          "Net Monthly Payment                             $1,665            $1,652\n"));
+}
+
+TEST(TextTableTest, FiguresOfAColumnEndAtTheSamePlace) {
+    const std::string table = TableOf("Conventional", "Fannie Mae EEM", true);
+    for (const char* row : {"Sticker Price", "Net Monthly Cash Flow", "Expected Savings After:   7 Years",
+                            "Expected Savings After:   30 Years", "* PV of Savings"}) {
+        const std::size_t start = table.find(std::string("\n") + row) + 1;
+        EXPECT_EQ(table.find('\n', start) - start, 36U + 18 + 18) << row;
+    }
 }
 
 TEST(TextTableTest, LeavesTheTaxSavingsOutWhereTheTabHidesThem) {
