@@ -29,6 +29,8 @@ std::optional<SettingsFault> ConfirmOptions(const OptionsScreen& dialog, Session
                                                         session.Header.BuilderName, session.Header.LogoFile}))
         return fault;
     session.Features = features;
+    // The captions below stay only until the next recalculation, which has a rule of its own for them.
+    session.From.reset();
     ShowFeatureCaptions(session, features);
     return std::nullopt;
 }

@@ -62,6 +62,13 @@ TEST_F(OptionsScreenTest, TheCaptionsShowTheTextsOnlyWithAMonthlyDifference) {
     EXPECT_EQ(m_session.Features.Feature2, "Porch");
 }
 
+TEST_F(OptionsScreenTest, TheNextLeftFieldRecalculatesTheCaptions) {
+    Open("");
+    m_session.From = Inputs{};
+    ASSERT_FALSE(ConfirmOptions(m_dialog, m_session));
+    EXPECT_FALSE(m_session.From);
+}
+
 TEST_F(OptionsScreenTest, ALogoWithoutANameKeepsItsPlaceholder) {
     Open("LOGOFILE=   \r\n");
     EXPECT_EQ(m_session.Header.LogoFile, "Full Path To Logo File");
