@@ -12,8 +12,11 @@ namespace {
 /// Where the leftmost control of the group begins; some styles put room around a layout's controls.
 int LeftOfControls(const QWidget& group) {
     int left = group.width();
-    for (int i = 0; group.layout() && i < group.layout()->count(); ++i)
-        left = std::min(left, group.layout()->itemAt(i)->geometry().left());
+    for (int i = 0; group.layout() && i < group.layout()->count(); ++i) {
+        // A hidden control has no place.
+        if (const QLayoutItem* item = group.layout()->itemAt(i); !item->isEmpty())
+            left = std::min(left, item->geometry().left());
+    }
     return left < group.width() ? left : group.contentsRect().left();
 }
 
