@@ -44,8 +44,9 @@ EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const Entry
         });
         return outcome;
     };
-    events.Change = [&context, &field](const std::string& text) {
+    events.Change = [&context, &field, &shows](const std::string& text) {
         Module1::SetFieldText(context.State, field, text);
+        shows.NoteChange();
     };
     return events;
 }
@@ -56,6 +57,9 @@ void ShowText(QLineEdit& edit, const std::string& text) {
         return;
     const QSignalBlocker nothingTyped(edit);
     edit.setText(shown);
+    // A text that is too long shows its beginning: the end of a number looks like a smaller number.
+    if (!edit.hasFocus())
+        edit.setCursorPosition(0);
 }
 
 EntryField::EntryField(QWidget* parent)

@@ -16,9 +16,11 @@ public:
     /// Runs a rule. A rule that returns a bool reports whether it changed the record; any other rule counts
     /// as a change.
     template <typename Rule>
-    void Run(Rule rule) {
+    void Run(Rule&& rule) {
+        using Outcome = decltype(rule());
+        static_assert(std::is_void_v<Outcome> || std::is_same_v<Outcome, bool>);
         ++m_running;
-        if constexpr (std::is_void_v<decltype(rule())>) {
+        if constexpr (std::is_void_v<Outcome>) {
             rule();
             m_changed = true;
         } else {
@@ -27,6 +29,10 @@ public:
         if (--m_running == 0 && std::exchange(m_changed, false))
             m_show();
     }
+
+    /// Counts a change that happens between the rules, as typing does: the next rule to end shows the record,
+    /// even if it changes nothing itself.
+    void NoteChange() { m_changed = true; }
 
 private:
     std::function<void()> m_show;

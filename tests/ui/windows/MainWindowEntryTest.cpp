@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QTabBar>
 
@@ -42,6 +43,9 @@ private slots:
     void oneEntryRecalculatesAndShowsOnce_data();
     void oneEntryRecalculatesAndShowsOnce();
     void passingThroughAFieldCommitsNothing();
+    void aTextTypedAsItIsShownIsShownAsAChange();
+    void aLongNumberShowsItsBeginning_data();
+    void aLongNumberShowsItsBeginning();
     void everyInputReachesTheResults();
     void refusalReturnsFocusWithOneMessage();
     void pressOnAnotherControlAfterRefusalChangesNothing();
@@ -114,6 +118,32 @@ void MainWindowEntryTest::oneEntryRecalculatesAndShowsOnce() {
     QCOMPARE(open.LabelText("lblStdHome"), "$210,000");
     QCOMPARE(counts.Recalculations(), 1);
     QCOMPARE(counts.Shown(), 1);
+}
+
+void MainWindowEntryTest::aTextTypedAsItIsShownIsShownAsAChange() {
+    OpenWindow open;
+    EnterHomes(open);
+    open.Find("ecFixedDown").setFocus();
+    const Counts counts(open);
+    open.Type("ecFixedDown", "$0"); // an empty field counts as 0, so no figure changes
+    open.Find("ecIncome").setFocus();
+    QCOMPARE(counts.Recalculations(), 0);
+    QCOMPARE(counts.Shown(), 1);
+}
+
+void MainWindowEntryTest::aLongNumberShowsItsBeginning_data() {
+    QTest::addColumn<int>("key");
+    QTest::newRow("Enter") << int(Qt::Key_Return);
+    QTest::newRow("Tab") << int(Qt::Key_Tab);
+    QTest::newRow("Down") << int(Qt::Key_Down);
+}
+
+void MainWindowEntryTest::aLongNumberShowsItsBeginning() {
+    QFETCH(int, key);
+    OpenWindow open;
+    open.Type("ecIncome", "123456789012345678901234");
+    open.Press(Qt::Key(key));
+    QCOMPARE(open.Find<QLineEdit>("ecIncome").cursorPosition(), 0);
 }
 
 void MainWindowEntryTest::passingThroughAFieldCommitsNothing() {
