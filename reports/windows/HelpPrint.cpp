@@ -2,6 +2,7 @@
 
 #include "reports/windows/HelpPages.h"
 #include "reports/windows/PrinterSend.h"
+#include "ui/windows/FormGuard.h"
 #include "ui/windows/FormParts.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
@@ -42,6 +43,7 @@ public:
         layout->addLayout(row);
         layout->addStretch();
         layout->addLayout(MakeButtons());
+        new FormGuard(*this);
     }
 
     std::size_t Chosen() const { return static_cast<std::size_t>(m_printers->currentIndex()); }

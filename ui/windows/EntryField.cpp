@@ -1,9 +1,11 @@
 #include "ui/windows/EntryField.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QStyleHints>
 #include <utility>
 
 #include "ui/windows/FormGuard.h"
@@ -82,11 +84,18 @@ void EntryField::Refresh() {
 }
 
 bool EntryField::CommitInPlace() {
-    return !m_events.LostFocus || m_events.LostFocus() != EntryOutcome::Refused;
+    if (m_events.LostFocus && m_events.LostFocus() == EntryOutcome::Refused)
+        return false;
+    selectAll();
+    return true;
 }
 
 bool EntryField::Commit(KeyCode key) {
-    return !m_events.KeyPress || m_events.KeyPress(key) != EntryOutcome::Refused;
+    if (m_events.KeyPress && m_events.KeyPress(key) == EntryOutcome::Refused)
+        return false;
+    // A message may have opened in between. The entry is complete, so no return to it selects less than all.
+    m_returns = false;
+    return true;
 }
 
 bool EntryField::event(QEvent* event) {
@@ -116,17 +125,59 @@ void EntryField::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
 }
 
+bool EntryField::IsDrag(const QMouseEvent& event) const {
+    const int distance = (event.position().toPoint() - m_pressedAt).manhattanLength();
+    return distance >= QGuiApplication::styleHints()->startDragDistance();
+}
+
+void EntryField::mousePressEvent(QMouseEvent* event) {
+    m_pressedAt = event->position().toPoint();
+    const bool enters = m_selectsByPress;
+    QLineEdit::mousePressEvent(event);
+    // Qt has just moved the caret into the text.
+    if (enters && event->button() == Qt::LeftButton && m_events.GotFocus)
+        m_events.GotFocus();
+}
+
+void EntryField::mouseMoveEvent(QMouseEvent* event) {
+    // A hand that trembles during a click must not select a part of the text.
+    if ((event->buttons() & Qt::LeftButton) && (m_selectsByPress || !IsDrag(*event)))
+        return;
+    QLineEdit::mouseMoveEvent(event);
+}
+
 void EntryField::mouseReleaseEvent(QMouseEvent* event) {
+    const bool selected = std::exchange(m_selectsByPress, false);
     QLineEdit::mouseReleaseEvent(event);
-    const bool dragged = hasSelectedText();
-    if (event->button() == Qt::LeftButton && hasFocus() && !dragged && m_events.Click)
+    const bool isClick = event->button() == Qt::LeftButton && !selected && !IsDrag(*event);
+    if (isClick && hasFocus() && m_events.Click)
         m_events.Click();
+}
+
+void EntryField::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return QLineEdit::mouseDoubleClickEvent(event);
+    // Qt selects a word, such as the digits between two separators.
+    m_selectsByPress = true;
+    selectAll();
+}
+
+/// Only one field can be in the middle of an entry. A field that lost the focus while a message was open got
+/// no event about it.
+void EntryField::ForgetOtherEntries() {
+    for (EntryField* field : window()->findChildren<EntryField*>()) {
+        if (field != this)
+            field->m_returns = field->m_entered = false;
+    }
 }
 
 void EntryField::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
+    const bool returns = std::exchange(m_returns, false) && KeepsCurrentField(event->reason());
     m_entered = true;
-    if (!KeepsCurrentField(event->reason()) && m_events.GotFocus)
+    m_selectsByPress = event->reason() == Qt::MouseFocusReason;
+    ForgetOtherEntries();
+    if (!returns && m_events.GotFocus)
         m_events.GotFocus();
 }
 
@@ -135,21 +186,23 @@ void EntryField::focusOutEvent(QFocusEvent* event) {
     const int length = selectionLength();
     QLineEdit::focusOutEvent(event);
     if (KeepsCurrentField(event->reason())) {
+        // A field that gets the focus while a message is open is left before it is entered.
+        m_returns = m_entered;
         // Qt removes the selection when the menu bar opens, but the menu's commands need it.
         if (length > 0)
             setSelection(start, length);
         return;
     }
+    m_returns = false;
     // When a refusal returns the focus, the next field gets a focusOutEvent without a focusInEvent.
     if (!std::exchange(m_entered, false) || !m_events.LostFocus)
         return;
-    if (m_events.LostFocus() == EntryOutcome::Refused) {
-        if (event->reason() == Qt::MouseFocusReason)
-            SwallowPendingPress();
-        return;
-    }
+    const bool isRefused = m_events.LostFocus() == EntryOutcome::Refused;
+    if (event->reason() == Qt::MouseFocusReason)
+        FinishPendingPress(isRefused ? PendingPress::Refused : PendingPress::Allowed);
     // Shows the beginning of a long text, because the end of a number looks like a smaller number.
-    setCursorPosition(0);
+    if (!isRefused)
+        setCursorPosition(0);
 }
 
 } // namespace Ledgrove

@@ -36,7 +36,8 @@ EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const Entry
 void ShowText(QLineEdit& edit, const std::string& text);
 
 /// The edit field of every form. Translates Qt's events to those of the entry rules. The user may type any
-/// text; it is checked when the field is committed or left.
+/// text; it is checked when the field is committed or left. Entering the field selects its text, whatever
+/// moved the focus, so that typing replaces the old figure and never mixes with it.
 class EntryField : public QLineEdit {
     Q_OBJECT
 
@@ -50,23 +51,31 @@ public:
     /// Shows the current text of the bound field.
     void Refresh();
 
-    /// Commits the typed text as if the user left the field, without moving the focus. Returns false if the
-    /// text was refused, after a message.
+    /// Commits the typed text as if the user left the field, without moving the focus, and selects it.
+    /// Returns false if the text was refused, after a message.
     bool CommitInPlace();
 
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
     bool Commit(KeyCode key);
+    void ForgetOtherEntries();
+    bool IsDrag(const QMouseEvent& event) const;
 
     const Field* m_field = nullptr;
     EntryEvents m_events;
     bool m_entered = false;
+    bool m_returns = false; ///< the user only went to another window or a menu in the middle of an entry
+    bool m_selectsByPress = false; ///< the mouse button that is down has selected the whole text
+    QPoint m_pressedAt;
 };
 
 } // namespace Ledgrove

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyleHints>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -64,6 +65,29 @@ struct Form {
     int OtherClicks = 0;
 };
 
+/// Turns the wheel by one notch, towards the user, over the middle of the widget. Returns whether it takes
+/// it.
+bool Takes(QWidget& widget) {
+    const QPointF middle = widget.rect().center();
+    QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
+}
+
+void Drag(QWidget& widget, QPoint from, QPoint to) {
+    QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &move);
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
+}
+
+/// A place between the digits of a right-aligned field with at least four of them.
+QPoint AmongTheDigits(const EntryField& field) {
+    return {field.width() - field.fontMetrics().horizontalAdvance("00"), field.height() / 2};
+}
+
 } // namespace
 
 class EntryFieldTest : public QObject {
@@ -85,11 +109,15 @@ private slots:
     void nextPressActsAgain();
     void refusalTouchesNoOtherField();
     void mnemonicOfAButtonActsOnlyAfterCommit();
-    void wheelDoesNotChangeAListWithoutFocus();
+    void wheelNeverChangesAList();
     void clickAndFocusSelectAll();
+    void clickIntoTheMiddleSelectsAllWithoutAClickRule();
+    void doubleClickSelectsAll();
+    void tremblingClickSelectsAll();
     void draggedSelectionIsKept();
     void textSetByCodeIsAChange();
     void anotherWindowInFrontCommitsNothing();
+    void commitInPlaceSelectsAll();
 };
 
 void EntryFieldTest::typingWritesTheRecordAtOnce() {
@@ -257,21 +285,15 @@ void EntryFieldTest::mnemonicOfAButtonActsOnlyAfterCommit() {
     QCOMPARE(form.First->text(), "$5");
 }
 
-void EntryFieldTest::wheelDoesNotChangeAListWithoutFocus() {
+void EntryFieldTest::wheelNeverChangesAList() {
     RecordingHost host;
     Form form(host);
-    const QPointF middle = form.List->rect().center();
-    const auto turn = [&] {
-        QWheelEvent event(middle, form.List->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(form.List, &event);
-    };
     form.List->setFocusPolicy(Qt::StrongFocus);
-    turn();
-    QCOMPARE(form.List->currentIndex(), 0);
+    // The surroundings get what the list does not take, so they can scroll.
+    QVERIFY(!Takes(*form.List));
     form.List->setFocus();
-    turn();
-    QCOMPARE(form.List->currentIndex(), 1);
+    QVERIFY(!Takes(*form.List));
+    QCOMPARE(form.List->currentIndex(), 0);
 }
 
 void EntryFieldTest::clickAndFocusSelectAll() {
@@ -286,6 +308,47 @@ void EntryFieldTest::clickAndFocusSelectAll() {
     QCOMPARE(form.First->selectedText(), "$123");
 }
 
+void EntryFieldTest::clickIntoTheMiddleSelectsAllWithoutAClickRule() {
+    RecordingHost host;
+    Form form(host);
+    form.Second->setAlignment(Qt::AlignRight);
+    EntryEvents events =
+        StandardEntryEvents(form.Context, form.State.Screen.ecMonthlyDebt,
+                            {FieldFormat::Dollar, FieldFormat::Dollar, AfterEdit::Nothing}, form.Shows);
+    events.Click = {};
+    form.Second->Bind(form.State.Screen.ecMonthlyDebt, events);
+    form.Second->setText("$133,000");
+    const QPoint place = form.Second->mapTo(&form.Window, AmongTheDigits(*form.Second));
+    QTest::mouseClick(form.Window.windowHandle(), Qt::LeftButton, {}, place);
+    QCOMPARE(form.Second->selectedText(), "$133,000");
+    // A click into the field that has the focus already places the caret, because it has no rule for clicks.
+    QTest::mouseClick(form.Window.windowHandle(), Qt::LeftButton, {}, place, 1000);
+    QCOMPARE(form.Second->selectedText(), "");
+}
+
+void EntryFieldTest::doubleClickSelectsAll() {
+    RecordingHost host;
+    Form form(host);
+    form.First->setAlignment(Qt::AlignRight);
+    form.First->setText("$60,000");
+    QTest::mouseDClick(form.Window.windowHandle(), Qt::LeftButton, {},
+                       form.First->mapTo(&form.Window, AmongTheDigits(*form.First)));
+    QCOMPARE(form.First->selectedText(), "$60,000");
+    QTest::keyClicks(form.First, "70000");
+    QCOMPARE(form.First->text(), "70000");
+}
+
+void EntryFieldTest::tremblingClickSelectsAll() {
+    RecordingHost host;
+    Form form(host);
+    form.First->setAlignment(Qt::AlignRight);
+    form.First->setText("$60,000");
+    form.First->setFocus();
+    const QPoint place = AmongTheDigits(*form.First);
+    Drag(*form.First, place, place - QPoint(QGuiApplication::styleHints()->startDragDistance() - 1, 0));
+    QCOMPARE(form.First->selectedText(), "$60,000");
+}
+
 void EntryFieldTest::draggedSelectionIsKept() {
     RecordingHost host;
     Form form(host);
@@ -293,12 +356,7 @@ void EntryFieldTest::draggedSelectionIsKept() {
     // From the start of the text across its first digits.
     const int y = form.First->height() / 2;
     const int digits = form.First->fontMetrics().horizontalAdvance("123");
-    QTest::mousePress(form.First, Qt::LeftButton, {}, {2, y});
-    const QPointF end(2 + digits, y);
-    QMouseEvent move(QEvent::MouseMove, end, form.First->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(form.First, &move);
-    QTest::mouseRelease(form.First, Qt::LeftButton, {}, end.toPoint());
+    Drag(*form.First, {2, y}, {2 + digits, y});
     QVERIFY(form.First->hasSelectedText());
     QVERIFY(form.First->selectedText().size() < 6);
 }
@@ -320,6 +378,14 @@ void EntryFieldTest::anotherWindowInFrontCommitsNothing() {
     QVERIFY(QTest::qWaitForWindowActive(&another));
     QVERIFY(host.Messages.empty());
     QCOMPARE(form.First->text(), "abc");
+}
+
+void EntryFieldTest::commitInPlaceSelectsAll() {
+    RecordingHost host;
+    Form form(host);
+    QTest::keyClicks(form.First, "150000");
+    QVERIFY(form.First->CommitInPlace());
+    QCOMPARE(form.First->selectedText(), "$150,000");
 }
 
 QTEST_MAIN(EntryFieldTest)
