@@ -37,7 +37,7 @@ void EntryDialog::keyPressEvent(QKeyEvent* event) {
         return m_help.Open(m_helpAnchor);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return PressFocusedButton();
+        return TakeEnter();
     default:
         QDialog::keyPressEvent(event);
     }
@@ -87,9 +87,11 @@ bool EntryDialog::Succeeded(const std::optional<SettingsFault>& fault) {
     return !fault;
 }
 
-void EntryDialog::PressFocusedButton() {
+void EntryDialog::TakeEnter() {
     if (auto* button = qobject_cast<QPushButton*>(focusWidget()))
         button->click();
+    else
+        m_focus.NextField();
 }
 
 void EntryDialog::SendHelpKey() {

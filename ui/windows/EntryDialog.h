@@ -57,7 +57,8 @@ protected:
     RecordShow& Shows() { return m_shows; }
 
 private:
-    void PressFocusedButton();
+    /// Presses the button with the focus, or moves on from any other control.
+    void TakeEnter();
     void SendHelpKey();
 
     RecordShow m_shows;

@@ -10,6 +10,7 @@
 namespace Ledgrove {
 
 /// The keys that a window handles before its controls: Down and Up move between fields, F1 opens the help.
+/// Enter moves on from an option, a check box, a pick list or a tab; fields and buttons handle it themselves.
 class MainKeys : public QObject {
     Q_OBJECT
 
@@ -19,7 +20,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool Take(const QKeyEvent& key);
+    bool Take(const QKeyEvent& key, const QWidget& control);
 
     QWidget& m_window;
     EntryFocus& m_focus;

@@ -17,6 +17,7 @@
 #include "ui/DataCheck.h"
 #include "ui/MainScreenRules.h"
 #include "ui/windows/Binding.h"
+#include "ui/windows/DownPaymentKeys.h"
 #include "ui/windows/EntryField.h"
 #include "ui/windows/FormGuard.h"
 #include "ui/windows/FormParts.h"
@@ -50,6 +51,7 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     new FormGuard(*this);
     new MainKeys(*this, m_focus, [this] { OpenHelp(); });
     m_binding = std::make_unique<MainBinding>(m_session.Screen, *this);
+    m_downPayment = new DownPaymentKeys(m_session.Screen, *this);
     Refresh();
     CentreOnScreen(*this);
 }
@@ -58,6 +60,7 @@ frmMain::~frmMain() = default;
 
 void frmMain::Refresh() {
     m_binding->Refresh();
+    m_downPayment->Refresh();
     for (ChartPlace* chart : m_charts)
         chart->Refresh();
     m_hint->Refresh();

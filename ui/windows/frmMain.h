@@ -15,6 +15,7 @@ class QPushButton;
 
 namespace Ledgrove {
 
+class DownPaymentKeys;
 class MainBinding;
 class WelcomeHint;
 
@@ -84,6 +85,7 @@ private:
     std::unique_ptr<MainBinding> m_binding;
     QList<ChartPlace*> m_charts;
     WelcomeHint* m_hint = nullptr;
+    DownPaymentKeys* m_downPayment = nullptr;
     bool m_painted = false;
     Help m_help;
 };

@@ -122,11 +122,11 @@ void MainWindowAccessTest::descriptionFollowsTheCaption() {
 void MainWindowAccessTest::tabOrderFollowsTheLayout() {
     OpenWindow open;
     // Tab skips the disabled buttons and the unselected option.
-    const QStringList expected = {
-        "ecIncome",         "ecMonthlyDebt",    "optDownPayment0", "ecPctDown", "ecFixedDown",
-        "chkDoTax0",        "ecStdHome",        "ecGMHHome",       "ecStdUtil", "ecGMHUtil",
-        "ecStdRate",        "ecGMHRate",        "ecStdStr",        "ecGMHStr",  "cboMortTerm",
-        "cboStdMortOption", "cboGMHMortOption", "bDisclaimer",     "bHelp"};
+    const QStringList expected = {"ecIncome",         "ecMonthlyDebt", "ecPctDown",   "optDownPayment0",
+                                  "ecFixedDown",      "chkDoTax0",     "ecStdHome",   "ecGMHHome",
+                                  "ecStdUtil",        "ecGMHUtil",     "ecStdRate",   "ecGMHRate",
+                                  "ecStdStr",         "ecGMHStr",      "cboMortTerm", "cboStdMortOption",
+                                  "cboGMHMortOption", "bDisclaimer",   "bHelp"};
     QCOMPARE(open.TabWalk("ecIncome", expected.size()), expected);
     QCOMPARE(QApplication::focusWidget(), open.Find<ResultPanels>("SSTab1").tabBar());
     open.Press(Qt::Key_Tab);
