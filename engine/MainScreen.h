@@ -57,6 +57,9 @@ struct Label {
 
 inline constexpr int TabCount = 5;
 
+/// The name of a house whose prices and utility costs are not those of a house scenario.
+inline constexpr std::string_view CustomHouse = "Custom";
+
 struct MainScreen {
     Field ecIncome, ecMonthlyDebt, ecPctDown, ecFixedDown;
     Field ecStdHome = Field::FeedingEEMRule(), ecGMHHome = Field::FeedingEEMRule();

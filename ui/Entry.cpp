@@ -92,7 +92,7 @@ void CheckCustomHouse(Session& session) {
                           ParseFieldValue(screen.ecStdUtil.Text, 1) == chosen.StdUtil &&
                           ParseFieldValue(screen.ecGMHUtil.Text, 1) == chosen.GMHUtil;
     if (!asChosen)
-        session.Screen.lblHomeName.Text = "Custom";
+        session.Screen.lblHomeName.Text = CustomHouse;
 }
 
 void ConvertPercentDown(Session& session) {
@@ -101,7 +101,11 @@ void ConvertPercentDown(Session& session) {
     const double basePrice = ParseFieldValue(screen.ecStdHome.Text, 1);
     if (amount <= 100 || basePrice == 0 || screen.PctDownConverted)
         return;
-    SetFieldText(session, screen.ecPctDown, FormatPicture(amount / basePrice * 100, "#0.00") + "%");
+    const std::string percent = FormatPicture(amount / basePrice * 100, "#0.00") + "%";
+    // The field would refuse a text that is too large for a number.
+    if (!FieldComplaint(percent, FieldFormat::Percent).empty())
+        return;
+    SetFieldText(session, screen.ecPctDown, percent);
     screen.PctDownConverted = true;
 }
 

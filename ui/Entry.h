@@ -74,7 +74,8 @@ EntryOutcome LeaveField(EntryContext& context, Field& field, FieldFormat format,
 void CheckCustomHouse(Session& session);
 
 /// Treats a percent-down text above 100 as a dollar amount and replaces it by the percentage of the base
-/// home's price. If that price is 0, the text does not change. A result above 100 is not converted again.
+/// home's price. If that price is 0 or the percentage is too large for a number, the text does not change. A
+/// result above 100 is not converted again.
 void ConvertPercentDown(Session& session);
 
 /// A "." typed into the empty percent-down field becomes "4846", the character codes of "0" and "." as

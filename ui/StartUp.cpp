@@ -21,7 +21,7 @@ std::optional<SettingsFault> LoadTables(Session& session, const SettingsFile& fi
 
 void SetScreenDefaults(Session& session, Host& host) {
     MainScreen& screen = session.Screen;
-    screen.lblHomeName.Text = "Custom";
+    screen.lblHomeName.Text = CustomHouse;
     screen.cboMortTerm.Items = TermItems();
     screen.cboStdMortOption.Items = BaseOptionItems();
     SetTerm(session, "30 years");

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/batch/EntryInputs.h"
+#include "engine/NumberText.h"
 #include "engine/Recalculate.h"
 #include "ui/DataCheck.h"
 #include "ui/Entry.h"
@@ -67,6 +68,7 @@ void Comparison::Reset() {
     // The tables need no reset, because comparisons do not change them.
     m_state.Screen = m_start.Screen;
     static_cast<Results&>(m_state) = m_start;
+    m_state.ChosenHouse = m_start.ChosenHouse;
     m_host.Clear();
 }
 
@@ -79,8 +81,29 @@ std::optional<Refusal> Comparison::EnterFields(const InputRecord& inputs) {
         if (auto refusal = EnterField(m_state, entry, inputs[entry.Which]))
             return refusal;
     }
-    Module1::ConvertPercentDown(m_state);
+    return EnterConversion(inputs[Input::PctDownConverted]);
+}
+
+std::optional<Refusal> Comparison::EnterConversion(const InputValue& value) {
+    if (!value.Present) {
+        Module1::ConvertPercentDown(m_state);
+        return std::nullopt;
+    }
+    if (value.Text != "true" && value.Text != "false")
+        return Refuse(Input::PctDownConverted, value, "This must be true or false.");
+    m_state.Screen.PctDownConverted = value.Text == "true";
     return std::nullopt;
+}
+
+void Comparison::NameHouse(const InputValue& name) {
+    if (!name.Present || name.Text.empty())
+        return;
+    const MainScreen& screen = m_state.Screen;
+    m_state.Screen.lblHomeName.Text = name.Text;
+    m_state.ChosenHouse = {name.Text, Module1::ParseFieldValue(screen.ecStdHome.Text, 1),
+                           Module1::ParseFieldValue(screen.ecStdUtil.Text, 1),
+                           Module1::ParseFieldValue(screen.ecGMHHome.Text, 1),
+                           Module1::ParseFieldValue(screen.ecGMHUtil.Text, 1)};
 }
 
 std::optional<Refusal> Comparison::PickOptions(const InputRecord& inputs) {
@@ -113,6 +136,7 @@ std::optional<Refusal> Comparison::Run(const InputRecord& inputs) {
         return refusal;
     if (auto refusal = EnterTaxes(m_state.Screen, inputs[Input::chkDoTax0]))
         return refusal;
+    NameHouse(inputs[Input::lblHomeName]);
     m_state.Scenario.EEMNoticeFlag = true;
     Module1::Recalculate(m_state, m_host);
     Module1::RefreshFeatureCaptions(m_state);

@@ -44,6 +44,8 @@ public:
 private:
     void Reset();
     std::optional<Refusal> EnterFields(const InputRecord& inputs);
+    std::optional<Refusal> EnterConversion(const InputValue& value);
+    void NameHouse(const InputValue& name);
     std::optional<Refusal> PickOptions(const InputRecord& inputs);
 
     Session m_start;

@@ -8,7 +8,8 @@
 #include <string>
 #include <string_view>
 
-// The inputs of one comparison in a file: values for the main screen's input controls, by name.
+// The inputs of one comparison in a file: values for the main screen's input controls, by name, and what else
+// a saved screen needs to open as it was.
 namespace Ledgrove {
 
 /// The main screen's input controls. They are entered in this order, which decides the input that is refused
@@ -31,6 +32,8 @@ enum class Input : std::uint8_t {
     cboStdMortOption,
     cboGMHMortOption,
     chkDoTax0,
+    PctDownConverted, ///< true or false: `ecPctDown` stands as it is, and a number above 100 is not dollars
+    lblHomeName,      ///< the house scenario whose prices and utility costs these are
 };
 
 struct NamedInput {
@@ -58,6 +61,8 @@ inline constexpr NamedInput InputTable[] = {
     {Input::cboStdMortOption, "cboStdMortOption"},
     {Input::cboGMHMortOption, "cboGMHMortOption"},
     {Input::chkDoTax0, "chkDoTax0"},
+    {Input::PctDownConverted, "PctDownConverted"},
+    {Input::lblHomeName, "lblHomeName"},
 };
 
 constexpr std::string_view NameOf(Input input) {

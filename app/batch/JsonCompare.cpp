@@ -42,7 +42,8 @@ bool JsonLinesReader::Read(LineReader& lines, OutputBuffer& output) {
 }
 
 bool JsonReader::Read(LineReader& lines, OutputBuffer& output) {
-    const auto refusal = RunObject(lines, m_comparison);
+    InputRecord inputs;
+    const auto refusal = RunObject(lines, m_comparison, inputs);
     if (!lines.Failure().empty())
         return false;
     std::string& out = output.Text();

@@ -21,12 +21,11 @@ std::optional<std::string> ReadWhole(LineReader& lines, std::size_t& tooLongLine
 
 } // namespace
 
-std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison) {
+std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison, InputRecord& inputs) {
     std::size_t tooLongLine = 0;
     const auto json = ReadWhole(lines, tooLongLine);
     if (!json)
         return InputTooLong(tooLongLine);
-    InputRecord inputs;
     if (auto refusal = ReadJsonObject(*json, inputs))
         return refusal;
     auto refusal = comparison.Run(inputs);
@@ -38,12 +37,13 @@ std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison) {
 ObjectInput RunObjectFile(const std::string& name, Comparison& comparison) {
     const InputFile file(name);
     if (file.Number() < 0)
-        return {UnreadableInput(name, file.Failure()), {}};
+        return {UnreadableInput(name, file.Failure()), {}, {}};
     LineReader lines(file.Number(), [] {});
-    auto refusal = RunObject(lines, comparison);
+    ObjectInput read;
+    read.Refused = RunObject(lines, comparison, read.Inputs);
     if (!lines.Failure().empty())
-        return {UnreadableInput(name, lines.Failure()), {}};
-    return {"", std::move(refusal)};
+        read.Unreadable = UnreadableInput(name, lines.Failure());
+    return read;
 }
 
 } // namespace Ledgrove

@@ -8,12 +8,13 @@
 
 namespace Ledgrove {
 
-/// Enters the inputs of the JSON object in `lines` and recalculates.
-std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison);
+/// Reads the inputs of the JSON object in `lines`, enters them and recalculates.
+std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison, InputRecord& inputs);
 
 struct ObjectInput {
     std::string Unreadable;         ///< a message if the file cannot be read, otherwise empty
     std::optional<Refusal> Refused; ///< why its input was refused
+    InputRecord Inputs;
 };
 
 /// The same for a file; "-" is standard input.

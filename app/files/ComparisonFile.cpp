@@ -3,6 +3,7 @@
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 
+#include "app/batch/EntryInputs.h"
 #include "app/batch/ObjectInput.h"
 #include "app/files/ScreenInputs.h"
 #include "base/Text.h"
@@ -25,7 +26,16 @@ void PutScreen(Session& session, const Session& from) {
     session.Screen.SSTab1 = tab;
     session.Screen.DetlFrame = panels;
     static_cast<Results&>(session) = from;
-    session.ChosenHouse = {};
+    session.ChosenHouse = from.ChosenHouse;
+}
+
+/// A start value that nobody has entered is shown without its format, and so it is saved.
+void KeepStartTexts(MainScreen& screen, const MainScreen& start, const InputRecord& saved) {
+    for (const EntryInput& entry : EntryInputs()) {
+        const std::string& text = (start.*entry.Rule.Member).Text;
+        if (saved[entry.Which].Present && saved[entry.Which].Text == text)
+            (screen.*entry.Rule.Member).Text = text;
+    }
 }
 
 /// The state that a comparison starts from: a new screen with the current tables.
@@ -88,6 +98,7 @@ std::optional<std::string> OpenComparison(const std::filesystem::path& file, Ses
     if (input.Refused)
         return NoComparison(file, *input.Refused);
     PutScreen(session, comparison.State());
+    KeepStartTexts(session.Screen, start.Screen, input.Inputs);
     ShowNotices(comparison, host);
     return std::nullopt;
 }

@@ -14,14 +14,9 @@ void Put(InputRecord& inputs, Input input, InputKind kind, std::string_view text
     value.Text = text;
 }
 
-/// A percentage above 100 that was computed from dollars would count as dollars when it is entered again, so
-/// this returns the dollars.
-std::string PercentDownText(const MainScreen& screen) {
-    const double percent = Module1::ParseFieldValue(screen.ecPctDown.Text, 1);
-    if (!screen.PctDownConverted || percent <= 100)
-        return screen.ecPctDown.Text;
-    const double basePrice = Module1::ParseFieldValue(screen.ecStdHome.Text, 1);
-    return Module1::FormatPicture(percent / 100 * basePrice, "#0.00");
+/// A number above 100 would count as dollars when it is entered again.
+bool NeedsConversion(const MainScreen& screen) {
+    return Module1::ParseFieldValue(screen.ecPctDown.Text, 1) > 100;
 }
 
 } // namespace
@@ -29,8 +24,7 @@ std::string PercentDownText(const MainScreen& screen) {
 InputRecord ScreenInputs(const MainScreen& screen) {
     InputRecord inputs;
     for (const EntryInput& entry : EntryInputs()) {
-        const bool isPercentDown = entry.Which == Input::ecPctDown;
-        const std::string text = isPercentDown ? PercentDownText(screen) : (screen.*entry.Rule.Member).Text;
+        const std::string& text = (screen.*entry.Rule.Member).Text;
         if (!text.empty())
             Put(inputs, entry.Which, InputKind::Text, text);
     }
@@ -39,6 +33,10 @@ InputRecord ScreenInputs(const MainScreen& screen) {
     Put(inputs, Input::cboGMHMortOption, InputKind::Text, screen.cboGMHMortOption.Text());
     Put(inputs, Input::optDownPayment, InputKind::Number, screen.optDownPayment == 0 ? "0" : "1");
     Put(inputs, Input::chkDoTax0, InputKind::Boolean, screen.chkDoTax0 ? "true" : "false");
+    if (NeedsConversion(screen))
+        Put(inputs, Input::PctDownConverted, InputKind::Boolean, screen.PctDownConverted ? "true" : "false");
+    if (screen.lblHomeName.Text != CustomHouse)
+        Put(inputs, Input::lblHomeName, InputKind::Text, screen.lblHomeName.Text);
     return inputs;
 }
 

@@ -71,7 +71,7 @@ TEST(Refusal, OfAnUnknownNameListsTheInputs) {
     EXPECT_EQ(refusal.Value, "5");
     EXPECT_TRUE(refusal.Message.starts_with(
         "This is not the name of an input. The inputs are ecIncome, ecMonthlyDebt, "));
-    EXPECT_TRUE(refusal.Message.ends_with(", cboGMHMortOption, chkDoTax0."));
+    EXPECT_TRUE(refusal.Message.ends_with(", chkDoTax0, PctDownConverted, lblHomeName."));
 }
 
 TEST(Refusal, TheSentenceGivesMessageLineControlAndText) {

@@ -77,17 +77,46 @@ TEST_F(ComparisonFileTest, ASavedComparisonOpensWithTheSameFigures) {
     EXPECT_FALSE(opened.Screen.chkDoTax0);
 }
 
-// $300,000 on a home of $200,000 is 150 %. Typed again, 150 % would be read as $150.
-TEST_F(ComparisonFileTest, APercentageMadeFromDollarsIsSavedAsDollars) {
+// $300,000 on a home of $200,000 is 150 %. Entered again, 150 % would be read as $150.
+TEST_F(ComparisonFileTest, APercentageMadeFromDollarsIsNotConvertedAgain) {
     Session session = Typed();
     session.Screen.ecPctDown.Text = "300000";
     Module1::ConvertPercentDown(session);
     ASSERT_EQ(session.Screen.ecPctDown.Text, "150.00%");
-    const std::string text = ComparisonText(session.Screen);
-    EXPECT_THAT(text, HasSubstr(R"("ecPctDown": "300000.00")"));
     Session opened = m_start;
-    ASSERT_EQ(Open(text, opened), std::nullopt);
+    ASSERT_EQ(Open(ComparisonText(session.Screen), opened), std::nullopt);
     EXPECT_EQ(opened.Screen.ecPctDown.Text, "150.00%");
+    EXPECT_TRUE(opened.Screen.PctDownConverted);
+}
+
+// Without a price, 25000 cannot be converted. A price that is entered later does not change the percentage.
+TEST_F(ComparisonFileTest, APercentageEnteredBeforeThePriceStaysAsItIsShown) {
+    Session session = m_start;
+    session.Screen.ecPctDown.Text = "25000.00%";
+    session.Screen.ecStdHome.Text = "$200,000";
+    Session opened = m_start;
+    ASSERT_EQ(Open(ComparisonText(session.Screen), opened), std::nullopt);
+    EXPECT_EQ(opened.Screen.ecPctDown.Text, "25000.00%");
+    EXPECT_FALSE(opened.Screen.PctDownConverted);
+}
+
+TEST_F(ComparisonFileTest, DollarsInAWrittenFileAreConverted) {
+    Session opened = m_start;
+    ASSERT_EQ(Open(R"({"ecPctDown": "25000", "ecStdHome": 200000})", opened), std::nullopt);
+    EXPECT_EQ(opened.Screen.ecPctDown.Text, "12.50%"); // 25,000 / 200,000
+}
+
+TEST_F(ComparisonFileTest, TheChosenHouseKeepsItsName) {
+    Session session = Typed();
+    session.Screen.lblHomeName.Text = "The Alder";
+    Session opened = m_start;
+    ASSERT_EQ(Open(ComparisonText(session.Screen), opened), std::nullopt);
+    EXPECT_EQ(opened.Screen.lblHomeName.Text, "The Alder");
+    Module1::CheckCustomHouse(opened);
+    EXPECT_EQ(opened.Screen.lblHomeName.Text, "The Alder");
+    Module1::SetFieldText(opened, opened.Screen.ecStdHome, "$200,001");
+    Module1::CheckCustomHouse(opened);
+    EXPECT_EQ(opened.Screen.lblHomeName.Text, "Custom");
 }
 
 TEST_F(ComparisonFileTest, EmptyFieldsStayEmpty) {

@@ -83,6 +83,15 @@ TEST_F(PercentDown, OtherFieldsAreNotConverted) {
     EXPECT_EQ(Screen().ecPctDown.Text, "10.00%");
 }
 
+// 99999999999999999999999999999999999999 / 10 x 100 = 1e39, above the largest single, 3.4e38.
+TEST_F(PercentDown, APercentageTooLargeForANumberIsNotMade) {
+    Screen().ecStdHome.Text = "$10";
+    Screen().ecPctDown.Text = "99999999999999999999999999999999999999";
+    ConvertPercentDown(m_session);
+    EXPECT_EQ(Screen().ecPctDown.Text, "99999999999999999999999999999999999999");
+    EXPECT_EQ(FieldComplaint(Screen().ecPctDown.Text, FieldFormat::Percent), "");
+}
+
 // 48 and 46 are the character codes of "0" and ".".
 TEST_F(PercentDown, APointTypedIntoTheEmptyFieldGives4846) {
     Screen().ecPctDown.Text.clear();
