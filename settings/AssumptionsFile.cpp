@@ -72,7 +72,7 @@ std::optional<std::size_t> ReadAssumptions(const FileLines& lines, AssumptionSet
     return std::nullopt;
 }
 
-std::optional<SettingsFault> WriteAssumpsToFile(const SettingsFile& file, const AssumptionTexts& texts) {
+std::optional<SettingsFault> WriteAssumpsToFile(SettingsDraft& draft, const AssumptionTexts& texts) {
     RewriteRule flag = ReplaceOnly(Key::PVFlag, texts.UsePVVars ? "TRUE" : "FALSE");
     flag.AppendedWhenUnseen = {SettingLine(Key::PVFlag, "FALSE")};
     RewritePlan plan;
@@ -86,7 +86,7 @@ std::optional<SettingsFault> WriteAssumpsToFile(const SettingsFile& file, const 
                   ReplaceOrAppend(Key::PMIMult2, texts.PMIMult[1]),
                   ReplaceOrAppend(Key::PMIMult3, texts.PMIMult[2]),
                   ReplaceOrAppend(Key::PMIMult4, texts.PMIMult[3])};
-    return Rewrite(file, plan);
+    return draft.Apply(std::move(plan));
 }
 
 } // namespace Ledgrove::Module1

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/TypeDeclarations.h"
+#include "settings/Rewrite.h"
 #include "settings/SettingsFile.h"
 
 #include <array>
@@ -32,6 +33,6 @@ struct AssumptionTexts {
 
 /// Replaces or appends the ten keys, without percent signs. If the file has no `PVSAVINGS_FLAG` line yet,
 /// "FALSE" is appended whatever `UsePVVars` is; the next save replaces it.
-std::optional<SettingsFault> WriteAssumpsToFile(const SettingsFile& file, const AssumptionTexts& texts);
+std::optional<SettingsFault> WriteAssumpsToFile(SettingsDraft& draft, const AssumptionTexts& texts);
 
 } // namespace Ledgrove::Module1

@@ -102,14 +102,14 @@ std::optional<SettingsFault> ReadLoanTypes(const SettingsFile& file, const FileL
     return std::nullopt;
 }
 
-std::optional<SettingsFault> WriteLoanTypes(const SettingsFile& file, const LoanTypeList& loanTypes) {
+std::optional<SettingsFault> WriteLoanTypes(SettingsDraft& draft, const LoanTypeList& loanTypes) {
     RewritePlan plan;
     plan.Rules = {DropLines(Key::LoanType)};
     if (loanTypes.empty())
         plan.AppendedAlways.push_back(LoanTypeLine(LoanType{}));
     for (const LoanType& loanType : loanTypes)
         plan.AppendedAlways.push_back(LoanTypeLine(loanType));
-    return Rewrite(file, plan);
+    return draft.Apply(std::move(plan));
 }
 
 } // namespace Ledgrove::Module1

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/TypeDeclarations.h"
+#include "settings/Rewrite.h"
 #include "settings/SettingsFile.h"
 
 #include <optional>
@@ -19,6 +20,6 @@ std::optional<SettingsFault> ReadLoanTypes(const SettingsFile& file, const FileL
 
 /// Removes every `LOANTYPE` line and appends one per record. An empty list is written as one line of an empty
 /// record, so the file always has a line for the key.
-std::optional<SettingsFault> WriteLoanTypes(const SettingsFile& file, const LoanTypeList& loanTypes);
+std::optional<SettingsFault> WriteLoanTypes(SettingsDraft& draft, const LoanTypeList& loanTypes);
 
 } // namespace Ledgrove::Module1

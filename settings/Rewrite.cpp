@@ -138,4 +138,18 @@ std::optional<SettingsFault> Rewrite(const SettingsFile& file, const RewritePlan
     return file.Update([&](const FileLines& lines) { return RewrittenBytes(lines, encoded); });
 }
 
+std::optional<SettingsFault> SettingsDraft::Apply(RewritePlan plan) {
+    if (auto refused = EncodePlan(m_file, plan))
+        return refused;
+    m_lines = SplitLines(RewrittenBytes(m_lines, plan));
+    return std::nullopt;
+}
+
+std::optional<SettingsFault> SettingsDraft::Save() const {
+    std::string bytes;
+    for (const FileLine& line : m_lines)
+        bytes.append(line.Text).append(line.End);
+    return m_file.ReplaceContent(bytes);
+}
+
 } // namespace Ledgrove

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // All changes to the settings file go through here.
@@ -50,5 +51,27 @@ std::string RewrittenBytes(const FileLines& lines, const RewritePlan& plan);
 /// before anything is written. On every fault except InterruptedSave and Unconfirmed, the old file is
 /// complete.
 std::optional<SettingsFault> Rewrite(const SettingsFile& file, const RewritePlan& plan);
+
+/// A save of several plans that stands or falls as a whole: each changes the lines that the one before left,
+/// and nothing is written before Save.
+class SettingsDraft {
+public:
+    /// `file` should be held until the save, so that no other copy of the program saves in between.
+    explicit SettingsDraft(const SettingsFile& file, FileLines lines)
+        : m_file(file)
+        , m_lines(std::move(lines)) {}
+
+    /// Refuses texts as Rewrite does; the draft is unchanged then.
+    std::optional<SettingsFault> Apply(RewritePlan plan);
+
+    /// The lines that Save writes, as a reader will get them.
+    const FileLines& Lines() const { return m_lines; }
+
+    std::optional<SettingsFault> Save() const;
+
+private:
+    SettingsFile m_file;
+    FileLines m_lines;
+};
 
 } // namespace Ledgrove

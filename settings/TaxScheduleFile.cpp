@@ -23,6 +23,8 @@ bool StoreNext(FieldSplitter& fields, float& target) {
     return true;
 }
 
+constexpr float openHighEnd = -1;
+
 std::string TaxCatLine(float highEnd, std::string_view rate) {
     return SettingLine(Key::TaxCat, ShortestText(highEnd) + ',' + StripPercent(rate));
 }
@@ -53,19 +55,20 @@ void ReadTaxCats(const FileLines& lines, TaxSchedule& schedule) {
         schedule = std::move(read);
 }
 
-std::optional<SettingsFault> WriteTaxCatsToFile(const SettingsFile& file, const TaxRows& rows,
+std::optional<SettingsFault> WriteTaxCatsToFile(SettingsDraft& draft, const TaxRows& rows,
                                                 const TaxSchedule& loaded) {
     RewriteRule rule{std::string(Key::TaxCat), RewriteRule::Match::ReplaceInTurn, {}, {}};
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const bool isLastLoaded = i + 1 == loaded.size();
-        const bool keepsHighEnd = isLastLoaded && Trimmed(rows[i].HighEnd).empty();
-        const float highEnd = keepsHighEnd ? loaded[i].HighEnd : ParseFieldValue(rows[i].HighEnd, 1);
+        const bool isLast = i + 1 == (loaded.empty() ? rows.size() : loaded.size());
+        const bool isHidden = isLast && Trimmed(rows[i].HighEnd).empty();
+        const float hidden = loaded.empty() ? openHighEnd : loaded.back().HighEnd;
+        const float highEnd = isHidden ? hidden : ParseFieldValue(rows[i].HighEnd, 1);
         rule.NewLines.push_back(TaxCatLine(highEnd, rows[i].Rate));
     }
     rule.AppendedWhenUnseen = rule.NewLines;
     RewritePlan plan;
     plan.Rules = {std::move(rule)};
-    return Rewrite(file, plan);
+    return draft.Apply(std::move(plan));
 }
 
 } // namespace Ledgrove::Module1

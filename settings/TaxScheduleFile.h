@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/TypeDeclarations.h"
+#include "settings/Rewrite.h"
 #include "settings/SettingsFile.h"
 
 #include <array>
@@ -33,9 +34,10 @@ std::optional<SettingsFault> LoadTaxCats(const SettingsFile& file, TaxSchedule& 
 void ReadTaxCats(const FileLines& lines, TaxSchedule& schedule);
 
 /// Replaces the k-th `TAXCAT` line by row k, so the file keeps its number of brackets; a file without
-/// brackets gets all six. The dialog does not show the high end of the last loaded bracket. If its row leaves
-/// the high end empty, the value in `loaded` is written, so that top incomes keep their rate.
-std::optional<SettingsFault> WriteTaxCatsToFile(const SettingsFile& file, const TaxRows& rows,
+/// brackets gets all six. `loaded` are the brackets of the file. The dialog does not show the high end of the
+/// last one, or of the sixth row if there are none. If that row leaves the high end empty, the loaded value
+/// is written, or -1 for no upper limit, so that top incomes keep their rate.
+std::optional<SettingsFault> WriteTaxCatsToFile(SettingsDraft& draft, const TaxRows& rows,
                                                 const TaxSchedule& loaded);
 
 } // namespace Ledgrove::Module1

@@ -1,8 +1,6 @@
 #include "ui/AssumptionsScreen.h"
 
 #include "engine/NumberText.h"
-#include "engine/Recalculate.h"
-#include "settings/AssumptionsFile.h"
 #include "settings/LoanTypesFile.h"
 
 #include <algorithm>
@@ -10,6 +8,9 @@
 namespace Ledgrove::Module1 {
 
 namespace {
+
+/// The captions of ratio rows without a loan type.
+constexpr std::array designCaptions{"Conventional", "FHA", "FHA EEM", "VA EEM", "Fannie Mae", "Freddie Mac"};
 
 std::string PercentText(double percent) {
     return FormatPicture(percent, "#0.00") + "%";
@@ -25,14 +26,18 @@ void FillTaxRows(AssumptionsScreen& dialog, const TaxSchedule& schedule) {
     for (std::size_t row = 0; row < std::min(schedule.size(), TaxRowCount); ++row) {
         const TaxBracket& bracket = schedule[row];
         dialog.ecLowEnd[row].Text = FormatPicture(static_cast<double>(bracket.LowEnd) + 1, "$###,##0");
-        if (row + 1 < schedule.size())
+        const bool isOpen = row + 1 == schedule.size();
+        if (!isOpen)
             dialog.ecHighEnd[row].Text = FormatPicture(bracket.HighEnd, "$###,##0");
         dialog.ecRate[row].Text = FormatPicture(bracket.Rate, "#0.00") + "%";
-        dialog.LastTaxRow = row;
     }
+    if (!schedule.empty())
+        dialog.OpenTaxRow = schedule.size() - 1;
+    dialog.TaxBrackets = schedule.size();
 }
 
 void FillRatioRows(AssumptionsScreen& dialog, const LoanTypeList& loanTypes) {
+    std::copy(designCaptions.begin(), designCaptions.end(), dialog.lblLoanType.begin());
     dialog.RatioRows = std::min(loanTypes.size(), RatioRowCount);
     for (std::size_t row = 0; row < dialog.RatioRows; ++row) {
         dialog.lblLoanType[row] = loanTypes[row].Name;
@@ -41,84 +46,19 @@ void FillRatioRows(AssumptionsScreen& dialog, const LoanTypeList& loanTypes) {
     }
 }
 
-TaxRows TaxRowsOf(const AssumptionsScreen& dialog) {
-    TaxRows rows;
-    for (std::size_t row = 0; row < TaxRowCount; ++row)
-        rows[row] = {dialog.ecHighEnd[row].Text, dialog.ecRate[row].Text};
-    return rows;
-}
-
-AssumptionTexts AssumptionTextsOf(const AssumptionsScreen& dialog) {
-    AssumptionTexts texts;
-    texts.RealEstateTaxPct = dialog.ecRealEstateTaxPct.Text;
-    texts.InsurancePct = dialog.ecInsurancePct.Text;
-    texts.PVRate = dialog.ecPV_Rate.Text;
-    texts.PVTerm = dialog.ecPV_Term.Text;
-    texts.UsePVVars = dialog.optUsePVVars;
-    texts.YearsInHome = dialog.ecYrsInHome.Text;
-    for (std::size_t row = 0; row < PMIRowCount; ++row)
-        texts.PMIMult[row] = dialog.PMI_Multiplier[row].Text;
-    return texts;
-}
-
-LoanTypeList WithRatiosOf(const AssumptionsScreen& dialog, LoanTypeList loanTypes) {
-    for (std::size_t row = 0; row < dialog.RatioRows; ++row) {
-        loanTypes[row].FrontRatio = ParseFieldValue(dialog.FER[row].Text, 100);
-        loanTypes[row].BackRatio = ParseFieldValue(dialog.BER[row].Text, 100);
-    }
-    return loanTypes;
-}
-
-std::optional<SettingsFault> SaveAll(const SettingsFile& file, const AssumptionsScreen& dialog,
-                                     const TaxSchedule& loaded, const LoanTypeList& loanTypes) {
-    if (auto fault = WriteTaxCatsToFile(file, TaxRowsOf(dialog), loaded))
-        return fault;
-    if (auto fault = WriteAssumpsToFile(file, AssumptionTextsOf(dialog)))
-        return fault;
-    return WriteLoanTypes(file, loanTypes);
-}
-
-std::string BytesOf(const FileLines& lines) {
-    std::string bytes;
-    for (const FileLine& line : lines)
-        bytes.append(line.Text).append(line.End);
-    return bytes;
-}
-
-/// Each of the three writers replaces the whole file, so a later fault must undo the earlier saves. Returns
-/// the fault to show to the user.
-SettingsFault TakeBack(const SettingsFile& file, const FileLines& before, const SettingsFault& fault) {
-    const auto now = file.ReadLines();
-    if (!now || BytesOf(*now) == BytesOf(before))
-        return fault;
-    const auto failed = file.ReplaceContent(BytesOf(before));
-    // The user must first learn where the settings are now; the reason of the failed save matters less.
-    return failed && failed->What == SettingsFault::Kind::InterruptedSave ? *failed : fault;
-}
-
-std::optional<SettingsFault> SaveAndReload(const AssumptionsScreen& dialog, Session& session) {
-    // Held throughout, because TakeBack must not undo a save of another copy of the program.
-    const auto held = SettingsFile(session.Folder).Hold();
-    if (!held)
-        return held.Fault();
-    const SettingsFile& file = *held;
-    const auto before = file.ReadLines();
-    if (!before)
-        return before.Fault();
-    LoanTypeList loanTypes = WithRatiosOf(dialog, session.LoanTypes);
-    if (auto fault = SaveAll(file, dialog, session.TaxBrackets, loanTypes))
-        return TakeBack(file, *before, *fault);
-    session.LoanTypes = std::move(loanTypes);
-    // The results still come from the old tables, so the next recalculation must not be skipped.
-    session.From.reset();
-    if (auto fault = LoadTaxCats(file, session.TaxBrackets))
-        return fault;
-    return LoadAssumptions(file, session.Assumptions);
-}
-
 } // namespace
 
 std::optional<SettingsFault> FillAssumptions(AssumptionsScreen& dialog, Session& session) {
+    std::optional<SettingsFault> fault;
+    if (session.LoanTypes.empty()) {
+        fault = LoadLoanTypes(SettingsFile(session.Folder), session.LoanTypes);
+        session.From.reset();
+    }
+    FillFields(dialog, session);
+    return fault;
+}
+
+void FillFields(AssumptionsScreen& dialog, const Session& session) {
     const AssumptionSet& assumptions = session.Assumptions;
     dialog = AssumptionsScreen{};
     FillTaxRows(dialog, session.TaxBrackets);
@@ -133,14 +73,16 @@ std::optional<SettingsFault> FillAssumptions(AssumptionsScreen& dialog, Session&
                                  assumptions.PMIMult4};
     for (std::size_t row = 0; row < PMIRowCount; ++row)
         dialog.PMI_Multiplier[row].Text = PlainText(multipliers[row]);
-
-    std::optional<SettingsFault> fault;
-    if (session.LoanTypes.empty()) {
-        fault = LoadLoanTypes(SettingsFile(session.Folder), session.LoanTypes);
-        session.From.reset();
-    }
     FillRatioRows(dialog, session.LoanTypes);
-    return fault;
+    RememberFilled(dialog);
+}
+
+std::string FurtherBrackets(const AssumptionsScreen& dialog) {
+    if (dialog.TaxBrackets <= TaxRowCount)
+        return {};
+    const std::size_t further = dialog.TaxBrackets - TaxRowCount;
+    return "The settings file keeps " + std::to_string(further) +
+           (further == 1 ? " further bracket." : " further brackets.");
 }
 
 void CalcExpUpgrValue(AssumptionsScreen& dialog, const Session& session) {
@@ -169,14 +111,6 @@ EntryOutcome LeaveFieldAs(EntryContext& context, Field& field, FieldFormat check
         return EntryOutcome::Refused;
     FormatField(context.State, field, shown);
     return EntryOutcome::Accepted;
-}
-
-std::optional<SettingsFault> ConfirmAssumptions(const AssumptionsScreen& dialog, Session& session,
-                                                Host& host) {
-    if (auto fault = SaveAndReload(dialog, session))
-        return fault;
-    Recalculate(session, host);
-    return std::nullopt;
 }
 
 } // namespace Ledgrove::Module1

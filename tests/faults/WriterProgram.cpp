@@ -59,7 +59,13 @@ Session SessionIn(const std::string& folder) {
 
 int SaveTaxes(const std::string& folder) {
     const TaxRows rows{{{"$50,000", "16.00%"}, {"$99,000", "29.00%"}}};
-    return Tell(Module1::WriteTaxCatsToFile(SettingsFile(folder), rows, {}));
+    const SettingsFile file(folder);
+    const auto lines = file.ReadLines();
+    if (!lines)
+        return Tell(lines.Fault());
+    SettingsDraft draft(file, *lines);
+    const Fault fault = Module1::WriteTaxCatsToFile(draft, rows, {});
+    return Tell(fault ? fault : draft.Save());
 }
 
 int SaveAssumptions(const std::string& folder) {

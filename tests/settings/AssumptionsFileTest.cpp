@@ -114,7 +114,8 @@ const AssumptionTexts dialogTexts = {
 
 TEST_F(AssumptionsFileTest, WritingAppendsMissingKeysInOrderWithTheFlagFalse) {
     Given("X=1\r\n");
-    EXPECT_EQ(WriteAssumpsToFile(File(), dialogTexts), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteAssumpsToFile(draft, dialogTexts); }),
+              std::nullopt);
     EXPECT_EQ(Bytes(),
               "X=1\r\nASSUMPTION1=1.50\r\nASSUMPTION2=0.65\r\nPVSAVINGS_RATE=7.50\r\nPVSAVINGS_TERM=30\r\n"
               "PVSAVINGS_FLAG=FALSE\r\nYEARS_IN_HOME=7\r\nPMI_MULT1=0.0087\r\nPMI_MULT2=0.0066\r\n"
@@ -123,9 +124,11 @@ TEST_F(AssumptionsFileTest, WritingAppendsMissingKeysInOrderWithTheFlagFalse) {
 
 TEST_F(AssumptionsFileTest, TheNextSaveWritesTheChosenFlag) {
     Given("");
-    EXPECT_EQ(WriteAssumpsToFile(File(), dialogTexts), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteAssumpsToFile(draft, dialogTexts); }),
+              std::nullopt);
     EXPECT_FALSE(Load().UsePVVars);
-    EXPECT_EQ(WriteAssumpsToFile(File(), dialogTexts), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteAssumpsToFile(draft, dialogTexts); }),
+              std::nullopt);
     EXPECT_TRUE(Load().UsePVVars);
     EXPECT_NE(Bytes().find("PVSAVINGS_FLAG=TRUE\r\n"), std::string::npos);
     EXPECT_EQ(Bytes().find("PVSAVINGS_FLAG=FALSE"), std::string::npos);
@@ -138,7 +141,7 @@ TEST_F(AssumptionsFileTest, WritingReplacesInPlaceAndKeepsUnknownLines) {
         "PVSAVINGS_RATE=9\r\nPMI_MULT1=9\r\nPMI_MULT2=9\r\nPMI_MULT3=9\r\nYEARS_IN_HOME=9\r\nASSUMPTION2=9");
     AssumptionTexts texts = dialogTexts;
     texts.UsePVVars = false;
-    EXPECT_EQ(WriteAssumpsToFile(File(), texts), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteAssumpsToFile(draft, texts); }), std::nullopt);
     EXPECT_EQ(Bytes(),
               "; note \xE9\n\r\nPMI_MULT4=0.0023\r\nPVSAVINGS_FLAG=FALSE\r\nUNKNOWN=1\r\nASSUMPTION1=1.50\r\n"
               "PVSAVINGS_TERM=30\r\nPVSAVINGS_RATE=7.50\r\nPMI_MULT1=0.0087\r\nPMI_MULT2=0.0066\r\n"
@@ -151,7 +154,7 @@ TEST_F(AssumptionsFileTest, OtherFieldsAreWrittenAsShown) {
     AssumptionTexts texts = dialogTexts;
     texts.PVTerm = " 25 %";
     texts.PMIMult[0] = "0.87%";
-    EXPECT_EQ(WriteAssumpsToFile(File(), texts), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteAssumpsToFile(draft, texts); }), std::nullopt);
     EXPECT_TRUE(Bytes().starts_with("PVSAVINGS_TERM= 25 %\r\nPMI_MULT1=0.87%\r\nASSUMPTION1="));
 }
 

@@ -11,7 +11,7 @@ protected:
         Given(bytes);
         LoanTypeList loanTypes;
         EXPECT_EQ(LoadLoanTypes(File(), loanTypes), std::nullopt);
-        EXPECT_EQ(WriteLoanTypes(File(), loanTypes), std::nullopt);
+        EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteLoanTypes(draft, loanTypes); }), std::nullopt);
         return Bytes();
     }
 };
@@ -102,7 +102,10 @@ TEST_F(LoanTypesFileTest, WritingDropsTheOldLinesAndAppendsTheRecords) {
     first.Text7 = "7";
     first.Text8 = "8";
     first.IsEEM = true;
-    EXPECT_EQ(WriteLoanTypes(File(), {first, LoanType{}}), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) {
+                  return WriteLoanTypes(draft, {first, LoanType{}});
+              }),
+              std::nullopt);
     // 0.4305 is halfway at three places and rounds away from zero.
     EXPECT_EQ(Bytes(), "X=1\r\nY=2\r\nLOANTYPE=4,FHA,3,0.330,0.431,6,7,8,TRUE\r\n"
                        "LOANTYPE=0,,,0.000,0.000,,,,FALSE\r\n");

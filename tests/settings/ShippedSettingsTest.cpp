@@ -124,7 +124,7 @@ TEST_F(ShippedSettingsTest, SavingTheListsUnchangedKeepsTheFile) {
     ASSERT_EQ(LoadHomeList(File(), houses), std::nullopt);
     LoanTypeList loanTypes;
     ASSERT_EQ(LoadLoanTypes(File(), loanTypes), std::nullopt);
-    ASSERT_EQ(WriteLoanTypes(File(), loanTypes), std::nullopt);
+    ASSERT_EQ(Save([&](SettingsDraft& draft) { return WriteLoanTypes(draft, loanTypes); }), std::nullopt);
     ASSERT_EQ(WriteHomeList(File(), houses), std::nullopt);
 
     const auto sorted = [](const std::string& bytes) {

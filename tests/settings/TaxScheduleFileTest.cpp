@@ -98,19 +98,22 @@ const TaxRows sixRows = {{{"$100", "1.00%"},
 
 TEST_F(TaxScheduleFileTest, WritingKeepsTheNumberOfLines) {
     Given("A=1\r\nTAXCAT=9,9\r\nB=2\r\nTAXCAT=9,9\r\nTAXCAT=9,9\r\nC=3\r\n");
-    EXPECT_EQ(WriteTaxCatsToFile(File(), sixRows, {}), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteTaxCatsToFile(draft, sixRows, {}); }),
+              std::nullopt);
     EXPECT_EQ(Bytes(), "A=1\r\nTAXCAT=100,1.00\r\nB=2\r\nTAXCAT=45200,15.00\r\nTAXCAT=300,3.00\r\nC=3\r\n");
 }
 
 TEST_F(TaxScheduleFileTest, WritingWithTwoLinesReplacesThoseTwo) {
     Given("TAXCAT=9,9\r\nTAXCAT=9,9\r\n");
-    EXPECT_EQ(WriteTaxCatsToFile(File(), sixRows, {}), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteTaxCatsToFile(draft, sixRows, {}); }),
+              std::nullopt);
     EXPECT_EQ(Bytes(), "TAXCAT=100,1.00\r\nTAXCAT=45200,15.00\r\n");
 }
 
 TEST_F(TaxScheduleFileTest, WritingWithoutLinesAppendsSix) {
     Given("A=1");
-    EXPECT_EQ(WriteTaxCatsToFile(File(), sixRows, {}), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteTaxCatsToFile(draft, sixRows, {}); }),
+              std::nullopt);
     EXPECT_EQ(Bytes(),
               "A=1\r\nTAXCAT=100,1.00\r\nTAXCAT=45200,15.00\r\nTAXCAT=300,3.00\r\nTAXCAT=400,4.00\r\n"
               "TAXCAT=500,5.00\r\nTAXCAT=600,6.00\r\n");
@@ -118,7 +121,8 @@ TEST_F(TaxScheduleFileTest, WritingWithoutLinesAppendsSix) {
 
 TEST_F(TaxScheduleFileTest, LinesBeyondTheSixRowsStay) {
     Given("TAXCAT=1,1\nTAXCAT=1,1\nTAXCAT=1,1\nTAXCAT=1,1\nTAXCAT=1,1\nTAXCAT=1,1\nTAXCAT=700,37\n");
-    EXPECT_EQ(WriteTaxCatsToFile(File(), sixRows, {}), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteTaxCatsToFile(draft, sixRows, {}); }),
+              std::nullopt);
     EXPECT_EQ(Bytes(), "TAXCAT=100,1.00\r\nTAXCAT=45200,15.00\r\nTAXCAT=300,3.00\r\nTAXCAT=400,4.00\r\n"
                        "TAXCAT=500,5.00\r\nTAXCAT=600,6.00\r\nTAXCAT=700,37\n");
 }
@@ -128,7 +132,8 @@ TEST_F(TaxScheduleFileTest, TheLastLoadedBracketKeepsItsHiddenHighEnd) {
     TaxSchedule loaded;
     ASSERT_EQ(LoadTaxCats(File(), loaded), std::nullopt);
     const TaxRows rows = {{{"$57,000", "10.00%"}, {"", "35.00%"}, {}, {}, {}, {}}};
-    EXPECT_EQ(WriteTaxCatsToFile(File(), rows, loaded), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) { return WriteTaxCatsToFile(draft, rows, loaded); }),
+              std::nullopt);
     EXPECT_EQ(Bytes(), "TAXCAT=57000,10.00\r\nTAXCAT=-1,35.00\r\n");
 }
 
@@ -137,7 +142,10 @@ TEST_F(TaxScheduleFileTest, AHiddenHighEndLosesNoDigit) {
     Given("TAXCAT=16777215,10\r\n");
     TaxSchedule loaded;
     ASSERT_EQ(LoadTaxCats(File(), loaded), std::nullopt);
-    EXPECT_EQ(WriteTaxCatsToFile(File(), {{{"", "10.00%"}}}, loaded), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) {
+                  return WriteTaxCatsToFile(draft, {{{"", "10.00%"}}}, loaded);
+              }),
+              std::nullopt);
     EXPECT_EQ(Bytes(), "TAXCAT=16777215,10.00\r\n");
 }
 
@@ -145,14 +153,20 @@ TEST_F(TaxScheduleFileTest, ATypedHighEndOfTheLastBracketCounts) {
     Given("TAXCAT=57000,10\r\n");
     TaxSchedule loaded;
     ASSERT_EQ(LoadTaxCats(File(), loaded), std::nullopt);
-    EXPECT_EQ(WriteTaxCatsToFile(File(), {{{"$60,000", "12.00%"}}}, loaded), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) {
+                  return WriteTaxCatsToFile(draft, {{{"$60,000", "12.00%"}}}, loaded);
+              }),
+              std::nullopt);
     EXPECT_EQ(Bytes(), "TAXCAT=60000,12.00\r\n");
 }
 
 TEST_F(TaxScheduleFileTest, OtherEmptyRowsAreWrittenAsZero) {
     Given("TAXCAT=1,1\r\nTAXCAT=2,2\r\nTAXCAT=3,3\r\n");
     const TaxSchedule loaded = {{-1.0f, 1.0f, 1.0f}, {1.0f, 2.0f, 2.0f}};
-    EXPECT_EQ(WriteTaxCatsToFile(File(), {{{"", "1.00%"}, {"", "2.00%"}, {"", ""}}}, loaded), std::nullopt);
+    EXPECT_EQ(Save([&](SettingsDraft& draft) {
+                  return WriteTaxCatsToFile(draft, {{{"", "1.00%"}, {"", "2.00%"}, {"", ""}}}, loaded);
+              }),
+              std::nullopt);
     EXPECT_EQ(Bytes(), "TAXCAT=0,1.00\r\nTAXCAT=2,2.00\r\nTAXCAT=0,\r\n");
 }
 

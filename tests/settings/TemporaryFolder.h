@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settings/Rewrite.h"
 #include "settings/SettingsFile.h"
 
 #include <cstdlib>
@@ -43,6 +44,17 @@ protected:
     void Given(std::string_view bytes) const { WriteBytes(m_file.Path(), bytes); }
     /// The settings file's bytes, or "(missing)".
     std::string Bytes() const { return ReadBytes(m_file.Path()).value_or("(missing)"); }
+    /// Applies the writer to the file, as one save.
+    template <typename Writer>
+    std::optional<SettingsFault> Save(Writer writer) const {
+        const auto lines = m_file.ReadLines();
+        if (!lines)
+            return lines.Fault();
+        SettingsDraft draft(m_file, *lines);
+        if (auto fault = writer(draft))
+            return fault;
+        return draft.Save();
+    }
     bool Exists(const std::filesystem::path& path) const {
         return std::filesystem::exists(std::filesystem::symlink_status(path));
     }

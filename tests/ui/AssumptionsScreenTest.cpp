@@ -1,11 +1,5 @@
-#include "ui/AssumptionsScreen.h"
-
+#include "AssumptionsDesk.h"
 #include "engine/Recalculate.h"
-#include "settings/AssumptionsFile.h"
-#include "settings/LoanTypesFile.h"
-#include "tests/settings/TemporaryFolder.h"
-#include "tests/ui/EntryDesk.h"
-#include "ui/StartUp.h"
 
 #include <gmock/gmock.h>
 
@@ -14,27 +8,7 @@ namespace {
 
 using namespace Module1;
 using testing::HasSubstr;
-using Testing::ScriptedHost;
-
-/// Starts the program's state from a settings file and fills the dialog from it.
-class AssumptionsScreenTest : public SettingsTest {
-protected:
-    void Start(std::string_view settings) {
-        Given(settings);
-        ASSERT_FALSE(LoadMainScreen(m_session, m_host, Folder()));
-        ASSERT_FALSE(FillAssumptions(m_dialog, m_session));
-    }
-    void StartShipped() { Start(*ReadBytes(LEDGROVE_SOURCE_DIR "/data/Ledgrove.ini")); }
-
-    std::optional<SettingsFault> Confirm() { return ConfirmAssumptions(m_dialog, m_session, m_host); }
-
-    Session m_session;
-    AssumptionsScreen m_dialog;
-    ScriptedHost m_host;
-    std::vector<std::string> m_log;
-    Testing::ScriptedFocus m_focus{m_session, m_log};
-    EntryContext m_context{m_session, m_host, m_focus};
-};
+using AssumptionsScreenTest = AssumptionsDesk;
 
 TEST_F(AssumptionsScreenTest, ShowsTheShippedValuesInTheirFormats) {
     StartShipped();
@@ -66,15 +40,16 @@ TEST_F(AssumptionsScreenTest, TwoBracketsShowLowEndsOneDollarAbove) {
     EXPECT_EQ(m_dialog.ecHighEnd[1].Text, "");
     EXPECT_EQ(m_dialog.ecRate[1].Text, "28.00%");
     EXPECT_EQ(m_dialog.ecLowEnd[2].Text, "");
-    EXPECT_EQ(m_dialog.LastTaxRow, 1U);
+    EXPECT_EQ(m_dialog.OpenTaxRow, 1U);
 }
 
-TEST_F(AssumptionsScreenTest, TheLastOfMoreBracketsThanRowsIsTheLastRow) {
+TEST_F(AssumptionsScreenTest, MoreBracketsThanRowsAreNamedAndKept) {
     std::string settings = "LOANTYPE=1,C,,0.28,0.36,,,,FALSE\r\n";
     for (int bracket = 1; bracket <= 8; ++bracket)
         settings += "TAXCAT=" + std::to_string(bracket * 10000) + ",10\r\n";
     Start(settings);
-    EXPECT_EQ(m_dialog.LastTaxRow, 5U);
+    EXPECT_EQ(m_dialog.OpenTaxRow, 7U); // none of the rows
+    EXPECT_EQ(FurtherBrackets(m_dialog), "The settings file keeps 2 further brackets.");
     EXPECT_EQ(m_dialog.ecHighEnd[5].Text, "$60,000");
     ASSERT_FALSE(Confirm());
     EXPECT_THAT(Bytes(), HasSubstr("TAXCAT=60000,10.00\r\nTAXCAT=70000,10\r\n"));
@@ -255,30 +230,6 @@ TEST_F(AssumptionsScreenTest, TheUpgradeIsThePriceDifference) {
     m_session.Scenario.PriceDifference = -1500;
     CalcExpUpgrValue(m_dialog, m_session);
     EXPECT_EQ(m_dialog.ecExpUpgrValue.Text, "-$1,500");
-}
-
-TEST_F(AssumptionsScreenTest, AFailedSaveChangesNeitherFileNorMemory) {
-    StartShipped();
-    const std::string before = Bytes();
-    m_dialog.FER[0].Text = "99%";
-    m_dialog.ecYrsInHome.Text = "12";
-    std::filesystem::create_directory(Folder() / "Pennaro2.INI");
-    const auto fault = Confirm();
-    ASSERT_TRUE(fault);
-    EXPECT_EQ(Bytes(), before);
-    EXPECT_FLOAT_EQ(m_session.LoanTypes[0].FrontRatio, 0.28F);
-    EXPECT_EQ(m_session.Assumptions.YearsInHome, 7);
-}
-
-TEST_F(AssumptionsScreenTest, TheFirstWritersSaveIsUndoneWhenALaterOneFails) {
-    StartShipped();
-    const std::string before = Bytes();
-    m_dialog.ecHighEnd[0].Text = "$60,000";     // the first writer saves this
-    m_dialog.PMI_Multiplier[0].Text = "1\n2=3"; // the second refuses this: a line break
-    const auto fault = Confirm();
-    ASSERT_TRUE(fault);
-    EXPECT_EQ(Bytes(), before);
-    EXPECT_EQ(m_session.TaxBrackets[0].HighEnd, 57000);
 }
 
 } // namespace

@@ -109,7 +109,7 @@ QGroupBox* MakePresentValue() {
 QGroupBox* MakeQualifierRatios(const AssumptionsScreen& record) {
     auto* group = new HeadedGroup("Mortgage Qualifier Ratios");
     QGridLayout* grid = MakeGrid(group);
-    for (std::size_t i = 0; i < record.RatioRows; ++i) {
+    for (std::size_t i = 0; i < RatioRowCount; ++i) {
         const QString name = QString::fromStdString(record.lblLoanType[i]);
         auto* front = MakeField(RowControl("FER", i), "Front End Ratio, " + name);
         auto* back = MakeField(RowControl("BER", i), "Back End Ratio, " + name);
@@ -125,6 +125,9 @@ QGroupBox* MakeQualifierRatios(const AssumptionsScreen& record) {
         grid->addWidget(loanType, row, 0);
         grid->addWidget(front, row, 1);
         grid->addWidget(back, row, 2);
+        for (QWidget* part :
+             {static_cast<QWidget*>(loanType), static_cast<QWidget*>(front), static_cast<QWidget*>(back)})
+            part->setEnabled(i < record.RatioRows);
     }
     const int last = grid->rowCount();
     grid->addWidget(TextLabel("Note:"), last, 0, Qt::AlignTop | Qt::AlignRight);
@@ -143,7 +146,7 @@ QGroupBox* MakeTaxesAndInsurance() {
     return group;
 }
 
-QGroupBox* MakeTaxSchedule(std::size_t lastRow) {
+QGroupBox* MakeTaxSchedule(const AssumptionsScreen& record) {
     auto* group = new HeadedGroup("Income Tax Rate Schedule");
     QGridLayout* grid = MakeGrid(group);
     const std::array<std::pair<const char*, const char*>, 3> columns{
@@ -158,8 +161,15 @@ QGroupBox* MakeTaxSchedule(std::size_t lastRow) {
             grid->addWidget(field, row, column);
         }
     }
-    const int last = static_cast<int>(lastRow) + 1;
-    HideBehindWords(*grid, grid->itemAtPosition(last, 1)->widget(), last, 1);
+    const std::string further = Module1::FurtherBrackets(record);
+    if (further.empty()) {
+        const int last = static_cast<int>(record.OpenTaxRow) + 1;
+        HideBehindWords(*grid, grid->itemAtPosition(last, 1)->widget(), last, 1);
+        return group;
+    }
+    QLabel* line = TextLabel(QString::fromStdString(further));
+    line->setObjectName("lblFurtherBrackets");
+    grid->addWidget(line, grid->rowCount(), 0, 1, 3);
     return group;
 }
 

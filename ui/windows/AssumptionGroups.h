@@ -12,11 +12,12 @@ QString RowControl(const char* control, std::size_t row);
 
 QGroupBox* MakePMIMultipliers();
 QGroupBox* MakePresentValue();
-/// One row for each loan type in the record.
+/// Seven rows. Those without a loan type in the record are disabled.
 QGroupBox* MakeQualifierRatios(const AssumptionsScreen& record);
 QGroupBox* MakeTaxesAndInsurance();
-/// Words replace the high end of the row `lastRow` (counted from 0).
-QGroupBox* MakeTaxSchedule(std::size_t lastRow);
+/// Six rows. Words replace the high end of the last bracket; if it is beyond the rows, a line under them says
+/// so.
+QGroupBox* MakeTaxSchedule(const AssumptionsScreen& record);
 QGroupBox* MakeOtherVariables();
 
 } // namespace Ledgrove

@@ -90,7 +90,7 @@ bool EntryDialog::Succeeded(const std::optional<SettingsFault>& fault) {
 void EntryDialog::TakeEnter() {
     if (auto* button = qobject_cast<QPushButton*>(focusWidget()))
         button->click();
-    else
+    else if (!qobject_cast<QLineEdit*>(focusWidget()))
         m_focus.NextField();
 }
 

@@ -57,7 +57,8 @@ protected:
     RecordShow& Shows() { return m_shows; }
 
 private:
-    /// Presses the button with the focus, or moves on from any other control.
+    /// Presses the button with the focus, or moves on from an option, a check box or a list. A field without
+    /// a rule for Enter ignores it.
     void TakeEnter();
     void SendHelpKey();
 

@@ -36,6 +36,8 @@ void frmAssumptions::Refresh() {
 }
 
 void frmAssumptions::accept() {
+    if (!Module1::MayConfirmAssumptions(Context(), m_record))
+        return;
     if (Succeeded(Module1::ConfirmAssumptions(m_record, State(), Outside())))
         EntryDialog::accept();
 }
@@ -61,7 +63,7 @@ void frmAssumptions::BuildControls() {
     left->addStretch();
     auto* right = new QVBoxLayout;
     right->addWidget(MakePresentValue());
-    right->addWidget(MakeTaxSchedule(m_record.LastTaxRow));
+    right->addWidget(MakeTaxSchedule(m_record));
     right->addWidget(MakeOtherVariables());
     right->addStretch();
     right->addLayout(MakeButtonRow());
@@ -116,7 +118,7 @@ void frmAssumptions::BindRates() {
 }
 
 void frmAssumptions::BindRows() {
-    for (std::size_t row = 0; row < m_record.RatioRows; ++row) {
+    for (std::size_t row = 0; row < RatioRowCount; ++row) {
         BindField(RowControl("FER", row), m_record.FER[row], wholePercent);
         BindField(RowControl("BER", row), m_record.BER[row], wholePercent);
     }
