@@ -1,6 +1,7 @@
 #include "reports/windows/PageView.h"
 
 #include "reports/windows/PagePainter.h"
+#include "ui/windows/Identify.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -58,8 +59,8 @@ void PageView::ForgetPages() {
 void PageView::ShowPage(std::size_t number) {
     m_page = number;
     m_sheet = {};
-    setAccessibleName(QString("Report Preview, page %1 of %2").arg(number).arg(m_document.PageCount()));
-    setAccessibleDescription(TextOf(m_document.Page(number)));
+    SetSpokenName(*this, QString("Report Preview, page %1 of %2").arg(number).arg(m_document.PageCount()));
+    SetSpokenDescription(*this, TextOf(m_document.Page(number)));
     UpdateScrollBars();
     verticalScrollBar()->setValue(0);
     viewport()->update();

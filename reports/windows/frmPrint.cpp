@@ -28,7 +28,7 @@ QComboBox* MakePickList(const char* control, const QString& description) {
 
 void SetCaption(QPushButton& button, const QString& caption) {
     button.setText(caption);
-    button.setAccessibleName(QString(caption).remove('&'));
+    SetSpokenName(button, QString(caption).remove('&'));
 }
 
 /// 1 or -1 for Ctrl with plus or minus, also where "+" is on a shifted key; 0 for other keys.

@@ -9,6 +9,9 @@ from desktop import Desktop, Program, wait_for
 
 PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
 HOUSES, ASSUMPTIONS, OPTIONS = "House Scenarios", "Financial Assumptions", "Options"
+PRICE_BASE, PRICE_GMH = "Sticker Price, Base Home", "Sticker Price, GREENMARK Home"
+UTILITIES_BASE, UTILITIES_GMH = "Annual Utility Cost, Base Home", "Annual Utility Cost, GREENMARK Home"
+TAXES, INSURANCE, YEARS = "Real Estate Taxes", "Home Owner's Insurance", "Anticipated Years in Home"
 
 
 def setUpModule():
@@ -45,20 +48,12 @@ class DialogTest(unittest.TestCase):
         self.program.window()
         wait_for(lambda: self.program.find("dialog", title, missing_ok=True) is None, f"{title} closed")
 
-    def enter(self, control, text, key="Return"):
-        node = self.program.find("text", description=control)
-        self.program.click(node)
-        self.program.wait_focus(control)
+    def enter(self, field, text, key="Return"):
+        self.program.click(self.program.field(field))
+        self.program.wait_focus(field)
         self.desktop.key("ctrl+a")
         self.desktop.type(text)
         self.desktop.key(key)
-
-    def shown(self, control):
-        from gi.repository import Atspi
-        return Atspi.Text.get_text(self.program.find("text", description=control), 0, -1)
-
-    def wait_shown(self, control, text):
-        wait_for(lambda: self.shown(control) == text, f"{control} showing {text}, it shows {self.shown(control)}")
 
     def lines(self, key):
         return [line for line in self.settings.read_bytes().decode("cp1252").split("\r\n") if line.startswith(key)]
@@ -80,15 +75,15 @@ class Houses(DialogTest):
                 if node.get_role_name() == "list item"]
 
     def test_add_edit_delete_and_choose(self):
-        for control, text in (("ecStdHome", "111000"), ("ecGMHHome", "115000"), ("ecStdUtil", "1200"),
-                              ("ecGMHUtil", "800")):
-            self.enter(control, text)
+        for field, text in ((PRICE_BASE, "111000"), (PRICE_GMH, "115000"), (UTILITIES_BASE, "1200"),
+                              (UTILITIES_GMH, "800")):
+            self.enter(field, text)
         self.open(HOUSES)
         self.assertEqual(self.lines("HOMESELECTIONDIALOG"), ["HOMESELECTIONDIALOG=OPEN"])
 
         self.name_new("Lot 7")
         wait_for(lambda: "Lot 7" in self.items(), "the new house")
-        self.wait_shown("ecStdCost", "$111,000")
+        self.program.wait_text(PRICE_BASE, "$111,000")
         self.name_new("Lot 7")
         self.assertEqual(self.program.answer(), ("Ledgrove", "This Home Name Has Already Been Entered."))
         self.name_new("")
@@ -98,21 +93,21 @@ class Houses(DialogTest):
         self.assertEqual(len(self.items()), 4)
 
         self.press("Edit")
-        self.enter("ecGMHCost", "90000", key="Tab")
-        self.wait_shown("ecGMHCost", "$90,000")
+        self.enter(PRICE_GMH, "90000", key="Tab")
+        self.program.wait_text(PRICE_GMH, "$90,000")
         self.press("Done")
         title, text = self.program.answer("No")
         self.assertEqual(title, "Ledgrove Data Check")
         self.assertIn("Note:  GREENMARK Home is cheaper!", text)
         self.assertTrue(text.endswith("Continue to save?"), text)
-        self.wait_shown("ecGMHCost", "$90,000")
+        self.program.wait_text(PRICE_GMH, "$90,000")
         self.press("Done")
         self.program.answer("Yes")
         self.assertIsNotNone(self.program.find("push button", "Edit"))
 
         self.program.click(next(node for node in self.program.all(self.program.find("list"))
                                 if node.get_name() == "The Birch"))
-        self.wait_shown("ecStdCost", "$340,000")
+        self.program.wait_text(PRICE_BASE, "$340,000")
         self.press("Delete")
         self.assertEqual(self.program.answer("No")[0], "House Package Data Delete")
         self.press("Delete")
@@ -120,19 +115,19 @@ class Houses(DialogTest):
         wait_for(lambda: self.items() == ["The Alder", "The Cedar", "Lot 7"], "three houses left")
         self.program.click(next(node for node in self.program.all(self.program.find("list"))
                                 if node.get_name() == "Lot 7"))
-        self.wait_shown("ecGMHCost", "$90,000")
+        self.program.wait_text(PRICE_GMH, "$90,000")
         self.close_by("OK")
 
         self.assertEqual(self.lines("HOMELIST"), ["HOMELIST=The Alder,285000,2400,293000,1550",
                                                   "HOMELIST=The Cedar,415000,3150,427000,2050",
                                                   "HOMELIST=Lot 7,111000,1200,90000,800"])
         self.assertEqual(self.lines("HOMESELECTIONDIALOG"), ["HOMESELECTIONDIALOG=CLOSED"])
-        self.wait_shown("ecGMHHome", "$90,000")
+        self.program.wait_text(PRICE_GMH, "$90,000")
         self.program.find("label", "Lot 7")
-        self.enter("ecGMHHome", "91000")
+        self.enter(PRICE_GMH, "91000")
         self.program.find("label", "Custom")
         self.open(HOUSES)
-        self.wait_shown("ecStdCost", "$285,000")  # the first house again
+        self.program.wait_text(PRICE_BASE, "$285,000")  # the first house again
 
     def test_cancel_saves_the_list_but_copies_nothing(self):
         self.open(HOUSES)
@@ -140,15 +135,15 @@ class Houses(DialogTest):
         wait_for(lambda: "Lot 9" in self.items(), "the new house")
         self.close_by("Cancel")
         self.assertEqual(self.lines("HOMELIST")[-1], "HOMELIST=Lot 9,0,0,0,0")
-        self.assertEqual(self.shown("ecStdHome"), "")
+        self.assertEqual(self.program.text(PRICE_BASE), "")
         self.program.find("label", "Custom")
 
     def test_cancel_edit_discards_a_bad_entry_without_a_message(self):
         self.open(HOUSES)
         self.press("Edit")
-        self.enter("ecStdCost", "-5", key="End")
+        self.enter(PRICE_BASE, "-5", key="End")
         self.press("Cancel Edit")
-        self.wait_shown("ecStdCost", "$285,000")
+        self.program.wait_text(PRICE_BASE, "$285,000")
         self.program.no_box()
 
 
@@ -162,17 +157,17 @@ class Assumptions(DialogTest):
         self.assertEqual(self.program.focused().get_name(), ASSUMPTIONS)
         self.desktop.key("space")
         self.program.window(ASSUMPTIONS)
-        self.program.wait_focus("PMI_Multiplier1")
+        self.program.wait_focus("PMI Multiplier, 5%")
         self.desktop.type("0.0091")
         self.desktop.key("Return")
-        self.program.wait_focus("PMI_Multiplier2")
+        self.program.wait_focus("PMI Multiplier, 10%")
         self.desktop.key("alt+i")
-        self.program.wait_focus("ecInsurancePct")
+        self.program.wait_focus(INSURANCE)
         self.desktop.type("0.8")
         self.desktop.key("Return")
-        self.wait_shown("ecInsurancePct", "0.80%")
+        self.program.wait_text(INSURANCE, "0.80%")
         self.desktop.key("alt+y")
-        self.program.wait_focus("ecYrsInHome")
+        self.program.wait_focus(YEARS)
         self.desktop.type("12")
         self.desktop.key("Tab")
         self.desktop.key("alt+v")
@@ -186,21 +181,21 @@ class Assumptions(DialogTest):
 
     def test_the_next_low_end_changes_at_once(self):
         self.open(ASSUMPTIONS)
-        self.enter("ecHighEnd2", "150000", key="Tab")
-        self.wait_shown("ecLowEnd3", "$150,001")
+        self.enter("High End, Row 2", "150000", key="Tab")
+        self.program.wait_text("Low End, Row 3", "$150,001")
 
     def test_property_tax_by_enter_and_by_click(self):
         self.open(ASSUMPTIONS)
-        self.enter("ecRealEstateTaxPct", "0.5")
-        self.wait_shown("ecRealEstateTaxPct", "0.50%")
-        self.enter("ecRealEstateTaxPct", "0.5", key="End")
-        self.program.click(self.program.find("text", description="ecYrsInHome"))
-        self.wait_shown("ecRealEstateTaxPct", "50.00%")
+        self.enter(TAXES, "0.5")
+        self.program.wait_text(TAXES, "0.50%")
+        self.enter(TAXES, "0.5", key="End")
+        self.program.click(self.program.field(YEARS))
+        self.program.wait_text(TAXES, "50.00%")
 
     def test_cancel_does_not_change_the_file(self):
         before = self.settings.read_bytes()
         self.open(ASSUMPTIONS)
-        self.enter("ecYrsInHome", "25")
+        self.enter(YEARS, "25")
         self.close_by("Cancel")
         self.assertEqual(self.settings.read_bytes(), before)
 
@@ -208,17 +203,17 @@ class Assumptions(DialogTest):
         before = self.settings.read_bytes()
         (self.folder / "Pennaro2.INI").mkdir()
         self.open(ASSUMPTIONS)
-        self.enter("ecYrsInHome", "25")
+        self.enter(YEARS, "25")
         self.press("OK")
         self.assertIn(str(self.folder / "Pennaro2.INI"), self.program.answer()[1])
-        self.assertEqual(self.shown("ecYrsInHome"), "25")
+        self.assertEqual(self.program.text(YEARS), "25")
         self.assertEqual(self.settings.read_bytes(), before)
 
 
 class Options(DialogTest):
     def test_features_are_saved_and_the_header_lines_appended(self):
         self.open(OPTIONS)
-        self.enter("ecFeat1", "Sun room")
+        self.enter("Option 1", "Sun room")
         self.close_by("OK")
         self.assertEqual(self.lines("FEATURE"), ["FEATURE1=Sun room", "FEATURE2=Larger deck"])
         self.assertEqual(len(self.lines("BUILDERNAME")), 2)
@@ -227,7 +222,7 @@ class Options(DialogTest):
     def test_cancel_writes_nothing(self):
         before = self.settings.read_bytes()
         self.open(OPTIONS)
-        self.enter("ecFeat1", "Sun room")
+        self.enter("Option 1", "Sun room")
         self.close_by("Cancel")
         self.assertEqual(self.settings.read_bytes(), before)
 

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/SafeFile.h"
 #include "ui/windows/UsersFolder.h"
@@ -80,8 +81,8 @@ void ChartPlace::Refresh() {
     if (!m_chart)
         return;
     m_chart->Show(MakeChart(m_kind, m_context->State));
-    setAccessibleName(m_chart->accessibleName());
-    setAccessibleDescription(m_chart->accessibleDescription());
+    SetSpokenName(*this, m_chart->accessibleName());
+    SetSpokenDescription(*this, m_chart->accessibleDescription());
 }
 
 void ChartPlace::showEvent(QShowEvent* event) {

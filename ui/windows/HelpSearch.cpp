@@ -155,7 +155,7 @@ void HelpSearch::Mark() {
 /// Screen readers get the result as the label's name and as the field's description.
 void HelpSearch::Tell(const QString& words) {
     m_count->setText(words);
-    m_field->setAccessibleDescription(words.isEmpty() ? m_field->objectName() : words);
+    SetSpokenDescription(*m_field, words);
     if (words.isEmpty())
         return;
     QAccessibleEvent alert(m_count, QAccessible::Alert);

@@ -6,6 +6,8 @@
 #include <QToolTip>
 #include <utility>
 
+#include "ui/windows/Identify.h"
+
 namespace Ledgrove {
 
 namespace {
@@ -55,9 +57,7 @@ ResultLabel::ResultLabel(const QString& control, const QLabel& caption, QString 
 }
 
 void ResultLabel::Describe() {
-    const QString description = m_caption.text().simplified() + ", " + m_column;
-    if (accessibleDescription() != description)
-        setAccessibleDescription(description);
+    SetSpokenDescription(*this, m_caption.text().simplified() + ", " + m_column);
 }
 
 QSize ResultLabel::sizeHint() const {

@@ -4,6 +4,7 @@
 
 #include "ui/FirstSteps.h"
 #include "ui/windows/FormParts.h"
+#include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 
 namespace Ledgrove {
@@ -48,7 +49,7 @@ void WelcomeHint::Refresh() {
     const FirstStep step = NextFirstStep(*m_screen);
     m_sentence->setText(Words(step.Sentence));
     m_go->setText(Words(step.Button));
-    m_go->setAccessibleName(Words(step.Button));
+    SetSpokenName(*m_go, Words(step.Button));
     m_sample->setVisible(m_sample->isEnabled() && IsUntouched(*m_screen));
 }
 

@@ -76,6 +76,7 @@ private slots:
     void chartIsReachedByTab();
     void coloursFollowThePalette();
     void unchangedFiguresAreNotRedrawn();
+    void namesAreWords();
 };
 
 void ChartPlaceTest::chartsComeWithTheirTab() {
@@ -192,6 +193,14 @@ void ChartPlaceTest::unchangedFiguresAreNotRedrawn() {
     QCOMPARE(changes, 0);
     open.Enter("ecGMHUtil", "500");
     QTRY_VERIFY(changes > 0);
+}
+
+void ChartPlaceTest::namesAreWords() {
+    OpenCharts open;
+    for (int tab = 0; tab < TabCount; ++tab) {
+        open.ShowTab(tab);
+        QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
+    }
 }
 
 QTEST_MAIN(ChartPlaceTest)

@@ -98,6 +98,7 @@ private slots:
     void newRunRemembersOnlyBuilderAndLogo();
     void cancelChangesNothing();
     void refusedSaveKeepsTheDialogOpen();
+    void namesAreWords();
     void mnemonicsAndTabOrder();
 };
 
@@ -305,6 +306,11 @@ void HeaderDialogTest::refusedSaveKeepsTheDialogOpen() {
     QCOMPARE(open.Outside.Messages.front().Icon, MessageIcon::Exclamation);
     QCOMPARE(open.FieldText("ecBuilderName"), u"Sun \u2600"_qs);
     QCOMPARE(open.Settings(), before);
+}
+
+void HeaderDialogTest::namesAreWords() {
+    OpenHeader open;
+    QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
 }
 
 void HeaderDialogTest::mnemonicsAndTabOrder() {

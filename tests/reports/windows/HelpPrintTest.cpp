@@ -247,6 +247,7 @@ void HelpPrintTest::keyboardAndNames() {
             names += SpokenName(*dialog.findChild<QWidget*>(control));
         names += dialog.findChild<QComboBox*>()->accessibleDescription();
         names += dialog.windowTitle();
+        names += SpokenCodeNames(dialog);
         QTest::keyClick(&dialog, Qt::Key_Return);
     }));
     QCOMPARE(mnemonics, "CPR");

@@ -55,6 +55,7 @@ private slots:
     void traceShowsEachStep();
     void loadingEndsTheTrace();
     void closeAndEscapeClose();
+    void namesAreWords();
     void mnemonicsAndTabOrder();
     void screenReaderReadsThePage();
 };
@@ -341,6 +342,11 @@ void PreviewWindowTest::closeAndEscapeClose() {
     open.Press(Qt::Key_Escape);
     QVERIFY(!open.Window->isVisible());
     QVERIFY(open.Server.Jobs.empty());
+}
+
+void PreviewWindowTest::namesAreWords() {
+    OpenPreview open(3);
+    QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
 }
 
 void PreviewWindowTest::mnemonicsAndTabOrder() {

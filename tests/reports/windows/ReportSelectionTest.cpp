@@ -75,6 +75,7 @@ private slots:
     void missingSettingsOpenNoHeaderDialog();
     void cancelAndEscapeClose();
     void helpOpensItsTopic();
+    void namesAreWords();
     void mnemonicsAndTabOrder();
     void mainWindowOpensIt();
 };
@@ -199,6 +200,11 @@ void ReportSelectionTest::helpOpensItsTopic() {
     ClickAt(open.Find("bHelp"));
     QTRY_VERIFY(open.Window->findChild<HelpWindow*>());
     QCOMPARE(open.Window->findChild<QTextBrowser*>()->source().fragment(), "ctxReportSelection");
+}
+
+void ReportSelectionTest::namesAreWords() {
+    OpenSelection open;
+    QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
 }
 
 void ReportSelectionTest::mnemonicsAndTabOrder() {

@@ -24,6 +24,7 @@ private slots:
     void zoomKeepsThePlace();
     void printsThroughTheWindowBelow();
     void withoutPrinterTheButtonIsDisabled();
+    void namesAreWords();
     void mnemonicsAndNames();
     void tabOrder();
     void fitsASmallScreen();
@@ -178,6 +179,13 @@ void HelpReadingTest::withoutPrinterTheButtonIsDisabled() {
     OpenHelp<> open("top");
     QVERIFY(!open.Find("bPrintHelp").isEnabled());
     open.Press(Qt::Key_P, Qt::ControlModifier); // and its shortcut does nothing
+}
+
+void HelpReadingTest::namesAreWords() {
+    OpenHelp<> open;
+    QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
+    open.Seek("grove");
+    QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
 }
 
 void HelpReadingTest::mnemonicsAndNames() {

@@ -30,6 +30,7 @@ private slots:
     void mnemonicsAreUnique();
     void mnemonicsReachTheirControls();
     void everyCaptionIsItsFieldsBuddy();
+    void namesAreWords();
     void fieldsAreNamedCaptionAndColumn();
     void pickListsHaveADescriptionAndTheirChoice();
     void resultsHaveADescriptionAndTheirText();
@@ -71,6 +72,14 @@ void MainWindowAccessTest::everyCaptionIsItsFieldsBuddy() {
     QCOMPARE(buddies.size(), qsizetype(std::size(captions)));
 }
 
+void MainWindowAccessTest::namesAreWords() {
+    OpenWindow open;
+    for (int tab = 0; tab < TabCount; ++tab) {
+        open.Find<ResultPanels>("SSTab1").setCurrentIndex(tab);
+        QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
+    }
+}
+
 void MainWindowAccessTest::fieldsAreNamedCaptionAndColumn() {
     OpenWindow open;
     const std::pair<const char*, const char*> names[] = {{"ecIncome", "Annual Income"},
@@ -83,7 +92,6 @@ void MainWindowAccessTest::fieldsAreNamedCaptionAndColumn() {
     QSet<QString> all;
     for (const EntryRule& rule : MainEntryRules()) {
         all += SpokenName(open.Find(rule.Name.data()));
-        QCOMPARE(open.Find(rule.Name.data()).accessibleDescription(), rule.Name.data());
     }
     QCOMPARE(std::size_t(all.size()), MainEntryRules().size());
 }

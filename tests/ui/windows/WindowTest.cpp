@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
+#include <QRegularExpression>
 #include <QWindow>
 
 #include "engine/Recalculate.h"
@@ -141,6 +142,21 @@ QString Mnemonics(const QWidget& form) {
 
 QString SpokenName(QWidget& widget) {
     return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+}
+
+QStringList SpokenCodeNames(QWidget& form) {
+    static const QRegularExpression codeName(R"(\b(ec|lbl|cbo|opt|chk|b|Command|txt|frm)[A-Z0-9]\w*)");
+    QStringList found;
+    for (QWidget* control : QList<QWidget*>{&form} + form.findChildren<QWidget*>()) {
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
+        for (const auto kind : {QAccessible::Name, QAccessible::Description}) {
+            const QString words = spoken ? spoken->text(kind) : QString();
+            const QString own = control->objectName();
+            if (codeName.match(words).hasMatch() || (!own.isEmpty() && words.contains(own)))
+                found += own + " speaks " + words;
+        }
+    }
+    return found;
 }
 
 void ClickAt(QWidget& widget) {

@@ -79,6 +79,10 @@ QString Mnemonics(const QWidget& form);
 /// The control's name for a screen reader.
 QString SpokenName(QWidget& widget);
 
+/// The controls of the form, the form included, whose spoken name or description holds a name of the code:
+/// "ecIncome speaks ecIncome".
+QStringList SpokenCodeNames(QWidget& form);
+
 /// A press and a release in the middle of the widget, as the window system sends them.
 void ClickAt(QWidget& widget);
 

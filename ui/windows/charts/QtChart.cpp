@@ -6,6 +6,7 @@
 #include <QLegend>
 #include <QVBoxLayout>
 
+#include "ui/windows/Identify.h"
 #include "ui/windows/charts/BarChart.h"
 #include "ui/windows/charts/ChartLook.h"
 #include "ui/windows/charts/ChartPicture.h"
@@ -74,8 +75,8 @@ void QtChart::ShowWords(const ChartFigures& figures) {
     const QString title = QString::fromStdString(figures.Title);
     const QString words = QString::fromStdString(figures.Sentence + ' ' + figures.Numbers);
     Chart().setTitle(title);
-    setAccessibleName(title);
-    setAccessibleDescription(words);
+    SetSpokenName(*this, title);
+    SetSpokenDescription(*this, words);
     setToolTip("<p>" + words.toHtmlEscaped() + "</p>");
 }
 
