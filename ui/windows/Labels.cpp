@@ -1,5 +1,6 @@
 #include "ui/windows/Labels.h"
 
+#include <QAccessibleWidget>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -13,6 +14,23 @@ namespace Ledgrove {
 namespace {
 
 constexpr const char* widestUsualFigure = "-$888,888,888";
+
+/// Qt keeps every child in the tree that screen readers walk, so a decoration is there but invisible.
+class DecorationAccessible : public QAccessibleWidget {
+public:
+    explicit DecorationAccessible(QWidget* label)
+        : QAccessibleWidget(label, QAccessible::Graphic) {}
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.invisible = true;
+        return state;
+    }
+};
+
+QAccessibleInterface* MakeDecorationAccessible(const QString&, QObject* object) {
+    auto* label = qobject_cast<DecorationLabel*>(object);
+    return label ? new DecorationAccessible(label) : nullptr;
+}
 
 } // namespace
 
@@ -43,6 +61,11 @@ void ElidedLabel::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     style()->drawItemText(&painter, area, static_cast<int>(alignment()), palette(), isEnabled(),
                           fontMetrics().elidedText(text(), Qt::ElideRight, area.width()), foregroundRole());
+}
+
+DecorationLabel::DecorationLabel(QWidget* parent)
+    : QLabel(parent) {
+    QAccessible::installFactory(MakeDecorationAccessible); // Qt ignores a factory that is already installed
 }
 
 ResultLabel::ResultLabel(const QString& control, const QLabel& caption, QString column, QWidget* parent)

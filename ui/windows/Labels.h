@@ -21,6 +21,14 @@ private:
     bool IsTooLong() const;
 };
 
+/// A picture that only decorates: screen readers pass over it.
+class DecorationLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit DecorationLabel(QWidget* parent = nullptr);
+};
+
 /// A right-aligned figure that a recalculation writes. Its width does not depend on the figure, and it keeps
 /// its place while it is hidden. A figure that is too long ends in dots instead of showing only some digits.
 class ResultLabel : public ElidedLabel {

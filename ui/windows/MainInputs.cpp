@@ -149,8 +149,8 @@ QWidget* MainInputs::MakeButtons() {
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* financing = new QLabel;
-    Identify(*financing, "bFinancing", "Financing");
+    auto* financing = new DecorationLabel;
+    financing->setObjectName("bFinancing");
     financing->setAlignment(Qt::AlignCenter);
     financing->setFixedHeight(EmblemHeight);
     layout->addWidget(financing);

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,6 +32,7 @@ private slots:
     void mnemonicsReachTheirControls();
     void everyCaptionIsItsFieldsBuddy();
     void namesAreWords();
+    void emblemIsSilent();
     void fieldsAreNamedCaptionAndColumn();
     void pickListsHaveADescriptionAndTheirChoice();
     void resultsHaveADescriptionAndTheirText();
@@ -78,6 +80,17 @@ void MainWindowAccessTest::namesAreWords() {
         open.Find<ResultPanels>("SSTab1").setCurrentIndex(tab);
         QCOMPARE(SpokenCodeNames(*open.Window), QStringList());
     }
+}
+
+void MainWindowAccessTest::emblemIsSilent() {
+    OpenWindow open;
+    auto& emblem = open.Find<QLabel>("bFinancing");
+    QTRY_VERIFY(!emblem.pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(SpokenName(emblem), "");
+    QCOMPARE(emblem.accessibleDescription(), "");
+    // Screen readers pass over what is invisible to them.
+    QVERIFY(QAccessible::queryAccessibleInterface(&emblem)->state().invisible);
+    QVERIFY(!QAccessible::queryAccessibleInterface(&open.Find("bHelp"))->state().invisible);
 }
 
 void MainWindowAccessTest::fieldsAreNamedCaptionAndColumn() {
