@@ -89,13 +89,17 @@ const ResultSheet& SheetOf(SheetKind kind) {
     return sheets[static_cast<std::size_t>(kind)];
 }
 
-std::string CaptionOf(const SheetRow& row, const MainScreen& screen) {
-    const std::string_view own =
-        Trimmed(row.CaptionLabel ? std::string_view((screen.*row.CaptionLabel).Text) : row.Caption);
-    if (!row.Stem)
+std::string WholeCaption(std::string_view stem, std::string_view own) {
+    own = Trimmed(own);
+    stem = Trimmed(stem);
+    if (stem.empty())
         return std::string(own);
-    const std::string_view stem = Trimmed((screen.*row.Stem).Text);
     return std::string(stem.substr(0, stem.find(':') + 1)).append("   ").append(own);
+}
+
+std::string CaptionOf(const SheetRow& row, const MainScreen& screen) {
+    return WholeCaption(CellOf(row.Stem, screen),
+                        row.CaptionLabel ? CellOf(row.CaptionLabel, screen) : row.Caption);
 }
 
 std::string_view CellOf(LabelMember cell, const MainScreen& screen) {

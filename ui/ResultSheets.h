@@ -48,6 +48,10 @@ struct ResultSheet {
 
 const ResultSheet& SheetOf(SheetKind kind);
 
+/// A row's caption when it is read on its own: `own`, after the text of `stem` up to its colon. Both are
+/// trimmed; an empty stem leaves `own`.
+std::string WholeCaption(std::string_view stem, std::string_view own);
+
 /// The row's caption for reading the row on its own, trimmed.
 std::string CaptionOf(const SheetRow& row, const MainScreen& screen);
 

@@ -7,6 +7,7 @@ import unittest
 from pathlib import Path
 
 from desktop import Desktop, Program, wait_for
+from reading import PRINCIPAL_AND_INTEREST, WHOLE_PAYMENT
 
 PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
 OPTION_BASE, OPTION_GMH, TERM = ("Mortgage Option, Base Home", "Mortgage Option, GREENMARK Home", "Term, Base Home")
@@ -85,11 +86,11 @@ class MainWindow(unittest.TestCase):
         program.wait_result("Additional features, first", "Finished basement")
         self.tab(program, "Affordability")
         program.wait_result("Mortgage Amount, GREENMARK Home", "$186,000")
-        program.wait_result("Mortgage Payment, Base Home", "$1,138")
+        program.wait_result(f"Mortgage Payment, Base Home. {PRINCIPAL_AND_INTEREST}", "$1,138")
         program.wait_result("Buyer Qualifies?, GREENMARK Home", "YES")
         self.tab(program, "Summary")
-        program.wait_result("Mortgage Payment, Base Home", "$1,465")
-        program.wait_result("Mortgage Payment, GREENMARK Home", "$1,513")
+        program.wait_result(f"Mortgage Payment, Base Home. {WHOLE_PAYMENT}", "$1,465")
+        program.wait_result(f"Mortgage Payment, GREENMARK Home. {WHOLE_PAYMENT}", "$1,513")
         program.wait_result("PV of Savings, GREENMARK Home", "$9,229")
         self.tab(program, "Welcome")
         program.find("label", "Ledgrove Instructions")

@@ -38,8 +38,13 @@ TABS = {
         ("lblTerm", {GREEN: "lbl30YrPre"}),
         ("lblPV", {GREEN: "lblPVofSavings"}),
         ("PV of Savings", {"note": "lblPVNote"}))}
-# Labels that are not results: they belong to the inputs above the tabs.
-NO_RESULTS = {"House Scenarios"}
+# What the two kinds of "Mortgage Payment" include.
+PRINCIPAL_AND_INTEREST = "Principal and interest per month"
+WHOLE_PAYMENT = "Principal, interest, taxes, insurance and PMI per month"
+MEANINGS = {"lblStdMortPayment": PRINCIPAL_AND_INTEREST, "lblGMHMortPayment": PRINCIPAL_AND_INTEREST,
+            "lblStdPITI": WHOLE_PAYMENT, "lblGMHPITI": WHOLE_PAYMENT}
+# Descriptions of labels that are not results: captions, and the name of the house above the tabs.
+NO_RESULTS = {"House Scenarios", PRINCIPAL_AND_INTEREST, WHOLE_PAYMENT}
 
 
 def compare(program, folder, file="-", given=""):
@@ -56,9 +61,12 @@ def expected(tab, labels):
     for caption, columns in TABS[tab]:
         if caption in labels:
             caption = " ".join(labels[caption]["text"].split())
+        if caption == "30 Years":  # continues "Expected Savings After:   7 Years"
+            caption = labels["lblYrsIn"]["text"].split(":")[0].strip() + ": 30 Years"
         for column, label in columns.items():
             if labels[label]["visible"]:
-                words[f"{caption}, {column}"] = labels[label]["text"]
+                meaning = f". {MEANINGS[label]}" if label in MEANINGS else ""
+                words[f"{caption}, {column}{meaning}"] = labels[label]["text"]
     return words
 
 

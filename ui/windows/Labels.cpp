@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <utility>
 
+#include "ui/ResultSheets.h"
 #include "ui/windows/Identify.h"
 
 namespace Ledgrove {
@@ -79,8 +80,22 @@ ResultLabel::ResultLabel(const QString& control, const QLabel& caption, QString 
     Describe();
 }
 
+void ResultLabel::ContinueCaption(const QLabel& stem) {
+    m_stem = &stem;
+    Describe();
+}
+
+void ResultLabel::Explain(const QString& meaning) {
+    m_meaning = meaning;
+    setToolTip(meaning);
+    Describe();
+}
+
 void ResultLabel::Describe() {
-    SetSpokenDescription(*this, m_caption.text().simplified() + ", " + m_column);
+    const std::string stem = m_stem ? m_stem->text().toStdString() : std::string();
+    const QString caption = QString::fromStdString(WholeCaption(stem, m_caption.text().toStdString()));
+    const QString description = caption.simplified() + ", " + m_column;
+    SetSpokenDescription(*this, m_meaning.isEmpty() ? description : description + ". " + m_meaning);
 }
 
 QSize ResultLabel::sizeHint() const {

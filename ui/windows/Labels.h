@@ -38,6 +38,11 @@ public:
     /// `caption` and `column` describe the figure. The text of the caption may change.
     ResultLabel(const QString& control, const QLabel& caption, QString column, QWidget* parent = nullptr);
 
+    /// Reads the caption as the end of this caption of another row, up to its colon.
+    void ContinueCaption(const QLabel& stem);
+    /// Shows what the figure includes as the tool tip, and adds it to the description.
+    void Explain(const QString& meaning);
+
     /// Updates the description from the caption.
     void Describe();
 
@@ -47,6 +52,8 @@ public:
 private:
     const QLabel& m_caption;
     QString m_column;
+    const QLabel* m_stem = nullptr;
+    QString m_meaning;
 };
 
 /// A label with a fixed text.

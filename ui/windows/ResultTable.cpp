@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
 
 namespace Ledgrove {
@@ -24,6 +25,8 @@ QLabel* MakeCaption(const SheetRow& row) {
         row.CaptionLabel ? CaptionLabel(ControlName(row.CaptionLabel)) : TextLabel(Words(row.Caption));
     if (row.Weight == RowWeight::Total)
         MakeBold(*caption);
+    caption->setToolTip(Words(row.Meaning));
+    SetSpokenDescription(*caption, Words(row.Meaning));
     return caption;
 }
 
@@ -76,7 +79,10 @@ void ResultTable::AddRow(const SheetRow& row) {
     for (const Column& column : m_columns) {
         if (const LabelMember cell = row.*column.Cell) {
             auto* figure = new ResultLabel(ControlName(cell), *caption, column.Head);
-            figure->setToolTip(Words(row.Meaning));
+            if (row.Stem)
+                figure->ContinueCaption(*findChild<QLabel*>(ControlName(row.Stem)));
+            if (!row.Meaning.empty())
+                figure->Explain(Words(row.Meaning));
             if (row.Weight == RowWeight::Total)
                 MakeBold(*figure);
             m_grid->addWidget(figure, line, place);

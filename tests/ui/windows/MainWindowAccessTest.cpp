@@ -36,6 +36,7 @@ private slots:
     void fieldsAreNamedCaptionAndColumn();
     void pickListsHaveADescriptionAndTheirChoice();
     void resultsHaveADescriptionAndTheirText();
+    void eachMortgagePaymentSaysWhatItIncludes();
     void descriptionFollowsTheCaption();
     void tabOrderFollowsTheLayout();
 };
@@ -125,11 +126,42 @@ void MainWindowAccessTest::resultsHaveADescriptionAndTheirText() {
     QCOMPARE(open.Find("lblStdMaxHome").accessibleDescription(), "Maximum Loan Value, Base Home");
     QCOMPARE(open.Find("lblGMHQual").accessibleDescription(), "Buyer Qualifies?, GREENMARK Home");
     QCOMPARE(open.Find("lblNetCashYr").accessibleDescription(), "Net Monthly Cash Flow, Yearly");
+    // "30 Years" continues the caption of the row above it.
+    QCOMPARE(open.Find("lbl30YrPre").accessibleDescription(),
+             "Expected Savings After: 30 Years, GREENMARK Home");
     open.State.Screen.lblStdMaxHome.Text = "$242,484";
     open.Window->Refresh();
     QCOMPARE(SpokenName(open.Find("lblStdMaxHome")), "$242,484");
     for (const auto& entry : LabelTable())
         QVERIFY2(open.Find(entry.Name.data()).accessibleName().isEmpty(), entry.Name.data());
+}
+
+void MainWindowAccessTest::eachMortgagePaymentSaysWhatItIncludes() {
+    OpenWindow open;
+    const struct {
+        const char* Figure;
+        const char* Column;
+        const char* Meaning;
+    } payments[] = {
+        {"lblStdMortPayment", "Base Home", "Principal and interest per month"},
+        {"lblGMHMortPayment", "GREENMARK Home", "Principal and interest per month"},
+        {"lblStdPITI", "Base Home", "Principal, interest, taxes, insurance and PMI per month"},
+        {"lblGMHPITI", "GREENMARK Home", "Principal, interest, taxes, insurance and PMI per month"}};
+    for (const auto& [figure, column, meaning] : payments) {
+        QCOMPARE(open.Find(figure).toolTip(), meaning);
+        QCOMPARE(open.Find(figure).accessibleDescription(),
+                 QString("Mortgage Payment, %1. %2").arg(column, meaning));
+        int captions = 0;
+        for (const QLabel* label : open.Find(figure).parentWidget()->findChildren<QLabel*>()) {
+            if (label->text() != "Mortgage Payment")
+                continue;
+            ++captions;
+            QCOMPARE(label->toolTip(), meaning);
+            QCOMPARE(label->accessibleDescription(), meaning);
+        }
+        QCOMPARE(captions, 1);
+    }
+    QCOMPARE(open.Find("lblStdMort").toolTip(), "");
 }
 
 void MainWindowAccessTest::descriptionFollowsTheCaption() {
