@@ -260,6 +260,25 @@ class Program:
     def wait_result(self, description, text):
         wait_for(lambda: self.result(description) == text, f"{description} showing {text}")
 
+    def announced(self, act):
+        """The changed names and descriptions that a screen reader hears during `act`."""
+        from gi.repository import Atspi, GLib
+        heard = []
+        listener = Atspi.EventListener.new(lambda event: heard.append((event.type, event.source.get_name())))
+        kinds = ("object:property-change:accessible-name", "object:property-change:accessible-description")
+        for kind in kinds:
+            listener.register(kind)
+        try:
+            act()
+            end = time.monotonic() + 0.5
+            while time.monotonic() < end:
+                GLib.MainContext.default().iteration(False)
+                time.sleep(0.005)
+        finally:
+            for kind in kinds:
+                listener.deregister(kind)
+        return [event for event in heard if event[1] is not None]
+
     def open_box(self):
         return next((node for node in self.all() if node.get_role_name() in ("alert", "alert message")
                      and self.showing(node)), None)

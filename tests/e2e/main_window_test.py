@@ -95,6 +95,24 @@ class MainWindow(unittest.TestCase):
         self.tab(program, "Welcome")
         program.find("label", "Ledgrove Instructions")
 
+    def test_unchanged_figures_stay_silent(self):
+        program = self.start()
+        self.type_sample(program)
+        for tab in ("Cash Flow", "More Home", "Affordability", "Summary"):
+            self.tab(program, tab)
+            self.enter_income(program, "72000")
+            heard = program.announced(lambda: self.enter_income(program, "72000"))
+            self.assertEqual(heard, [], tab)
+        self.assertNotEqual(program.announced(lambda: self.enter_income(program, "60000")), [])
+
+    def enter_income(self, program, text):
+        program.field("Annual Income").grab_focus()
+        program.wait_focus("Annual Income")
+        self.desktop.key("ctrl+a")
+        self.desktop.type(text)
+        self.desktop.key("Return")
+        program.wait_focus("Monthly Debt")
+
     def test_enter_commits_and_moves_on_tab_and_arrows_move(self):
         program = self.start()
         self.desktop.type("72000")
