@@ -27,7 +27,8 @@ std::string Money(double value) {
 std::string SeriesText(const ChartSeries& series, const std::vector<std::string>& categories) {
     std::string text = series.Name + ':';
     for (std::size_t i = 0; i < categories.size(); ++i)
-        text += (i == 0 ? " " : ", ") + categories[i] + ' ' + Money(series.Values[i]);
+        text += (i == 0 ? " " : ", ") + categories[i] + ' ' +
+                (series.Texts.empty() ? Money(series.Values[i]) : series.Texts[i]);
     return text + '.';
 }
 
@@ -75,10 +76,18 @@ std::string Difference(double base, double labelled) {
     return amount + (labelled < base ? " less" : " more");
 }
 
+/// The tax savings as the table of the tab names and signs them. The bar is the other way up: savings are
+/// below zero. The labelled home saves taxes compared with the base home, so only its stack has this part.
+ChartSeries TaxSavingsSeries(const Session& session) {
+    const MainScreen& screen = session.Screen;
+    return {screen.lbltaxsavingstext.Text,
+            {0, -Amount(session.Scenario.ShownTaxSavings)},
+            {Money(0), screen.lblTaxSavMo.Text}};
+}
+
 ChartFigures MonthlyCostChart(const Session& session) {
     const HomeCase& base = session.StdCase;
     const HomeCase& labelled = session.GMHCase;
-    const double taxSavings = Amount(session.Scenario.ShownTaxSavings);
     ChartFigures chart;
     chart.Kind = ChartKind::MonthlyCost;
     chart.Title = "Monthly Cost of Both Homes";
@@ -90,8 +99,8 @@ ChartFigures MonthlyCostChart(const Session& session) {
     add("Insurance", &HomeCase::InsMonthly);
     add("PMI", &HomeCase::PMIMonthly);
     add("Utilities", &HomeCase::UtilMonthly);
-    // The labelled home saves taxes compared with the base home, so only its stack has this part.
-    chart.Series.push_back({taxSavings < 0 ? "Additional Taxes" : "Tax Savings", {0, -taxSavings}});
+    if (session.Screen.chkDoTax0)
+        chart.Series.push_back(TaxSavingsSeries(session));
 
     double baseCost = 0;
     double labelledCost = 0;
@@ -127,7 +136,8 @@ ChartFigures AffordabilityChart(const Session& session) {
     chart.Sentence = LoanSentence(baseHome, base, session.StdQualifies) + ' ' +
                      LoanSentence(labelledHome, labelled, session.GMHQualifies);
     chart.Numbers = AllSeries(chart);
-    SetScale(chart, 0, RangeOfValues(chart).Highest, fineSteps);
+    const Range range = RangeOfValues(chart);
+    SetScale(chart, range.Lowest, range.Highest, fineSteps);
     return chart;
 }
 

@@ -21,6 +21,8 @@ std::optional<ChartKind> ChartOfTab(int tab);
 struct ChartSeries {
     std::string Name;
     std::vector<double> Values; ///< one per category, or one per year, beginning with year 0
+    /// The amounts in words where they differ from the drawn values; empty for the values themselves.
+    std::vector<std::string> Texts = {};
 
     bool operator==(const ChartSeries&) const = default;
 };

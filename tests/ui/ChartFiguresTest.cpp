@@ -92,7 +92,24 @@ TEST(ChartFiguresTest, WithoutTaxesThereAreNoTaxSavings) {
     Session session = SampleSession();
     session.Screen.chkDoTax0 = false;
     const ChartFigures chart = MakeChart(ChartKind::MonthlyCost, Computed(session));
-    EXPECT_EQ(SeriesNamed(chart, "Tax Savings").Values[1], 0);
+    for (const ChartSeries& series : chart.Series)
+        EXPECT_THAT(series.Name, testing::AllOf(testing::Ne("Tax Savings"), testing::Ne("Additional Taxes")));
+    EXPECT_THAT(chart.Numbers, testing::Not(testing::HasSubstr("Tax Savings")));
+}
+
+TEST(ChartFiguresTest, TaxSavingsReadAsInTheTable) {
+    Session session = Computed(SampleSession());
+    EXPECT_EQ(session.Screen.lbltaxsavingstext.Text, "Tax Savings");
+    EXPECT_THAT(session.Screen.lblTaxSavMo.Text, testing::StartsWith("$"));
+    EXPECT_THAT(MakeChart(ChartKind::MonthlyCost, session).Numbers,
+                testing::HasSubstr("Tax Savings: Base Home $0, GREENMARK Home " +
+                                   session.Screen.lblTaxSavMo.Text + '.'));
+    session.Screen.ecGMHHome.Text = "$150,000";
+    session = Computed(session);
+    EXPECT_THAT(session.Screen.lblTaxSavMo.Text, testing::StartsWith("-$"));
+    EXPECT_THAT(MakeChart(ChartKind::MonthlyCost, session).Numbers,
+                testing::HasSubstr("Additional Taxes: Base Home $0, GREENMARK Home " +
+                                   session.Screen.lblTaxSavMo.Text + '.'));
 }
 
 TEST(ChartFiguresTest, TheMortgageIsNextToTheMaximumLoan) {
@@ -111,6 +128,18 @@ TEST(ChartFiguresTest, TheDescriptionNamesALoanThatDoesNotQualify) {
     const ChartFigures chart = MakeChart(ChartKind::Affordability, Computed(session));
     EXPECT_THAT(chart.Sentence,
                 testing::HasSubstr("With the Base Home the mortgage of $180,000 is not within"));
+}
+
+// The debt leaves nothing for a payment: the maximum loan is negative.
+TEST(ChartFiguresTest, ANegativeMaximumLoanIsDrawnBelowZero) {
+    Session session = SampleSession();
+    session.Screen.ecMonthlyDebt.Text = "$5,000";
+    const ChartFigures chart = MakeChart(ChartKind::Affordability, Computed(session));
+    const double loan = SeriesNamed(chart, "Maximum Loan Value").Values[0];
+    EXPECT_LT(loan, 0);
+    EXPECT_LT(chart.Lowest, loan);
+    EXPECT_GT(chart.Highest, 186000);
+    EXPECT_LE(chart.Ticks.front().Value, 0);
 }
 
 /// The same sum month by month: each month's interest, then its payment.

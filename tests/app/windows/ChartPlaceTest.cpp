@@ -1,7 +1,10 @@
 #include <QChartView>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QImage>
 #include <QLabel>
+#include <QLegend>
+#include <QLegendMarker>
 #include <QMenu>
 #include <QTabBar>
 #include <QTimer>
@@ -76,6 +79,7 @@ private slots:
     void chartIsReachedByTab();
     void coloursFollowThePalette();
     void unchangedFiguresAreNotRedrawn();
+    void taxSavingsComeAndGo();
     void namesAreWords();
 };
 
@@ -193,6 +197,28 @@ void ChartPlaceTest::unchangedFiguresAreNotRedrawn() {
     QCOMPARE(changes, 0);
     open.Enter("ecGMHUtil", "500");
     QTRY_VERIFY(changes > 0);
+}
+
+void ChartPlaceTest::taxSavingsComeAndGo() {
+    OpenCharts open;
+    open.ShowTab(1);
+    const auto legend = [&open] {
+        QMap<QString, QBrush> entries;
+        for (const QLegendMarker* marker :
+             open.Place().findChild<QChartView*>()->chart()->legend()->markers())
+            entries[marker->label()] = marker->brush();
+        return entries;
+    };
+    const auto all = legend();
+    QVERIFY(all.contains("Tax Savings"));
+    QCOMPARE(all.size(), 6);
+    open.Find<QCheckBox>("chkDoTax0").click();
+    auto fewer = all;
+    fewer.remove("Tax Savings");
+    QCOMPARE(legend(), fewer);
+    QVERIFY(!open.Place().accessibleDescription().contains("Tax Savings"));
+    open.Find<QCheckBox>("chkDoTax0").click();
+    QCOMPARE(legend(), all);
 }
 
 void ChartPlaceTest::namesAreWords() {

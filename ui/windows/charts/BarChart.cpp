@@ -34,10 +34,7 @@ BarChart::BarChart(ChartKind kind, QWidget* parent)
 }
 
 void BarChart::Draw(const ChartFigures& figures) {
-    while (m_sets.size() < figures.Series.size()) {
-        m_sets.push_back(new QBarSet({}));
-        m_bars->append(m_sets.back());
-    }
+    FitSets(figures.Series.size());
     for (std::size_t i = 0; i < m_sets.size(); ++i) {
         const ChartSeries& series = figures.Series[i];
         const QString name = QString::fromStdString(series.Name);
@@ -52,6 +49,21 @@ void BarChart::Draw(const ChartFigures& figures) {
         }
     }
     ShowCategories(figures);
+}
+
+/// The last series can come and go: "Tax Savings" does with the taxes.
+void BarChart::FitSets(std::size_t count) {
+    if (m_sets.size() == count)
+        return;
+    while (m_sets.size() > count) {
+        m_bars->remove(m_sets.back());
+        m_sets.pop_back();
+    }
+    while (m_sets.size() < count) {
+        m_sets.push_back(new QBarSet({}));
+        m_bars->append(m_sets.back());
+    }
+    Recolour();
 }
 
 void BarChart::ShowCategories(const ChartFigures& figures) {

@@ -22,6 +22,7 @@ protected:
     void Recolour() override;
 
 private:
+    void FitSets(std::size_t count);
     void ShowCategories(const ChartFigures& figures);
 
     QAbstractBarSeries* m_bars;
