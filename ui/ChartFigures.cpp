@@ -153,6 +153,20 @@ std::string YearsText(int years) {
     return std::to_string(years) + (years == 1 ? " Year" : " Years");
 }
 
+/// "$1,399 after 7 years".
+std::string AmountAfter(float amount, int years) {
+    return Money(Amount(amount)) + " after " + std::to_string(years) + (years == 1 ? " year" : " years");
+}
+
+/// Names the years in the home that the chart is too short for.
+std::string SavingsTitle(const Scenario& scenario) {
+    const std::string title = "Accumulated Net Savings by Year";
+    if (scenario.YearsInHome <= ChartYears)
+        return title;
+    return title + " (" + YearsText(scenario.YearsInHome) + ": " +
+           Money(Amount(scenario.SavingsAfterYearsInHome)) + ')';
+}
+
 void AddMark(ChartFigures& chart, int year, float value) {
     const bool known = std::any_of(chart.Marks.begin(), chart.Marks.end(),
                                    [year](const ChartMark& mark) { return mark.Year == year; });
@@ -171,10 +185,10 @@ std::string SavingsNumbers(const ChartSeries& series) {
 
 ChartFigures SavingsChart(const Session& session) {
     const Scenario& scenario = session.Scenario;
-    const int yearsInHome = session.Assumptions.YearsInHome;
+    const int yearsInHome = scenario.YearsInHome;
     ChartFigures chart;
     chart.Kind = ChartKind::Savings;
-    chart.Title = "Accumulated Net Savings by Year";
+    chart.Title = SavingsTitle(scenario);
     ChartSeries savings{"Accumulated Net Savings", {}};
     for (int year = 0; year <= ChartYears; ++year)
         savings.Values.push_back(SavingsAfter(year, session));
@@ -186,10 +200,9 @@ ChartFigures SavingsChart(const Session& session) {
               [](const ChartMark& a, const ChartMark& b) { return a.Year < b.Year; });
 
     chart.Sentence = std::string("Net savings with the ") + labelledHome + ": " +
-                     Money(Amount(scenario.SavingsAfter7Years)) + " after 7 years, " +
-                     Money(Amount(scenario.SavingsAfterYearsInHome)) + " after " +
-                     std::to_string(yearsInHome) + " years in the home, " +
-                     Money(Amount(scenario.SavingsAfter30Years)) + " after 30 years.";
+                     AmountAfter(scenario.SavingsAfter7Years, 7) + ", " +
+                     AmountAfter(scenario.SavingsAfterYearsInHome, yearsInHome) + " in the home, " +
+                     AmountAfter(scenario.SavingsAfter30Years, ChartYears) + '.';
     chart.Numbers = SavingsNumbers(chart.Series.front());
     const Range range = RangeOfValues(chart);
     // Leaves room for the label at the highest point, because this chart is the flattest.

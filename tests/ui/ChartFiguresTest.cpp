@@ -1,5 +1,6 @@
 #include "ui/ChartFigures.h"
 
+#include "engine/NumberText.h"
 #include "engine/Recalculate.h"
 #include "tests/engine/TestSession.h"
 
@@ -181,12 +182,23 @@ TEST(ChartFiguresTest, AYearIsMarkedOnce) {
     EXPECT_EQ(chart.Marks[1].Year, 30);
 }
 
-TEST(ChartFiguresTest, YearsBeyondTheChartAreOnlyDescribed) {
+TEST(ChartFiguresTest, OneYearIsInTheSingular) {
+    Session session = SampleSession();
+    session.Assumptions.YearsInHome = 1;
+    const ChartFigures chart = MakeChart(ChartKind::Savings, Computed(session));
+    EXPECT_THAT(chart.Marks.front().Text, testing::StartsWith("1 Year: $"));
+    EXPECT_THAT(chart.Sentence, testing::HasSubstr("after 1 year in the home"));
+}
+
+TEST(ChartFiguresTest, YearsBeyondTheChartAreInItsTitleAndDescription) {
     Session session = SampleSession();
     session.Assumptions.YearsInHome = 35;
-    const ChartFigures chart = MakeChart(ChartKind::Savings, Computed(session));
+    session = Computed(session);
+    const ChartFigures chart = MakeChart(ChartKind::Savings, session);
     EXPECT_EQ(chart.Marks.size(), 2U);
-    EXPECT_THAT(chart.Sentence, testing::HasSubstr("after 35 years in the home"));
+    const std::string amount = Module1::MoneyText(session.Scenario.SavingsAfterYearsInHome);
+    EXPECT_EQ(chart.Title, "Accumulated Net Savings by Year (35 Years: " + amount + ')');
+    EXPECT_THAT(chart.Sentence, testing::HasSubstr(amount + " after 35 years in the home"));
 }
 
 TEST(ChartFiguresTest, LossesAreBelowZero) {

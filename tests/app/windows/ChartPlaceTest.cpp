@@ -6,12 +6,14 @@
 #include <QLegend>
 #include <QLegendMarker>
 #include <QMenu>
+#include <QScatterSeries>
 #include <QTabBar>
 #include <QTimer>
 #include <QXmlStreamReader>
 
 #include "DesktopDesk.h"
 #include "app/windows/ChartLoader.h"
+#include "engine/Recalculate.h"
 #include "ui/windows/ResultPanels.h"
 
 using namespace Ledgrove;
@@ -63,6 +65,32 @@ void ChooseFromMenu(const QString& text, ChartPlace& place) {
     QCoreApplication::sendEvent(&place, &event);
 }
 
+/// The labels of the marks are all shown, inside the plot, and meet neither each other nor a marker.
+void CheckMarkLabels(QChart& chart, int count) {
+    QList<QRectF> labels;
+    for (QGraphicsItem* item : chart.childItems()) {
+        if (const auto* text = dynamic_cast<QGraphicsSimpleTextItem*>(item); text && text->isVisible())
+            labels += text->mapRectToParent(text->boundingRect());
+    }
+    QCOMPARE(labels.size(), count);
+    QList<QRectF> taken;
+    for (QAbstractSeries* series : chart.series()) {
+        const auto* marks = qobject_cast<QScatterSeries*>(series);
+        for (const QPointF& point : marks ? marks->points() : QList<QPointF>()) {
+            const qreal half = marks->markerSize() / 2;
+            taken +=
+                QRectF(chart.mapToPosition(point, series) - QPointF(half, half), QSizeF(2 * half, 2 * half));
+        }
+    }
+    QCOMPARE(taken.size(), count);
+    for (const QRectF& label : labels) {
+        QVERIFY(chart.plotArea().contains(label));
+        for (const QRectF& other : taken)
+            QVERIFY2(!label.intersects(other), "a label meets a marker or another label");
+        taken += label;
+    }
+}
+
 } // namespace
 
 class ChartPlaceTest : public QObject {
@@ -80,6 +108,8 @@ private slots:
     void coloursFollowThePalette();
     void unchangedFiguresAreNotRedrawn();
     void taxSavingsComeAndGo();
+    void markLabelsNeverOverlap_data();
+    void markLabelsNeverOverlap();
     void namesAreWords();
 };
 
@@ -219,6 +249,36 @@ void ChartPlaceTest::taxSavingsComeAndGo() {
     QVERIFY(!open.Place().accessibleDescription().contains("Tax Savings"));
     open.Find<QCheckBox>("chkDoTax0").click();
     QCOMPARE(legend(), all);
+}
+
+void ChartPlaceTest::markLabelsNeverOverlap_data() {
+    QTest::addColumn<QString>("utilities");
+    QTest::newRow("savings") << "500";
+    QTest::newRow("small savings") << "1700";
+    QTest::newRow("small losses") << "2400";
+    QTest::newRow("losses") << "6000";
+    QTest::newRow("large losses") << "600000";
+}
+
+void ChartPlaceTest::markLabelsNeverOverlap() {
+    QFETCH(const QString, utilities);
+    OpenCharts open;
+    open.Enter("ecStdUtil", "2400");
+    open.Enter("ecGMHUtil", utilities);
+    open.ShowTab(4);
+    for (const std::int16_t years :
+         std::initializer_list<std::int16_t>{1, 2, 5, 6, 8, 9, 10, 12, 20, 27, 28, 29, 30, 35}) {
+        open.State.Assumptions.YearsInHome = years;
+        open.State.From.reset();
+        Module1::Recalculate(open.State, open.Outside);
+        open.Window->Refresh();
+        for (const QSize& size : {open.Window->minimumSize(), open.Window->sizeHint(), QSize(1900, 1000)}) {
+            open.Window->resize(size);
+            QCoreApplication::processEvents();
+            const auto chart = open.Place().findChild<QChartView*>()->chart();
+            CheckMarkLabels(*chart, years < 30 ? 3 : 2);
+        }
+    }
 }
 
 void ChartPlaceTest::namesAreWords() {

@@ -6,6 +6,7 @@
 #include <QScatterSeries>
 
 #include "ui/windows/charts/ChartLook.h"
+#include "ui/windows/charts/MarkLabels.h"
 
 namespace Ledgrove {
 
@@ -57,19 +58,33 @@ void SavingsChart::ShowMarks(const std::vector<ChartMark>& marks) {
     PlaceTexts();
 }
 
-/// Puts each text above its point, or below it for a loss, and inside the plot.
+/// The curve in pixels, in steps that are shorter than a label.
+QList<QPointF> SavingsChart::CurvePoints() const {
+    constexpr int steps = 8;
+    const QList<QPointF> years = m_savings->points();
+    QList<QPointF> points;
+    for (qsizetype year = 0; year + 1 < years.size(); ++year) {
+        for (int step = 0; step < steps; ++step) {
+            const QPointF between = years[year] + (years[year + 1] - years[year]) * step / steps;
+            points += Chart().mapToPosition(between, m_savings);
+        }
+    }
+    return points;
+}
+
+/// Puts each text near its point: above it, or below it for a loss, where there is room.
 void SavingsChart::PlaceTexts() {
-    constexpr qreal gap = 8;
-    const QRectF plot = Chart().plotArea();
+    MarkRoom room{Chart().plotArea(), {}, CurvePoints()};
+    QList<MarkLabel> labels;
     for (int i = 0; i < m_marks->count(); ++i) {
+        room.Markers += Chart().mapToPosition(m_marks->at(i), m_marks);
+        labels += {m_texts[static_cast<std::size_t>(i)]->boundingRect().size(), m_marks->at(i).y() < 0};
+    }
+    const QList<QRectF> places = PlaceMarkLabels(room, labels);
+    for (int i = 0; i < places.size(); ++i) {
         QGraphicsSimpleTextItem& text = *m_texts[static_cast<std::size_t>(i)];
-        const QRectF box = text.boundingRect();
-        const QPointF point = Chart().mapToPosition(m_marks->at(i), m_marks);
-        const qreal x = qBound(plot.left() + gap, point.x() - box.width(), plot.right() - box.width());
-        const bool falls = m_marks->at(i).y() < 0;
-        const qreal wanted = falls ? point.y() + gap : point.y() - box.height() - gap;
-        const qreal y = qBound(plot.top(), wanted, plot.bottom() - box.height());
-        text.setPos(x, y);
+        text.setVisible(!places[i].isNull());
+        text.setPos(places[i].topLeft());
     }
 }
 
@@ -83,6 +98,7 @@ void SavingsChart::Recolour() {
         item->setBrush(text);
         item->setFont(font());
     }
+    PlaceTexts();
 }
 
 } // namespace Ledgrove

@@ -23,6 +23,7 @@ protected:
 
 private:
     void ShowMarks(const std::vector<ChartMark>& marks);
+    QList<QPointF> CurvePoints() const;
     void PlaceTexts();
 
     QLineSeries* m_zero;
