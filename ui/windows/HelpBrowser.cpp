@@ -29,25 +29,46 @@ bool HelpBrowser::ShowTopic(const QString& path, const QString& anchor) {
     QUrl topic = m_file;
     topic.setFragment(anchor);
     setSource(topic, QTextDocument::HtmlResource);
-    if (HasAnchor(anchor))
-        return true;
-    verticalScrollBar()->setValue(0);
-    return false;
+    const bool found = PositionOf(anchor).has_value();
+    if (!found)
+        verticalScrollBar()->setValue(0);
+    PlaceCaret();
+    return found;
 }
 
 void HelpBrowser::ShowContents() {
     setSource(m_file, QTextDocument::HtmlResource);
     verticalScrollBar()->setValue(0);
+    PlaceCaret();
 }
 
-bool HelpBrowser::HasAnchor(const QString& name) const {
+void HelpBrowser::backward() {
+    QTextBrowser::backward();
+    PlaceCaret();
+}
+
+void HelpBrowser::forward() {
+    QTextBrowser::forward();
+    PlaceCaret();
+}
+
+std::optional<int> HelpBrowser::PositionOf(const QString& anchor) const {
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         for (auto part = block.begin(); !part.atEnd(); ++part) {
-            if (part.fragment().charFormat().anchorNames().contains(name))
-                return true;
+            if (part.fragment().charFormat().anchorNames().contains(anchor))
+                return part.fragment().position();
         }
     }
-    return false;
+    return std::nullopt;
+}
+
+void HelpBrowser::PlaceCaret() {
+    // Moving the caret scrolls to it, but the topic is already shown, with its heading at the top.
+    const int shown = verticalScrollBar()->value();
+    QTextCursor caret(document());
+    caret.setPosition(PositionOf(source().fragment()).value_or(0));
+    setTextCursor(caret);
+    verticalScrollBar()->setValue(shown);
 }
 
 void HelpBrowser::SetZoom(int percent) {
@@ -73,6 +94,7 @@ void HelpBrowser::Follow(const QUrl& link) {
         return;
     }
     setSource(link, QTextDocument::HtmlResource);
+    PlaceCaret();
 }
 
 void HelpBrowser::changeEvent(QEvent* event) {

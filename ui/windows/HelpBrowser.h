@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextBrowser>
+#include <optional>
 
 namespace Ledgrove {
 
@@ -11,12 +12,15 @@ class HelpBrowser : public QTextBrowser {
 public:
     explicit HelpBrowser(QWidget* parent = nullptr);
 
+    // Each of these moves the caret to what it shows, so that reading and selecting start there.
+
     /// Opens the file at the topic of this anchor. If there is no such topic, it shows the start of the file
     /// and returns false.
     bool ShowTopic(const QString& path, const QString& anchor);
     /// Shows the start of the file, which lists its contents.
     void ShowContents();
-    bool HasAnchor(const QString& name) const;
+    void backward() override;
+    void forward() override;
 
     /// In percent of the application's text size. The text keeps its position.
     void SetZoom(int percent);
@@ -36,6 +40,9 @@ protected:
 
 private:
     void Follow(const QUrl& link);
+    /// Where the anchor of this name is in the text; nothing if there is none.
+    std::optional<int> PositionOf(const QString& anchor) const;
+    void PlaceCaret();
     void KeepSelectionVisible();
     int TopPosition() const;
     void ScrollTo(int position);

@@ -13,6 +13,7 @@ class HelpReadingTest : public QObject {
 
 private slots:
     void topicIsScrolledTo();
+    void caretIsAtWhatIsShown();
     void unknownTopicIsReportedAndShowsTheStart();
     void backForwardAndContents();
     void linksWithinTheHelpAreFollowed();
@@ -39,6 +40,25 @@ void HelpReadingTest::topicIsScrolledTo() {
     QCOMPARE(open.TopLine(), "Cash topic");
     QVERIFY(open.Text().hasFocus());
     QCOMPARE(open.Status(), "");
+}
+
+void HelpReadingTest::caretIsAtWhatIsShown() {
+    OpenHelp<> open("ctx504");
+    const auto caretLine = [&open] { return open.Text().textCursor().block().text(); };
+    QCOMPARE(caretLine(), "Cash topic");
+    QVERIFY(open.Text().textCursor().atBlockStart());
+    open.Click("#ctx501");
+    QCOMPARE(caretLine(), "Welcome topic");
+    QCOMPARE(open.TopLine(), "Welcome topic");
+    open.Press(Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(caretLine(), "Cash topic");
+    open.Press(Qt::Key_Right, Qt::AltModifier);
+    QCOMPARE(caretLine(), "Welcome topic");
+    open.Press(Qt::Key_Home, Qt::AltModifier);
+    QCOMPARE(open.Text().textCursor().position(), 0);
+    open.Open("ctx504");
+    open.Open("ctxHouses");
+    QCOMPARE(open.Text().textCursor().position(), 0);
 }
 
 void HelpReadingTest::unknownTopicIsReportedAndShowsTheStart() {
