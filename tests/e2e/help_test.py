@@ -113,6 +113,47 @@ class Topics(HelpTest):
         self.wait_closed()
         self.program.window("Options")
 
+    def press(self, button):
+        """Presses a button that the help window may cover."""
+        from gi.repository import Atspi
+        Atspi.Action.do_action(self.program.find("push button", button), 0)
+
+    def test_a_dialog_uses_the_help_that_is_already_open(self):
+        from gi.repository import Atspi
+        self.desktop.key("F1")
+        self.wait_focused("Help")
+        self.wait_topic("Welcome: a first comparison")
+        place = self.help_window().get_extents(Atspi.CoordType.SCREEN)
+        self.press("Options")
+        self.program.window("Options")
+        self.press("Help")
+        self.wait_focused("Help")
+        self.wait_topic("Options")
+        self.assertEqual(sum(child is not None and child.get_name() == HELP for child in (
+            self.program.root.get_child_at_index(i) for i in range(self.program.root.get_child_count()))), 1)
+        self.search("Glossary", "2 of 2")  # usable above the modal dialog
+        self.press("Cancel")
+        self.program.window()
+        wait_for(lambda: self.program.find("dialog", "Options", missing_ok=True) is None, "Options closed")
+        self.program.click(self.part("label", "Help"))
+        self.wait_focused("Help")
+        self.search("Glossary", "2 of 2")
+        self.desktop.key("alt+Left")
+        self.wait_topic("Welcome: a first comparison")
+        moved = self.help_window().get_extents(Atspi.CoordType.SCREEN)
+        self.assertEqual((moved.x, moved.y, moved.width, moved.height),
+                         (place.x, place.y, place.width, place.height))
+        self.desktop.key("Escape")
+        self.wait_closed()
+
+    def search(self, words, matches):
+        self.desktop.key("ctrl+f")
+        self.wait_focused("Find in the help")
+        self.desktop.type(words)
+        self.found(matches)
+        self.desktop.key("Escape")
+        self.wait_focused("Help")
+
     def test_an_unusable_help_file_is_reported(self):
         (self.folder / "LEDGROVE.HLP").write_bytes(bytes(range(256)) * 64)
         self.desktop.key("F1")

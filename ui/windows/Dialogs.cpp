@@ -1,7 +1,6 @@
 #include "ui/windows/Dialogs.h"
 
-#include <QApplication>
-
+#include "ui/windows/HelpWindow.h"
 #include "ui/windows/frmAssumptions.h"
 #include "ui/windows/frmHomeSelection.h"
 #include "ui/windows/frmOptions.h"
@@ -17,7 +16,7 @@ void Show(Record& record, const std::optional<SettingsFault>& fault, Session& se
         outside.ShowMessage({ApplicationTitle, Sentence(*fault), MessageIcon::Exclamation});
         return;
     }
-    Dialog(record, session, outside, QApplication::activeWindow()).exec();
+    Dialog(record, session, outside, ActiveForm()).exec();
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/windows/HelpWindow.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -59,6 +60,18 @@ void HelpWindow::ShowTopic(const QString& path, const QString& anchor) {
     raise();
     activateWindow();
     m_browser->setFocus();
+}
+
+void HelpWindow::MoveAbove(QWidget& window) {
+    const bool wasShown = isVisible();
+    const QPoint place = pos();
+    setParent(&window, windowFlags()); // hides it
+    move(place);
+    if (!wasShown)
+        return;
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    show();
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 void HelpWindow::BuildControls() {
@@ -203,14 +216,38 @@ HelpPrinter* HelpWindow::Printer() const {
     return nullptr;
 }
 
+QWidget* ActiveForm() {
+    QWidget* active = QApplication::activeWindow();
+    while (qobject_cast<HelpWindow*>(active))
+        active = active->parentWidget();
+    return active;
+}
+
 void Help::Open(const QString& anchor) {
     if (const auto complaint = HelpComplaint(m_session.Folder, m_session.HelpFile)) {
         m_outside.ShowMessage({ApplicationTitle, *complaint, MessageIcon::Exclamation});
         return;
     }
+    Window().ShowTopic(HelpFilePath(m_session.Folder, m_session.HelpFile), anchor);
+}
+
+Help::~Help() {
+    if (m_window && m_lender && m_window->parentWidget() == &m_owner)
+        m_window->MoveAbove(*m_lender);
+}
+
+HelpWindow& Help::Window() {
+    QWidget* lowest = &m_owner;
+    while (lowest->parentWidget())
+        lowest = lowest->parentWidget();
+    m_window = lowest->findChild<HelpWindow*>();
     if (!m_window)
-        m_window = new HelpWindow(&m_owner);
-    m_window->ShowTopic(HelpFilePath(m_session.Folder, m_session.HelpFile), anchor);
+        m_window = new HelpWindow(lowest);
+    if (m_window->parentWidget() != &m_owner) {
+        m_lender = m_window->parentWidget();
+        m_window->MoveAbove(m_owner);
+    }
+    return *m_window;
 }
 
 } // namespace Ledgrove

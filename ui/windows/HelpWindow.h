@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include "engine/Host.h"
@@ -28,6 +29,9 @@ public:
 
     /// Opens the file at the topic of this anchor and comes to the front.
     void ShowTopic(const QString& path, const QString& anchor);
+    /// Moves above another window. What it shows, its history, zoom and place on the screen stay, and so does
+    /// the focus.
+    void MoveAbove(QWidget& window);
 
 private:
     void BuildControls();
@@ -64,23 +68,36 @@ private:
     QLabel* m_status;
 };
 
-/// The help of one window.
+/// The active window, or the window below the help if the help is active. A dialog opens above this window,
+/// because it would block the help as its own parent.
+QWidget* ActiveForm();
+
+/// The help of one window. All windows of the program share one help window. While a modal dialog is open,
+/// only the windows above it can be used, so the dialog that opens the help borrows it, and returns it when
+/// it closes.
 class Help {
 public:
-    /// The help window opens above `owner` and closes with it. All three arguments must outlive this object.
+    /// The help window opens above `owner`. All three arguments must outlive this object.
     Help(QWidget& owner, const Session& session, Host& outside)
         : m_owner(owner)
         , m_session(session)
         , m_outside(outside) {}
 
+    ~Help();
+    Help(const Help&) = delete;
+    Help& operator=(const Help&) = delete;
+
     /// Opens the session's help file at the topic of this anchor, or shows why there is no help.
     void Open(const QString& anchor);
 
 private:
+    HelpWindow& Window();
+
     QWidget& m_owner;
     const Session& m_session;
     Host& m_outside;
-    HelpWindow* m_window = nullptr;
+    QPointer<HelpWindow> m_window;
+    QPointer<QWidget> m_lender; ///< the window below the help before `m_owner` borrowed it
 };
 
 } // namespace Ledgrove

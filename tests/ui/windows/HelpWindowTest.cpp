@@ -2,6 +2,7 @@
 
 #include "HelpDesk.h"
 #include "ui/MainScreenRules.h"
+#include "ui/windows/frmOptions.h"
 
 using namespace Ledgrove;
 
@@ -19,6 +20,22 @@ QTextBrowser* ShownHelp(const OpenWindow& open) {
     return help && help->isVisible() ? help->findChild<QTextBrowser*>() : nullptr;
 }
 
+/// The main window with a help file, and its only help window.
+struct HelpOverDialogs : OpenWindow {
+    HelpOverDialogs() {
+        WriteHelp(Folder, "LEDGROVE.HLP");
+        State.Folder = Folder.path().toStdString();
+        State.HelpFile = "LEDGROVE.HLP";
+    }
+
+    HelpWindow* Help() const {
+        const auto all = Window->findChildren<HelpWindow*>();
+        return all.size() == 1 ? all.front() : nullptr;
+    }
+
+    QTemporaryDir Folder;
+};
+
 std::optional<std::string> ComplaintAbout(const QByteArray& content) {
     const QTemporaryDir folder;
     WriteHelpFile(folder, content);
@@ -34,6 +51,8 @@ private slots:
     void f1OpensTheTopicOfTheCurrentTab_data();
     void f1OpensTheTopicOfTheCurrentTab();
     void helpButtonOpensTheTopicToo();
+    void dialogBorrowsTheOpenHelp();
+    void helpOpenedInADialogStaysOpen();
     void missingFileIsNamedWithItsFolder();
     void missingFileNameSaysWhereToSetIt();
     void directoryInPlaceOfTheFileCannotBeRead();
@@ -78,6 +97,55 @@ void HelpWindowTest::helpButtonOpensTheTopicToo() {
     ClickAt(open.Find("bHelp"));
     QVERIFY(ShownHelp(open));
     QCOMPARE(ShownHelp(open)->source().fragment(), "ctx501");
+}
+
+void HelpWindowTest::dialogBorrowsTheOpenHelp() {
+    HelpOverDialogs open;
+    open.Press(Qt::Key_F1);
+    HelpWindow* help = open.Help();
+    help->move(37, 41);
+    QTest::keyClick(help, Qt::Key_Plus, Qt::ControlModifier); // 110 %
+    const QFont larger = help->findChild<QTextBrowser*>()->font();
+    {
+        OptionsScreen record;
+        frmOptions dialog(record, open.State, open.Outside, open.Window.get());
+        dialog.show();
+        QTest::keyClick(&dialog, Qt::Key_F1);
+        QCOMPARE(open.Help(), help);
+        QCOMPARE(help->parentWidget(), &dialog);
+        QVERIFY(help->isVisible());
+        QCOMPARE(help->pos(), QPoint(37, 41));
+        QCOMPARE(help->findChild<QTextBrowser*>()->source().fragment(), "ctxOptions");
+    }
+    QCOMPARE(open.Help(), help);
+    QCOMPARE(help->parentWidget(), open.Window.get());
+    QVERIFY(help->isVisible());
+    QCOMPARE(help->pos(), QPoint(37, 41));
+    QCOMPARE(help->findChild<QTextBrowser*>()->font(), larger);
+    QTest::keyClick(help, Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(help->findChild<QTextBrowser*>()->source().fragment(), "ctx501");
+}
+
+void HelpWindowTest::helpOpenedInADialogStaysOpen() {
+    HelpOverDialogs open;
+    {
+        OptionsScreen record;
+        frmOptions dialog(record, open.State, open.Outside, open.Window.get());
+        dialog.show();
+        QTest::keyClick(&dialog, Qt::Key_F1);
+        QCOMPARE(open.Help()->parentWidget(), &dialog);
+    }
+    QCOMPARE(open.Help()->parentWidget(), open.Window.get());
+    QVERIFY(open.Help()->isVisible());
+    open.Help()->close();
+    {
+        OptionsScreen record;
+        frmOptions dialog(record, open.State, open.Outside, open.Window.get());
+        dialog.show();
+        QTest::keyClick(&dialog, Qt::Key_F1);
+        open.Help()->close();
+    }
+    QVERIFY(!open.Help()->isVisible()); // a closed help stays closed
 }
 
 void HelpWindowTest::missingFileIsNamedWithItsFolder() {
