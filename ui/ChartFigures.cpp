@@ -158,13 +158,11 @@ std::string AmountAfter(float amount, int years) {
     return Money(Amount(amount)) + " after " + std::to_string(years) + (years == 1 ? " year" : " years");
 }
 
-/// Names the years in the home that the chart is too short for.
-std::string SavingsTitle(const Scenario& scenario) {
-    const std::string title = "Accumulated Net Savings by Year";
+/// The savings after the years in the home, if the chart ends before them.
+std::string LateSavings(const Scenario& scenario) {
     if (scenario.YearsInHome <= ChartYears)
-        return title;
-    return title + " (" + YearsText(scenario.YearsInHome) + ": " +
-           Money(Amount(scenario.SavingsAfterYearsInHome)) + ')';
+        return {};
+    return YearsText(scenario.YearsInHome) + ": " + Money(Amount(scenario.SavingsAfterYearsInHome));
 }
 
 void AddMark(ChartFigures& chart, int year, float value) {
@@ -188,7 +186,8 @@ ChartFigures SavingsChart(const Session& session) {
     const int yearsInHome = scenario.YearsInHome;
     ChartFigures chart;
     chart.Kind = ChartKind::Savings;
-    chart.Title = SavingsTitle(scenario);
+    chart.Title = "Accumulated Net Savings by Year";
+    chart.Note = LateSavings(scenario);
     ChartSeries savings{"Accumulated Net Savings", {}};
     for (int year = 0; year <= ChartYears; ++year)
         savings.Values.push_back(SavingsAfter(year, session));

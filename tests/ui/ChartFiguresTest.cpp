@@ -168,6 +168,7 @@ TEST(ChartFiguresTest, TheYearsOfTheSummaryAreMarked) {
     const ChartFigures chart = MakeChart(ChartKind::Savings, Computed(session));
     ASSERT_EQ(chart.Marks.size(), 3U);
     EXPECT_EQ(chart.Marks[0].Year, 7);
+    EXPECT_EQ(chart.Note, "");
     EXPECT_EQ(chart.Marks[0].Text, "7 Years: $1,399");
     EXPECT_EQ(chart.Marks[1].Year, 12);
     EXPECT_EQ(chart.Marks[2].Text, "30 Years: $14,600");
@@ -190,14 +191,14 @@ TEST(ChartFiguresTest, OneYearIsInTheSingular) {
     EXPECT_THAT(chart.Sentence, testing::HasSubstr("after 1 year in the home"));
 }
 
-TEST(ChartFiguresTest, YearsBeyondTheChartAreInItsTitleAndDescription) {
+TEST(ChartFiguresTest, YearsBeyondTheChartAreInItsNoteAndDescription) {
     Session session = SampleSession();
     session.Assumptions.YearsInHome = 35;
     session = Computed(session);
     const ChartFigures chart = MakeChart(ChartKind::Savings, session);
     EXPECT_EQ(chart.Marks.size(), 2U);
     const std::string amount = Module1::MoneyText(session.Scenario.SavingsAfterYearsInHome);
-    EXPECT_EQ(chart.Title, "Accumulated Net Savings by Year (35 Years: " + amount + ')');
+    EXPECT_EQ(chart.Note, "35 Years: " + amount);
     EXPECT_THAT(chart.Sentence, testing::HasSubstr(amount + " after 35 years in the home"));
 }
 

@@ -110,6 +110,7 @@ private slots:
     void taxSavingsComeAndGo();
     void markLabelsNeverOverlap_data();
     void markLabelsNeverOverlap();
+    void lateYearsAreInThePicture();
     void namesAreWords();
 };
 
@@ -279,6 +280,18 @@ void ChartPlaceTest::markLabelsNeverOverlap() {
             CheckMarkLabels(*chart, years < 30 ? 3 : 2);
         }
     }
+}
+
+void ChartPlaceTest::lateYearsAreInThePicture() {
+    OpenCharts open;
+    open.State.Assumptions.YearsInHome = 35;
+    open.State.From.reset();
+    Module1::Recalculate(open.State, open.Outside);
+    open.ShowTab(4);
+    QCOMPARE(open.Place().accessibleName(), "Accumulated Net Savings by Year");
+    const auto* chart = open.Place().findChild<QChartView*>()->chart();
+    QCOMPARE(chart->title(),
+             "Accumulated Net Savings by Year (35 Years: " + open.LabelText("lblExpYrPre") + ')');
 }
 
 void ChartPlaceTest::namesAreWords() {

@@ -74,7 +74,8 @@ void QtChart::ShowTicks(const ChartFigures& figures) {
 void QtChart::ShowWords(const ChartFigures& figures) {
     const QString title = QString::fromStdString(figures.Title);
     const QString words = QString::fromStdString(figures.Sentence + ' ' + figures.Numbers);
-    Chart().setTitle(title);
+    const QString note = QString::fromStdString(figures.Note);
+    Chart().setTitle(note.isEmpty() ? title : title + " (" + note + ')');
     SetSpokenName(*this, title);
     SetSpokenDescription(*this, words);
     setToolTip("<p>" + words.toHtmlEscaped() + "</p>");
