@@ -1,5 +1,7 @@
 #include "base/Text.h"
 
+#include <algorithm>
+
 namespace Ledgrove {
 
 std::string Quoted(std::string_view text) {
@@ -9,6 +11,21 @@ std::string Quoted(std::string_view text) {
     quoted += text;
     quoted += '"';
     return quoted;
+}
+
+std::string Excerpt(std::string_view text) {
+    constexpr std::size_t longest = 80;
+    std::string shown(text);
+    if (text.size() > longest) {
+        std::size_t end = longest;
+        while (end > 0 && !BeginsCharacter(text[end]))
+            --end;
+        shown = std::string(text.substr(0, end)) + "...";
+    }
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; },
+        '?');
+    return Quoted(shown);
 }
 
 } // namespace Ledgrove

@@ -45,4 +45,8 @@ constexpr std::size_t CharacterCount(std::string_view text) {
 /// The text in double quotes, for file names and keys in messages. Quotes inside the text are not escaped.
 std::string Quoted(std::string_view text);
 
+/// The same for a UTF-8 text of any length and content: at most 80 bytes of it, with "?" for control
+/// characters.
+std::string Excerpt(std::string_view text);
+
 } // namespace Ledgrove

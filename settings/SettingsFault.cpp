@@ -2,25 +2,8 @@
 
 #include "base/Text.h"
 
-#include <algorithm>
-
 namespace Ledgrove {
 namespace {
-
-/// Prepares a text for a message: replaces control characters and limits the length.
-std::string Excerpt(std::string text) {
-    constexpr std::size_t longest = 80;
-    if (text.size() > longest) {
-        std::size_t end = longest;
-        while (end > 0 && !BeginsCharacter(text[end]))
-            --end;
-        text = text.substr(0, end) + "...";
-    }
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; },
-        '?');
-    return Quoted(text);
-}
 
 std::string InterruptedSave(const SettingsFault& fault, const std::string& path) {
     const std::string name = fault.Text.empty() ? "Ledgrove.ini" : fault.Text;
