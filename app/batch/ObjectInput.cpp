@@ -37,12 +37,12 @@ std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison, Inpu
 ObjectInput RunObjectFile(const std::string& name, Comparison& comparison) {
     const InputFile file(name);
     if (file.Number() < 0)
-        return {UnreadableInput(name, file.Failure()), {}, {}};
+        return {file.Failure(), {}, {}};
     LineReader lines(file.Number(), [] {});
     ObjectInput read;
     read.Refused = RunObject(lines, comparison, read.Inputs);
     if (!lines.Failure().empty())
-        read.Unreadable = UnreadableInput(name, lines.Failure());
+        read.Unreadable = lines.Failure();
     return read;
 }
 

@@ -12,7 +12,7 @@ namespace Ledgrove {
 std::optional<Refusal> RunObject(LineReader& lines, Comparison& comparison, InputRecord& inputs);
 
 struct ObjectInput {
-    std::string Unreadable;         ///< a message if the file cannot be read, otherwise empty
+    std::string Unreadable;         ///< the system's reason if the file cannot be read, otherwise empty
     std::optional<Refusal> Refused; ///< why its input was refused
     InputRecord Inputs;
 };

@@ -1,5 +1,6 @@
 #include "app/batch/OneComparison.h"
 
+#include "app/batch/InputFile.h"
 #include "app/batch/ObjectInput.h"
 #include "ui/StartUp.h"
 
@@ -13,7 +14,7 @@ OneComparison CompareOne(const std::string& folder, const std::string& input) {
     Comparison comparison(session);
     const ObjectInput read = RunObjectFile(input, comparison);
     if (!read.Unreadable.empty())
-        return {CannotRun, read.Unreadable, {}};
+        return {CannotRun, UnreadableInput(input, read.Unreadable), {}};
     if (read.Refused)
         return {SomeRefused, RefusalSentence(*read.Refused), {}};
     return {AllWell, {}, comparison.State()};

@@ -6,8 +6,10 @@
 #include "app/batch/EntryInputs.h"
 #include "app/batch/ObjectInput.h"
 #include "app/files/ScreenInputs.h"
+#include "base/FileKind.h"
 #include "base/Text.h"
 #include "engine/Recalculate.h"
+#include "ui/InputWords.h"
 #include "ui/MainScreenRules.h"
 
 namespace Ledgrove {
@@ -45,11 +47,30 @@ Session FreshSession(const Session& session, const Session& start) {
     return fresh;
 }
 
+std::string Unreadable(const std::filesystem::path& file, const std::string& reason) {
+    return Quoted(file.string()) + " cannot be read: " + reason +
+           ". Choose a file that Ledgrove saved, and check that you may read it.";
+}
+
+bool IsEmpty(const std::filesystem::path& file) {
+    std::error_code error;
+    return std::filesystem::file_size(file, error) == 0 && !error;
+}
+
+/// Speaks of inputs by the words of the window, because a home buyer knows neither JSON nor its keys.
 std::string NoComparison(const std::filesystem::path& file, const Refusal& refusal) {
-    std::string sentence = Quoted(file.string()) + " is not a comparison that Ledgrove can open. ";
-    if (!refusal.Control.empty())
-        sentence += refusal.Control + ' ' + Quoted(refusal.Value) + ": ";
-    return sentence + refusal.Message;
+    const std::string start = Quoted(file.string()) + " is not a comparison that Ledgrove can open. ";
+    const std::string choose = " Choose a file that Ledgrove saved.";
+    if (refusal.Control.empty() && IsEmpty(file))
+        return start + "It is empty." + choose;
+    if (refusal.Control.empty())
+        return start + "It holds something else, or it is damaged." + choose;
+    const std::string_view words = InputWords(refusal.Control);
+    if (words.empty())
+        return start + "It holds " + Excerpt(refusal.Control) + ", which is not an input of Ledgrove." +
+               choose;
+    return start + std::string(words) + ' ' + Excerpt(refusal.Value) + ": " + refusal.Message +
+           " Correct this in the file, or enter the comparison again and save it.";
 }
 
 /// Does not show the message that belongs to choosing an option, because the user only opened a file.
@@ -91,10 +112,12 @@ void NewComparison(Session& session, const Session& start, Host& host) {
 
 std::optional<std::string> OpenComparison(const std::filesystem::path& file, Session& session,
                                           const Session& start, Host& host) {
+    if (const std::string reason = NotAFile(file); !reason.empty())
+        return Unreadable(file, reason);
     Comparison comparison(FreshSession(session, start));
     const ObjectInput input = RunObjectFile(file.string(), comparison);
     if (!input.Unreadable.empty())
-        return input.Unreadable;
+        return Unreadable(file, input.Unreadable);
     if (input.Refused)
         return NoComparison(file, *input.Refused);
     PutScreen(session, comparison.State());

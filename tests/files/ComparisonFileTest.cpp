@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 namespace Ledgrove {
 namespace {
 
@@ -145,17 +147,42 @@ TEST_F(ComparisonFileTest, AFaultyFileChangesNothing) {
     Session session = Typed();
     const std::string before = ComparisonText(session.Screen);
     const std::pair<const char*, const char*> faults[] = {
-        {R"({"ecIncome": "abc"})", "ecIncome \"abc\""},
-        {R"({"ecHouse": "1"})", "This is not the name of an input"},
-        {"[1]", "Write a JSON object"},
-        {"", "not valid JSON"},
-        {R"({"cboGMHMortOption": "VA EEM"})", "not in the list"}};
+        {R"({"ecIncome": "abc"})", "Annual Income \"abc\": You must enter a number here. Correct this in the "
+                                   "file, or enter the comparison "
+                                   "again and save it."},
+        {R"({"ecGMHHome": true})", "Sticker Price, GREENMARK Home \"true\": You must enter a number here."},
+        {R"({"ecHouse": "1"})", "It holds \"ecHouse\", which is not an input of Ledgrove."},
+        {"[1]", "It holds something else, or it is damaged. Choose a file that Ledgrove saved."},
+        {"\x89PNG", "It holds something else, or it is damaged."},
+        {"", "It is empty. Choose a file that Ledgrove saved."},
+        {R"({"cboGMHMortOption": "VA EEM"})",
+         "Mortgage Option, GREENMARK Home \"VA EEM\": This is not in the list."}};
     for (const auto& [text, complaint] : faults) {
         const auto fault = Open(text, session);
         ASSERT_TRUE(fault) << text;
         EXPECT_THAT(*fault, HasSubstr(complaint));
-        EXPECT_THAT(*fault, HasSubstr("test.ledgrove.json"));
+        EXPECT_THAT(*fault, HasSubstr("test.ledgrove.json\" is not a comparison that Ledgrove can open. "));
+        EXPECT_THAT(*fault, Not(HasSubstr("JSON")));
         EXPECT_EQ(ComparisonText(session.Screen), before);
+    }
+}
+
+TEST_F(ComparisonFileTest, ALongValueIsShortened) {
+    Session session = m_start;
+    const auto fault = Open(R"({"ecIncome": ")" + std::string(5000, 'x') + R"("})", session);
+    ASSERT_TRUE(fault);
+    EXPECT_THAT(*fault, HasSubstr("Annual Income \"" + std::string(80, 'x') + "...\": "));
+}
+
+TEST_F(ComparisonFileTest, APipeOrADeviceIsNotRead) {
+    Session session = m_start;
+    const auto pipe = Folder() / "pipe.ledgrove.json";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0); // without a writer, opening it would wait
+    for (const std::filesystem::path& file : {pipe, std::filesystem::path("/dev/null")}) {
+        const auto fault = OpenComparison(file, session, m_start, m_host);
+        ASSERT_TRUE(fault);
+        EXPECT_THAT(*fault,
+                    HasSubstr('"' + file.string() + "\" cannot be read: it is not an ordinary file. "));
     }
 }
 
@@ -164,7 +191,10 @@ TEST_F(ComparisonFileTest, AMissingFileIsReported) {
     const auto fault = OpenComparison(Folder() / "gone.ledgrove.json", session, m_start, m_host);
     ASSERT_TRUE(fault);
     EXPECT_THAT(*fault, HasSubstr("gone.ledgrove.json"));
-    EXPECT_TRUE(OpenComparison(Folder(), session, m_start, m_host));
+    EXPECT_THAT(*fault, HasSubstr("cannot be read: No such file or directory. "));
+    const auto folder = OpenComparison(Folder(), session, m_start, m_host);
+    ASSERT_TRUE(folder);
+    EXPECT_THAT(*folder, HasSubstr("cannot be read: it is a folder. "));
 }
 
 TEST_F(ComparisonFileTest, OpeningDoesNotCountAsChoosingTheOption) {

@@ -6,6 +6,7 @@
 #include <QTabBar>
 
 #include "WindowTest.h"
+#include "ui/InputWords.h"
 #include "ui/MainScreenRules.h"
 #include "ui/windows/ResultPanels.h"
 
@@ -106,6 +107,10 @@ void MainWindowAccessTest::fieldsAreNamedCaptionAndColumn() {
     QSet<QString> all;
     for (const EntryRule& rule : MainEntryRules()) {
         all += SpokenName(open.Find(rule.Name.data()));
+        // Messages about a file use the same words.
+        const std::string_view words = InputWords(rule.Name);
+        QCOMPARE(SpokenName(open.Find(rule.Name.data())),
+                 QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size())));
     }
     QCOMPARE(std::size_t(all.size()), MainEntryRules().size());
 }
@@ -117,6 +122,9 @@ void MainWindowAccessTest::pickListsHaveADescriptionAndTheirChoice() {
     for (const auto& entry : PickListTable()) {
         auto& list = open.Find<QComboBox>(entry.Name.data());
         QVERIFY(list.accessibleName().isEmpty());
+        const std::string_view words = InputWords(entry.Name);
+        QCOMPARE(list.accessibleDescription(),
+                 QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size())));
         QCOMPARE(SpokenName(list), list.currentText());
     }
 }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+namespace Ledgrove {
+
+/// What messages and screen readers call an input of the main screen: "Sticker Price, Base Home" for
+/// "ecStdHome". Empty for a name that is not an input.
+std::string_view InputWords(std::string_view control);
+
+} // namespace Ledgrove
