@@ -46,7 +46,7 @@ struct ChartTick {
 struct ChartFigures {
     ChartKind Kind = ChartKind::MonthlyCost;
     std::string Title;
-    std::string Note; ///< stands after the title in the picture: an amount beyond the plot
+    std::string Note;                    ///< stands after the title in the picture: an amount beyond the plot
     std::vector<std::string> Categories; ///< the homes; empty if the chart shows years
     std::vector<ChartSeries> Series;
     std::vector<ChartMark> Marks;

@@ -2,6 +2,7 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QMessageBox>
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fontconfig/fontconfig.h>
@@ -64,8 +65,14 @@ void ReadFonts() {
     FcInit();
 }
 
-/// `file` is a comparison to open, or "" for none.
-int ShowWindow(const std::filesystem::path& folder, const QString& file) {
+/// A comparison to open at the start.
+struct StartFile {
+    QString Name; ///< "" for none
+    bool IsDecodable =
+        true; ///< false if the bytes of the argument are not UTF-8, so that `Name` is another name
+};
+
+int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     Ledgrove::UseFormFont();
     Ledgrove::Session session;
     Ledgrove::QtHost host;
@@ -96,8 +103,11 @@ int ShowWindow(const std::filesystem::path& folder, const QString& file) {
                                         Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
     window.show();
     Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
-    if (!file.isEmpty())
-        current->OpenNamed(file);
+    if (!file.IsDecodable)
+        host.ShowMessage({Ledgrove::ApplicationTitle, Ledgrove::UndecodableName(file.Name),
+                          Ledgrove::MessageIcon::Exclamation});
+    else if (!file.Name.isEmpty())
+        current->OpenNamed(file.Name);
     return QCoreApplication::exec();
 }
 
@@ -147,5 +157,9 @@ int main(int argc, char* argv[]) {
             QString("The folder \"%1\" cannot be found, since the folder that Ledgrove was started in "
                     "is gone. Give --folder with a whole path.")
                 .arg(named));
-    return ShowWindow(folder, files.value(0));
+    const QString file = files.value(0);
+    const bool isDecodable = file.isEmpty() || std::any_of(argv, argv + argc, [&file](const char* argument) {
+                                 return QFile::encodeName(file) == argument;
+                             });
+    return ShowWindow(folder, {file, isDecodable});
 }

@@ -28,7 +28,17 @@ QString DocumentsFolder() {
     return UsersFolder(QStandardPaths::DocumentsLocation);
 }
 
+bool IsUndecodable(const QString& file) {
+    return file.contains(QChar::ReplacementCharacter) && !QFileInfo::exists(file);
+}
+
 } // namespace
+
+std::string UndecodableName(const QString& file) {
+    return "\"" + file.toStdString() +
+           "\" cannot be opened: its name contains characters that are not UTF-8. Rename the file, then open "
+           "it.";
+}
 
 CurrentFile::CurrentFile(frmMain& window, Session& session, Host& outside, RecentFiles recent,
                          FileQuestions questions)
@@ -92,7 +102,12 @@ void CurrentFile::OpenCopy(const QString& file) {
 }
 
 bool CurrentFile::Load(const QString& file) {
-    if (const auto fault = OpenComparison(file.toStdString(), m_session, m_start, m_outside)) {
+    if (IsUndecodable(file)) {
+        Tell(UndecodableName(file));
+        return false;
+    }
+    const std::filesystem::path path = QFile::encodeName(file).toStdString();
+    if (const auto fault = OpenComparison(path, m_session, m_start, m_outside)) {
         m_recent.Remove(file);
         Tell(*fault);
         return false;

@@ -12,6 +12,10 @@
 
 namespace Ledgrove {
 
+/// The message for a file name that is not UTF-8. The window shows such a name with marks in place of its
+/// bytes and cannot find the file by it.
+std::string UndecodableName(const QString& file);
+
 /// The comparison file that the main window shows: new, open, save, and the question before unsaved inputs
 /// are lost. The window's title shows its name and whether it has changed.
 class CurrentFile : public QObject {

@@ -2,6 +2,7 @@
 import csv
 import io
 import json
+import os
 import shutil
 import subprocess
 import sys
@@ -159,6 +160,21 @@ class Saving(FilesTest):
 
 
 class Opening(FilesTest):
+    def test_what_is_not_a_file_is_reported_at_the_start(self):
+        pipe = self.folder / "pipe.json"
+        os.mkfifo(pipe)
+        bytes_name = os.fsencode(self.folder) + b"/caf\xe9.json"
+        with open(bytes_name, "w") as file:
+            file.write("{}")
+        for name, said in ((pipe, "cannot be read: it is not an ordinary file."),
+                           ("/dev/null", "cannot be read: it is not an ordinary file."),
+                           (self.folder, "cannot be read: it is a folder."),
+                           (os.fsdecode(bytes_name), "cannot be opened: its name contains characters that are not UTF-8.")):
+            self.start(name)
+            self.assertIn(said, self.program.answer()[1])
+            self.wait_title("Ledgrove")
+            self.program.close()
+
     def test_a_file_written_by_hand(self):
         file = self.folder / "von Hand.json"
         file.write_text('{"ecIncome": 90000, "ecMonthlyDebt": "450", "optDownPayment": 1, "ecFixedDown": "30,000",\n'

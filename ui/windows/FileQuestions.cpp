@@ -16,10 +16,12 @@ QString AskOpenName(QWidget& above, const FileRequest& request) {
 }
 
 bool MayReplace(QWidget& above, const QString& file) {
-    const QString question =
-        QString("\"%1\" already exists. Replace it?").arg(QDir::toNativeSeparators(file));
-    return QMessageBox::question(&above, ApplicationTitle, question, QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, ApplicationTitle,
+                    QString("\"%1\" already exists. Replace it?").arg(QDir::toNativeSeparators(file)),
+                    QMessageBox::Yes | QMessageBox::No, &above);
+    box.setTextFormat(Qt::PlainText); // a name may look like HTML
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 QString AskSaveName(QWidget& above, const FileRequest& request) {
@@ -55,7 +57,8 @@ FileQuestions AskAtScreen() {
 }
 
 QString WithSuffix(const QString& name, const QString& suffix) {
-    return name.endsWith(suffix, Qt::CaseInsensitive) ? name : name + suffix;
+    const QString lastPart = suffix.mid(suffix.lastIndexOf('.'));
+    return name.endsWith(lastPart, Qt::CaseInsensitive) ? name : name + suffix;
 }
 
 } // namespace Ledgrove

@@ -30,7 +30,9 @@ struct FileQuestions {
 /// The questions as dialogs.
 FileQuestions AskAtScreen();
 
-/// `name` with `suffix`, which is appended unless the name already ends in it, ignoring case.
+/// `name` with `suffix`, which is appended unless the name already ends in it or in its last part, ignoring
+/// case: with ".ledgrove.json", "plain" becomes "plain.ledgrove.json", and "plain.json" stays. Any other
+/// ending counts as a part of the name, because it would promise another kind of file.
 QString WithSuffix(const QString& name, const QString& suffix);
 
 } // namespace Ledgrove

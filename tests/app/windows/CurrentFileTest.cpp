@@ -1,6 +1,10 @@
 #include <QDir>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QSignalSpy>
+#include <QTimer>
+#include <fstream>
+#include <sys/stat.h>
 
 #include "DesktopDesk.h"
 #include "app/files/ComparisonFile.h"
@@ -18,6 +22,9 @@ private slots:
     void saveIsRefusedWithTheField();
     void failedSaveLeavesTheFileAndTheMark();
     void suggestedNames();
+    void replaceQuestionIsPlainText();
+    void pipesAndDevicesAreReported();
+    void namesThatAreNotUtf8AreReported();
     void faultyFileChangesNothing();
     void unsavedInputsCauseAQuestion_data();
     void unsavedInputsCauseAQuestion();
@@ -127,6 +134,69 @@ void CurrentFileTest::suggestedNames() {
     QCOMPARE(WithSuffix("/a/doe", ".pdf"), "/a/doe.pdf");
     QCOMPARE(WithSuffix("/a/doe.PDF", ".pdf"), "/a/doe.PDF");
     QCOMPARE(WithSuffix("/a.b/doe.v2", ".ledgrove.json"), "/a.b/doe.v2.ledgrove.json");
+    QCOMPARE(WithSuffix("/a/plain", ".ledgrove.json"), "/a/plain.ledgrove.json");
+    QCOMPARE(WithSuffix("/a/plain.json", ".ledgrove.json"), "/a/plain.json");
+    QCOMPARE(WithSuffix("/a/doe.Ledgrove.JSON", ".ledgrove.json"), "/a/doe.Ledgrove.JSON");
+    QCOMPARE(WithSuffix("/a/doe.json", ".csv"), "/a/doe.json.csv");
+}
+
+void CurrentFileTest::replaceQuestionIsPlainText() {
+    OpenDesktop open;
+    const QString name = open.PathOf("a <b>bold & co.json");
+    PutBytes(name, sample);
+    QString asked;
+    Qt::TextFormat format = Qt::AutoText;
+    QTimer::singleShot(0, [&] {
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            asked = box->text();
+            format = box->textFormat();
+            box->button(QMessageBox::Yes)->click();
+        });
+        qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept();
+    });
+    QCOMPARE(
+        AskAtScreen().SaveName(*open.Window, {"Save Comparison", name, "All files (*)", ".ledgrove.json"}),
+        name);
+    QCOMPARE(asked, '"' + name + "\" already exists. Replace it?");
+    QCOMPARE(format, Qt::PlainText);
+}
+
+void CurrentFileTest::pipesAndDevicesAreReported() {
+    OpenDesktop open;
+    open.Enter("ecIncome", "72000");
+    open.Answer = SaveAnswer::Discard;
+    const QString pipe = open.PathOf("pipe.json");
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    open.Recent.Add(pipe);
+    for (const QString& file : {pipe, QString("/dev/null")}) {
+        open.File->OpenNamed(file);
+        const std::string cannot = '"' + file.toStdString() + "\" cannot be ";
+        QVERIFY(open.Outside.TakeTexts().front().starts_with(cannot + "read: it is not an ordinary file."));
+        open.NameToGive = file;
+        QVERIFY(!open.File->SaveAs());
+        QVERIFY(open.Outside.TakeTexts().front().starts_with(cannot + "saved: it is not an ordinary file."));
+        QVERIFY(!QFileInfo(file).isFile());
+    }
+    open.NameToGive = open.FolderPath();
+    QVERIFY(!open.File->SaveAs());
+    QVERIFY(open.Outside.TakeTexts().front().find("cannot be saved: it is a folder.") != std::string::npos);
+    QVERIFY(open.Recent.Names().isEmpty());
+    QCOMPARE(open.FieldText("ecIncome"), "$72,000");
+}
+
+void CurrentFileTest::namesThatAreNotUtf8AreReported() {
+    OpenDesktop open;
+    std::ofstream(open.State.Folder / "caf\xE9.json") << sample;
+    const QString shown = open.PathOf(u"caf\uFFFD.json"_qs); // as the file dialog gives it
+    open.File->OpenNamed(shown);
+    QVERIFY(open.Outside.TakeTexts().front().find("its name contains characters that are not UTF-8") !=
+            std::string::npos);
+    QCOMPARE(open.FieldText("ecIncome"), "");
+    // The mark itself is a character of a name like any other.
+    PutBytes(shown, sample);
+    open.File->OpenNamed(shown);
+    QCOMPARE(open.FieldText("ecIncome"), "$72,000");
 }
 
 void CurrentFileTest::faultyFileChangesNothing() {
@@ -137,7 +207,7 @@ void CurrentFileTest::faultyFileChangesNothing() {
     open.File->OpenNamed(open.PathOf("bad.ledgrove.json"));
     const auto texts = open.Outside.TakeTexts();
     QCOMPARE(texts.size(), std::size_t(1));
-    QVERIFY(texts.front().find("ecIncome \"many\": You must enter a number here.") != std::string::npos);
+    QVERIFY(texts.front().find("Annual Income \"many\": You must enter a number here.") != std::string::npos);
     QCOMPARE(open.FieldText("ecIncome"), "$72,000");
     QCOMPARE(open.Title(), "Ledgrove*");
 }
