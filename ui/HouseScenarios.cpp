@@ -144,6 +144,12 @@ std::optional<SettingsFault> SaveHouseScenarios(const HouseScenarios& dialog, co
     return WriteHomeList(SettingsFile(session.Folder), dialog.Houses);
 }
 
+void CloseHouseScenarios(const HouseScenarios& dialog, const Session& session, Host& host) {
+    if (const auto fault = SaveHouseScenarios(dialog, session))
+        host.ShowMessage({ApplicationTitle, "The list of houses could not be saved. " + Sentence(*fault),
+                          MessageIcon::Exclamation});
+}
+
 void ChooseHouse(const HouseScenarios& dialog, Session& session) {
     if (!dialog.HasSelection())
         return;

@@ -69,8 +69,12 @@ void CancelHouseEdit(HouseScenarios& dialog);
 /// Asks, then removes the selected house and selects the first.
 void DeleteHouse(HouseScenarios& dialog, Host& host);
 
-/// Saves the list. Every way of closing the dialog calls this.
+/// Saves the list.
 std::optional<SettingsFault> SaveHouseScenarios(const HouseScenarios& dialog, const Session& session);
+
+/// Saves the list, or shows why it cannot be saved. Every way of closing the dialog calls this; in both cases
+/// the dialog closes, and a chosen house reaches the main screen.
+void CloseHouseScenarios(const HouseScenarios& dialog, const Session& session, Host& host);
 
 /// Copies the selected house to the main screen, which remembers it. Does nothing without a selection.
 void ChooseHouse(const HouseScenarios& dialog, Session& session);

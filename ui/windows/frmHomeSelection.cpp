@@ -64,8 +64,7 @@ void frmHomeSelection::Refresh() {
 }
 
 void frmHomeSelection::accept() {
-    if (!Saved())
-        return;
+    Module1::CloseHouseScenarios(m_record, State(), Outside());
     Module1::ChooseHouse(m_record, State());
     EntryDialog::accept();
 }
@@ -73,17 +72,23 @@ void frmHomeSelection::accept() {
 void frmHomeSelection::reject() {
     if (m_record.Editing)
         return CancelEdit();
-    if (MayClose())
-        EntryDialog::reject();
+    Module1::CloseHouseScenarios(m_record, State(), Outside());
+    EntryDialog::reject();
 }
 
 void frmHomeSelection::closeEvent(QCloseEvent* event) {
     // Unlike Escape, the close button closes the whole dialog.
     if (m_record.Editing)
         CancelEdit();
-    if (!MayClose())
-        return event->ignore();
-    EntryDialog::reject();
+    reject();
+    event->accept();
+}
+
+void frmHomeSelection::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && m_list->hasFocus() && m_record.HasSelection())
+        return accept();
+    EntryDialog::keyPressEvent(event);
 }
 
 void frmHomeSelection::BuildControls() {
@@ -153,6 +158,7 @@ void frmHomeSelection::ConnectList() {
         Module1::SelectHouse(m_record, current.row());
         Refresh();
     });
+    connect(m_list, &QListView::doubleClicked, this, [this] { accept(); });
     // Ctrl with a click would leave the list without a selected house.
     connect(selection, &QItemSelectionModel::selectionChanged, this, [this, selection] {
         if (!selection->hasSelection())
@@ -213,18 +219,6 @@ void frmHomeSelection::SwitchMode(ControlNames opening, ControlNames closing) {
     findChild<QWidget*>(opening.front())->setFocus(Qt::OtherFocusReason);
     for (const char* name : closing)
         findChild<QWidget*>(name)->setEnabled(false);
-}
-
-/// If nothing can be saved, as in a read-only folder, the user may still close the dialog.
-bool frmHomeSelection::MayClose() {
-    const auto fault = Module1::SaveHouseScenarios(m_record, State());
-    return !fault ||
-           Outside().ShowMessage({ApplicationTitle, Sentence(*fault) + "\r\rClose without saving?",
-                                  MessageIcon::Exclamation, MessageButtons::YesNo}) == MessageAnswer::Yes;
-}
-
-bool frmHomeSelection::Saved() {
-    return Succeeded(Module1::SaveHouseScenarios(m_record, State()));
 }
 
 } // namespace Ledgrove

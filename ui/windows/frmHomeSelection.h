@@ -11,7 +11,8 @@ namespace Ledgrove {
 
 class HouseListModel;
 
-/// The saved house scenarios: list, view mode and edit mode. Both ways to close it save the list.
+/// The saved house scenarios: list, view mode and edit mode. Both ways to close it save the list. A double
+/// click or Enter in the list chooses a house, as OK does.
 class frmHomeSelection : public EntryDialog {
     Q_OBJECT
 
@@ -25,6 +26,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     using ControlNames = std::span<const char* const>;
@@ -46,8 +48,6 @@ private:
     void ShowSelection();
     void ShowMode();
     void SwitchMode(ControlNames opening, ControlNames closing);
-    bool Saved();
-    bool MayClose();
 
     HouseScenarios& m_record;
     HouseListModel* m_houses;

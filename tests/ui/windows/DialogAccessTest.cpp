@@ -145,6 +145,7 @@ void DialogAccessTest::enterPressesOnlyTheFocusedButton() {
     QVERIFY(!open.IsOpen());
     QCOMPARE(open.Window->result(), int(QDialog::Rejected));
     OpenHouses houses;
+    houses.Find("bHelp").setFocus();
     houses.Press(Qt::Key_Return);
     QVERIFY(houses.IsOpen());
     for (const QPushButton* button : houses.Window->findChildren<QPushButton*>())

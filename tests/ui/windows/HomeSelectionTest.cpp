@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QFile>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QListView>
@@ -84,10 +85,11 @@ private slots:
     void okSavesAndCopiesToTheMainScreen();
     void otherWaysToCloseSaveAndCopyNothing_data();
     void otherWaysToCloseSaveAndCopyNothing();
-    void unwritableFolderKeepsTheDialogOpen_data();
-    void unwritableFolderKeepsTheDialogOpen();
-    void anUnwritableFolderDoesNotBlockClosing_data();
-    void anUnwritableFolderDoesNotBlockClosing();
+    void listThatCannotBeSavedIsReported_data();
+    void listThatCannotBeSavedIsReported();
+    void chosenHouseSurvivesMissingSettings();
+    void enterInTheListChooses();
+    void doubleClickChooses();
 };
 
 void HomeSelectionTest::opensOnTheFirstHouseInViewMode() {
@@ -295,55 +297,65 @@ void HomeSelectionTest::otherWaysToCloseSaveAndCopyNothing() {
     QCOMPARE(open.State.Screen.ecStdHome.Text, "");
 }
 
-void HomeSelectionTest::unwritableFolderKeepsTheDialogOpen_data() {
-    QTest::addColumn<QString>("button");
-    QTest::addRow("bOK") << "bOK";
-    QTest::addRow("bCancel") << "bCancel";
-}
-
-void HomeSelectionTest::unwritableFolderKeepsTheDialogOpen() {
-    QFETCH(QString, button);
-    OpenHouses open;
-    const QByteArray before = open.Settings();
-    AddNamed(open, "Lot 7");
-    open.MakeUnwritable();
-    ClickAt(open.Find(button));
-    QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
-    const Message& message = open.Outside.Messages.front();
-    QCOMPARE(message.Title, std::string("Ledgrove"));
-    QCOMPARE(message.Icon, MessageIcon::Exclamation);
-    QVERIFY(message.Text.find(open.Folder.path().toStdString()) != std::string::npos);
-    QVERIFY(open.IsOpen());
-    QCOMPARE(Names(open).last(), "Lot 7");
-    QCOMPARE(open.Settings(), before);
-    QCOMPARE(open.State.Screen.lblHomeName.Text, "Custom");
-}
-
-void HomeSelectionTest::anUnwritableFolderDoesNotBlockClosing_data() {
+void HomeSelectionTest::listThatCannotBeSavedIsReported_data() {
     QTest::addColumn<QString>("way");
-    for (const char* way : {"bCancel", "Escape", "close button"})
+    for (const char* way : {"bOK", "bCancel", "Escape", "close button"})
         QTest::addRow("%s", way) << way;
 }
 
-void HomeSelectionTest::anUnwritableFolderDoesNotBlockClosing() {
+void HomeSelectionTest::listThatCannotBeSavedIsReported() {
     QFETCH(QString, way);
     OpenHouses open;
-    const auto leave = [&open, &way] {
-        if (way == "bCancel")
-            ClickAt(open.Find(way));
-        else if (way == "Escape")
-            open.Press(Qt::Key_Escape);
-        else
-            open.Window->close();
-    };
+    const QByteArray before = open.Settings();
     open.MakeUnwritable();
-    open.Outside.Answer = MessageAnswer::No;
-    leave();
-    QVERIFY(open.IsOpen());
-    QVERIFY(open.Outside.Messages.front().Text.ends_with("Close without saving?"));
-    open.Outside.Answer = MessageAnswer::Yes;
-    leave();
+    if (way == "Escape")
+        open.Press(Qt::Key_Escape);
+    else if (way == "close button")
+        open.Window->close();
+    else
+        ClickAt(open.Find(way));
     QVERIFY(!open.IsOpen());
+    QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
+    const Message& message = open.Outside.Messages.front();
+    QCOMPARE(message.Icon, MessageIcon::Exclamation);
+    QCOMPARE(message.Buttons, MessageButtons::Ok);
+    QVERIFY(message.Text.starts_with("The list of houses could not be saved. The settings were not saved: "));
+    QVERIFY(message.Text.find(open.Folder.path().toStdString()) != std::string::npos);
+    QCOMPARE(open.Settings(), before);
+    QCOMPARE(open.State.Screen.lblHomeName.Text, way == "bOK" ? "The Alder" : "Custom");
+}
+
+void HomeSelectionTest::chosenHouseSurvivesMissingSettings() {
+    OpenHouses open;
+    QVERIFY(QFile::remove(open.Folder.filePath("Ledgrove.ini")));
+    ClickAt(open.Find("bOK"));
+    QVERIFY(!open.IsOpen());
+    QVERIFY(open.Outside.TakeTexts().front().starts_with(
+        "The list of houses could not be saved. The settings file "));
+    QCOMPARE(open.State.Screen.ecStdHome.Text, "$285,000");
+}
+
+void HomeSelectionTest::enterInTheListChooses() {
+    OpenHouses open;
+    open.Press(Qt::Key_Down);
+    open.Press(Qt::Key_Return);
+    QVERIFY(!open.IsOpen());
+    QCOMPARE(open.State.Screen.lblHomeName.Text, "The Birch");
+}
+
+void HomeSelectionTest::doubleClickChooses() {
+    OpenHouses open;
+    auto& list = open.Find<QListView>("lbHomes");
+    const QPoint place = list.visualRect(list.model()->index(2, 0)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QVERIFY(open.IsOpen());
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QVERIFY(!open.IsOpen());
+    QCOMPARE(open.State.Screen.lblHomeName.Text, "The Cedar");
+    OpenHouses empty;
+    QTest::mouseDClick(empty.Find<QListView>("lbHomes").viewport(), Qt::LeftButton, Qt::NoModifier,
+                       {20, 200});
+    QVERIFY(empty.IsOpen());
 }
 
 QTEST_MAIN(HomeSelectionTest)
