@@ -33,20 +33,15 @@ LineResult Store(std::optional<Number> number, Number& target) {
     return LineResult::Read;
 }
 
-LineResult ReadPVRate(std::string_view value, float& rate) {
-    if (!ReadNumber(StripPercent(value)))
-        return LineResult::NotANumber;
-    rate = ParseFieldValue(value, 100);
-    return LineResult::Read;
-}
-
 LineResult ReadLine(std::string_view line, AssumptionSet& assumptions) {
     for (const SingleKey& key : singleKeys) {
         if (BelongsTo(line, key.Name))
             return Store(ToSingle(ValueOf(line, key.Name)), assumptions.*key.Value);
     }
+    // The rate is read like an entry field: a text that is not a number counts as 0 and does not stop the
+    // reader.
     if (BelongsTo(line, Key::PVRate))
-        return ReadPVRate(ValueOf(line, Key::PVRate), assumptions.PVRate);
+        assumptions.PVRate = ParseFieldValue(ValueOf(line, Key::PVRate), 100);
     if (BelongsTo(line, Key::PVFlag))
         assumptions.UsePVVars = ValueOf(line, Key::PVFlag) == "TRUE";
     if (BelongsTo(line, Key::YearsInHome))

@@ -66,6 +66,9 @@ Outcome<std::string> AssumptionText(const SettingsFile& file, const FileLines& l
         return std::string(assumptions.UsePVVars ? "TRUE" : "FALSE");
     if (key == Key::YearsInHome)
         return std::to_string(assumptions.YearsInHome);
+    if (key == Key::PVRate && line &&
+        !Module1::ReadNumber(Module1::StripPercent(ValueOf(lines[*line].Text, key))))
+        return BadLine(file, lines, *line, "not a number; the rate counts as 0");
     // The record holds the rate as a fraction. Reading the line directly keeps every digit.
     const std::string value = line ? Module1::StripPercent(ValueOf(lines[*line].Text, key)) : "0";
     return Module1::ShortestText(ToSingle(value).value_or(0.0f));

@@ -77,12 +77,22 @@ TEST_F(AssumptionsFileTest, TheLastLineOfAKeyCounts) {
 }
 
 TEST_F(AssumptionsFileTest, AValueThatIsNotANumberStopsTheReaderSilently) {
-    for (const char* bad : {"ASSUMPTION2=x", "ASSUMPTION2=", "ASSUMPTION2=1%", "PVSAVINGS_RATE=x",
-                            "PVSAVINGS_TERM=30 years", "YEARS_IN_HOME=40000", "PMI_MULT2=-"}) {
+    for (const char* bad : {"ASSUMPTION2=x", "ASSUMPTION2=", "ASSUMPTION2=1%", "PVSAVINGS_TERM=30 years",
+                            "YEARS_IN_HOME=40000", "PMI_MULT2=-"}) {
         Given(std::string("ASSUMPTION1=1.5\r\n") + bad + "\r\nPMI_MULT1=0.0087\r\nASSUMPTION1=9\r\n");
         const AssumptionSet read = Load();
         EXPECT_EQ(read.RealEstateTaxPct, 1.5f) << bad;
         EXPECT_EQ(read.PMIMult1, 0.0f) << bad;
+    }
+}
+
+TEST_F(AssumptionsFileTest, ARateThatIsNotANumberCountsAsZero) {
+    for (const char* bad :
+         {"PVSAVINGS_RATE=x", "PVSAVINGS_RATE=", "PVSAVINGS_RATE=%", "PVSAVINGS_RATE=6.5 percent"}) {
+        Given(std::string("PVSAVINGS_RATE=6.24\r\n") + bad + "\r\nPMI_MULT1=0.0087\r\n");
+        const AssumptionSet read = Load();
+        EXPECT_EQ(read.PVRate, 0.0f) << bad;
+        EXPECT_EQ(read.PMIMult1, 0.0087f) << bad;
     }
 }
 

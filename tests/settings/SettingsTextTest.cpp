@@ -59,6 +59,14 @@ TEST_F(SettingsTextTest, AValueFromGetCanBeSet) {
     EXPECT_EQ(Get("PVSAVINGS_RATE"), "6.24");
 }
 
+TEST_F(SettingsTextTest, ARateThatIsNotANumberIsReportedAlone) {
+    Given("PVSAVINGS_RATE=six\r\nPVSAVINGS_TERM=30\r\n");
+    EXPECT_THAT(Get("PVSAVINGS_RATE"), HasSubstr("Line 1 of the settings file"));
+    EXPECT_THAT(Get("PVSAVINGS_RATE"),
+                HasSubstr("(not a number; the rate counts as 0): \"PVSAVINGS_RATE=six\""));
+    EXPECT_EQ(Get("PVSAVINGS_TERM"), "30");
+}
+
 TEST_F(SettingsTextTest, AListKeyGivesAllItsLinesInOrder) {
     Given("HOMELIST=B,1,2,3,4\r\nX=1\r\nHOMELIST=\xC0,5,6,7,8\r\nTAXCAT=100,10\r\nTAXCAT=bad\r\n");
     EXPECT_EQ(Get("HOMELIST"), "B,1,2,3,4\n\xC3\x80,5,6,7,8");
