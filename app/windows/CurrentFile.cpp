@@ -52,6 +52,9 @@ CurrentFile::CurrentFile(frmMain& window, Session& session, Host& outside, Recen
     , m_saved(ScreenInputs(session.Screen)) {
     connect(&window, &frmMain::Refreshed, this, &CurrentFile::ShowTitle);
     window.installEventFilter(this);
+    // The record follows each typed character, but the window refreshes only when the entry is committed.
+    for (const QLineEdit* field : window.findChildren<QLineEdit*>())
+        connect(field, &QLineEdit::textChanged, this, [this] { m_window.setWindowModified(IsModified()); });
     ShowTitle();
 }
 

@@ -16,6 +16,7 @@ class CurrentFileTest : public QObject {
 
 private slots:
     void titleShowsNameAndChanges();
+    void titleFollowsTyping();
     void savedOpensAgain();
     void saveAsksForANameOnce();
     void saveIncludesTheEntryBeingTyped();
@@ -55,6 +56,28 @@ void CurrentFileTest::titleShowsNameAndChanges() {
     QCOMPARE(open.Title(), "doe.ledgrove.json* - Ledgrove");
     open.Enter("ecIncome", "72000");
     QCOMPARE(open.Title(), "doe.ledgrove.json - Ledgrove");
+}
+
+void CurrentFileTest::titleFollowsTyping() {
+    OpenDesktop open;
+    const QSignalSpy refreshed(open.Window.get(), &frmMain::Refreshed);
+    open.Type("ecIncome", "7");
+    QCOMPARE(open.Title(), "Ledgrove*");
+    open.Press(Qt::Key_Backspace);
+    QCOMPARE(open.Title(), "Ledgrove");
+    QCOMPARE(refreshed.count(), 0);
+    open.Enter("ecIncome", "72000");
+    open.NameToGive = open.PathOf("doe.ledgrove.json");
+    QVERIFY(open.File->Save());
+    open.Find("ecIncome").setFocus();
+    const auto shown = refreshed.count();
+    open.Press(Qt::Key_End);
+    open.Press(Qt::Key_1);
+    QCOMPARE(open.Title(), "doe.ledgrove.json* - Ledgrove");
+    open.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(open.FieldText("ecIncome"), "$72,000");
+    QCOMPARE(open.Title(), "doe.ledgrove.json - Ledgrove");
+    QCOMPARE(refreshed.count(), shown);
 }
 
 void CurrentFileTest::savedOpensAgain() {
