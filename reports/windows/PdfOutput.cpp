@@ -1,8 +1,10 @@
 #include "reports/windows/PdfOutput.h"
 
+#include "base/FileKind.h"
 #include "reports/windows/PagePainter.h"
 #include "ui/windows/CommitWhole.h"
 
+#include <QFile>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -18,9 +20,9 @@ QPageLayout LayoutOf(const PageGeometry& geometry) {
             QMarginsF()};
 }
 
-QString Unwritable(const QSaveFile& file) {
+QString Unwritable(const QString& name, const QString& reason) {
     return QString("The report was not written: \"%1\" cannot be written (%2). Choose another place for it.")
-        .arg(file.fileName(), file.errorString());
+        .arg(name, reason);
 }
 
 } // namespace
@@ -45,9 +47,12 @@ PrintOutcome PrintPages(QPagedPaintDevice& device, int dotsPerInch, const PrintD
 }
 
 QString WritePdf(const PrintDocument& document, const QString& name, const PageProgress& progress) {
+    // The new file would take the place of a pipe or a device.
+    if (const std::string reason = NotAFile(QFile::encodeName(name).toStdString()); !reason.empty())
+        return Unwritable(name, QString::fromStdString(reason));
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly))
-        return Unwritable(file);
+        return Unwritable(name, file.errorString());
     PrintOutcome outcome = PrintOutcome::Failed;
     {
         QPdfWriter writer(&file);
@@ -61,7 +66,8 @@ QString WritePdf(const PrintDocument& document, const QString& name, const PageP
         file.cancelWriting();
         return {};
     }
-    return outcome == PrintOutcome::Done && CommitWhole(file) ? QString() : Unwritable(file);
+    return outcome == PrintOutcome::Done && CommitWhole(file) ? QString()
+                                                              : Unwritable(name, file.errorString());
 }
 
 } // namespace Ledgrove

@@ -188,6 +188,13 @@ void PrintingTest::unwritablePdfIsReported() {
     QCOMPARE(open.Outside.Messages.front().Icon, MessageIcon::Exclamation);
     QVERIFY(open.Outside.Messages.front().Text.find("nowhere/report.pdf") != std::string::npos);
     CheckReady(open);
+    open.Outside.Messages.clear();
+    open.PdfToChoose = "/dev/null";
+    PressPrint(open);
+    QCOMPARE(open.Outside.TakeTexts(),
+             std::vector<std::string>{"The report was not written: \"/dev/null\" cannot be "
+                                      "written (it is not an ordinary file). Choose another "
+                                      "place for it."});
 }
 
 void PrintingTest::refusedJobIsReported() {
