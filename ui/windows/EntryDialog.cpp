@@ -4,11 +4,14 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <tuple>
 #include <utility>
 
 #include "ui/windows/FormGuard.h"
 #include "ui/windows/FormParts.h"
+#include "ui/windows/ScrolledForm.h"
+#include "ui/windows/WindowPlace.h"
 
 namespace Ledgrove {
 
@@ -41,6 +44,18 @@ void EntryDialog::keyPressEvent(QKeyEvent* event) {
     default:
         QDialog::keyPressEvent(event);
     }
+}
+
+void EntryDialog::LayOut(QLayout* form, QLayout* buttons) {
+    form->setContentsMargins(0, 0, 0, 0);
+    auto* page = new QWidget;
+    page->setLayout(form);
+    auto* area = new ScrolledForm(page);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->addWidget(area, 1);
+    layout->addLayout(buttons);
+    area->WidenTo(buttons->sizeHint().width());
 }
 
 QLayout* EntryDialog::MakeButtonRow() {

@@ -36,6 +36,9 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override;
 
+    /// Puts the controls of `form`, which scroll on a small screen, above the row of buttons, which stays in
+    /// view.
+    void LayOut(QLayout* form, QLayout* buttons);
     /// The row of buttons `bOK`, `bCancel` and `bHelp`, already connected.
     QLayout* MakeButtonRow();
     void OnClick(QPushButton& button, std::function<void()> action);

@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 
 #include "ui/windows/EntryField.h"
 #include "ui/windows/Identify.h"
@@ -56,13 +55,6 @@ QGridLayout* MakeGrid(QWidget* parent) {
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(6);
     return grid;
-}
-
-void CentreOnScreen(QWidget& window) {
-    window.resize(window.sizeHint());
-    const QRect whole = window.screen()->geometry();
-    window.move(whole.left() + (whole.width() - window.width()) / 2,
-                whole.top() + (whole.height() - window.height()) / 2);
 }
 
 } // namespace Ledgrove

@@ -30,7 +30,4 @@ QPushButton* MakeButton(const char* control, const QString& caption);
 
 QGridLayout* MakeGrid(QWidget* parent);
 
-/// Gives the window its natural size and centres it on its screen.
-void CentreOnScreen(QWidget& window);
-
 } // namespace Ledgrove

@@ -2,14 +2,16 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QScrollArea>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/MainScreenRules.h"
 #include "ui/windows/ChartPlace.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/ResultTable.h"
+#include "ui/windows/ScrolledForm.h"
 #include "ui/windows/WelcomeHint.h"
 
 namespace Ledgrove {
@@ -159,18 +161,19 @@ QWidget* MakeSummary() {
     return panel;
 }
 
-/// A feature's text may have any length. Scrolling keeps a long text from squeezing the rest.
-QScrollArea* MakeScrolled(QWidget* page) {
-    auto* area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidgetResizable(true);
-    area->setMinimumHeight(page->sizeHint().height());
-    area->setWidget(page);
-    // Lets the tab's own background show.
-    page->setAutoFillBackground(false);
-    area->viewport()->setAutoFillBackground(false);
-    return area;
+/// A feature's text may have any length. Scrolling keeps a long text from squeezing the rest; the tab has
+/// room for features of one line.
+class ScrolledPage : public ScrolledForm {
+public:
+    using ScrolledForm::ScrolledForm;
+    QSize minimumSizeHint() const override { return widget()->minimumSizeHint(); }
+};
+
+/// The smallest height of a tab's page at this width.
+int SmallestHeight(const QWidget& page, int width) {
+    const QLayout* layout = page.layout();
+    return layout && layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(width)
+                                                 : page.minimumSizeHint().height();
 }
 
 /// Adds the panel to its tab's page, which keeps its size while the panel is hidden.
@@ -199,7 +202,7 @@ ResultPanels::ResultPanels(QWidget* parent)
         auto* page = new QWidget;
         if (i == moreHome) {
             FillPage(*page, panels[i]);
-            addTab(MakeScrolled(page), mnemonics[i]);
+            addTab(new ScrolledPage(page), mnemonics[i]);
         } else {
             // Adds the page while it is empty, because Qt lays out the first page at once, before its size is
             // known.
@@ -207,6 +210,14 @@ ResultPanels::ResultPanels(QWidget* parent)
             FillPage(*page, panels[i]);
         }
     }
+}
+
+int ResultPanels::heightForWidth(int width) const {
+    int page = 0;
+    for (int i = 0; i < count(); ++i)
+        page = std::max(page, SmallestHeight(*widget(i), width));
+    const int strip = minimumSizeHint().height() - findChild<QStackedWidget*>()->minimumSizeHint().height();
+    return strip + page;
 }
 
 } // namespace Ledgrove

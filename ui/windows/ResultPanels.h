@@ -10,6 +10,11 @@ class ResultPanels : public QTabWidget {
 
 public:
     explicit ResultPanels(QWidget* parent = nullptr);
+
+    /// The smallest height at this width: the charts shrink before the window scrolls.
+    int heightForWidth(int width) const override;
+    /// The height at this width that gives the charts their natural size.
+    int NaturalHeight(int width) const { return QTabWidget::heightForWidth(width); }
 };
 
 } // namespace Ledgrove

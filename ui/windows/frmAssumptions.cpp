@@ -66,11 +66,11 @@ void frmAssumptions::BuildControls() {
     right->addWidget(MakeTaxSchedule(m_record));
     right->addWidget(MakeOtherVariables());
     right->addStretch();
-    right->addLayout(MakeButtonRow());
-    auto* columns = new QHBoxLayout(this);
+    auto* columns = new QHBoxLayout;
     columns->setSpacing(12);
     columns->addLayout(left);
     columns->addLayout(right);
+    LayOut(columns, MakeButtonRow());
 }
 
 void frmAssumptions::BindTaxRows() {

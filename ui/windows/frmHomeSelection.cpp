@@ -92,14 +92,11 @@ void frmHomeSelection::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmHomeSelection::BuildControls() {
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(12);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(18);
     columns->addLayout(MakeHouses(), 1);
     columns->addLayout(MakeAmounts());
-    layout->addLayout(columns, 1);
-    layout->addLayout(MakeButtonRow());
+    LayOut(columns, MakeButtonRow());
 }
 
 QLayout* frmHomeSelection::MakeHouses() {

@@ -20,14 +20,32 @@
 #include "ui/windows/DownPaymentKeys.h"
 #include "ui/windows/EntryField.h"
 #include "ui/windows/FormGuard.h"
-#include "ui/windows/FormParts.h"
 #include "ui/windows/MainInputs.h"
 #include "ui/windows/MainKeys.h"
 #include "ui/windows/Pictures.h"
 #include "ui/windows/ResultPanels.h"
+#include "ui/windows/ScrolledForm.h"
 #include "ui/windows/WelcomeHint.h"
+#include "ui/windows/WindowPlace.h"
 
 namespace Ledgrove {
+
+namespace {
+
+/// The inputs above the tabs. The layout counts the tabs with their smallest height; the natural size does
+/// not.
+class MainContent : public QWidget {
+public:
+    QSize sizeHint() const override {
+        const QSize smallest = QWidget::sizeHint();
+        const auto* panels = findChild<ResultPanels*>();
+        const QMargins margins = layout()->contentsMargins();
+        const int width = smallest.width() - margins.left() - margins.right();
+        return smallest + QSize(0, panels->NaturalHeight(width) - panels->heightForWidth(width));
+    }
+};
+
+} // namespace
 
 frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* parent)
     : QMainWindow(parent)
@@ -53,7 +71,8 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     m_binding = std::make_unique<MainBinding>(m_session.Screen, *this);
     m_downPayment = new DownPaymentKeys(m_session.Screen, *this);
     Refresh();
-    CentreOnScreen(*this);
+    // The menu bar's actions come after the window is shown.
+    CentreOnScreen(*this, fontMetrics().height() + 8);
 }
 
 frmMain::~frmMain() = default;
@@ -78,12 +97,12 @@ void frmMain::PrintHelp(const QTextDocument& document, QWidget& above) {
 }
 
 void frmMain::BuildControls() {
-    auto* content = new QWidget;
+    auto* content = new MainContent;
     auto* layout = new QVBoxLayout(content);
     layout->setSpacing(12);
     layout->addWidget(new MainInputs);
     layout->addWidget(new ResultPanels, 1);
-    setCentralWidget(content);
+    setCentralWidget(new ScrolledForm(content));
 }
 
 void frmMain::ShowPictures() {

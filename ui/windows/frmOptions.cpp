@@ -36,15 +36,14 @@ void frmOptions::accept() {
 }
 
 void frmOptions::BuildControls() {
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(12);
+    auto* layout = new QVBoxLayout;
     auto* group = new HeadedGroup(" Additional Features ");
     QGridLayout* grid = MakeGrid(group);
     AddFeature(*grid, "ecFeat1", "Option &1:", "Option 1");
     AddFeature(*grid, "ecFeat2", "Option &2:", "Option 2");
     layout->addWidget(group);
     layout->addStretch();
-    layout->addLayout(MakeButtonRow());
+    LayOut(layout, MakeButtonRow());
 }
 
 void frmOptions::BindFields() {

@@ -95,7 +95,7 @@ QSize QtChart::sizeHint() const {
 }
 
 QSize QtChart::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 9};
+    return {fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 7};
 }
 
 void QtChart::changeEvent(QEvent* event) {
