@@ -99,6 +99,11 @@ void ResultLabel::Describe() {
 }
 
 QSize ResultLabel::sizeHint() const {
+    const int width = fontMetrics().horizontalAdvance(text()) + 2 * margin();
+    return minimumSizeHint().expandedTo({width, 0});
+}
+
+QSize ResultLabel::minimumSizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     return {metrics.horizontalAdvance(widestUsualFigure) + 2 * margin(), metrics.height()};
 }

@@ -29,8 +29,9 @@ public:
     explicit DecorationLabel(QWidget* parent = nullptr);
 };
 
-/// A right-aligned figure that a recalculation writes. Its width does not depend on the figure, and it keeps
-/// its place while it is hidden. A figure that is too long ends in dots instead of showing only some digits.
+/// A right-aligned figure that a recalculation writes. It keeps its place while it is hidden. All usual
+/// figures have the same width; a longer one gets more where there is room beside it, and otherwise ends in
+/// dots instead of showing only some digits.
 class ResultLabel : public ElidedLabel {
     Q_OBJECT
 
@@ -47,7 +48,7 @@ public:
     void Describe();
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
 
 private:
     const QLabel& m_caption;

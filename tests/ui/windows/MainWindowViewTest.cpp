@@ -22,6 +22,10 @@ QString Name(std::string_view name) {
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
+bool ShowsWhole(const QLabel& figure) {
+    return figure.width() >= figure.fontMetrics().horizontalAdvance(figure.text());
+}
+
 } // namespace
 
 class MainWindowViewTest : public QObject {
@@ -36,6 +40,8 @@ private slots:
     void redIsReadableOnLightAndDark();
     void hiddenTaxLabelsKeepTheLayout();
     void panelsKeepTheirPlaceWhenFiguresGrow();
+    void aLongFigureTakesTheRoomBesideIt();
+    void aLongFigureNarrowsTheChart();
     void tooLongFigureIsElided();
     void longHouseNameDoesNotWidenTheWindow();
     void longFeatureDoesNotNarrowTheOthers();
@@ -152,6 +158,39 @@ void MainWindowViewTest::panelsKeepTheirPlaceWhenFiguresGrow() {
     QCoreApplication::processEvents();
     QCOMPARE(open.Find("lblGMHHome").geometry(), before);
     QCOMPARE(open.Window->size(), window);
+}
+
+void MainWindowViewTest::aLongFigureTakesTheRoomBesideIt() {
+    OpenWindow open;
+    open.Find<ResultPanels>("SSTab1").setCurrentIndex(2);
+    const QSize window = open.Window->size();
+    MainScreen& screen = open.State.Screen;
+    for (Label* label : {&screen.lblNetCashMoTx, &screen.lblExtrasTx, &screen.lblHouseValueStd})
+        label->Text = "$888,888,888,888,888,888";
+    open.Window->Refresh();
+    QCoreApplication::processEvents();
+    for (const char* name : {"lblNetCashMoTx", "lblExtrasTx", "lblHouseValueStd"})
+        QVERIFY2(ShowsWhole(open.Find<QLabel>(name)), name);
+    QCOMPARE(open.Window->size(), window);
+}
+
+void MainWindowViewTest::aLongFigureNarrowsTheChart() {
+    OpenWindow open;
+    open.Window->resize(1041, 654);
+    open.Find<ResultPanels>("SSTab1").setCurrentIndex(1);
+    const auto& figure = open.Find<QLabel>("lblNetCashYr");
+    open.State.Screen.lblNetCashYr.Text = "-$8,888,888,888,888";
+    open.Window->Refresh();
+    QCoreApplication::processEvents();
+    QVERIFY(ShowsWhole(figure));
+    // A chart keeps its smallest width.
+    open.State.Screen.lblNetCashYr.Text = std::string(200, '8');
+    open.Window->Refresh();
+    QCoreApplication::processEvents();
+    QVERIFY(!ShowsWhole(figure));
+    const auto* chart = open.Find("DetlFrame1").findChild<ChartPlace*>();
+    QCOMPARE(chart->width(), chart->minimumSizeHint().width());
+    QCOMPARE(open.Window->size(), QSize(1041, 654));
 }
 
 void MainWindowViewTest::tooLongFigureIsElided() {
