@@ -55,11 +55,10 @@ void FrmPrintOptions::accept() {
 }
 
 void FrmPrintOptions::BuildControls() {
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(12);
+    auto* layout = new QVBoxLayout;
     layout->addWidget(MakeHeaderGroup());
     layout->addStretch();
-    layout->addLayout(MakeButtonRow());
+    LayOut(layout, MakeButtonRow());
 }
 
 QGroupBox* FrmPrintOptions::MakeHeaderGroup() {

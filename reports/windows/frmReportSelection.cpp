@@ -59,13 +59,13 @@ void frmReportSelection::BuildControls() {
     QLabel* help = TextLabel(helpText);
     help->setWordWrap(true);
     help->setMinimumWidth(help->fontMetrics().averageCharWidth() * 52);
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout;
     layout->setSpacing(12);
     layout->addWidget(heading);
     layout->addWidget(help);
     layout->addWidget(MakeBoxes());
     layout->addStretch();
-    layout->addLayout(MakeButtons());
+    LayOut(layout, MakeButtons());
 }
 
 QWidget* frmReportSelection::MakeBoxes() {

@@ -1,0 +1,70 @@
+#include <QPushButton>
+
+#include "PrintDesk.h"
+#include "reports/windows/FrmPrintOptions.h"
+#include "reports/windows/frmReportSelection.h"
+#include "tests/ui/windows/FitTest.h"
+
+using namespace Ledgrove;
+
+namespace {
+
+/// The first of these buttons that is not wholly in view, or "".
+QString HiddenButton(const QWidget& window, std::initializer_list<const char*> buttons) {
+    for (const char* button : buttons) {
+        if (!IsWholeInView(*window.findChild<QPushButton*>(button)))
+            return button;
+    }
+    return {};
+}
+
+void Open(QWidget& window) {
+    window.show();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("the window does not become active");
+}
+
+} // namespace
+
+/// Runs once for each screen; see CMakeLists.txt.
+class ReportFitTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theSelectionFits();
+    void theHeaderFits();
+    void thePreviewFits();
+};
+
+void ReportFitTest::theSelectionFits() {
+    PrintDesk desk;
+    frmReportSelection window(desk.State, desk.Outside, desk.Machine);
+    Open(window);
+    QVERIFY2(IsOnScreen(window), qPrintable(PlaceOf(window)));
+    QCOMPARE(HiddenButton(window, {"cmdReportHeader", "bPrint", "bCancel", "bHelp"}), QString());
+    QVERIFY(!Scrolls(window));
+    QCOMPARE(HiddenStop({&window}), QString());
+}
+
+void ReportFitTest::theHeaderFits() {
+    PrintDesk desk;
+    HeaderOptions record;
+    QVERIFY(!Module1::FillHeaderOptions(record, desk.State));
+    FrmPrintOptions window(record, ReportDesk{desk.State, desk.Outside, desk.Machine});
+    Open(window);
+    QVERIFY2(IsOnScreen(window), qPrintable(PlaceOf(window)));
+    QCOMPARE(HiddenButton(window, {"bOK", "bCancel", "bHelp"}), QString());
+    QVERIFY(!HasRoom({800, 600}) || !Scrolls(window));
+    QCOMPARE(HiddenStop({&window}), QString());
+}
+
+void ReportFitTest::thePreviewFits() {
+    const OpenPreview open(2);
+    QVERIFY2(IsOnScreen(*open.Form), qPrintable(PlaceOf(*open.Form)));
+    QCOMPARE(HiddenButton(*open.Form, {"bChgPage", "bMaxMin", "cmdPrint", "cmdClose"}), QString());
+    QVERIFY(IsWholeInView(open.Find("cboPrinter")));
+    QVERIFY(IsWholeInView(open.Find("bNextPage")));
+}
+
+QTEST_MAIN(ReportFitTest)
+#include "ReportFitTest.moc"
