@@ -54,11 +54,11 @@ void Tighten(QWidget& form, Qt::Orientation direction) {
             TightenBox(*box, direction);
     }
     if (direction == Qt::Horizontal) {
-        const int figure = form.fontMetrics().horizontalAdvance("$8,888,888") + 20;
+        const int figure = form.fontMetrics().horizontalAdvance("$888,888") + 20;
         for (QLineEdit* field : form.findChildren<QLineEdit*>())
             AllowWidth(*field, figure);
         for (QComboBox* list : form.findChildren<QComboBox*>())
-            AllowWidth(*list, figure + 20);
+            AllowWidth(*list, 3 * figure / 2);
     }
     // Layouts keep the sizes of what is in them, and learn of a change only while they are shown.
     for (QLayout* layout : form.findChildren<QLayout*>())

@@ -4,6 +4,7 @@
 
 #include "DialogTest.h"
 #include "FitTest.h"
+#include "ui/windows/HelpWindow.h"
 #include "ui/windows/ResultPanels.h"
 
 using namespace Ledgrove;
@@ -47,6 +48,8 @@ class WindowFitTest : public QObject {
 
 private slots:
     void everyWindowIsOnTheScreen();
+    void everyWindowMayBecomeSmall();
+    void theHelpIsOnTheScreen();
     void buttonsStayInView();
     void theMenuBarStaysInView();
     void everyStopOfTabComesIntoView();
@@ -57,6 +60,21 @@ private slots:
 void WindowFitTest::everyWindowIsOnTheScreen() {
     ForEachWindow(
         [](const FormDriver& open) { QVERIFY2(IsOnScreen(*open.Form), qPrintable(PlaceOf(*open.Form))); });
+}
+
+void WindowFitTest::everyWindowMayBecomeSmall() {
+    // 683 x 384 with the frame: a screen of 1366 x 768 at 200 %
+    ForEachWindow([](const FormDriver& open) {
+        const QSize smallest = open.Form->minimumSizeHint();
+        QVERIFY(smallest.width() <= 683 - 2 - 2);
+        QVERIFY(smallest.height() <= 384 - 30 - 2);
+    });
+}
+
+void WindowFitTest::theHelpIsOnTheScreen() {
+    const HelpWindow help(nullptr);
+    QVERIFY(help.width() <= help.screen()->size().width() - 2 - 2);
+    QVERIFY(help.height() <= help.screen()->size().height() - 30 - 2);
 }
 
 void WindowFitTest::buttonsStayInView() {
