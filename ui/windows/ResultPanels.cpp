@@ -200,15 +200,10 @@ ResultPanels::ResultPanels(QWidget* parent)
     for (int i = 0; i < TabCount; ++i) {
         panels[i]->setObjectName(QString("DetlFrame%1").arg(i));
         auto* page = new QWidget;
-        if (i == moreHome) {
-            FillPage(*page, panels[i]);
-            addTab(new ScrolledPage(page), mnemonics[i]);
-        } else {
-            // Adds the page while it is empty, because Qt lays out the first page at once, before its size is
-            // known.
-            addTab(page, mnemonics[i]);
-            FillPage(*page, panels[i]);
-        }
+        // Adds the page while it is empty, because Qt lays out the first page at once, before its size is
+        // known.
+        addTab(i == moreHome ? new ScrolledPage(page) : page, mnemonics[i]);
+        FillPage(*page, panels[i]);
     }
 }
 

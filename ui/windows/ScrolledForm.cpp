@@ -11,6 +11,8 @@ ScrolledForm::ScrolledForm(QWidget* form, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
+    // A form without a size would be measured now, which takes time, and again before it is shown.
+    form->resize(1, 1);
     setWidget(form);
     // After setWidget, which fills the form's background.
     form->setAutoFillBackground(false);

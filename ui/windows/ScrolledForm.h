@@ -10,7 +10,8 @@ class ScrolledForm : public QScrollArea {
     Q_OBJECT
 
 public:
-    /// Takes `form`, which must have a layout. A control of the form that gets the focus comes into view.
+    /// Takes `form`, which may get its layout and controls later. A control of the form that gets the focus
+    /// comes into view.
     explicit ScrolledForm(QWidget* form, QWidget* parent = nullptr);
 
     /// Makes the natural size at least this wide, as the rest of the window is.

@@ -16,31 +16,24 @@ namespace {
 constexpr int sideEdges = 5;
 constexpr int titleAndBottom = 37;
 
-/// What of the window surrounds its form: margins and the row of buttons.
-QSize Around(const QWidget& window, const ScrolledForm& form) {
-    return window.sizeHint() - form.sizeHint();
-}
-
-bool Scrolls(const ScrolledForm& form, const QSize& view, Qt::Orientation direction) {
-    const QSize needed = form.SizeWithoutScrolling(view.width());
-    return direction == Qt::Horizontal ? needed.width() > view.width() : needed.height() > view.height();
-}
-
-/// The window's natural size if it has this much room.
-QSize NaturalSize(QWidget& window, const QSize& room, int laterHeight) {
-    const auto* form = window.findChild<ScrolledForm*>({}, Qt::FindDirectChildrenOnly);
-    if (!form)
-        return window.sizeHint();
-    const QSize later(0, laterHeight);
-    // The width comes first, because lines wrap in a narrower form.
-    for (const Qt::Orientation direction : {Qt::Horizontal, Qt::Vertical}) {
-        if (Scrolls(*form, room - Around(window, *form) - later, direction))
-            Tighten(window, direction);
-    }
+/// The size of the window if it has this much room.
+QSize SizeIn(QWidget& window, const QSize& room, int laterHeight) {
     QSize natural = window.sizeHint();
-    if (Scrolls(*form, room - Around(window, *form) - later, Qt::Vertical))
+    auto* form = window.findChild<ScrolledForm*>({}, Qt::FindDirectChildrenOnly);
+    const bool fits = natural == natural.boundedTo(room - QSize(0, laterHeight));
+    if (fits || !form)
+        return natural.boundedTo(room);
+    // The margins and the row of buttons are around the form.
+    const QSize view = room - QSize(0, laterHeight) - (natural - form->sizeHint());
+    if (form->SizeWithoutScrolling(view.width()).width() > view.width())
+        Tighten(window, Qt::Horizontal);
+    // Lines wrap in a narrower form, so the height comes second.
+    if (form->SizeWithoutScrolling(view.width()).height() > view.height())
+        Tighten(window, Qt::Vertical);
+    natural = window.sizeHint();
+    if (form->SizeWithoutScrolling(view.width()).height() > view.height())
         natural.rwidth() += form->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    return natural;
+    return natural.boundedTo(room);
 }
 
 } // namespace
@@ -60,8 +53,7 @@ QPoint PlaceWithin(const QRect& available, const QRect& whole, const QSize& wind
 
 void CentreOnScreen(QWidget& window, int laterHeight) {
     const QRect available = window.screen()->availableGeometry();
-    const QSize room = RoomWithin(available);
-    window.resize(NaturalSize(window, room, laterHeight).boundedTo(room));
+    window.resize(SizeIn(window, RoomWithin(available), laterHeight));
     window.move(PlaceWithin(available, window.screen()->geometry(), window.size()));
 }
 

@@ -34,14 +34,16 @@ namespace {
 
 /// The inputs above the tabs. The layout counts the tabs with their smallest height; the natural size does
 /// not.
-class MainContent : public QWidget {
+class MainForm : public ScrolledForm {
 public:
+    using ScrolledForm::ScrolledForm;
     QSize sizeHint() const override {
-        const QSize smallest = QWidget::sizeHint();
-        const auto* panels = findChild<ResultPanels*>();
-        const QMargins margins = layout()->contentsMargins();
-        const int width = smallest.width() - margins.left() - margins.right();
-        return smallest + QSize(0, panels->NaturalHeight(width) - panels->heightForWidth(width));
+        const QLayout& layout = *widget()->layout();
+        const QMargins margins = layout.contentsMargins();
+        const int width = layout.sizeHint().width();
+        const int inputs = findChild<MainInputs*>()->sizeHint().height();
+        const int tabs = findChild<ResultPanels*>()->NaturalHeight(width - margins.left() - margins.right());
+        return {width, margins.top() + inputs + layout.spacing() + tabs + margins.bottom()};
     }
 };
 
@@ -97,12 +99,14 @@ void frmMain::PrintHelp(const QTextDocument& document, QWidget& above) {
 }
 
 void frmMain::BuildControls() {
-    auto* content = new MainContent;
+    auto* content = new QWidget;
+    // Takes the content while it is empty, because Qt would measure all of it.
+    auto* form = new MainForm(content);
     auto* layout = new QVBoxLayout(content);
     layout->setSpacing(12);
     layout->addWidget(new MainInputs);
     layout->addWidget(new ResultPanels, 1);
-    setCentralWidget(new ScrolledForm(content));
+    setCentralWidget(form);
 }
 
 void frmMain::ShowPictures() {
