@@ -18,11 +18,14 @@ QList<QRectF> Candidates(const MarkRoom& room, const QPointF& marker, const Mark
         for (int row = 0; row < mostRows; ++row)
             rows += below ? marker.y() + gap + row * height : marker.y() - gap - (row + 1) * height;
     }
-    rows.insert(1, marker.y() - height / 2);
+    const qreal beside = marker.y() - height / 2;
+    rows.insert(1, qBound(room.Plot.top(), beside, room.Plot.bottom() - height));
     QList<QRectF> places;
     for (const qreal y : rows) {
-        for (const qreal x : {marker.x() - width, marker.x() - width / 2, marker.x(),
-                              marker.x() - width - gap, marker.x() + gap}) {
+        // Beside a steep curve, a label stands free only at some distance.
+        for (const qreal x :
+             {marker.x() - width, marker.x() - width / 2, marker.x(), marker.x() - width - gap,
+              marker.x() + gap, marker.x() - width - 3 * gap, marker.x() + 3 * gap}) {
             const qreal inside = qBound(room.Plot.left() + gap, x, room.Plot.right() - width);
             places += QRectF(QPointF(inside, y), label.Size);
         }
