@@ -30,6 +30,9 @@ constexpr NamedControl inputs[] = {
     {"cboStdMortOption", "Mortgage Option, Base Home"},
     {"cboGMHMortOption", "Mortgage Option, GREENMARK Home"},
     {"chkDoTax0", "Include Taxes in"},
+    // Only files hold these two: they restore how the screen shows the others.
+    {"PctDownConverted", "% Down as dollars, Down Payment"},
+    {"lblHomeName", "House Scenarios"},
 };
 
 } // namespace

@@ -4,7 +4,7 @@
 
 namespace Ledgrove {
 
-/// What messages and screen readers call an input of the main screen: "Sticker Price, Base Home" for
+/// What messages and screen readers call an input of a comparison: "Sticker Price, Base Home" for
 /// "ecStdHome". Empty for a name that is not an input.
 std::string_view InputWords(std::string_view control);
 

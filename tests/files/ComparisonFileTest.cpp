@@ -1,7 +1,9 @@
 #include "app/files/ComparisonFile.h"
 
 #include "FileDesk.h"
+#include "app/batch/InputRecord.h"
 #include "ui/Entry.h"
+#include "ui/InputWords.h"
 #include "ui/MainScreenRules.h"
 
 #include <gmock/gmock.h>
@@ -165,6 +167,11 @@ TEST_F(ComparisonFileTest, AFaultyFileChangesNothing) {
         EXPECT_THAT(*fault, Not(HasSubstr("JSON")));
         EXPECT_EQ(ComparisonText(session.Screen), before);
     }
+}
+
+TEST_F(ComparisonFileTest, EveryInputHasWords) {
+    for (const NamedInput& input : InputTable)
+        EXPECT_NE(InputWords(input.Name), "") << input.Name;
 }
 
 TEST_F(ComparisonFileTest, ALongValueIsShortened) {
