@@ -138,6 +138,35 @@ class Houses(DialogTest):
         self.assertEqual(self.program.text(PRICE_BASE), "")
         self.program.find("label", "Custom")
 
+    def house(self, name):
+        return next(node for node in self.program.all(self.program.find("list")) if node.get_name() == name)
+
+    def wait_closed(self):
+        self.program.window()
+        wait_for(lambda: self.program.find("dialog", HOUSES, missing_ok=True) is None, "House Scenarios closed")
+
+    def test_a_double_click_or_enter_chooses(self):
+        self.open(HOUSES)
+        self.desktop.xdotool("mousemove", *self.program.centre(self.house("The Cedar")))
+        self.desktop.xdotool("click", "--repeat", 2, "--delay", 60, 1)
+        self.wait_closed()
+        self.program.wait_text(PRICE_BASE, "$415,000")
+        self.open(HOUSES)
+        self.program.wait_focus(HOUSES)
+        self.desktop.key("Up", "Return")
+        self.wait_closed()
+        self.program.wait_text(PRICE_BASE, "$340,000")
+        self.program.find("label", "The Birch")
+
+    def test_a_house_is_chosen_although_the_list_cannot_be_saved(self):
+        self.open(HOUSES)
+        self.settings.unlink()
+        self.press("OK")
+        self.assertIn("The list of houses could not be saved. ", self.program.answer()[1])
+        self.wait_closed()
+        self.program.wait_text(PRICE_BASE, "$285,000")
+        self.program.find("label", "The Alder")
+
     def test_cancel_edit_discards_a_bad_entry_without_a_message(self):
         self.open(HOUSES)
         self.press("Edit")
