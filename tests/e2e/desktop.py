@@ -211,7 +211,13 @@ class Program:
         return box.x + box.width // 2, box.y + box.height // 2
 
     def click(self, node):
-        self.desktop.click(*self.centre(node))
+        self.desktop.click(*wait_for(lambda: self._settled(node), "a control that stays where it is"))
+
+    def _settled(self, node):
+        """The centre of the control, once the window manager has placed its window."""
+        before = self.centre(node)
+        time.sleep(0.03)
+        return before if self.centre(node) == before else None
 
     # Reading and typing
 

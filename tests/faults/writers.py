@@ -38,10 +38,11 @@ def turned(lines, old_to_new):
 
 
 TAXED = turned(LINES, {b"TAXCAT=45200,15": b"TAXCAT=50000,16.00", b"TAXCAT=109250,28": b"TAXCAT=99000,29.00"})
-# The three consecutive saves of the assumptions dialog. The dialog hides the high end of the last bracket and keeps it.
+# The assumptions dialog saves its three tables at once. It keeps what nobody changed: here the multipliers, and the high end
+# of the last bracket, which it does not show.
 RETAXED = turned(LINES, {b"TAXCAT=45200,15": b"TAXCAT=45200,15.00", b"TAXCAT=109250,28": b"TAXCAT=109250,28.00"})
 ASSUMED = replaced(RETAXED, ASSUMPTION1=b"1.75", ASSUMPTION2=b"0.45", PVSAVINGS_RATE=b"5.25", PVSAVINGS_TERM=b"15",
-                   PVSAVINGS_FLAG=b"TRUE", YEARS_IN_HOME=b"9", PMI_MULT1=b"0", PMI_MULT2=b"0", PMI_MULT3=b"0", PMI_MULT4=b"0")
+                   PVSAVINGS_FLAG=b"TRUE", YEARS_IN_HOME=b"9")
 LOANED = without(ASSUMED, b"LOANTYPE") + [b"LOANTYPE=1,Conventional,,0.300,0.360,,,,FALSE"]
 OPTIONED = [*replaced(LINES, FEATURE1=b"Sun room"), b"BUILDERNAME=New Builder", b"LOGOFILE=/new.bmp"]
 HEADED = replaced(LINES, FEATURE1=b"Sun room", BUILDERNAME=b"New Builder", LOGOOPTION=b"2", LOGOFILE=b"/new.bmp")
@@ -103,7 +104,7 @@ def all_writers(fault_writer, ledgrove_cli, save_program=None):
         Writer("cli set", [ledgrove_cli, "settings", "--folder", "FOLDER", "set", "BUILDERNAME", "New Builder"],
                [OLD, joined(NAMED)], restore=restore),
         window("taxes", TAXED),
-        window("assumptions", RETAXED, ASSUMED, LOANED),
+        window("assumptions", LOANED),
         window("options", OPTIONED),
         window("header", HEADED),
         window("open-houses", OPENED),
