@@ -3,6 +3,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <algorithm>
+#include <cmath>
 
 #include "ui/windows/ScrolledForm.h"
 #include "ui/windows/TightForm.h"
@@ -16,9 +17,13 @@ namespace {
 constexpr int sideEdges = 5;
 constexpr int titleAndBottom = 37;
 
+QSize NaturalSize(const QWidget& window) {
+    return SizeAtScale(window.sizeHint(), window.devicePixelRatioF());
+}
+
 /// The size of the window if it has this much room.
 QSize SizeIn(QWidget& window, const QSize& room, int laterHeight) {
-    QSize natural = window.sizeHint();
+    QSize natural = NaturalSize(window);
     auto* form = window.findChild<ScrolledForm*>({}, Qt::FindDirectChildrenOnly);
     const bool fits = natural == natural.boundedTo(room - QSize(0, laterHeight));
     if (fits || !form)
@@ -30,7 +35,7 @@ QSize SizeIn(QWidget& window, const QSize& room, int laterHeight) {
     // Lines wrap in a narrower form, so the height comes second.
     if (form->SizeWithoutScrolling(view.width()).height() > view.height())
         Tighten(window, Qt::Vertical);
-    natural = window.sizeHint();
+    natural = NaturalSize(window);
     if (form->SizeWithoutScrolling(view.width()).height() > view.height())
         natural.rwidth() += form->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     return natural.boundedTo(room);
@@ -40,6 +45,10 @@ QSize SizeIn(QWidget& window, const QSize& room, int laterHeight) {
 
 QSize RoomWithin(const QRect& available) {
     return available.size() - QSize(2 * sideEdges, titleAndBottom);
+}
+
+QSize SizeAtScale(const QSize& hint, qreal scale) {
+    return scale == std::floor(scale) ? hint : hint + QSize(1, 1);
 }
 
 QPoint PlaceWithin(const QRect& available, const QRect& whole, const QSize& window) {

@@ -52,6 +52,7 @@ private slots:
     void aWindowGoesToTheMiddle_data();
     void aWindowGoesToTheMiddle();
     void roomLeavesTheFrame();
+    void aFractionalScaleGetsOnePixelMore();
     void focusBringsAFieldIntoView();
     void aWideControlShowsItsBeginning();
     void aTabStripComesWithItsPage();
@@ -93,6 +94,14 @@ void WindowPlaceTest::aWindowGoesToTheMiddle() {
 void WindowPlaceTest::roomLeavesTheFrame() {
     // 5 on each side, 37 for the title bar and the lower edge
     QCOMPARE(RoomWithin({0, 0, 800, 600}), QSize(790, 563));
+}
+
+// 401 x 1.5 = 601.5 pixels of the screen; 601 of them would be 400.7.
+void WindowPlaceTest::aFractionalScaleGetsOnePixelMore() {
+    QCOMPARE(SizeAtScale({401, 301}, 1.5), QSize(402, 302));
+    QCOMPARE(SizeAtScale({401, 301}, 1.25), QSize(402, 302));
+    QCOMPARE(SizeAtScale({401, 301}, 1), QSize(401, 301));
+    QCOMPARE(SizeAtScale({401, 301}, 2), QSize(401, 301));
 }
 
 void WindowPlaceTest::focusBringsAFieldIntoView() {

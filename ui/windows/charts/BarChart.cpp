@@ -23,14 +23,15 @@ QAbstractBarSeries* MakeBars(ChartKind kind, QObject* parent) {
 BarChart::BarChart(ChartKind kind, QWidget* parent)
     : QtChart(parent)
     , m_bars(MakeBars(kind, this))
-    , m_homes(new QBarCategoryAxis(this)) {
+    , m_homes(new QBarCategoryAxis(this))
+    , m_hasLegendBeside(kind == ChartKind::MonthlyCost) {
     m_bars->setBarWidth(kind == ChartKind::MonthlyCost ? 0.6 : 0.7);
     Chart().addSeries(m_bars);
     AddAxes(m_homes, Qt::AlignBottom, Qt::AlignLeft);
     m_homes->setGridLineVisible(false);
     m_homes->setTruncateLabels(false);
     // Six names do not fit next to each other.
-    Chart().legend()->setAlignment(kind == ChartKind::MonthlyCost ? Qt::AlignRight : Qt::AlignBottom);
+    Chart().legend()->setAlignment(m_hasLegendBeside ? Qt::AlignRight : Qt::AlignBottom);
 }
 
 void BarChart::Draw(const ChartFigures& figures) {
@@ -48,7 +49,10 @@ void BarChart::Draw(const ChartFigures& figures) {
                 m_sets[i]->replace(home, value);
         }
     }
-    ShowCategories(figures);
+    m_names.clear();
+    for (const std::string& home : figures.Categories)
+        m_names += QString::fromStdString(home);
+    ShowCategories();
 }
 
 /// The last series can come and go: "Tax Savings" does with the taxes.
@@ -66,11 +70,30 @@ void BarChart::FitSets(std::size_t count) {
     Recolour();
 }
 
-void BarChart::ShowCategories(const ChartFigures& figures) {
-    if (m_homes->count() > 0)
+/// Whether the homes' names do not fit side by side between the axis and the legend.
+bool BarChart::IsNarrow() const {
+    int needed = fontMetrics().horizontalAdvance("$200,000  ");
+    for (const QString& name : m_names)
+        needed += fontMetrics().horizontalAdvance(name + "   ");
+    if (m_hasLegendBeside)
+        needed += fontMetrics().horizontalAdvance("Principal and Interest      ");
+    return width() < needed;
+}
+
+void BarChart::ShowCategories() {
+    QStringList shown = m_names;
+    // In two lines, the axis would otherwise leave a name out.
+    if (IsNarrow())
+        shown.replaceInStrings(" ", "<br>");
+    if (m_homes->categories() == shown)
         return;
-    for (const std::string& home : figures.Categories)
-        m_homes->append(QString::fromStdString(home));
+    m_homes->clear();
+    m_homes->append(shown);
+}
+
+void BarChart::resizeEvent(QResizeEvent* event) {
+    QtChart::resizeEvent(event);
+    ShowCategories();
 }
 
 void BarChart::Recolour() {

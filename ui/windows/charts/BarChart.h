@@ -20,14 +20,18 @@ public:
 protected:
     void Draw(const ChartFigures& figures) override;
     void Recolour() override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void FitSets(std::size_t count);
-    void ShowCategories(const ChartFigures& figures);
+    void ShowCategories();
+    bool IsNarrow() const;
 
     QAbstractBarSeries* m_bars;
     QBarCategoryAxis* m_homes;
     std::vector<QBarSet*> m_sets;
+    bool m_hasLegendBeside;
+    QStringList m_names;
 };
 
 } // namespace Ledgrove

@@ -65,7 +65,7 @@ public:
 
 private:
     bool IsFree(const QRectF& place) const {
-        constexpr qreal markerRadius = 6;
+        constexpr qreal markerRadius = 7.5;
         const bool meetsLabel = std::any_of(Places.begin(), Places.end(), [&place](const QRectF& other) {
             return other.intersects(place.adjusted(-4, 0, 4, 0));
         });

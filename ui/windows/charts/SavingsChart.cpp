@@ -28,6 +28,8 @@ SavingsChart::SavingsChart(QWidget* parent)
     years->setGridLineVisible(false);
     years->setRange(0, ChartYears + 0.5);
     AddAxes(years, Qt::AlignBottom, Qt::AlignLeft);
+    // Half of the last year's number stands to the right of the plot.
+    Chart().setMargins({0, 0, fontMetrics().averageCharWidth(), 0});
     Chart().legend()->hide();
     connect(&Chart(), &QChart::plotAreaChanged, this, &SavingsChart::PlaceTexts);
 }
