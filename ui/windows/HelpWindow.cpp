@@ -1,6 +1,5 @@
 #include "ui/windows/HelpWindow.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -16,6 +15,7 @@
 #include "ui/windows/HelpSearch.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/Labels.h"
+#include "ui/windows/QtHost.h"
 
 namespace Ledgrove {
 
@@ -217,7 +217,7 @@ HelpPrinter* HelpWindow::Printer() const {
 }
 
 QWidget* ActiveForm() {
-    QWidget* active = QApplication::activeWindow();
+    QWidget* active = FrontWindow();
     while (qobject_cast<HelpWindow*>(active))
         active = active->parentWidget();
     return active;

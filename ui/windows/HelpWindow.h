@@ -68,7 +68,7 @@ private:
     QLabel* m_status;
 };
 
-/// The active window, or the window below the help if the help is active. A dialog opens above this window,
+/// The window in front, or the window below the help if that is the help. A dialog opens above this window,
 /// because it would block the help as its own parent.
 QWidget* ActiveForm();
 

@@ -29,9 +29,22 @@ QString LinesOf(const std::string& text) {
 
 } // namespace
 
+QWidget* FrontWindow() {
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const bool isMain = window->windowType() == Qt::Window && !window->parentWidget();
+        if (isMain && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
 MessageAnswer QtHost::ShowMessage(const Message& message) {
     const bool asks = message.Buttons == MessageButtons::YesNo;
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(FrontWindow());
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(QString::fromStdString(message.Title));
     box.setText(LinesOf(message.Text));

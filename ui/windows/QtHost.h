@@ -5,7 +5,13 @@
 
 #include "engine/Host.h"
 
+class QWidget;
+
 namespace Ledgrove {
+
+/// The window in front, above which a message or dialog opens. No window is active right after a message box
+/// has closed; then this is the modal dialog, or else the main window. Null if no window is shown.
+QWidget* FrontWindow();
 
 /// Shows messages in message boxes and processes Qt's events.
 class QtHost : public Host {

@@ -40,6 +40,7 @@ private slots:
     void carriageReturnsAreLineBreaks();
     void markupIsShownAsPlainText();
     void yesNoGivesTheAnswer();
+    void theWindowBelowAClosedMessageBoxIsInFront();
     void pendingEventsRun();
     void refreshingHostShowsTheRecordFirst();
 };
@@ -88,6 +89,17 @@ void QtHostTest::yesNoGivesTheAnswer() {
     QCOMPARE(Answer(question, QMessageBox::Yes, seen), MessageAnswer::Yes);
     QCOMPARE(seen.Buttons, QMessageBox::Yes | QMessageBox::No);
     QCOMPARE(Answer(question, QMessageBox::No, seen), MessageAnswer::No);
+}
+
+void QtHostTest::theWindowBelowAClosedMessageBoxIsInFront() {
+    QWidget window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    Seen seen;
+    Answer({"Title", "Text"}, QMessageBox::Ok, seen);
+    // Without a window manager, no window is active now. With one, that takes a moment.
+    QVERIFY(!QApplication::activeWindow());
+    QCOMPARE(FrontWindow(), &window);
 }
 
 void QtHostTest::pendingEventsRun() {
