@@ -150,6 +150,15 @@ class Hands(unittest.TestCase):
             self.desktop.key("Return")
             wait_for(lambda: self.program.text(INCOME) == "$70,000", "the entry")
 
+    def test_a_middle_click_pastes_over_the_whole_figure(self):
+        self.enter(INCOME, "55000")
+        self.go(INCOME)
+        wait_for(lambda: self.program.selection(INCOME) == "$55,000", "the whole text selected")
+        self.desktop.xdotool("click", 2)
+        self.desktop.key("Return")
+        wait_for(lambda: self.program.text(INCOME) == "$55,000", "the pasted figure")
+        self.assertIsNone(self.program.open_box())
+
     def test_the_tax_grid_selects_on_entering_by_click(self):
         self.program.click(self.program.find("push button", "Financial Assumptions"))
         self.program.window("Financial Assumptions")

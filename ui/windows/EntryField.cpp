@@ -1,5 +1,6 @@
 #include "ui/windows/EntryField.h"
 
+#include <QClipboard>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -147,11 +148,23 @@ void EntryField::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void EntryField::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton)
+        return PasteOver();
     const bool selected = std::exchange(m_selectsByPress, false);
     QLineEdit::mouseReleaseEvent(event);
     const bool isClick = event->button() == Qt::LeftButton && !selected && !IsDrag(*event);
     if (isClick && hasFocus() && m_events.Click)
         m_events.Click();
+}
+
+/// The middle button pastes the text that is selected anywhere. Like typing, it replaces the whole text.
+void EntryField::PasteOver() {
+    const QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (isReadOnly() || !clipboard.supportsSelection())
+        return;
+    const QString pasted = clipboard.text(QClipboard::Selection);
+    selectAll();
+    insert(pasted);
 }
 
 void EntryField::mouseDoubleClickEvent(QMouseEvent* event) {

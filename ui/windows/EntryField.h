@@ -68,6 +68,7 @@ protected:
 private:
     bool Commit(KeyCode key);
     void ForgetOtherEntries();
+    void PasteOver();
     bool IsDrag(const QMouseEvent& event) const;
 
     const Field* m_field = nullptr;
