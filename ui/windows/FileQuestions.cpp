@@ -1,10 +1,12 @@
 #include "ui/windows/FileQuestions.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include "base/FileKind.h"
 #include "engine/Host.h"
 
 namespace Ledgrove {
@@ -31,7 +33,9 @@ QString AskSaveName(QWidget& above, const FileRequest& request) {
     if (typed.isEmpty())
         return {};
     const QString name = WithSuffix(typed, request.Suffix);
-    return QFileInfo::exists(name) && !MayReplace(above, name) ? QString() : name;
+    // The save refuses a folder or a pipe of this name.
+    const bool isFile = NotAFile(QFile::encodeName(name).toStdString()).empty();
+    return QFileInfo::exists(name) && isFile && !MayReplace(above, name) ? QString() : name;
 }
 
 SaveAnswer AskUnsaved(QWidget& above, const QString& name) {
