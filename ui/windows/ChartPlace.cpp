@@ -56,7 +56,7 @@ QSize ChartPlace::sizeHint() const {
 }
 
 QSize ChartPlace::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 7};
+    return {fontMetrics().averageCharWidth() * 42, fontMetrics().height() * 7};
 }
 
 void ChartPlace::TakeChart() {

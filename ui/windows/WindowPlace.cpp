@@ -30,8 +30,12 @@ QSize SizeIn(QWidget& window, const QSize& room, int laterHeight) {
         return natural.boundedTo(room);
     // The margins and the row of buttons are around the form.
     const QSize view = room - QSize(0, laterHeight) - (natural - form->sizeHint());
-    if (form->SizeWithoutScrolling(view.width()).width() > view.width())
-        Tighten(window, Qt::Horizontal);
+    // Twice at most: further halves are too small to help. A caption may get another digit later.
+    const int laterDigits = 2 * form->fontMetrics().averageCharWidth();
+    for (int pass = 0; pass < 2; ++pass) {
+        if (form->SizeWithoutScrolling(view.width()).width() + laterDigits > view.width())
+            Tighten(window, Qt::Horizontal);
+    }
     // Lines wrap in a narrower form, so the height comes second.
     if (form->SizeWithoutScrolling(view.width()).height() > view.height())
         Tighten(window, Qt::Vertical);

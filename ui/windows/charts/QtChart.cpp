@@ -75,7 +75,8 @@ void QtChart::ShowWords(const ChartFigures& figures) {
     const QString title = QString::fromStdString(figures.Title);
     const QString words = QString::fromStdString(figures.Sentence + ' ' + figures.Numbers);
     const QString note = QString::fromStdString(figures.Note);
-    Chart().setTitle(note.isEmpty() ? title : title + " (" + note + ')');
+    // Beside each other, both would be too wide for a small chart.
+    Chart().setTitle(note.isEmpty() ? title : title + "<br>" + note);
     SetSpokenName(*this, title);
     SetSpokenDescription(*this, words);
     setToolTip("<p>" + words.toHtmlEscaped() + "</p>");
@@ -95,7 +96,7 @@ QSize QtChart::sizeHint() const {
 }
 
 QSize QtChart::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 7};
+    return {fontMetrics().averageCharWidth() * 42, fontMetrics().height() * 7};
 }
 
 void QtChart::changeEvent(QEvent* event) {
