@@ -48,7 +48,7 @@ TEST_F(JsonTextTest, HasItsPartsInOrder) {
 TEST_F(JsonTextTest, TheFieldsAreTheTextsOfTheInputs) {
     const rapidjson::Document result = ResultOf({{Input::ecIncome, "72000"}, {Input::chkDoTax0, "false"}});
     const auto& fields = result["fields"];
-    // The controls; the inputs after them only tell how a saved screen was entered.
+    // The controls. The inputs after them say only how a saved screen was entered.
     const auto controls = std::span(InputTable).first(std::size(InputTable) - 2);
     EXPECT_EQ(fields.MemberCount(), controls.size());
     for (const NamedInput& input : controls)

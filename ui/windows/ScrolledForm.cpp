@@ -17,8 +17,13 @@ ScrolledForm::ScrolledForm(QWidget* form, QWidget* parent)
     // After setWidget, which fills the form's background.
     form->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget* /*old*/, QWidget* now) { BringIntoView(now); });
+    m_focusChanges = connect(qApp, &QApplication::focusChanged, this,
+                             [this](QWidget* /*old*/, QWidget* now) { BringIntoView(now); });
+}
+
+ScrolledForm::~ScrolledForm() {
+    // The form's controls are deleted after this object's own part, and the focus moves among them.
+    disconnect(m_focusChanges);
 }
 
 QSize ScrolledForm::SizeWithoutScrolling(int width) const {

@@ -13,6 +13,7 @@ public:
     /// Takes `form`, which may get its layout and controls later. A control of the form that gets the focus
     /// comes into view.
     explicit ScrolledForm(QWidget* form, QWidget* parent = nullptr);
+    ~ScrolledForm() override;
 
     /// Makes the natural size at least this wide, as the rest of the window is.
     void WidenTo(int width) { m_leastWidth = width; }
@@ -30,6 +31,7 @@ private:
     void BringIntoView(QWidget* control);
 
     int m_leastWidth = 0;
+    QMetaObject::Connection m_focusChanges;
 };
 
 } // namespace Ledgrove
