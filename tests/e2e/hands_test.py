@@ -159,6 +159,16 @@ class Hands(unittest.TestCase):
         wait_for(lambda: self.program.text(INCOME) == "$55,000", "the pasted figure")
         self.assertIsNone(self.program.open_box())
 
+    def test_a_middle_click_without_a_selection_keeps_the_figure(self):
+        self.desktop.type("55000")
+        self.desktop.key("Return")
+        self.program.wait_text(INCOME, "$55,000")
+        self.desktop.xdotool("mousemove", *self.program.centre(self.program.field(INCOME)), "click", 2)
+        self.program.wait_focus(INCOME)
+        self.desktop.key("Return")
+        self.program.wait_focus(DEBT)
+        self.assertEqual(self.program.text(INCOME), "$55,000")
+
     def test_the_tax_grid_selects_on_entering_by_click(self):
         self.program.click(self.program.find("push button", "Financial Assumptions"))
         self.program.window("Financial Assumptions")

@@ -148,9 +148,9 @@ void EntryField::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void EntryField::mouseReleaseEvent(QMouseEvent* event) {
+    const bool selected = std::exchange(m_selectsByPress, false);
     if (event->button() == Qt::MiddleButton)
         return PasteOver();
-    const bool selected = std::exchange(m_selectsByPress, false);
     QLineEdit::mouseReleaseEvent(event);
     const bool isClick = event->button() == Qt::LeftButton && !selected && !IsDrag(*event);
     if (isClick && hasFocus() && m_events.Click)
@@ -163,6 +163,8 @@ void EntryField::PasteOver() {
     if (isReadOnly() || !clipboard.supportsSelection())
         return;
     const QString pasted = clipboard.text(QClipboard::Selection);
+    if (pasted.isEmpty())
+        return;
     selectAll();
     insert(pasted);
 }
