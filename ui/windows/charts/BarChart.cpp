@@ -74,7 +74,7 @@ void BarChart::FitSets(std::size_t count) {
 bool BarChart::IsNarrow() const {
     int needed = fontMetrics().horizontalAdvance("$200,000  ");
     for (const QString& name : m_names)
-        needed += fontMetrics().horizontalAdvance(name + "   ");
+        needed += fontMetrics().horizontalAdvance(name) + 4 * fontMetrics().averageCharWidth();
     if (m_hasLegendBeside)
         needed += fontMetrics().horizontalAdvance("Principal and Interest      ");
     return width() < needed;
