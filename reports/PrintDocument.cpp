@@ -48,6 +48,7 @@ TextStyle PrintDocument::CurrentStyle() const {
 
 void PrintDocument::Start() {
     m_pages.clear();
+    m_bookmarks.clear();
     m_state = State::Open;
     NewPage();
 }
@@ -67,7 +68,8 @@ bool PrintDocument::NewPage() {
     m_pages.emplace_back();
     m_picturesOnPage.clear();
     m_openLine.clear();
-    m_frameOpen = false;
+    m_table.reset();
+    m_covered = 0;
     CurrentX = Geometry.MarginLeft;
     CurrentY = Geometry.MarginTop;
     return true;
@@ -120,6 +122,7 @@ void PrintDocument::PlaceOnLine(std::string_view text) {
     CurrentPage().push_back(
         TextRun{x, CurrentY, CurrentY + m_measure.Ascent(style), width, std::string(text), style});
     CurrentX = x + width;
+    Covers(CurrentY + m_measure.LineHeight(style));
     if (TextAlign == 1)
         CentreOpenLine();
 }
@@ -162,11 +165,8 @@ bool PrintDocument::Paragraph(std::string_view text) {
         return false;
     if (m_openLineTop != CurrentY)
         m_openLine.clear();
-    // Blank text only ends the line, but an empty line also needs space.
     if (!IsBlank(text))
         Text(text);
-    else if (m_openLine.empty())
-        MakeRoom(m_measure.LineHeight(CurrentStyle()));
     EndLine();
     return true;
 }
@@ -175,6 +175,7 @@ bool PrintDocument::DrawRectangle(const PrintBox& box) {
     if (m_state != State::Open)
         return false;
     CurrentPage().push_back(FilledRectangle{box, BrushColor});
+    Covers(box.Y2);
     return true;
 }
 
@@ -183,7 +184,30 @@ bool PrintDocument::Picture(const std::filesystem::path& file, const PrintBox& b
         return false;
     CurrentPage().push_back(PlacedPicture{box, file});
     m_picturesOnPage.push_back(box);
+    Covers(box.Y2);
     return true;
+}
+
+bool PrintDocument::AddBookmark(std::string_view title) {
+    if (m_state != State::Open)
+        return false;
+    m_bookmarks.push_back({std::string(title), PageCount(), CurrentY});
+    return true;
+}
+
+void PrintDocument::Covers(Twips bottom) {
+    m_covered = std::max(m_covered, bottom);
+}
+
+Twips PrintDocument::HeightOf(const std::function<void(PrintDocument& trial)>& write) const {
+    constexpr Twips endless = 1'000'000'000;
+    PrintDocument trial(m_measure);
+    trial.PrintAttributes::operator=(*this);
+    trial.Geometry.PageHeight = endless;
+    trial.Start();
+    const Twips top = trial.CurrentY;
+    write(trial);
+    return std::max(trial.m_covered - top, 0);
 }
 
 void PrintDocument::AddFooter(PrintPage& page, std::size_t number) const {

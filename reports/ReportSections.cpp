@@ -51,6 +51,7 @@ void WriteHeads(PrintDocument& document, SheetKind kind) {
 void WriteCashFlow(PrintDocument& document, const ReportContent& content) {
     const MainScreen& screen = content.State.Screen;
     BeginSectionBody(document);
+    document.BeginTable();
     WriteTitleBar(document, "GREENMARK - More Value For Less Cost");
     WriteHeads(document, SheetKind::CashFlow);
     document.FontBold = false;
@@ -58,6 +59,7 @@ void WriteCashFlow(PrintDocument& document, const ReportContent& content) {
     document.AddTable(ThreeColumns, "", RowsOf(SheetKind::CashFlow, RowWeight::Plain, screen) + ";");
     document.FontBold = true;
     document.AddTable(ThreeColumns, "", RowsOf(SheetKind::CashFlow, RowWeight::Total, screen));
+    document.EndTable();
     document.Paragraph("");
 }
 
@@ -65,6 +67,7 @@ void WriteSummary(PrintDocument& document, const ReportContent& content) {
     constexpr std::string_view wideSecond = "1440|>3780|>2340;";
     const MainScreen& screen = content.State.Screen;
     BeginSectionBody(document);
+    document.BeginTable();
     WriteTitleBar(document, "Summary");
     WriteHeads(document, SheetKind::SummaryHomes);
     document.FontBold = false;
@@ -80,12 +83,14 @@ void WriteSummary(PrintDocument& document, const ReportContent& content) {
     document.AddTable(wideSecond, "", rows);
     if (screen.lblPVNote.Visible)
         WriteNote(document, screen.lblPVNote.Text);
+    document.EndTable();
     document.Paragraph("");
 }
 
 void WriteBuyMoreHome(PrintDocument& document, const ReportContent& content) {
     const MainScreen& screen = content.State.Screen;
     BeginSectionBody(document);
+    document.BeginTable();
     WriteTitleBar(document, "Buy More Home");
     document.FontBold = false;
     // The first row stays empty for spacing.
@@ -95,12 +100,14 @@ void WriteBuyMoreHome(PrintDocument& document, const ReportContent& content) {
     document.AddTable("3860|>1100|<2600;", "",
                       rows + ";For the same monthly cost, consider these:|Option 1|" +
                           Money(screen.lblfeature1) + "; |Option 2|" + Money(screen.lblfeature2) + ";;");
+    document.EndTable();
     document.Paragraph("");
 }
 
 void WriteAffordability(PrintDocument& document, const ReportContent& content) {
     const MainScreen& screen = content.State.Screen;
     BeginSectionBody(document);
+    document.BeginTable();
     WriteTitleBar(document, "GREENMARK Qualified Homes are Affordable");
     WriteHeads(document, SheetKind::Affordability);
     document.FontBold = false;
@@ -109,6 +116,7 @@ void WriteAffordability(PrintDocument& document, const ReportContent& content) {
                           RowsOf(SheetKind::Affordability, RowWeight::Total, screen));
     WriteNote(document,
               "*Ledgrove only provides estimates & does not account for LTV - check with your bank");
+    document.EndTable();
 }
 
 namespace {
@@ -122,8 +130,10 @@ void WriteAssumedValues(PrintDocument& document, const ReportContent& content) {
                           CellText(dialog.ecInsurancePct.Text) + "|;Anticipated Years in Home|" +
                           CellText(dialog.ecYrsInHome.Text) +
                           "|;Calculated Value of Energy Efficiency Upgrade|" + upgrade + "|;;");
-    if (!dialog.optUsePVVars)
-        return;
+}
+
+void WritePVVariables(PrintDocument& document, const AssumptionsScreen& dialog) {
+    document.AllowBreak();
     document.AddTable("7560;", "", "Variables used to calculate the PV of the energy savings");
     document.AddTable("1880|^1340|^4340;", "",
                       "Rate|" + CellText(dialog.ecPV_Rate.Text) + "|;Term|" +
@@ -131,6 +141,7 @@ void WriteAssumedValues(PrintDocument& document, const ReportContent& content) {
 }
 
 void WriteMultipliers(PrintDocument& document, const AssumptionsScreen& dialog) {
+    document.AllowBreak();
     std::string steps;
     for (std::size_t row = 0; row < PMIRowCount; ++row)
         steps += std::string(PctDown_LessThan[row]) + "|" + CellText(dialog.PMI_Multiplier[row].Text) + "| ;";
@@ -139,6 +150,7 @@ void WriteMultipliers(PrintDocument& document, const AssumptionsScreen& dialog) 
 
 void WriteRatios(PrintDocument& document, const AssumptionsScreen& dialog) {
     constexpr std::string_view format = "2880|^2340|^2340;";
+    document.AllowBreak();
     document.FontBold = true;
     document.AddTable(format, "Mortgage|Front End Ratio|Back End Ratio", "");
     document.FontBold = false;
@@ -149,15 +161,29 @@ void WriteRatios(PrintDocument& document, const AssumptionsScreen& dialog) {
     document.AddTable(format, "", rows);
 }
 
-} // namespace
-
-void WriteFinancialAssumptions(PrintDocument& document, const ReportContent& content) {
+/// Opens the section's table with its title bar and first rows.
+void BeginAssumptions(PrintDocument& document, const ReportContent& content) {
     BeginSectionBody(document);
+    document.BeginTable();
     WriteTitleBar(document, "Financial Assumptions");
     document.FontBold = false;
     WriteAssumedValues(document, content);
+}
+
+} // namespace
+
+void WriteFirstAssumptions(PrintDocument& document, const ReportContent& content) {
+    BeginAssumptions(document, content);
+    document.EndTable();
+}
+
+void WriteFinancialAssumptions(PrintDocument& document, const ReportContent& content) {
+    BeginAssumptions(document, content);
+    if (content.Assumptions.optUsePVVars)
+        WritePVVariables(document, content.Assumptions);
     WriteMultipliers(document, content.Assumptions);
     WriteRatios(document, content.Assumptions);
+    document.EndTable();
     document.Paragraph("");
 }
 

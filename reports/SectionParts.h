@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/PrintDocument.h"
+#include "reports/modPrint.h"
 
 #include <initializer_list>
 #include <string_view>
@@ -19,6 +19,9 @@ void WriteTitleBar(PrintDocument& document, std::string_view title);
 
 /// The cells as one complete row of the table language.
 std::string Row(std::initializer_list<std::string_view> cells);
+
+/// Writes only the title bar and the first rows of the Financial Assumptions section.
+void WriteFirstAssumptions(PrintDocument& document, const ReportContent& content);
 
 /// Writes a small note as a table of one row.
 void WriteNote(PrintDocument& document, std::string_view note);

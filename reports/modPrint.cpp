@@ -1,7 +1,10 @@
 #include "reports/modPrint.h"
 
+#include "base/Text.h"
 #include "engine/NumberText.h"
 #include "reports/SectionParts.h"
+
+#include <functional>
 
 namespace Ledgrove {
 
@@ -25,23 +28,11 @@ namespace Ledgrove::modPrint {
 
 namespace {
 
-constexpr Twips pictureWidth = TwipsPerInch + TwipsPerInch / 8 + TwipsPerInch / 5;
-constexpr Twips pictureHeight = TwipsPerInch + TwipsPerInch / 8;
-constexpr Twips pictureTop = TwipsPerInch / 2;
 constexpr Twips bannerHeight = 360;
-
-void WritePictures(PrintDocument& document, const ReportContent& content) {
-    const PageGeometry& page = document.Geometry;
-    if (!content.Emblem.empty())
-        document.Picture(content.Emblem, {page.MarginLeft, pictureTop, page.MarginLeft + pictureWidth,
-                                          pictureTop + pictureHeight});
-    const Twips right = page.PageWidth - page.MarginRight;
-    if (!content.Logo.empty())
-        document.Picture(content.Logo, {right - pictureWidth, pictureTop, right, pictureTop + pictureHeight});
-}
 
 void BeginBanner(PrintDocument& document, std::string_view title) {
     const PageGeometry& page = document.Geometry;
+    document.AddBookmark(Trimmed(title));
     document.FontSize = 12;
     document.BrushColor = PrintGrey;
     document.DrawRectangle({page.MarginLeft, document.CurrentY, page.PageWidth - page.MarginRight,
@@ -52,115 +43,16 @@ void BeginBanner(PrintDocument& document, std::string_view title) {
     document.Text(title);
 }
 
-/// Writes a row of bold labels and, on the same line, its figures in regular weight.
-void WriteTwoPasses(PrintDocument& document, std::string_view format, std::string_view labels,
-                    std::string_view values) {
-    const Twips line = document.CurrentY;
-    document.FontBold = true;
-    document.AddTable(format, "", labels);
-    document.CurrentY = line;
-    document.FontBold = false;
-    document.AddTable(format, "", values);
+using Writer = std::function<void(PrintDocument&)>;
+
+/// Starts a new page if `write` fits there but not on the rest of this one.
+void MakeRoomFor(PrintDocument& document, const Writer& write) {
+    const Twips height = document.HeightOf(write);
+    if (height > document.Room() && height <= document.PageRoom())
+        document.NewPage();
 }
 
-void BeginPlainTables(PrintDocument& document) {
-    document.BrushColor = PrintBlack;
-    document.FontSize = 9;
-    document.FontName = "Arial";
-    document.TextColor = PrintBlack;
-    document.TextAlign = 0;
-    document.TableBorder = 0;
-    document.FontBold = true;
-    document.FontUnderline = false;
-}
-
-/// Puts figures into the third and fifth of six columns.
-std::string InColumns(std::string_view third, std::string_view fifth) {
-    std::string row("||");
-    return row.append(third).append("||").append(fifth).append("|");
-}
-
-void BeginLaterSection(PrintDocument& document, std::string_view title) {
-    document.Paragraph("");
-    WriteBanner(document, title);
-}
-
-} // namespace
-
-void WriteReport(PrintDocument& document, const ReportContent& content) {
-    WriteTitleBlock(document, content);
-    document.Paragraph(" ");
-    BeginBanner(document, "  Home Buyer Financial Information");
-    document.Paragraph(" ");
-    document.Paragraph(" ");
-    WriteHomeBuyerTable(document, content);
-    WriteFinancialTable(document, content);
-    if (content.Sections.FinancialAssumptions) {
-        // Intentionally no check for space: this section may continue on more pages.
-        BeginLaterSection(document, "  Financial Assumptions");
-        WriteFinancialAssumptions(document, content);
-    }
-    if (content.Sections.CashFlow) {
-        ContinueHeader(document, 2);
-        BeginLaterSection(document, "  Cash Flow");
-        WriteCashFlow(document, content);
-    }
-    if (content.Sections.MoreHome) {
-        ContinueHeader(document, 2);
-        BeginLaterSection(document, "  More Home");
-        WriteBuyMoreHome(document, content);
-    }
-    if (content.Sections.Affordability) {
-        ContinueHeader(document, 3);
-        BeginLaterSection(document, "  Affordability");
-        WriteAffordability(document, content);
-    }
-    // The summary intentionally comes last, although the selection lists it earlier.
-    if (content.Sections.Summary) {
-        ContinueHeader(document, 3);
-        BeginLaterSection(document, "  Summary");
-        WriteSummary(document, content);
-    }
-}
-
-void WriteTitleBlock(PrintDocument& document, const ReportContent& content) {
-    WritePictures(document, content);
-    document.TextAlign = 1;
-    document.TextColor = PrintBlack;
-    document.FontSize = 16;
-    document.FontBold = false;
-    document.Paragraph("Summary Report for Ledgrove");
-    document.Paragraph("");
-    document.FontSize = 12;
-    document.FontBold = false;
-    document.Text("GREENMARK Qualified Home");
-    document.Paragraph(" ");
-    document.Text("vs.");
-    document.Paragraph("");
-    document.Text("Standard Home");
-    document.Paragraph(" ");
-    document.Paragraph(" ");
-    const ReportHeader& header = content.State.Header;
-    if (!header.BuilderName.empty()) {
-        document.Text("Prepared By:  " + header.BuilderName);
-        document.Paragraph("");
-    }
-    if (!header.HomeBuyer.empty()) {
-        document.Text("Prepared For: " + header.HomeBuyer);
-        document.Paragraph(" ");
-    }
-}
-
-void WriteBanner(PrintDocument& document, std::string_view title) {
-    BeginBanner(document, title);
-    document.Paragraph(" ");
-    document.CurrentY += bannerHeight;
-}
-
-void ContinueHeader(PrintDocument& document, int inches) {
-    if (document.CurrentY + inches * TwipsPerInch < document.Geometry.PageHeight)
-        return;
-    document.NewPage();
+void WriteContinuedHeading(PrintDocument& document) {
     document.TableBorder = 0;
     document.TextAlign = 0;
     document.FontSize = 12;
@@ -172,39 +64,100 @@ void ContinueHeader(PrintDocument& document, int inches) {
     document.TableBorder = 4;
 }
 
-void WriteHomeBuyerTable(PrintDocument& document, const ReportContent& content) {
-    constexpr std::string_view format = "1000|>2160|>1900|>1800|>1700|2000;";
-    const MainScreen& screen = content.State.Screen;
-    BeginPlainTables(document);
-    document.AddTable("1800;", "    Home Buyer", "");
-    const Field& down = screen.optDownPayment == 0 ? screen.ecPctDown : screen.ecFixedDown;
-    WriteTwoPasses(document, format, "|Income||Down Payment|",
-                   InColumns(Pictured(screen.ecIncome.Text, MoneyPicture), CellText(down.Text)));
-    WriteTwoPasses(document, format, "   |Monthly Debt||Expected Years|",
-                   InColumns(Pictured(screen.ecMonthlyDebt.Text, MoneyPicture),
-                             Pictured(content.Assumptions.ecYrsInHome.Text, "#,###")));
+void StartContinuedPage(PrintDocument& document) {
+    document.NewPage();
+    WriteContinuedHeading(document);
 }
 
-void WriteFinancialTable(PrintDocument& document, const ReportContent& content) {
-    constexpr std::string_view format = "1000|>2160|>1900|>1500|>2200|1800;";
-    const MainScreen& screen = content.State.Screen;
-    BeginPlainTables(document);
-    document.Paragraph("");
-    document.AddTable("1800;", "    Financial", "");
-    document.FontUnderline = false;
-    document.AddTable(format, "||Base Home||GREENMARK Home|", "");
-    WriteTwoPasses(document, format, "   |Sticker Price||||",
-                   InColumns(Pictured(screen.ecStdHome.Text, MoneyPicture),
-                             Pictured(screen.ecGMHHome.Text, MoneyPicture)));
-    WriteTwoPasses(document, format, "   |Annual Utility Cost||||",
-                   InColumns(Pictured(screen.ecStdUtil.Text, MoneyPicture),
-                             Pictured(screen.ecGMHUtil.Text, MoneyPicture)));
-    WriteTwoPasses(document, format, "   |Mortgage Type||||",
-                   InColumns(screen.cboStdMortOption.Text(), screen.cboGMHMortOption.Text()));
-    WriteTwoPasses(document, format, "   |Term||||",
-                   InColumns(screen.cboMortTerm.Text(), CellText(screen.ecGMHTerm.Text)));
-    WriteTwoPasses(document, format, "   |Interest Rate||||",
-                   InColumns(CellText(screen.ecStdRate.Text), CellText(screen.ecGMHRate.Text)));
+/// Whether the next section goes beyond the paper, of which all counts, also the margin at the bottom.
+bool ReachesPaperEdge(const PrintDocument& document, int inches) {
+    return document.CurrentY + inches * TwipsPerInch >= document.Geometry.PageHeight;
+}
+
+struct Section {
+    std::string_view Title;
+    int Inches; ///< the least height that it needs
+    void (*Write)(PrintDocument&, const ReportContent&);
+};
+
+/// Writes a section below its banner. If it does not fit the rest of the page but fits on a new one, it is
+/// moved as a whole; a section longer than a page is moved only from the lower half.
+void WriteSection(PrintDocument& document, const Section& section, const ReportContent& content) {
+    const Writer write = [&](PrintDocument& target) {
+        target.Paragraph("");
+        WriteBanner(target, section.Title);
+        section.Write(target, content);
+    };
+    const Twips height = document.HeightOf(write);
+    const bool fitsOnePage = document.PageRoom() >= document.HeightOf([&](PrintDocument& target) {
+        WriteContinuedHeading(target);
+        write(target);
+    });
+    const bool moves = fitsOnePage ? height > document.Room() : document.Room() < document.PageRoom() / 2;
+    if (moves || ReachesPaperEdge(document, section.Inches))
+        StartContinuedPage(document);
+    document.KeepTables = fitsOnePage;
+    write(document);
+    document.KeepTables = true;
+}
+
+constexpr Section sectionCashFlow{"  Cash Flow", 2, WriteCashFlow};
+constexpr Section sectionMoreHome{"  More Home", 2, WriteBuyMoreHome};
+constexpr Section sectionAffordability{"  Affordability", 3, WriteAffordability};
+constexpr Section sectionSummary{"  Summary", 3, WriteSummary};
+
+/// This section is not moved as a whole: its tables may go on different pages.
+void WriteAssumptionsSection(PrintDocument& document, const ReportContent& content) {
+    const Writer begin = [&](PrintDocument& target) {
+        target.Paragraph("");
+        WriteBanner(target, "  Financial Assumptions");
+    };
+    MakeRoomFor(document, [&](PrintDocument& target) {
+        begin(target);
+        WriteFirstAssumptions(target, content);
+    });
+    begin(document);
+    WriteFinancialAssumptions(document, content);
+}
+
+void WriteFirstSection(PrintDocument& document, const ReportContent& content) {
+    BeginBanner(document, "  Home Buyer Financial Information");
+    document.Paragraph(" ");
+    document.Paragraph(" ");
+    WriteHomeBuyerTable(document, content);
+}
+
+} // namespace
+
+void WriteReport(PrintDocument& document, const ReportContent& content) {
+    WriteTitleBlock(document, content);
+    document.Paragraph(" ");
+    const Writer first = [&](PrintDocument& target) { WriteFirstSection(target, content); };
+    MakeRoomFor(document, first);
+    first(document);
+    WriteFinancialTable(document, content);
+    if (content.Sections.FinancialAssumptions)
+        WriteAssumptionsSection(document, content);
+    if (content.Sections.CashFlow)
+        WriteSection(document, sectionCashFlow, content);
+    if (content.Sections.MoreHome)
+        WriteSection(document, sectionMoreHome, content);
+    if (content.Sections.Affordability)
+        WriteSection(document, sectionAffordability, content);
+    // The summary intentionally comes last, although the selection lists it earlier.
+    if (content.Sections.Summary)
+        WriteSection(document, sectionSummary, content);
+}
+
+void WriteBanner(PrintDocument& document, std::string_view title) {
+    BeginBanner(document, title);
+    document.Paragraph(" ");
+    document.CurrentY += bannerHeight;
+}
+
+void ContinueHeader(PrintDocument& document, int inches) {
+    if (ReachesPaperEdge(document, inches))
+        StartContinuedPage(document);
 }
 
 std::string Pictured(std::string_view text, std::string_view picture) {

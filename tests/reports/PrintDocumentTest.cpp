@@ -36,6 +36,8 @@ TEST_F(PrintDocumentTest, AcceptsTextOnlyWhileOpen) {
     EXPECT_FALSE(m_document.DrawRectangle({0, 0, 1, 1}));
     EXPECT_FALSE(m_document.AddTable("100;", "", "a"));
     EXPECT_FALSE(m_document.Picture("a.bmp", {}));
+    EXPECT_FALSE(m_document.BeginTable());
+    EXPECT_FALSE(m_document.AddBookmark("a"));
     EXPECT_FALSE(m_document.End());
     m_document.Start();
     EXPECT_TRUE(m_document.Text("a"));
@@ -113,6 +115,42 @@ TEST_F(PrintDocumentTest, TextThatDoesNotFitMovesToTheNextPage) {
     m_document.Paragraph("next");
     EXPECT_EQ(m_document.PageCount(), 2U);
     EXPECT_EQ(Runs(2)[0].Y, 720);
+}
+
+TEST_F(PrintDocumentTest, BlankParagraphsNeverOpenAPage) {
+    m_document.Start();
+    m_document.CurrentY = 15840 - 720 - 100;
+    m_document.Paragraph("");
+    m_document.Paragraph(" ");
+    EXPECT_EQ(m_document.PageCount(), 1U);
+    EXPECT_EQ(m_document.CurrentY, 15840 - 720 + 300);
+}
+
+TEST_F(PrintDocumentTest, MeasuresAHeightWithoutWriting) {
+    m_document.Start();
+    m_document.CurrentY = 15000;
+    const Twips height = m_document.HeightOf([](PrintDocument& trial) {
+        trial.Paragraph("");
+        trial.AddTable("1000;", "", "a;b;;");
+        trial.Paragraph("");
+    });
+    EXPECT_EQ(height, 200 + 2 * 224); // the empty row and the paragraph at the end do not count
+    EXPECT_EQ(m_document.CurrentY, 15000);
+    EXPECT_THAT(TextsOf(m_document.Page(1)), IsEmpty());
+    EXPECT_EQ(m_document.PageCount(), 1U);
+}
+
+TEST_F(PrintDocumentTest, BookmarksNamePageAndPlace) {
+    m_document.Start();
+    m_document.AddBookmark("one");
+    m_document.NewPage();
+    m_document.CurrentY = 5000;
+    m_document.AddBookmark("two");
+    ASSERT_EQ(m_document.Bookmarks().size(), 2U);
+    EXPECT_EQ(m_document.Bookmarks()[0].Page, 1U);
+    EXPECT_EQ(m_document.Bookmarks()[1].Title, "two");
+    EXPECT_EQ(m_document.Bookmarks()[1].Page, 2U);
+    EXPECT_EQ(m_document.Bookmarks()[1].Y, 5000);
 }
 
 TEST_F(PrintDocumentTest, RectanglesAndPicturesDoNotMoveThePen) {
@@ -220,13 +258,84 @@ TEST_F(PrintTableTest, ACaptionMayUseTheFreePartOfTheNextCell) {
     EXPECT_LE(runs[0].X + runs[0].Width, runs[1].X);
 }
 
-TEST_F(PrintTableTest, ARowThatDoesNotFitMovesToTheNextPage) {
+TEST_F(PrintTableTest, ATableThatDoesNotFitMovesToTheNextPage) {
     const Twips row = RowHeight();
     m_document.CurrentY = 15840 - 720 - row;
     m_document.AddTable("1000;", "", "a;b");
     EXPECT_EQ(m_document.PageCount(), 2U);
-    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("a"));
-    EXPECT_THAT(TextsOf(m_document.Page(2)), ElementsAre("b"));
+    EXPECT_THAT(TextsOf(m_document.Page(1)), IsEmpty());
+    EXPECT_THAT(TextsOf(m_document.Page(2)), ElementsAre("a", "b"));
+    EXPECT_EQ(m_document.CurrentY, 720 + 2 * row);
+}
+
+TEST_F(PrintTableTest, SeveralCallsMakeOneTable) {
+    const Twips row = RowHeight();
+    m_document.CurrentY = 15840 - 720 - 2 * row;
+    m_document.BeginTable();
+    m_document.AddTable("1000;", "head", "", PrintGrey);
+    m_document.AddTable("500|500;", "", "a|b");
+    m_document.AddTable("500|500;", "", "c|d;;");
+    EXPECT_THAT(TextsOf(m_document.Page(1)), IsEmpty());
+    m_document.EndTable();
+    EXPECT_THAT(TextsOf(m_document.Page(2)), ElementsAre("head", "a", "b", "c", "d"));
+    EXPECT_EQ(m_document.CurrentY, 720 + 4 * row); // with the empty row
+}
+
+TEST_F(PrintTableTest, APartOfATableMayContinueBelowTheTitleBar) {
+    const Twips row = RowHeight();
+    m_document.CurrentY = 15840 - 720 - 3 * row;
+    m_document.BeginTable();
+    m_document.AddTable("1000;", "title", "", PrintGrey);
+    m_document.AddTable("1000;", "", "a;b");
+    m_document.AllowBreak();
+    m_document.AddTable("1000;", "", "c;d");
+    m_document.EndTable();
+    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("title", "a", "b"));
+    EXPECT_THAT(TextsOf(m_document.Page(2)), ElementsAre("title", "c", "d"));
+    EXPECT_EQ(ItemsOf<FilledRectangle>(m_document.Page(2)).at(0).Colour, PrintGrey);
+}
+
+TEST_F(PrintTableTest, TheSecondPassOfALineIsReadWithTheFirst) {
+    m_document.BeginTable();
+    for (const char* number : {"1", "2"}) {
+        const Twips line = m_document.CurrentY;
+        m_document.FontBold = true;
+        m_document.AddTable("1000|1000|1000|1000;", "", std::string("a") + number + "||b" + number);
+        m_document.CurrentY = line;
+        m_document.FontBold = false;
+        m_document.AddTable("1000|1000|1000|1000;", "", std::string("|c") + number + "||d" + number);
+    }
+    m_document.EndTable();
+    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("a1", "c1", "b1", "d1", "a2", "c2", "b2", "d2"));
+    const auto runs = Runs();
+    EXPECT_EQ(runs[0].Y, runs[3].Y);
+    EXPECT_TRUE(runs[0].Style.Bold);
+    EXPECT_FALSE(runs[1].Style.Bold);
+}
+
+TEST_F(PrintTableTest, ALineWrittenInTwoPassesMovesAsAWhole) {
+    m_document.CurrentY = 15840 - 720 - 10;
+    m_document.BeginTable();
+    const Twips line = m_document.CurrentY;
+    m_document.AddTable("1000|1000;", "", "label|");
+    m_document.CurrentY = line;
+    m_document.AddTable("1000|1000;", "", "|value");
+    m_document.EndTable();
+    EXPECT_THAT(TextsOf(m_document.Page(2)), ElementsAre("label", "value"));
+    EXPECT_EQ(ItemsOf<TextRun>(m_document.Page(2))[0].Y, ItemsOf<TextRun>(m_document.Page(2))[1].Y);
+}
+
+TEST_F(PrintTableTest, EmptyRowsHaveNoRules) {
+    m_document.TableBorder = 4;
+    m_document.AddTable("1000;", "", "a;;b;;");
+    std::vector<Twips> rules;
+    for (const RuledLine& line : ItemsOf<RuledLine>(m_document.Page(1)))
+        if (line.Ends.Y1 == line.Ends.Y2)
+            rules.push_back(line.Ends.Y1);
+    const Twips row = 224; // a line of 200 and twice the padding of 12
+    // above the first row and below the last one; the frame ends before the empty row at the end
+    EXPECT_THAT(rules, ElementsAre(720, 720 + 3 * row));
+    EXPECT_EQ(m_document.CurrentY, 720 + 4 * row);
 }
 
 TEST_F(PrintTableTest, ARowHigherThanAPageContinuesOnTheNextPages) {
