@@ -2,8 +2,10 @@
 
 #include "base/FileKind.h"
 #include "reports/windows/PagePainter.h"
+#include "reports/windows/PdfExtras.h"
 #include "ui/windows/CommitWhole.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QPageLayout>
 #include <QPainter>
@@ -23,6 +25,14 @@ QPageLayout LayoutOf(const PageGeometry& geometry) {
 QString Unwritable(const QString& name, const QString& reason) {
     return QString("The report was not written: \"%1\" cannot be written (%2). Choose another place for it.")
         .arg(name, reason);
+}
+
+PdfExtras ExtrasOf(const PrintDocument& document) {
+    constexpr double twipsPerPoint = TwipsPerInch / 72.0;
+    PdfExtras extras{document.Author, "en-US", document.Geometry.PageHeight / twipsPerPoint, {}};
+    for (const Bookmark& bookmark : document.Bookmarks())
+        extras.Outline.push_back({bookmark.Title, bookmark.Page - 1, bookmark.Y / twipsPerPoint});
+    return extras;
 }
 
 } // namespace
@@ -53,10 +63,13 @@ QString WritePdf(const PrintDocument& document, const QString& name, const PageP
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly))
         return Unwritable(name, file.errorString());
+    QBuffer pages;
+    pages.open(QIODevice::WriteOnly);
     PrintOutcome outcome = PrintOutcome::Failed;
     {
-        QPdfWriter writer(&file);
-        writer.setTitle(QString::fromStdString(document.Title));
+        QPdfWriter writer(&pages);
+        writer.setTitle(
+            QString::fromStdString(document.PdfTitle.empty() ? document.Title : document.PdfTitle));
         writer.setCreator("Ledgrove");
         writer.setResolution(TwipsPerInch);
         writer.setPageLayout(LayoutOf(document.Geometry));
@@ -66,6 +79,8 @@ QString WritePdf(const PrintDocument& document, const QString& name, const PageP
         file.cancelWriting();
         return {};
     }
+    if (outcome == PrintOutcome::Done)
+        file.write(WithExtras(pages.data(), ExtrasOf(document)));
     return outcome == PrintOutcome::Done && CommitWhole(file) ? QString()
                                                               : Unwritable(name, file.errorString());
 }

@@ -19,7 +19,8 @@ enum class PrintOutcome { Done, Stopped, Failed };
 PrintOutcome PrintPages(QPagedPaintDevice& device, int dotsPerInch, const PrintDocument& document,
                         const PageProgress& progress = {});
 
-/// Writes an ended document as PDF with embedded fonts and lossless pictures. Returns a message if the file
+/// Writes an ended document as PDF with embedded fonts and lossless pictures, and with its title, author and
+/// bookmarks. Returns a message if the file
 /// cannot be written, else "". A failed or stopped write leaves no file.
 QString WritePdf(const PrintDocument& document, const QString& file, const PageProgress& progress = {});
 
