@@ -88,12 +88,15 @@ void WriteSection(PrintDocument& document, const Section& section, const ReportC
         WriteBanner(target, section.Title);
         section.Write(target, content);
     };
-    const Twips height = document.HeightOf(write);
-    const bool fitsOnePage = document.PageRoom() >= document.HeightOf([&](PrintDocument& target) {
-        WriteContinuedHeading(target);
-        write(target);
-    });
-    const bool moves = fitsOnePage ? height > document.Room() : document.Room() < document.PageRoom() / 2;
+    const bool fitsHere = document.HeightOf(write) <= document.Room();
+    const auto movedHeight = [&] {
+        return document.HeightOf([&](PrintDocument& target) {
+            WriteContinuedHeading(target);
+            write(target);
+        });
+    };
+    const bool fitsOnePage = fitsHere || movedHeight() <= document.PageRoom();
+    const bool moves = fitsOnePage ? !fitsHere : document.Room() < document.PageRoom() / 2;
     if (moves || ReachesPaperEdge(document, section.Inches))
         StartContinuedPage(document);
     document.KeepTables = fitsOnePage;
