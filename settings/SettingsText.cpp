@@ -5,6 +5,7 @@
 #include "settings/AssumptionsFile.h"
 #include "settings/HeaderSettings.h"
 #include "settings/LineSyntax.h"
+#include "settings/ValueRules.h"
 #include "settings/Windows1252.h"
 
 #include <algorithm>
@@ -40,6 +41,12 @@ std::optional<std::string_view> FindKnownKey(Predicate matches) {
     if (const auto key = findIn(assumptionKeys))
         return key;
     return findIn(otherKeys);
+}
+
+/// A known key that begins with this one and is longer. Every line that begins with a key belongs to it.
+std::optional<std::string_view> LongerKey(std::string_view key) {
+    return FindKnownKey(
+        [&](std::string_view known) { return known.size() > key.size() && known.starts_with(key); });
 }
 
 std::string ListText(const FileLines& lines, std::string_view key) {
@@ -138,7 +145,15 @@ Outcome<std::string> SettingText(const SettingsFile& file, std::string_view key)
     return LastValue(file, *lines, key);
 }
 
-std::optional<std::string> CheckSetRequest(std::string_view key, std::string_view value) {
+std::optional<std::string> CheckGetRequest(std::string_view key) {
+    if (const auto longer = LongerKey(key))
+        return "The key " + Quoted(key) + " is only the beginning of " + Quoted(*longer) +
+               ". Give the whole key.";
+    return std::nullopt;
+}
+
+std::optional<std::string> CheckSetRequest(std::string_view key, std::string_view value,
+                                           UnknownKeys unknown) {
     if (key.empty())
         return "The key is empty. Give the name of the setting to change, for example BUILDERNAME.";
     if (auto refusal = CheckText("key", key))
@@ -150,10 +165,7 @@ std::optional<std::string> CheckSetRequest(std::string_view key, std::string_vie
         return "The key " + Quoted(key) +
                " has one line for each item of a list, so setting it would make all the lines the same. "
                "Change the list in the Ledgrove window or in the file.";
-    // Every line that begins with a key belongs to it.
-    const auto longer = FindKnownKey(
-        [&](std::string_view known) { return known.size() > key.size() && known.starts_with(key); });
-    if (longer)
+    if (const auto longer = LongerKey(key))
         return "The key " + Quoted(key) + " is only the beginning of " + Quoted(*longer) +
                ", whose lines it would overwrite. Give the whole key.";
     const auto shorter = FindKnownKey(
@@ -161,7 +173,14 @@ std::optional<std::string> CheckSetRequest(std::string_view key, std::string_vie
     if (shorter)
         return "The key " + Quoted(key) + " begins with " + Quoted(*shorter) +
                ", so its line would be read as that setting. Use another name.";
-    return CheckText("value", value);
+    const bool isKnown = FindKnownKey([&](std::string_view known) { return known == key; }).has_value();
+    if (!isKnown && unknown == UnknownKeys::Refused)
+        return "The key " + Quoted(key) +
+               " is not a setting of Ledgrove. Check the spelling (keys are upper case), or add --force to "
+               "write it all the same.";
+    if (auto refusal = CheckText("value", value))
+        return refusal;
+    return CheckValue(key, value);
 }
 
 } // namespace Ledgrove

@@ -15,8 +15,14 @@ namespace Ledgrove {
 /// creates a missing file.
 Outcome<std::string> SettingText(const SettingsFile& file, std::string_view key);
 
+/// The reason why a script must not read this key, as a message for the user; empty if it may.
+std::optional<std::string> CheckGetRequest(std::string_view key);
+
+enum class UnknownKeys { Refused, Accepted };
+
 /// The reason why WriteSetting must not get this key and value, as a message for the user; empty if they are
-/// valid.
-std::optional<std::string> CheckSetRequest(std::string_view key, std::string_view value);
+/// valid. A value that the readers cannot use is refused.
+std::optional<std::string> CheckSetRequest(std::string_view key, std::string_view value,
+                                           UnknownKeys unknown = UnknownKeys::Refused);
 
 } // namespace Ledgrove

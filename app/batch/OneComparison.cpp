@@ -2,6 +2,7 @@
 
 #include "app/batch/InputFile.h"
 #include "app/batch/ObjectInput.h"
+#include "app/batch/SettingsCommand.h"
 #include "ui/StartUp.h"
 
 namespace Ledgrove {
@@ -11,6 +12,7 @@ OneComparison CompareOne(const std::string& folder, const std::string& input) {
     CollectingHost host;
     if (const auto fault = Module1::LoadMainScreen(session, host, folder))
         return {CannotRun, Sentence(*fault), {}};
+    WarnOfSettings(folder);
     Comparison comparison(session);
     const ObjectInput read = RunObjectFile(input, comparison);
     if (!read.Unreadable.empty())

@@ -1,5 +1,6 @@
 #include "app/batch/SettingsCommand.h"
 
+#include <algorithm>
 #include <unistd.h>
 
 #include "app/batch/CsvCompare.h"
@@ -8,7 +9,9 @@
 #include "engine/NumberText.h"
 #include "settings/HeaderSettings.h"
 #include "settings/HouseListFile.h"
+#include "settings/SettingsCheck.h"
 #include "settings/SettingsText.h"
+#include "settings/ValueRules.h"
 
 namespace Ledgrove {
 
@@ -34,18 +37,37 @@ int Print(const std::string& text) {
 } // namespace
 
 int PrintSetting(const std::filesystem::path& folder, const std::string& key) {
+    if (const auto refusal = CheckGetRequest(key))
+        return Complain(*refusal, SomeRefused);
     const auto value = SettingText(SettingsFile(folder), key);
     if (!value)
         return Complain(value.Fault());
     return Print(*value + '\n');
 }
 
-int ChangeSetting(const std::filesystem::path& folder, const std::string& key, const std::string& value) {
-    if (const auto refusal = CheckSetRequest(key, value))
+int ChangeSetting(const std::filesystem::path& folder, const std::string& key, const std::string& value,
+                  UnknownKeys unknown) {
+    if (const auto refusal = CheckSetRequest(key, value, unknown))
         return Complain(*refusal, SomeRefused);
-    if (const auto fault = Module1::WriteSetting(SettingsFile(folder), key, value))
+    if (const auto fault = Module1::WriteSetting(SettingsFile(folder), key, StoredValue(key, value)))
         return Complain(*fault);
     return AllWell;
+}
+
+int PrintSettingsCheck(const std::filesystem::path& folder) {
+    const auto lines = SettingsFile(folder).ReadLines();
+    if (!lines)
+        return Complain(lines.Fault());
+    std::string out;
+    for (const UnusableLine& line : UnusableLines(*lines))
+        out += Sentence(line) + '\n';
+    const int status = Print(out.empty() ? "Every line of Ledgrove.ini can be used.\n" : out);
+    return out.empty() ? status : std::max(status, int{SomeRefused});
+}
+
+void WarnOfSettings(const std::filesystem::path& folder) {
+    for (const UnusableLine& line : CheckSettings(SettingsFile(folder)))
+        Complain(Sentence(line), AllWell);
 }
 
 int PrintHouses(const std::filesystem::path& folder) {

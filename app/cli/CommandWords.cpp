@@ -34,7 +34,8 @@ std::vector<std::string> ParserWords(int argc, char** argv) {
     const std::size_t key = SetKey(words);
     if (key + 1 < words.size()) {
         const std::string& value = words[key + 1];
-        const bool isOption = value == "--help" || value == "-h" || value.starts_with("--folder");
+        const bool isOption =
+            value == "--help" || value == "-h" || value == "--force" || value.starts_with("--folder");
         if (LooksLikeOption(value) && !isOption) {
             const auto first = words.begin() + static_cast<std::ptrdiff_t>(key);
             std::rotate(first, first + 2, words.end());

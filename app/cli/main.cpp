@@ -36,6 +36,7 @@ int Compare(const std::filesystem::path& folder, const CompareRequest& request) 
     CollectingHost host;
     if (const auto fault = Module1::LoadMainScreen(session, host, folder))
         return Complain(Sentence(*fault), CannotRun);
+    WarnOfSettings(folder);
     if (!request.House.empty()) {
         if (const std::string sentence = StartWithHouse(session, request.House); !sentence.empty())
             return Complain(sentence, CannotRun);
@@ -84,23 +85,33 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
 struct SettingsActions {
     CLI::App* Get;
     CLI::App* Set;
+    CLI::App* Check;
     CLI::App* Houses;
 };
 
-SettingsActions AddSettings(CLI::App& app, std::string& folder, std::string& key, std::string& value) {
+/// What the words of "settings" say.
+struct SettingsRequest {
+    std::string Key;
+    std::string Value;
+    bool Force = false;
+};
+
+SettingsActions AddSettings(CLI::App& app, std::string& folder, SettingsRequest& request) {
     auto* settings = app.add_subcommand("settings", "Read and change Ledgrove.ini");
     settings->add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)");
     settings->require_subcommand(1);
     auto* get = settings->add_subcommand("get", "Print the value of a key");
-    get->add_option("KEY", key)->required();
+    get->add_option("KEY", request.Key)->required();
     auto* set = settings->add_subcommand("set", "Change the value of a key");
-    set->add_option("KEY", key)->required();
-    set->add_option("VALUE", value)->required();
+    set->add_flag("--force", request.Force, "Write a key that is not a setting of Ledgrove");
+    set->add_option("KEY", request.Key)->required();
+    set->add_option("VALUE", request.Value)->required();
+    auto* check = settings->add_subcommand("check", "Name the lines that cannot be used");
     auto* houses = settings->add_subcommand("houses", "List the saved house scenarios");
     // Accepts --folder before and after the verb.
-    for (CLI::App* verb : {get, set, houses})
+    for (CLI::App* verb : {get, set, check, houses})
         verb->fallthrough();
-    return {get, set, houses};
+    return {get, set, check, houses};
 }
 
 } // namespace
@@ -117,11 +128,10 @@ int main(int argc, char** argv) {
     app.add_subcommand("report", "Write the report of a comparison as PDF (ledgrove-cli report --help)");
     app.add_subcommand("chart", "Write a chart of a comparison as a picture (ledgrove-cli chart --help)");
     std::string folder = ProgramFolder().string();
-    std::string key;
-    std::string value;
+    SettingsRequest setting;
     CompareRequest request;
     const CLI::App* compare = AddCompare(app, folder, request);
-    const SettingsActions settings = AddSettings(app, folder, key, value);
+    const SettingsActions settings = AddSettings(app, folder, setting);
     try {
         app.parse(ParserWords(argc, argv));
     } catch (const CLI::ParseError& fault) {
@@ -130,8 +140,11 @@ int main(int argc, char** argv) {
     if (*compare)
         return Compare(folder, request);
     if (*settings.Get)
-        return PrintSetting(folder, key);
+        return PrintSetting(folder, setting.Key);
     if (*settings.Set)
-        return ChangeSetting(folder, key, value);
+        return ChangeSetting(folder, setting.Key, setting.Value,
+                             setting.Force ? UnknownKeys::Accepted : UnknownKeys::Refused);
+    if (*settings.Check)
+        return PrintSettingsCheck(folder);
     return PrintHouses(folder);
 }

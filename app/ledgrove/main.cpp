@@ -19,6 +19,7 @@
 #include "app/windows/MainMenu.h"
 #include "reports/windows/HelpPrint.h"
 #include "reports/windows/PrintAction.h"
+#include "settings/SettingsCheck.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
 #include "ui/windows/FormFont.h"
@@ -103,6 +104,11 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
                                         Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
     window.show();
     Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
+    constexpr std::size_t mostLines = 5;
+    const auto unusable = Ledgrove::CheckSettings(Ledgrove::SettingsFile(folder));
+    if (!unusable.empty())
+        host.ShowMessage({Ledgrove::ApplicationTitle, Ledgrove::WarningOf(unusable, mostLines),
+                          Ledgrove::MessageIcon::Exclamation});
     if (!file.IsDecodable)
         host.ShowMessage({Ledgrove::ApplicationTitle, Ledgrove::UndecodableName(file.Name),
                           Ledgrove::MessageIcon::Exclamation});

@@ -5,42 +5,15 @@ import json
 import os
 import shutil
 import subprocess
-import sys
 import tempfile
 import unittest
-from pathlib import Path
 
-PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
+from cli_desk import PROGRAM, SOURCE, CliTest
+
 SAMPLE = {
     "ecIncome": "72000", "ecMonthlyDebt": "350", "ecPctDown": "10", "ecStdHome": "200000", "ecGMHHome": "206000",
     "ecStdUtil": "2400", "ecGMHUtil": "1700", "cboStdMortOption": "FHA", "cboGMHMortOption": "FHA EEM",
 }
-
-
-class CliTest(unittest.TestCase):
-    def setUp(self):
-        self.folder = Path(tempfile.mkdtemp())
-        self.addCleanup(shutil.rmtree, self.folder)
-        shutil.copy(SOURCE / "data/Ledgrove.ini", self.folder)
-        self.settings = self.folder / "Ledgrove.ini"
-
-    def run_cli(self, *arguments, given=b"", status=0):
-        given = given if isinstance(given, bytes) else given.encode()
-        run = subprocess.run([PROGRAM, *arguments], input=given, capture_output=True, timeout=60)
-        self.assertEqual(run.returncode, status, run.stderr.decode())
-        return run
-
-    def compare(self, form, given, status=0):
-        return self.run_cli("compare", "--folder", self.folder, "--format", form, given=given, status=status).stdout
-
-    def compare_json(self, inputs, status=0):
-        return json.loads(self.compare("json", json.dumps(inputs), status))
-
-    def refusal(self, inputs):
-        return self.compare_json(inputs, status=1)["error"]
-
-    def settings_verb(self, *arguments, status=0):
-        return self.run_cli("settings", "--folder", self.folder, *arguments, status=status)
 
 
 class CompareJson(CliTest):
@@ -375,72 +348,6 @@ class UnusableCalls(CliTest):
         shutil.copy(PROGRAM, copy)
         run = subprocess.run([copy, "settings", "get", "FEATURE2"], capture_output=True, cwd="/", timeout=60)
         self.assertEqual(run.stdout, b"Larger deck\n")
-
-
-class Settings(CliTest):
-    def get(self, key):
-        return self.settings_verb("get", key).stdout.decode().removesuffix("\n")
-
-    def test_get_prints_the_value_that_the_program_reads(self):
-        self.settings.write_bytes(b"BUILDERNAME=Old\r\nBUILDERNAME=  New \r\nFEATURE1=  both ends \r\n"
-                                  b"PVSAVINGS_RATE=7.5%\r\nTAXCAT=100,10\r\nTAXCAT=-1,20\r\nOWN=x=y\r\n")
-        self.assertEqual(self.get("BUILDERNAME"), "New")
-        self.assertEqual(self.get("FEATURE1"), "  both ends ")
-        self.assertEqual(self.get("FEATURE2"), " ")
-        self.assertEqual(self.get("LOGOFILE"), "")
-        self.assertEqual(self.get("TAXCAT"), "100,10\n-1,20")
-        self.assertEqual(self.get("PVSAVINGS_RATE"), "7.5")
-        self.assertEqual(self.get("OWN"), "x=y")
-        self.assertIn(b"NOPE", self.settings_verb("get", "NOPE", status=1).stderr)
-
-    def test_a_missing_builder_name_has_a_default(self):
-        self.settings.write_bytes(b"")
-        self.assertEqual(self.get("BUILDERNAME"), "Partner Name")
-
-    def test_set_replaces_every_line_of_the_key_and_keeps_all_others(self):
-        self.settings.write_bytes(b"MINE\x81\x00=1\r\nBUILDERNAME=a\r\nlast\r\nBUILDERNAME=b")
-        self.settings_verb("set", "BUILDERNAME", "Café")
-        self.assertEqual(self.settings.read_bytes(),
-                         b"MINE\x81\x00=1\r\nBUILDERNAME=Caf\xe9\r\nlast\r\nBUILDERNAME=Caf\xe9\r\n")
-        self.assertEqual([p.name for p in self.folder.iterdir()], ["Ledgrove.ini"])
-
-    def test_set_appends_a_key_that_has_no_line(self):
-        self.settings.write_bytes(b"A=1")
-        self.settings_verb("set", "NEWKEY", "value")
-        self.assertEqual(self.settings.read_bytes(), b"A=1\r\nNEWKEY=value\r\n")
-
-    def test_a_value_may_begin_with_a_dash(self):
-        for value in ("- two blanks", "-x", "--wide porch", "-5"):
-            self.settings_verb("set", "FEATURE1", value)
-            self.assertEqual(self.get("FEATURE1"), value)
-        self.run_cli("settings", "set", "FEATURE1", "-y", "--folder", self.folder)
-        self.assertEqual(self.get("FEATURE1"), "-y")
-        self.run_cli("settings", "set", "--folder", self.folder, "FEATURE1", "-z")
-        self.assertEqual(self.get("FEATURE1"), "-z")
-        self.settings_verb("set", "--", "FEATURE1", "-v")
-        self.assertEqual(self.get("FEATURE1"), "-v")
-        self.settings_verb("set", "FEATURE1", status=2)
-        self.settings_verb("set", "FEATURE1", "--folder", self.folder, status=2)
-        self.assertIn(b"KEY", self.settings_verb("set", "--help").stdout)
-
-    def test_set_refuses_what_would_break_the_file(self):
-        before = self.settings.read_bytes()
-        for key, value, word in (("", "x", "empty"), ("BUILDERNAME", "a\nb", "line break"),
-                                 ("BUILDERNAME", "a\rb", "line break"), ("BUILDERNAME", "日", "日"),
-                                 ("TAXCAT", "1,2", "list"), ("FEATURE", "x", "FEATURE1")):
-            sentence = self.settings_verb("set", key, value, status=1).stderr.decode()
-            self.assertIn(word, sentence)
-        self.assertEqual(self.settings.read_bytes(), before)
-
-    def test_the_folder_may_follow_the_verb(self):
-        run = self.run_cli("settings", "get", "FEATURE2", "--folder", self.folder)
-        self.assertEqual(run.stdout, b"Larger deck\n")
-
-    def test_houses_lists_the_saved_scenarios(self):
-        rows = list(csv.DictReader(io.StringIO(self.settings_verb("houses").stdout.decode())))
-        saved = [line for line in self.settings.read_text("cp1252").splitlines() if line.startswith("HOMELIST=")]
-        self.assertEqual([",".join(row.values()) for row in rows], [line[len("HOMELIST="):] for line in saved])
-        self.assertEqual(len(rows), 3)
 
 
 class AnyBytes(CliTest):

@@ -55,7 +55,8 @@ TEST_F(SettingsCommandTest, GetRefusesAMissingKey) {
 TEST_F(SettingsCommandTest, WithoutTheSettingsFileNoCommandRuns) {
     EXPECT_EQ(Output(PrintSetting, "BUILDERNAME"), std::pair(int{CannotRun}, std::string()));
     EXPECT_EQ(Output(PrintHouses), std::pair(int{CannotRun}, std::string()));
-    EXPECT_EQ(Output(ChangeSetting, "BUILDERNAME", "Acme"), std::pair(int{CannotRun}, std::string()));
+    EXPECT_EQ(Output(ChangeSetting, "BUILDERNAME", "Acme", UnknownKeys::Refused),
+              std::pair(int{CannotRun}, std::string()));
     EXPECT_FALSE(Exists(File().Path()));
 }
 
@@ -69,7 +70,8 @@ TEST_F(SettingsCommandTest, AFailedWriteIsReported) {
 
 TEST_F(SettingsCommandTest, SetReplacesTheKeysLineAndKeepsTheRest) {
     Given("# a note\r\nBUILDERNAME=Old\r\nLOGOOPTION=1\r\n");
-    EXPECT_EQ(Output(ChangeSetting, "BUILDERNAME", "Acme"), std::pair(int{AllWell}, std::string()));
+    EXPECT_EQ(Output(ChangeSetting, "BUILDERNAME", "Acme", UnknownKeys::Refused),
+              std::pair(int{AllWell}, std::string()));
     EXPECT_EQ(Bytes(), "# a note\r\nBUILDERNAME=Acme\r\nLOGOOPTION=1\r\n");
 }
 

@@ -1,5 +1,7 @@
 #include "settings/SettingsText.h"
 
+#include "settings/ValueRules.h"
+
 #include "settings/HeaderSettings.h"
 
 #include "TemporaryFolder.h"
@@ -107,7 +109,28 @@ TEST(CheckSetRequest, AcceptsWhatWriteSettingCanKeep) {
     EXPECT_EQ(CheckSetRequest("BUILDERNAME", "Caf\xC3\xA9 = \xE2\x82\xAC"), std::nullopt);
     EXPECT_EQ(CheckSetRequest("FEATURE1", ""), std::nullopt);
     EXPECT_EQ(CheckSetRequest("HOMESELECTIONDIALOG", "OPEN"), std::nullopt);
-    EXPECT_EQ(CheckSetRequest("MYKEY", "x"), std::nullopt);
+    EXPECT_EQ(CheckSetRequest("MYKEY", "x", UnknownKeys::Accepted), std::nullopt);
+}
+
+TEST(CheckSetRequest, AcceptsTheValuesThatTheReadersUse) {
+    const struct {
+        const char* Key;
+        const char* Value;
+    } usable[] = {{"ASSUMPTION1", "0.9%"},     {"ASSUMPTION1", " 0.9 "}, {"ASSUMPTION2", "0"},
+                  {"PVSAVINGS_RATE", "6.24"},  {"PVSAVINGS_TERM", "30"}, {"PVSAVINGS_FLAG", "TRUE"},
+                  {"PVSAVINGS_FLAG", "FALSE"}, {"YEARS_IN_HOME", "100"}, {"PMI_MULT1", "1"},
+                  {"PMI_MULT4", "0.0023"},     {"LOGOOPTION", "2"}};
+    for (const auto& one : usable)
+        EXPECT_EQ(CheckSetRequest(one.Key, one.Value), std::nullopt) << one.Key << " " << one.Value;
+    EXPECT_EQ(StoredValue("ASSUMPTION1", " 0.9% "), "0.9");
+    EXPECT_EQ(StoredValue("FEATURE1", " 5% off "), " 5% off ");
+}
+
+TEST(CheckGetRequest, RefusesTheBeginningOfAKey) {
+    EXPECT_THAT(CheckGetRequest("ASSUMPTION").value_or(""),
+                HasSubstr("only the beginning of \"ASSUMPTION1\""));
+    EXPECT_EQ(CheckGetRequest("ASSUMPTION1"), std::nullopt);
+    EXPECT_EQ(CheckGetRequest("OTHER"), std::nullopt);
 }
 
 struct BadRequest {
@@ -127,23 +150,35 @@ TEST_P(CheckSetRequestRefusal, IsASentenceThatNamesTheProblem) {
 
 INSTANTIATE_TEST_SUITE_P(
     Requests, CheckSetRequestRefusal,
-    testing::Values(BadRequest{"", "x", "The key is empty"},
-                    BadRequest{"A\nB", "x", "The key contains a line break"},
-                    BadRequest{"BUILDERNAME", "a\r", "The value contains a line break"},
-                    BadRequest{"BUILDERNAME", "a\xE2\x86\x92",
-                               "The value contains the character \"\xE2\x86\x92\" (U+2192)"},
-                    BadRequest{"\xE2\x86\x92", "a",
-                               "The key contains the character \"\xE2\x86\x92\" (U+2192)"},
-                    BadRequest{"BUILDERNAME", "\xFF", "The value contains the byte FF"},
-                    BadRequest{"A=B", "x", "\"A=B\" contains \"=\""},
-                    BadRequest{"TAXCAT", "1,1", "\"TAXCAT\" has one line for each item"},
-                    BadRequest{"LOANTYPE", "x", "\"LOANTYPE\" has one line for each item"},
-                    BadRequest{"HOMELIST", "x", "\"HOMELIST\" has one line for each item"},
-                    BadRequest{"FEATURE", "x", "\"FEATURE\" is only the beginning of \"FEATURE1\""},
-                    BadRequest{"P", "x", "\"P\" is only the beginning of"},
-                    BadRequest{"TAX", "x", "\"TAX\" is only the beginning of \"TAXCAT\""},
-                    BadRequest{"FEATURE12", "x", "\"FEATURE12\" begins with \"FEATURE1\""},
-                    BadRequest{"LOANTYPES", "x", "\"LOANTYPES\" begins with \"LOANTYPE\""}));
+    testing::Values(
+        BadRequest{"", "x", "The key is empty"}, BadRequest{"A\nB", "x", "The key contains a line break"},
+        BadRequest{"BUILDERNAME", "a\r", "The value contains a line break"},
+        BadRequest{"BUILDERNAME", "a\xE2\x86\x92",
+                   "The value contains the character \"\xE2\x86\x92\" (U+2192)"},
+        BadRequest{"\xE2\x86\x92", "a", "The key contains the character \"\xE2\x86\x92\" (U+2192)"},
+        BadRequest{"BUILDERNAME", "\xFF", "The value contains the byte FF"},
+        BadRequest{"A=B", "x", "\"A=B\" contains \"=\""},
+        BadRequest{"TAXCAT", "1,1", "\"TAXCAT\" has one line for each item"},
+        BadRequest{"LOANTYPE", "x", "\"LOANTYPE\" has one line for each item"},
+        BadRequest{"HOMELIST", "x", "\"HOMELIST\" has one line for each item"},
+        BadRequest{"FEATURE", "x", "\"FEATURE\" is only the beginning of \"FEATURE1\""},
+        BadRequest{"P", "x", "\"P\" is only the beginning of"},
+        BadRequest{"TAX", "x", "\"TAX\" is only the beginning of \"TAXCAT\""},
+        BadRequest{"ASSUMPTON1", "0.9", "is not a setting of Ledgrove"},
+        BadRequest{"ASSUMPTION1", "abc", "\"abc\" cannot be used for ASSUMPTION1"},
+        BadRequest{"ASSUMPTION1", "", "a percentage from 0 to 100"},
+        BadRequest{"ASSUMPTION1", "1e9", "a percentage"}, BadRequest{"ASSUMPTION1", "0,9", "a percentage"},
+        BadRequest{"ASSUMPTION2", "100.5", "a percentage"},
+        BadRequest{"PVSAVINGS_RATE", "-1", "a percentage"},
+        BadRequest{"PVSAVINGS_RATE", "1%2", "a percentage"},
+        BadRequest{"PVSAVINGS_TERM", "-1", "a number of years"},
+        BadRequest{"PVSAVINGS_FLAG", "true", "TRUE or FALSE"},
+        BadRequest{"YEARS_IN_HOME", "7.5", "a whole number of years"},
+        BadRequest{"YEARS_IN_HOME", "101", "a whole number of years"},
+        BadRequest{"PMI_MULT1", "0.87%", "a fraction from 0 to 1"},
+        BadRequest{"PMI_MULT2", "66", "a fraction from 0 to 1"}, BadRequest{"LOGOOPTION", "3", "0 (no logo)"},
+        BadRequest{"FEATURE12", "x", "\"FEATURE12\" begins with \"FEATURE1\""},
+        BadRequest{"LOANTYPES", "x", "\"LOANTYPES\" begins with \"LOANTYPE\""}));
 
 } // namespace
 } // namespace Ledgrove
