@@ -1,4 +1,4 @@
-"""A save that was interrupted between delete and rename, and how the window restores its settings."""
+"""What the window says about its settings at the start: a save that was interrupted, and lines that cannot be used."""
 import shutil
 import sys
 import tempfile
@@ -60,6 +60,18 @@ class RestoreTest(unittest.TestCase):
         self.desktop.key("alt+y")
         program.wait_focus("Annual Income")
         self.assertEqual(self.names(), ["Ledgrove.ini"])
+
+    def test_lines_that_cannot_be_used_are_named_once_at_the_start(self):
+        self.saved = self.saved.replace(b"LOGOOPTION=0", b"LOGOOPTION=x").replace(b"PVSAVINGS_FLAG=FALSE", b"PVSAVINGS_FLAG=no")
+        program = self.start("Ledgrove.ini")
+        self.assertEqual(program.answer("OK"), (
+            "Ledgrove",
+            'Line 3 of Ledgrove.ini, "LOGOOPTION=x", cannot be used: it is not 0, 1 or 2. 0 (no logo) is in force instead.\n\n'
+            'Line 17 of Ledgrove.ini, "PVSAVINGS_FLAG=no", cannot be used: it is neither TRUE nor FALSE. '
+            "FALSE is in force instead."))
+        program.wait_focus("Annual Income")
+        self.assertIsNone(program.open_box())
+        self.assertEqual(self.settings.read_bytes(), self.saved)
 
     def test_no_question_while_the_settings_exist(self):
         (self.folder / "Pennaro2.INI").write_bytes(b"half a save")
