@@ -8,7 +8,7 @@
 // The printers that the report can go to.
 namespace Ledgrove {
 
-/// A PDF file for a printer.
+/// A PDF file for a printer. Copies are collated: pages 1, 2, 1, 2.
 struct PrintJob {
     std::string Printer; ///< its name
     std::string Title;

@@ -116,6 +116,10 @@ class PrintServer:
     def document(self, job):
         return self.folder / "spool" / f"d{job:05d}-001"
 
+    def output(self, printer):
+        """The file into which the printer prints: the document of its last job with all copies."""
+        return self.folder / "out" / printer
+
     def printed_pages(self, job):
         """The server's page log lines for the job, which count pages times copies."""
         log = (self.folder / "page_log").read_text()

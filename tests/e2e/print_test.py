@@ -137,6 +137,18 @@ class WithServer(PrintTest):
         # The preview stays open for more printing.
         wait_for(lambda: self.program.focused() and self.program.focused().get_name() == "Print", "Print again")
 
+    def test_copies_are_collated(self):
+        self.start()
+        for section in SECTIONS:
+            self.tick(section)
+        self.preview()
+        self.program.find("label", "Page 1 of 2")
+        self.enter_copies("2")
+        printer, _ = self.print()
+        # "Page 1" and "Page 2" are the pages' footers.
+        printed = re.findall(r"\bPage (\d+)$", pdf_text(self.server.output(printer)), re.M)
+        self.assertEqual(printed, ["1", "2", "1", "2"])
+
     def test_landscape_on_a4_at_the_other_printer(self):
         self.start()
         self.preview()

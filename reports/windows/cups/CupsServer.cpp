@@ -168,6 +168,9 @@ std::string CupsServer::Send(const PrintJob& job) {
             options.Add(option.name, option.value);
     }
     options.Add("copies", std::to_string(job.Copies));
+    // Each copy comes out whole. Printers know the first option, the filters of driver-based queues the second.
+    options.Add("multiple-document-handling", "separate-documents-collated-copies");
+    options.Add("Collate", "True");
     options.Add("media", job.PaperName);
     // The pages have the paper's size; fitting them to the printable area would shrink them.
     options.Add("print-scaling", "none");
