@@ -35,6 +35,10 @@ PrinterDetails LoadedPrinters::Details(const std::string& printer) {
     return m_server ? m_server->Details(printer) : PrinterDetails();
 }
 
+PrinterCondition LoadedPrinters::Condition(const std::string& printer) {
+    return m_server ? m_server->Condition(printer) : PrinterCondition{PrinterState::NoService, {}};
+}
+
 std::string LoadedPrinters::Send(const PrintJob& job) {
     return m_server ? m_server->Send(job) : "the printers of this computer are not available";
 }

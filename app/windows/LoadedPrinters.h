@@ -16,6 +16,7 @@ public:
 
     std::vector<PrinterDevice> Devices() override;
     PrinterDetails Details(const std::string& printer) override;
+    PrinterCondition Condition(const std::string& printer) override;
     std::string Send(const PrintJob& job) override;
 
 private:

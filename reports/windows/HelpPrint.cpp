@@ -87,7 +87,10 @@ void PrintHelpDocument(const QTextDocument& help, QWidget& above, Host& outside,
     PrinterDialog dialog(devices, pages.Count(), above);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QString fault = PrintOn(devices[dialog.Chosen()], pages, above, machine);
+    const PrinterDevice& device = devices[dialog.Chosen()];
+    if (!IsPdf(device) && !MayPrint("The help", device.Name, machine.Server, outside))
+        return;
+    const QString fault = PrintOn(device, pages, above, machine);
     if (!fault.isEmpty())
         outside.ShowMessage({ApplicationTitle, fault.toStdString(), MessageIcon::Exclamation});
 }

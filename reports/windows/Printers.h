@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reports/PreviewState.h"
+#include "reports/PrinterWords.h"
 
 #include <string>
 #include <vector>
@@ -25,6 +26,8 @@ public:
     /// All printers of the server; empty if there is no server.
     virtual std::vector<PrinterDevice> Devices() = 0;
     virtual PrinterDetails Details(const std::string& printer) = 0;
+    /// Whether the printer can print now. Asks the server each time.
+    virtual PrinterCondition Condition(const std::string& printer) = 0;
     /// Why the server refused the job, in the server's words; "" if it accepted the job.
     virtual std::string Send(const PrintJob& job) = 0;
 };

@@ -32,6 +32,11 @@ struct FreeInfo {
 };
 using DestinationInfo = std::unique_ptr<cups_dinfo_t, FreeInfo>;
 
+struct FreeAnswer {
+    void operator()(ipp_t* answer) const { ippDelete(answer); }
+};
+using Answer = std::unique_ptr<ipp_t, FreeAnswer>;
+
 /// The named options of a job.
 class JobOptions {
 public:
@@ -70,12 +75,25 @@ std::string NameOf(const cups_dest_t& destination) {
     return destination.instance ? name + '/' + destination.instance : name;
 }
 
-Destination Find(const std::string& printer) {
+struct CloseConnection {
+    void operator()(http_t* connection) const { httpClose(connection); }
+};
+using Connection = std::unique_ptr<http_t, CloseConnection>;
+
+/// A new connection to the server, because the library's own may be left over from a server that has ended.
+/// Null if the server does not answer.
+Connection Connect() {
+    constexpr int patience = 5000; // milliseconds, of a user who waits
+    return Connection(
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patience, nullptr));
+}
+
+Destination Find(const std::string& printer, http_t* connection = CUPS_HTTP_DEFAULT) {
     const std::size_t slash = printer.find('/');
     const std::string name = printer.substr(0, slash);
     const std::string instance = slash == std::string::npos ? "" : printer.substr(slash + 1);
     return Destination(
-        cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.c_str(), instance.empty() ? nullptr : instance.c_str()));
+        cupsGetNamedDest(connection, name.c_str(), instance.empty() ? nullptr : instance.c_str()));
 }
 
 std::optional<int> ResolutionOf(cups_dest_t& destination, cups_dinfo_t& info) {
@@ -128,6 +146,23 @@ std::optional<Paper> PaperOf(cups_dest_t& destination, cups_dinfo_t& info) {
                  FromHundredthsOfMillimetre(media->length)};
 }
 
+/// The words that the person who paused or closed the printer left; "" if there are only the server's usual
+/// ones.
+std::string StateMessage(http_t* connection, const cups_dest_t& destination) {
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0, "/printers/%s",
+                     destination.name);
+    ipp_t* const request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "printer-state-message");
+    const Answer answer(cupsDoRequest(connection, request, "/"));
+    ipp_attribute_t* const found = ippFindAttribute(answer.get(), "printer-state-message", IPP_TAG_ZERO);
+    const char* const message = found ? ippGetString(found, 0, nullptr) : nullptr;
+    const std::string_view words = message ? message : "";
+    return words == "Paused" || words == "Rejecting Jobs" ? std::string() : std::string(words);
+}
+
 /// Never empty, because empty means success.
 std::string LastError() {
     const char* const reason = cupsLastErrorString();
@@ -157,6 +192,21 @@ PrinterDetails CupsServer::Details(const std::string& printer) {
     return {ResolutionOf(*destination, *info), PaperOf(*destination, *info)};
 }
 
+PrinterCondition CupsServer::Condition(const std::string& printer) {
+    const Connection connection = Connect();
+    if (!connection)
+        return {PrinterState::NoService, {}};
+    const Destination destination = Find(printer, connection.get());
+    if (!destination)
+        return {PrinterState::Removed, {}};
+    const bool accepts = Option(*destination, "printer-is-accepting-jobs") != "false";
+    const bool isPaused = Option(*destination, "printer-state") == std::to_string(IPP_PSTATE_STOPPED);
+    if (accepts && !isPaused)
+        return {};
+    return {accepts ? PrinterState::Paused : PrinterState::Refusing,
+            StateMessage(connection.get(), *destination)};
+}
+
 std::string CupsServer::Send(const PrintJob& job) {
     const Destination destination = Find(job.Printer);
     if (!destination)
@@ -168,7 +218,8 @@ std::string CupsServer::Send(const PrintJob& job) {
             options.Add(option.name, option.value);
     }
     options.Add("copies", std::to_string(job.Copies));
-    // Each copy comes out whole. Printers know the first option, the filters of driver-based queues the second.
+    // Each copy comes out whole. Printers know the first option, the filters of driver-based queues the
+    // second.
     options.Add("multiple-document-handling", "separate-documents-collated-copies");
     options.Add("Collate", "True");
     options.Add("media", job.PaperName);

@@ -9,6 +9,7 @@ class CupsServer : public PrintServer {
 public:
     std::vector<PrinterDevice> Devices() override;
     PrinterDetails Details(const std::string& printer) override;
+    PrinterCondition Condition(const std::string& printer) override;
     std::string Send(const PrintJob& job) override;
 };
 

@@ -29,6 +29,7 @@ void LoadedPrintersTest::withoutTheLibraryPdfStillWorks() {
     QVERIFY2(said.endsWith("\"Print to PDF\" still works."), qPrintable(said));
     QCOMPARE(printers.Send({"Office", "Report", folder.filePath("report.pdf").toStdString(), "A4", 1}),
              std::string("the printers of this computer are not available"));
+    QVERIFY(printers.Condition("Office").State == PrinterState::NoService);
 }
 
 void LoadedPrintersTest::theLibraryIsFoundInTheProgramsFolder() {
@@ -43,6 +44,7 @@ void LoadedPrintersTest::theLibraryIsFoundInTheProgramsFolder() {
         printers.Send({"Office", "Report", folder.filePath("report.pdf").toStdString(), "A4", 1});
     QVERIFY(!reason.empty());
     QVERIFY2(reason != "the printers of this computer are not available", "the library did not load");
+    QVERIFY(printers.Condition("Office").State == PrinterState::NoService);
 }
 
 QTEST_MAIN(LoadedPrintersTest)

@@ -87,6 +87,7 @@ private slots:
     void dismissedFileChooserWritesNothing();
     void unwritablePdfIsReported();
     void refusedJobIsReported();
+    void pausedPrinterIsAskedAbout();
     void blackOnWhiteWithEveryPalette();
     void picturesAreNotFetched();
     void keyboardAndNames();
@@ -205,6 +206,21 @@ void HelpPrintTest::refusedJobIsReported() {
              std::vector<std::string>{
                  "The help was not printed: the printer \"Office\" did not accept it (The printer is not "
                  "responding). Choose another printer, or try again when this one is ready."});
+}
+
+void HelpPrintTest::pausedPrinterIsAskedAbout() {
+    HelpDesk desk;
+    desk.AddPrinters();
+    desk.Server.Now.State = PrinterState::Paused;
+    desk.Outside.Answer = MessageAnswer::No;
+    QVERIFY(desk.Print(PressPrint));
+    QVERIFY(desk.Server.Jobs.empty());
+    QCOMPARE(desk.Outside.TakeTexts(),
+             std::vector<std::string>{"The printer \"Office\" is paused. The help waits there until someone "
+                                      "resumes the printer. Print it anyway?"});
+    desk.Outside.Answer = MessageAnswer::Yes;
+    QVERIFY(desk.Print(PressPrint));
+    QCOMPARE(desk.Server.Jobs.size(), std::size_t(1));
 }
 
 void HelpPrintTest::blackOnWhiteWithEveryPalette() {

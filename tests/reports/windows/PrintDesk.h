@@ -19,14 +19,24 @@ public:
         QByteArray Pdf;
     };
 
-    std::vector<PrinterDevice> Devices() override { return Printers; }
-    PrinterDetails Details(const std::string& printer) override { return Known[printer]; }
+    std::vector<PrinterDevice> Devices() override {
+        ++Listed;
+        return Printers;
+    }
+    PrinterDetails Details(const std::string& printer) override {
+        ++Asked;
+        return Known[printer];
+    }
+    PrinterCondition Condition(const std::string& /*printer*/) override { return Now; }
     std::string Send(const PrintJob& job) override;
 
     std::vector<PrinterDevice> Printers;
     std::map<std::string, PrinterDetails> Known;
-    std::string Refusal; ///< the answer to every job, unless empty
+    PrinterCondition Now; ///< of every printer
+    std::string Refusal;  ///< the answer to every job, unless empty
     std::vector<Sent> Jobs;
+    int Listed = 0; ///< requests for the list of printers
+    int Asked = 0;  ///< requests for a printer's details
 };
 
 /// The shipped settings and a scripted computer.
