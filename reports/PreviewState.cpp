@@ -1,15 +1,16 @@
 #include "reports/PreviewState.h"
 
 #include "engine/NumberText.h"
+#include "reports/PrinterWords.h"
+#include "ui/FieldFormats.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace Ledgrove {
 
 namespace {
 
-constexpr int mostCopies = 9999;
+constexpr double mostCopies = 9999;              ///< of the copies field, and of print servers
 constexpr Twips narrowestSheet = 7560 + 2 * 720; ///< the section tables plus the margins
 constexpr Twips shortestSheet = 9000;
 
@@ -35,7 +36,8 @@ PageButton PageButtonAt(std::size_t shown, std::size_t pageCount) {
 
 std::string StatusText(const PrinterDevice& device, const PrinterDetails& details) {
     const std::string resolution = details.Resolution ? SignedNumber(*details.Resolution) : "not known";
-    return "DPI: " + resolution + "\nPort: " + device.Port + "\nDriver: " + device.Driver;
+    return "DPI: " + resolution + "\nPort: " + ReadableAddress(device.Port) +
+           "\nDriver: " + OneLine(device.Driver);
 }
 
 Paper PaperFor(const PrinterDetails& details) {
@@ -54,21 +56,19 @@ std::string SizeText(const PageGeometry& sheet) {
     return Inches(sheet.PageWidth) + "x" + Inches(sheet.PageHeight);
 }
 
-std::optional<int> CopiesIn(std::string_view text) {
-    const auto number = Module1::ReadNumber(text);
-    if (!number || *number < 1 || *number > mostCopies || *number != std::floor(*number))
-        return std::nullopt;
-    return static_cast<int>(*number);
+std::string CopiesText(std::string_view text) {
+    const std::string whole = Module1::FormatFieldText(text, FieldFormat::Whole);
+    return Module1::FormatPicture(std::clamp(Module1::ReadNumber(whole).value_or(1), 1.0, mostCopies),
+                                  "###,##0");
 }
 
-std::string CopiesComplaint(std::string_view text) {
-    return "The report was not printed: \"" + std::string(text) +
-           "\" is not a number of copies. Type a whole number from 1 to " + std::to_string(mostCopies) + ".";
+int CopiesIn(std::string_view text) {
+    return static_cast<int>(Module1::ReadNumber(CopiesText(text)).value_or(1));
 }
 
 std::string ProgressText(std::size_t page, std::string_view title, const PrinterDevice& device) {
     return "Now printing Page " + std::to_string(page) + " of\n" + std::string(title) + "\non the " +
-           device.Name + " on " + device.Port;
+           OneLine(device.Name) + " on " + ReadableAddress(device.Port);
 }
 
 } // namespace Ledgrove

@@ -51,7 +51,7 @@ struct PrinterDetails {
     std::optional<Paper> DefaultPaper;
 };
 
-/// Three lines: resolution, port and driver.
+/// Three lines: resolution, port and driver. Neither name breaks its line, and the port is decoded.
 std::string StatusText(const PrinterDevice& device, const PrinterDetails& details);
 
 /// The printer's default paper; letter if it has none, or one that is too small for the report's tables.
@@ -63,11 +63,13 @@ PageGeometry SheetOf(const Paper& paper, PageOrientation orientation);
 /// Width and height in inches, such as "8.5x11.0".
 std::string SizeText(const PageGeometry& sheet);
 
-/// The number of copies in a text: 1 to 9999, the maximum of print servers. Nothing for any other text.
-std::optional<int> CopiesIn(std::string_view text);
+/// The text that the copies field shows for a text that the field rules accept: a whole number from 1 to
+/// 9,999.
+///     "2.5" -> "3"    "0" -> "1"    "" -> "1"    "10000" -> "9,999"
+std::string CopiesText(std::string_view text);
 
-/// A message about a text that is not such a number.
-std::string CopiesComplaint(std::string_view text);
+/// The number in CopiesText.
+int CopiesIn(std::string_view text);
 
 /// Names the page, the title and the printer in three lines.
 std::string ProgressText(std::size_t page, std::string_view title, const PrinterDevice& device);

@@ -207,6 +207,7 @@ void frmPrint::Connect() {
     EntryEvents events;
     events.GotFocus = events.Click = [this] { Context().Focus.SelectFieldText(); };
     events.Change = [this](const std::string& text) { m_copies.Text = text; };
+    events.LostFocus = [this] { return LeaveCopies(); };
     BindField("txtCopies", m_copies, std::move(events));
 }
 
@@ -275,11 +276,8 @@ void frmPrint::MaximizeOrRestore() {
 void frmPrint::Print() {
     if (!Module1::ValidateField(Context(), m_copies, FieldFormat::Whole))
         return;
-    Refresh();
-    const std::optional<int> copies = CopiesIn(m_copies.Text);
-    if (!copies)
-        return RefuseCopies();
-    PrintRequest request{m_document, Device(), m_paper.Name, *copies, {}};
+    LeaveCopies();
+    PrintRequest request{m_document, Device(), m_paper.Name, CopiesIn(m_copies.Text), {}};
     if (IsPdf(request.Device)) {
         request.PdfFile = m_parts.Machine.ChoosePdf(*this);
         if (request.PdfFile.isEmpty())
@@ -296,10 +294,13 @@ void frmPrint::Print() {
         Outside().ShowMessage({ApplicationTitle, fault.toStdString(), MessageIcon::Exclamation});
 }
 
-void frmPrint::RefuseCopies() {
-    Context().Focus.ReturnFocusTo(m_copies);
-    Outside().ShowMessage({ApplicationTitle, CopiesComplaint(m_copies.Text), MessageIcon::Information});
-    Context().Focus.SelectFieldText();
+/// Leaving never refuses a text, so that the window can be closed whatever it is; "Print" refuses it.
+Module1::EntryOutcome frmPrint::LeaveCopies() {
+    if (!Module1::FieldComplaint(m_copies.Text, FieldFormat::Whole).empty())
+        return Module1::EntryOutcome::Unchanged;
+    m_copies.Text = CopiesText(m_copies.Text);
+    Refresh();
+    return Module1::EntryOutcome::Accepted;
 }
 
 void frmPrint::ShowSize() {

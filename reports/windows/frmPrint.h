@@ -56,7 +56,7 @@ private:
     void ChangePage();
     void MaximizeOrRestore();
     void Print();
-    void RefuseCopies();
+    Module1::EntryOutcome LeaveCopies();
 
     void ShowSize();
     void ShowPageButton();

@@ -63,27 +63,35 @@ TEST(SizeText, IsInInchesWithOneDecimal) {
     EXPECT_EQ(SizeText(SheetOf(a4, PageOrientation::Portrait)), "8.3x11.7"); // 8.268 x 11.693
 }
 
-TEST(CopiesIn, ReadsWholeNumbersAsShown) {
+TEST(StatusText, HasThreeLinesWhateverTheNames) {
+    EXPECT_EQ(StatusText({"Office", "ipp://host/My%20Printer%0A2", "Laser\n600\tplus"}, {600, {}}),
+              "DPI:  600\nPort: ipp://host/My Printer 2\nDriver: Laser 600 plus");
+}
+
+TEST(CopiesText, IsAWholeNumberFromOneTo9999) {
+    // The Whole format rounds halves up and takes a text with "%" for 0.
+    const std::pair<const char*, const char*> texts[] = {
+        {"1", "1"},   {" 25 ", "25"},    {"1200", "1,200"},   {"2.5", "3"},
+        {"2.4", "2"}, {"0.4", "1"},      {"0", "1"},          {"-3", "1"},
+        {"", "1"},    {"9999", "9,999"}, {"9999.4", "9,999"}, {"10000", "9,999"},
+        {"12%", "1"}, {"1e3", "1"},      {"many", "1"},       {"99999999999999999999", "9,999"}};
+    for (const auto& [typed, shown] : texts)
+        EXPECT_EQ(CopiesText(typed), shown) << typed;
+}
+
+TEST(CopiesIn, IsTheNumberShown) {
     EXPECT_EQ(CopiesIn("1"), 1);
-    EXPECT_EQ(CopiesIn(" 25 "), 25);
     EXPECT_EQ(CopiesIn("1,200"), 1200);
-    EXPECT_EQ(CopiesIn("9999"), 9999);
-}
-
-TEST(CopiesIn, RefusesOtherTexts) {
-    for (const char* text : {"", "0", "-1", "2.5", "12%", "10000", "1e3", "many"})
-        EXPECT_EQ(CopiesIn(text), std::nullopt) << text;
-}
-
-TEST(CopiesComplaint, NamesTheTextAndWhatToType) {
-    EXPECT_EQ(CopiesComplaint("0"),
-              "The report was not printed: \"0\" is not a number of copies. Type a whole "
-              "number from 1 to 9999.");
+    EXPECT_EQ(CopiesIn("2.5"), 3);
+    EXPECT_EQ(CopiesIn("10000"), 9999);
+    EXPECT_EQ(CopiesIn(""), 1);
 }
 
 TEST(ProgressText, NamesPageReportAndPrinter) {
     EXPECT_EQ(ProgressText(2, "Summary Report", {"Office", "ipp://printserver/office", "Laser 600"}),
               "Now printing Page 2 of\nSummary Report\non the Office on ipp://printserver/office");
+    EXPECT_EQ(ProgressText(1, "Summary Report", {"Of\nfice", "ipp://host/My%20Printer", ""}),
+              "Now printing Page 1 of\nSummary Report\non the Of fice on ipp://host/My Printer");
 }
 
 } // namespace
