@@ -3,6 +3,7 @@
 #include "reports/windows/FittedPicture.h"
 #include "reports/windows/PreviewPane.h"
 #include "reports/windows/PrintRun.h"
+#include "reports/windows/PrinterSend.h"
 #include "reports/windows/ReportFile.h"
 #include "ui/windows/FormParts.h"
 #include "ui/windows/Identify.h"
@@ -277,6 +278,8 @@ void frmPrint::Print() {
     if (!Module1::ValidateField(Context(), m_copies, FieldFormat::Whole))
         return;
     LeaveCopies();
+    if (!MayPrintNow())
+        return;
     PrintRequest request{m_document, Device(), m_paper.Name, CopiesIn(m_copies.Text), {}};
     if (IsPdf(request.Device)) {
         request.PdfFile = m_parts.Machine.ChoosePdf(*this);
@@ -301,6 +304,10 @@ Module1::EntryOutcome frmPrint::LeaveCopies() {
     m_copies.Text = CopiesText(m_copies.Text);
     Refresh();
     return Module1::EntryOutcome::Accepted;
+}
+
+bool frmPrint::MayPrintNow() {
+    return IsPdf(Device()) || MayPrint("The report", Device().Name, m_parts.Machine.Server, Outside());
 }
 
 void frmPrint::ShowSize() {

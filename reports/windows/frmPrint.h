@@ -57,6 +57,7 @@ private:
     void MaximizeOrRestore();
     void Print();
     Module1::EntryOutcome LeaveCopies();
+    bool MayPrintNow();
 
     void ShowSize();
     void ShowPageButton();

@@ -91,6 +91,18 @@ class PrintServer:
     def remove_printer(self, name):
         self.run("lpadmin", "-x", name)
 
+    def pause(self, name, *reason):
+        self.run("cupsdisable", *reason, name)
+
+    def resume(self, name):
+        self.run("cupsenable", name)
+
+    def refuse(self, name, reason):
+        self.run("cupsreject", "-r", reason, name)
+
+    def accept(self, name):
+        self.run("cupsaccept", name)
+
     def completed(self):
         """Printer and number of every printed job, the oldest first."""
         jobs = [line.split()[0].rsplit("-", 1) for line in self.run("lpstat", "-W", "completed", "-o").splitlines()]
@@ -125,11 +137,14 @@ class PrintServer:
         log = (self.folder / "page_log").read_text()
         return [line for line in log.splitlines() if line.split()[1] == str(job)]
 
-    def close(self):
+    def stop(self):
         self.process.send_signal(signal.SIGTERM)
         try:
             self.process.wait(10)
         except subprocess.TimeoutExpired:
             self.process.kill()
             self.process.wait()
+
+    def close(self):
+        self.stop()
         shutil.rmtree(self.folder, ignore_errors=True)

@@ -16,6 +16,7 @@ SELECTION, HEADER, PREVIEW = "Report Selection", "Print Options", "Summary Repor
 SAMPLE = (("Annual Income", "72000"), ("Monthly Debt", "350"), ("% Down, Down Payment", "10"),
           ("Sticker Price, Base Home", "200000"), ("Sticker Price, GREENMARK Home", "206000"),
           ("Annual Utility Cost, Base Home", "2400"), ("Annual Utility Cost, GREENMARK Home", "1700"))
+GENERIC_PDF = "lsb/usr/cupsfilters/Generic-PDF_Printer-PDF.ppd"
 SECTIONS = ("Cash Flow", "More Home", "Affordability", "Summary", "Financial Assumptions")
 
 
@@ -96,7 +97,7 @@ class WithServer(PrintTest):
     def setUpClass(cls):
         cls.server = PrintServer()
         cls.addClassCleanup(cls.server.close)
-        cls.server.add_printer("Office", "lsb/usr/cupsfilters/Generic-PDF_Printer-PDF.ppd")
+        cls.server.add_printer("Office", GENERIC_PDF)
         cls.server.add_printer("Lab", "drv:///sample.drv/generpcl.ppd", "-o", "PageSize=A4")
         cls.server.run("lpadmin", "-d", "Office")
 
@@ -197,17 +198,63 @@ class WithServer(PrintTest):
         self.assertEqual(len(self.server.completed()), self.jobs_before + 1)
 
     def test_a_removed_printer_is_reported(self):
-        self.server.add_printer("Attic", "lsb/usr/cupsfilters/Generic-PDF_Printer-PDF.ppd")
+        self.server.add_printer("Attic", GENERIC_PDF)
         self.start()
         self.preview()
         self.choose("Printer", "r", "Attic")
         self.server.remove_printer("Attic")
         self.press("Print")
-        title, text = self.program.answer()
-        self.assertEqual(title, "Ledgrove")
-        self.assertRegex(text, r'^The report was not printed: the printer "Attic" did not accept it \(.+[^.]\)\. Choose')
+        self.assertEqual(self.program.answer(), ("Ledgrove", 'The report was not printed: the printer "Attic" is no '
+                                                 "longer there. Choose another printer."))
         self.choose("Printer", "r", "Office")
         self.assertEqual(self.print()[0], "Office")
+
+    def test_a_paused_printer_is_asked_about(self):
+        self.addCleanup(self.server.resume, "Office")
+        self.start()
+        self.preview()
+        self.server.pause("Office")
+        self.press("Print")
+        self.assertEqual(self.program.answer("No"), ("Ledgrove", 'The printer "Office" is paused. The report waits there '
+                                                     "until someone resumes the printer. Print it anyway?"))
+        self.assertEqual(self.server.run("lpstat", "-o", "Office"), "")
+        self.server.resume("Office")
+        self.server.pause("Office", "-r", "Toner is empty.")
+        self.press("Print")
+        self.assertIn('"Office" is paused (Toner is empty). The report', self.program.answer("Yes")[1])
+        wait_for(lambda: self.server.run("lpstat", "-o", "Office").startswith("Office-"), "the job in the queue")
+        self.server.resume("Office")
+        self.assertEqual(self.server.wait_job(self.jobs_before + 1)[0], "Office")
+
+    def test_a_printer_that_refuses_jobs_is_reported(self):
+        self.addCleanup(self.server.accept, "Office")
+        self.start()
+        self.preview()
+        self.server.refuse("Office", "Being moved")
+        self.press("Print")
+        title, text = self.program.answer()
+        self.assertEqual(title, "Ledgrove")
+        self.assertTrue(text.startswith('The report was not printed: the printer "Office" does not accept jobs now '
+                                        "(Being moved)."), text)
+        self.server.accept("Office")
+        self.assertEqual(self.print()[0], "Office")
+
+
+class ServerEnds(PrintTest):
+    def test_the_ended_print_service_is_reported(self):
+        server = PrintServer()
+        self.addCleanup(server.close)
+        server.add_printer("Office", GENERIC_PDF)
+        self.start(server.address)
+        self.preview()
+        self.assertEqual(self.chosen("Printer"), "Office")
+        server.stop()
+        self.press("Print")
+        title, text = self.program.answer()
+        self.assertEqual(title, "Ledgrove")
+        self.assertTrue(text.startswith('The report was not printed: the printer "Office" cannot be reached, because the '
+                                        "print service is not running"), text)
+        self.assertTrue(text.endswith('"Print to PDF" works without it.'), text)
 
 
 class WithoutServer(PrintTest):

@@ -8,6 +8,8 @@
 
 using namespace Ledgrove;
 
+Q_DECLARE_METATYPE(Ledgrove::PrinterState)
+
 namespace {
 
 void WithPrinters(OpenPreview& desk) {
@@ -44,6 +46,11 @@ private slots:
     void dismissedFileChooserPrintsNothing();
     void unwritablePdfIsReported();
     void refusedJobIsReported();
+    void unusablePrinterIsReportedBeforeComposing_data();
+    void unusablePrinterIsReportedBeforeComposing();
+    void pausedPrinterIsAskedAbout();
+    void pausedPrinterDoesNotStopPdf();
+    void printerThatVanishesWhileSendingIsReported();
     void progressNamesPageAndPrinter();
     void cancelPrintsNothing();
     void cancelLeavesNoPdf();
@@ -222,6 +229,76 @@ void PrintingTest::refusedJobIsReported() {
                                  "printer or class does not exist). Choose another printer, or try again "
                                  "when this one is ready."});
     CheckReady(open);
+}
+
+void PrintingTest::unusablePrinterIsReportedBeforeComposing_data() {
+    QTest::addColumn<PrinterState>("state");
+    QTest::addColumn<QString>("told");
+    QTest::addRow("service") << PrinterState::NoService << "the print service is not running";
+    QTest::addRow("removed") << PrinterState::Removed << "is no longer there. Choose another printer.";
+    QTest::addRow("refusing") << PrinterState::Refusing << "does not accept jobs now (Being moved).";
+}
+
+void PrintingTest::unusablePrinterIsReportedBeforeComposing() {
+    QFETCH(PrinterState, state);
+    QFETCH(QString, told);
+    OpenPreview open(1, WithPrinters);
+    open.Server.Now = {state, "Being moved"};
+    PressPrint(open);
+    QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
+    QCOMPARE(open.Outside.Messages.front().Icon, MessageIcon::Exclamation);
+    QCOMPARE(open.Outside.Messages.front().Buttons, MessageButtons::Ok);
+    const QString text = QString::fromStdString(open.Outside.Messages.front().Text);
+    QVERIFY2(text.startsWith("The report was not printed: the printer \"Office\" "), qPrintable(text));
+    QVERIFY2(text.contains(told), qPrintable(text));
+    QCOMPARE(open.Compositions, 1);
+    QVERIFY(open.Server.Jobs.empty());
+    CheckReady(open);
+    open.Server.Now = {};
+    PressPrint(open);
+    QCOMPARE(open.Server.Jobs.size(), std::size_t(1));
+}
+
+void PrintingTest::pausedPrinterIsAskedAbout() {
+    OpenPreview open(1, WithPrinters);
+    open.Server.Now = {PrinterState::Paused, {}};
+    open.Outside.Answer = MessageAnswer::No;
+    PressPrint(open);
+    QCOMPARE(open.Compositions, 1);
+    QVERIFY(open.Server.Jobs.empty());
+    CheckReady(open);
+    const Message& question = open.Outside.Messages.front();
+    QCOMPARE(question.Text,
+             std::string("The printer \"Office\" is paused. The report waits there until someone resumes the "
+                         "printer. Print it anyway?"));
+    QCOMPARE(question.Icon, MessageIcon::Question);
+    QCOMPARE(question.Buttons, MessageButtons::YesNo);
+    open.Outside.Answer = MessageAnswer::Yes;
+    PressPrint(open);
+    QCOMPARE(open.Compositions, 2);
+    QCOMPARE(open.Server.Jobs.size(), std::size_t(1));
+    QCOMPARE(open.Outside.Messages.size(), std::size_t(2)); // one question for each print
+}
+
+void PrintingTest::pausedPrinterDoesNotStopPdf() {
+    OpenPreview open;
+    open.Server.Now = {PrinterState::NoService, {}};
+    open.PdfToChoose = open.Folder.filePath("report.pdf");
+    PressPrint(open);
+    QVERIFY(open.Outside.Messages.empty());
+    QVERIFY(QFile::exists(open.PdfToChoose));
+}
+
+void PrintingTest::printerThatVanishesWhileSendingIsReported() {
+    OpenPreview open(1, WithPrinters);
+    open.Server.Refusal = "client-error-not-found";
+    QVERIFY(WhileOpen(
+        "PrintProgress", [&open] { PressPrint(open); },
+        [&open](QWidget&) { open.Server.Now.State = PrinterState::Removed; }));
+    QCOMPARE(
+        open.Outside.TakeTexts(),
+        std::vector<std::string>{"The report was not printed: the printer \"Office\" is no longer there. "
+                                 "Choose another printer."});
 }
 
 void PrintingTest::progressNamesPageAndPrinter() {
