@@ -4,6 +4,7 @@
 #include "reports/windows/PrinterSend.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QProgressDialog>
 
 namespace Ledgrove {
@@ -18,6 +19,10 @@ public:
         m_dialog.setObjectName("PrintProgress");
         m_dialog.setWindowTitle(QString::fromStdString(request.Document.Title));
         m_dialog.setWindowModality(Qt::WindowModal);
+        auto* const label = new QLabel;
+        label->setAlignment(Qt::AlignCenter);
+        label->setTextFormat(Qt::PlainText); // a printer's name may look like HTML
+        m_dialog.setLabel(label);
         m_dialog.setCancelButtonText("Cancel");
         m_dialog.setRange(0, static_cast<int>(request.Document.PageCount()));
         m_dialog.setAutoReset(false);
