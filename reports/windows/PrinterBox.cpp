@@ -1,0 +1,66 @@
+#include "reports/windows/PrinterBox.h"
+
+#include <QAbstractItemView>
+#include <QSignalBlocker>
+#include <QStylePainter>
+#include <QStyledItemDelegate>
+#include <QTextDocument>
+
+namespace Ledgrove {
+
+namespace {
+
+/// The delegate that some styles use for pick lists cuts long items off. This one elides them, and gives
+/// them as much room above and below.
+class ElidingDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        constexpr int roomAround = 4;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * roomAround);
+    }
+};
+
+} // namespace
+
+PrinterBox::PrinterBox(QWidget* parent)
+    : QComboBox(parent) {
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setItemDelegate(new ElidingDelegate(this));
+    view()->setTextElideMode(Qt::ElideMiddle);
+}
+
+void PrinterBox::SetPrinters(const QStringList& names, int chosen) {
+    const QSignalBlocker nothingChosen(*this);
+    clear();
+    for (int i = 0; i < names.size(); ++i) {
+        addItem(names[i]);
+        setItemData(i, PlainToolTip(names[i]), Qt::ToolTipRole);
+    }
+    setCurrentIndex(chosen);
+}
+
+void PrinterBox::showPopup() {
+    emit Opening();
+    QComboBox::showPopup();
+}
+
+void PrinterBox::paintEvent(QPaintEvent* /*event*/) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect text =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    constexpr int styleMargin = 2; // styles keep one pixel on both sides
+    option.currentText =
+        fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, text.width() - styleMargin);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+QString PlainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+} // namespace Ledgrove
