@@ -14,6 +14,16 @@ constexpr double mostCopies = 9999;              ///< of the copies field, and o
 constexpr Twips narrowestSheet = 7560 + 2 * 720; ///< the section tables plus the margins
 constexpr Twips shortestSheet = 9000;
 
+constexpr Twips maximizedHeightLess = 1300;
+constexpr Twips maximizedWidthLess = 600;
+constexpr int narrowestGap = 3;
+
+/// Logical pixels, of which an inch has 96.
+constexpr int Pixels(Twips length) {
+    constexpr Twips twipsPerPixel = TwipsPerInch / 96;
+    return (length + twipsPerPixel / 2) / twipsPerPixel;
+}
+
 std::string Inches(Twips length) {
     return Module1::FormatPicture(static_cast<double>(length) / TwipsPerInch, ".0");
 }
@@ -32,6 +42,13 @@ int ZoomStep(int index, int step) {
 PageButton PageButtonAt(std::size_t shown, std::size_t pageCount) {
     const bool onFirst = shown == 1;
     return {pageCount > 1, onFirst ? "Page 2" : "Page 1", onFirst ? 2U : 1U};
+}
+
+PreviewFrame MaximizedFrame(int controlsHeight, int spareWidth) {
+    const int rest = Pixels(maximizedHeightLess) - controlsHeight;
+    const int gap = std::max(rest / 4, narrowestGap);
+    return {std::clamp(spareWidth / 2, 0, Pixels(maximizedWidthLess) / 2), gap,
+            std::max(rest - 3 * gap, narrowestGap)};
 }
 
 std::string StatusText(const PrinterDevice& device, const PrinterDetails& details) {

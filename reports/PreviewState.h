@@ -29,6 +29,20 @@ struct PageButton {
 /// The button while page `shown` of `pageCount` is shown. It intentionally never goes beyond the second page.
 PageButton PageButtonAt(std::size_t shown, std::size_t pageCount);
 
+/// The room around the preview in the maximized window, in logical pixels.
+struct PreviewFrame {
+    int Side = 0;   ///< left and right of it
+    int Gap = 0;    ///< above the header, below it, and above the controls
+    int Bottom = 0; ///< below the controls
+
+    bool operator==(const PreviewFrame&) const = default;
+};
+
+/// The frame that makes the preview 1300 twips lower and 600 twips narrower than the window. The header and
+/// the controls below the preview have `controlsHeight` together, and the window is `spareWidth` wider than
+/// they need; if this is too little room, the preview becomes smaller.
+PreviewFrame MaximizedFrame(int controlsHeight, int spareWidth);
+
 struct PrinterDevice {
     std::string Name;
     std::string Port;

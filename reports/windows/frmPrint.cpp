@@ -1,19 +1,19 @@
 #include "reports/windows/frmPrint.h"
 
-#include "reports/windows/FittedPicture.h"
+#include "reports/windows/PreviewHeader.h"
 #include "reports/windows/PreviewPane.h"
 #include "reports/windows/PrintRun.h"
+#include "reports/windows/PrinterBox.h"
 #include "reports/windows/PrinterSend.h"
 #include "reports/windows/ReportFile.h"
 #include "ui/windows/FormParts.h"
 #include "ui/windows/Identify.h"
-#include "ui/windows/Labels.h"
+#include "ui/windows/NormalPlace.h"
 
-#include <QComboBox>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -47,9 +47,10 @@ frmPrint::frmPrint(PreviewParts parts, Session& session, Host& outside, QWidget*
     : EntryDialog({"frmPrint", "Summary Report", "ctxPrint"}, session, outside, parent)
     , m_parts(std::move(parts))
     , m_document(m_measure)
+    , m_header(new PreviewHeader(LoadPicture(State().EmblemFile())))
     , m_preview(new PreviewPane(m_document))
-    , m_printers(MakePickList("cboPrinter", "Printer"))
-    , m_orientations(MakePickList("cboOrientation", "Orientation"))
+    , m_printers(&m_header->Printers())
+    , m_orientations(&m_header->Orientations())
     , m_zooms(MakePickList("cboZoom", "Zoom in percent")) {
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_copies.Text = "1";
@@ -58,7 +59,7 @@ frmPrint::frmPrint(PreviewParts parts, Session& session, Host& outside, QWidget*
     Load();
     Present();
     m_preview->setFocus();
-    m_normalSize = size();
+    m_place = new NormalPlace(*this);
 }
 
 void frmPrint::Load() {
@@ -82,22 +83,33 @@ void frmPrint::InitPicklists() {
 
 void frmPrint::LoadPrinters() {
     Trace("In LoadPrinters");
+    ListDevices();
+    Trace("In LoadPrinters - after with vsprinter");
+    ChangePrinter();
+}
+
+/// Lists the computer's printers. The chosen printer stays if it still exists, otherwise it is the default
+/// printer. Returns whether it stays.
+bool frmPrint::ListDevices() {
     const std::string current = m_devices.empty() ? std::string() : Device().Name;
     m_devices = AllDevices(m_parts.Machine.Server);
-    Trace("In LoadPrinters - after with vsprinter");
     const auto found = std::find_if(m_devices.begin(), m_devices.end(),
                                     [&current](const PrinterDevice& one) { return one.Name == current; });
-    m_device = found == m_devices.end() ? DefaultDevice(m_devices)
-                                        : static_cast<std::size_t>(found - m_devices.begin());
-    {
-        // Without the blocker, every printer selected on the way would be queried for its details.
-        const QSignalBlocker nothingChosen(m_printers);
-        m_printers->clear();
-        for (const PrinterDevice& device : m_devices)
-            m_printers->addItem(QString::fromStdString(device.Name));
-        m_printers->setCurrentIndex(static_cast<int>(m_device));
-    }
-    ChangePrinter();
+    const bool stays = found != m_devices.end();
+    m_device = stays ? static_cast<std::size_t>(found - m_devices.begin()) : DefaultDevice(m_devices);
+    QStringList names;
+    for (const PrinterDevice& device : m_devices)
+        names += QString::fromStdString(OneLine(device.Name));
+    m_printers->SetPrinters(names, static_cast<int>(m_device));
+    return stays;
+}
+
+/// For the opening pick list: printers come and go.
+void frmPrint::ReadPrintersAgain() {
+    if (ListDevices())
+        ShowStatus();
+    else
+        ChangePrinter();
 }
 
 void frmPrint::InitvsPrinter() {
@@ -125,40 +137,12 @@ void frmPrint::RefreshPrintView() {
 }
 
 void frmPrint::BuildControls() {
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(8);
-    layout->addLayout(MakeHeader());
-    layout->addWidget(m_preview, 1);
-    layout->addLayout(MakeControlRow());
-}
-
-QLayout* frmPrint::MakeHeader() {
-    auto* picture = new QLabel;
-    Identify(*picture, "imgHdr", "Ledgrove");
-    picture->setFixedSize(64, 56);
-    picture->setAlignment(Qt::AlignCenter);
-    ShowFitted(*picture, LoadPicture(State().EmblemFile()));
-
-    m_printers->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_printers->setMinimumContentsLength(22);
-    m_size = TextLabel({});
-    IdentifyByDescription(*m_size, "lblSize", "Paper size in inches, width by height");
-    m_status = TextLabel({});
-    IdentifyByDescription(*m_status, "lblStatus", "Printer details");
-    // A long port name must not widen the window.
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_status->setMinimumHeight(3 * m_status->fontMetrics().lineSpacing());
-
-    auto* grid = MakeGrid(nullptr);
-    grid->addWidget(picture, 0, 0, 2, 1);
-    grid->addWidget(MakeCaption("P&rinter:", m_printers), 0, 1);
-    grid->addWidget(m_printers, 0, 2, 1, 2);
-    grid->addWidget(MakeCaption("&Orientation:", m_orientations), 1, 1);
-    grid->addWidget(m_orientations, 1, 2);
-    grid->addWidget(m_size, 1, 3);
-    grid->addWidget(m_status, 0, 4, 2, 1, Qt::AlignVCenter);
-    grid->setColumnStretch(4, 1);
-    return grid;
+    m_layout = new QVBoxLayout(this);
+    m_layout->addWidget(m_header);
+    m_layout->addWidget(m_preview, 1);
+    m_controlRow = MakeControlRow();
+    m_layout->addLayout(m_controlRow);
+    LayOutControls();
 }
 
 QLayout* frmPrint::MakeControlRow() {
@@ -191,6 +175,7 @@ QLayout* frmPrint::MakeControlRow() {
 }
 
 void frmPrint::Connect() {
+    connect(m_printers, &PrinterBox::Opening, this, &frmPrint::ReadPrintersAgain);
     connect(m_printers, &QComboBox::currentIndexChanged, this, [this](int index) {
         m_device = static_cast<std::size_t>(index);
         ChangePrinter();
@@ -221,8 +206,16 @@ void frmPrint::showEvent(QShowEvent* event) {
 void frmPrint::changeEvent(QEvent* event) {
     EntryDialog::changeEvent(event);
     // The window's own button also maximizes.
-    if (event->type() == QEvent::WindowStateChange)
+    if (event->type() == QEvent::WindowStateChange) {
         ShowWindowButton();
+        LayOutControls();
+    }
+}
+
+void frmPrint::resizeEvent(QResizeEvent* event) {
+    EntryDialog::resizeEvent(event);
+    if (isMaximized())
+        LayOutControls();
 }
 
 void frmPrint::keyPressEvent(QKeyEvent* event) {
@@ -242,11 +235,9 @@ void frmPrint::StepZoom(int step) {
 }
 
 void frmPrint::ChangePrinter() {
-    const PrinterDetails details =
-        IsPdf(Device()) ? PdfDetails() : m_parts.Machine.Server.Details(Device().Name);
-    m_status->setText(QString::fromStdString(StatusText(Device(), details)));
-    m_status->setToolTip(m_status->text());
-    const Paper paper = PaperFor(details);
+    m_details = IsPdf(Device()) ? PdfDetails() : m_parts.Machine.Server.Details(Device().Name);
+    ShowStatus();
+    const Paper paper = PaperFor(m_details);
     const bool samePaper = paper == m_paper;
     m_paper = paper;
     ShowSize();
@@ -268,10 +259,10 @@ void frmPrint::ChangePage() {
 }
 
 void frmPrint::MaximizeOrRestore() {
-    if (!isMaximized())
-        return showMaximized();
-    showNormal();
-    resize(m_normalSize);
+    if (isMaximized())
+        return showNormal();
+    m_place->Keep();
+    showMaximized();
 }
 
 void frmPrint::Print() {
@@ -310,8 +301,12 @@ bool frmPrint::MayPrintNow() {
     return IsPdf(Device()) || MayPrint("The report", Device().Name, m_parts.Machine.Server, Outside());
 }
 
+void frmPrint::ShowStatus() {
+    m_header->ShowStatus(QString::fromStdString(StatusText(Device(), m_details)));
+}
+
 void frmPrint::ShowSize() {
-    m_size->setText(QString::fromStdString(SizeText(SheetOf(m_paper, m_orientation))));
+    m_header->ShowSize(QString::fromStdString(SizeText(SheetOf(m_paper, m_orientation))));
 }
 
 void frmPrint::ShowPageButton() {
@@ -322,6 +317,22 @@ void frmPrint::ShowPageButton() {
 
 void frmPrint::ShowWindowButton() {
     SetCaption(*m_maximize, isMaximized() ? "&Minimize" : "&Maximize");
+}
+
+/// Maximized, the preview gets the size that it has in a maximized window.
+void frmPrint::LayOutControls() {
+    constexpr int normalSpacing = 8;
+    m_header->SetCompact(isMaximized());
+    if (!isMaximized()) {
+        m_layout->unsetContentsMargins();
+        m_layout->setSpacing(normalSpacing);
+        return;
+    }
+    const int height = m_header->sizeHint().height() + m_controlRow->sizeHint().height();
+    const int narrowest = std::max(m_header->minimumSizeHint().width(), m_controlRow->minimumSize().width());
+    const PreviewFrame frame = MaximizedFrame(height, width() - narrowest);
+    m_layout->setContentsMargins(frame.Side, frame.Gap, frame.Side, frame.Bottom);
+    m_layout->setSpacing(frame.Gap);
 }
 
 void frmPrint::Trace(const char* step) {

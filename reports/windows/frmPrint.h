@@ -5,11 +5,14 @@
 #include "ui/windows/EntryDialog.h"
 
 class QComboBox;
-class QLabel;
+class QVBoxLayout;
 
 namespace Ledgrove {
 
+class NormalPlace;
+class PreviewHeader;
 class PreviewPane;
+class PrinterBox;
 
 struct PreviewParts {
     /// Writes the report to the open document; called for each composition.
@@ -41,16 +44,18 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void BuildControls();
-    QLayout* MakeHeader();
     QLayout* MakeControlRow();
     void Connect();
 
     void ChangeZoom();
     void StepZoom(int step);
+    bool ListDevices();
+    void ReadPrintersAgain();
     void ChangePrinter();
     void ChangeOrientation();
     void ChangePage();
@@ -59,9 +64,11 @@ private:
     Module1::EntryOutcome LeaveCopies();
     bool MayPrintNow();
 
+    void ShowStatus();
     void ShowSize();
     void ShowPageButton();
     void ShowWindowButton();
+    void LayOutControls();
     void Trace(const char* step);
     const PrinterDevice& Device() const { return m_devices[m_device]; }
 
@@ -71,22 +78,24 @@ private:
     Field m_copies;
     std::vector<PrinterDevice> m_devices;
     std::size_t m_device = 0;
+    PrinterDetails m_details; ///< of this device
     Paper m_paper;
     PageOrientation m_orientation = PageOrientation::Portrait;
     bool m_tracing = false;
     bool m_loading = false;
     bool m_previewMode = true;
-    QSize m_normalSize; ///< as at loading
 
+    PreviewHeader* m_header;
     PreviewPane* m_preview;
-    QComboBox* m_printers;
+    PrinterBox* m_printers;
     QComboBox* m_orientations;
     QComboBox* m_zooms;
-    QLabel* m_size = nullptr;
-    QLabel* m_status = nullptr;
+    QVBoxLayout* m_layout = nullptr;
+    QLayout* m_controlRow = nullptr;
     QPushButton* m_changePage = nullptr;
     QPushButton* m_maximize = nullptr;
     QPushButton* m_print = nullptr;
+    NormalPlace* m_place = nullptr;
 };
 
 } // namespace Ledgrove

@@ -5,13 +5,15 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
-from desktop import Desktop, Program, wait_for
+from desktop import SCREEN, Desktop, Program, wait_for
 from print_server import PrintServer, free_port
 
 PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
+SCREEN_WIDTH = int(SCREEN.split("x")[0])
 SELECTION, HEADER, PREVIEW = "Report Selection", "Print Options", "Summary Report"
 SAMPLE = (("Annual Income", "72000"), ("Monthly Debt", "350"), ("% Down, Down Payment", "10"),
           ("Sticker Price, Base Home", "200000"), ("Sticker Price, GREENMARK Home", "206000"),
@@ -298,6 +300,56 @@ class WithoutServer(PrintTest):
         self.desktop.key("Escape")
         self.program.window(SELECTION)
         wait_for(lambda: self.program.find("check box", "Summary") is not None, "the selection again")
+
+    def window_number(self):
+        return self.desktop.xdotool("search", "--onlyvisible", "--name", f"^{PREVIEW}$").strip()
+
+    def place(self):
+        """The place of the preview window on the screen without its frame: left, top, width, height."""
+        shown = subprocess.run(["xwininfo", "-id", self.window_number()], env=self.desktop.environment, check=True,
+                               capture_output=True, text=True).stdout
+        return tuple(int(re.search(rf"{name}: +(-?\d+)", shown)[1])
+                     for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+    def wait_place(self, is_right, what):
+        wait_for(lambda: is_right(self.place()), f"the window {what}; it is at {self.place()}")
+        time.sleep(0.4)  # a window manager may move it once more
+        self.assertTrue(is_right(self.place()), self.place())
+
+    def double_click_title(self):
+        left, top, width, _ = self.place()
+        self.desktop.xdotool("mousemove", left + width // 2, top - 8, "click", "--repeat", 2, "--delay", 60, 1)
+
+    def test_minimize_returns_to_the_place_before(self):
+        self.start()
+        self.preview()
+        window = self.window_number()
+        self.desktop.xdotool("windowsize", "--sync", window, 760, 600)
+        self.desktop.xdotool("windowmove", window, 217, 83)
+        self.wait_place(lambda place: place[2:] == (760, 600), "with its new size")
+        before = self.place()
+        self.assertGreater(before[0], 200)
+        by_button = (lambda: self.press("Maximize"), lambda: self.press("Minimize"))
+        by_title = (self.double_click_title,) * 2
+        for maximize, restore in (by_button, by_title, (by_button[0], by_title[1]), (by_title[0], by_button[1])):
+            maximize()
+            self.program.find("push button", "Minimize")
+            self.wait_place(lambda place: place[2] == SCREEN_WIDTH, "maximized")
+            restore()
+            self.program.find("push button", "Maximize")
+            self.wait_place(lambda place: place == before, f"at {before} again")
+
+    def test_a_window_that_was_just_moved_returns(self):
+        self.start()
+        self.preview()
+        window = self.window_number()
+        for left in (40, 330):
+            self.desktop.xdotool("windowmove", "--sync", window, left, 60)
+            before = self.place()
+            self.press("Maximize")
+            self.wait_place(lambda place: place[2] == SCREEN_WIDTH, "maximized")
+            self.press("Minimize")
+            self.wait_place(lambda place: place == before, f"at {before} again")
 
 
 if __name__ == "__main__":

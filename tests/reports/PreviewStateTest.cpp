@@ -29,6 +29,26 @@ TEST(PageButtonAt, LeadsFromTheFirstPageToTheSecondAndElseToTheFirst) {
     }
 }
 
+// 1300 and 600 twips at 15 for each pixel
+constexpr int heightLess = 87; // 86.67
+constexpr int widthLess = 40;
+
+TEST(MaximizedFrame, LeavesThePreviewItsSize) {
+    for (const int controls : {40, 53, 54, 55, 56, 75}) {
+        const PreviewFrame frame = MaximizedFrame(controls, 500);
+        EXPECT_EQ(3 * frame.Gap + frame.Bottom + controls, heightLess) << controls;
+        EXPECT_EQ(2 * frame.Side, widthLess);
+    }
+    EXPECT_EQ(MaximizedFrame(55, 500), (PreviewFrame{20, 8, 8})); // 87 - 55 = 4 times 8
+}
+
+TEST(MaximizedFrame, CutsNoControl) {
+    EXPECT_EQ(MaximizedFrame(heightLess, 500), (PreviewFrame{20, 3, 3}));
+    EXPECT_EQ(MaximizedFrame(200, 500), (PreviewFrame{20, 3, 3}));
+    EXPECT_EQ(MaximizedFrame(55, 30).Side, 15);
+    EXPECT_EQ(MaximizedFrame(55, -30).Side, 0);
+}
+
 TEST(StatusText, HasTwoBlanksBeforeTheResolution) {
     EXPECT_EQ(StatusText({"Office", "ipp://printserver/office", "Laser 600"}, {600, {}}),
               "DPI:  600\nPort: ipp://printserver/office\nDriver: Laser 600");

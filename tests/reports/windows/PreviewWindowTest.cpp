@@ -51,7 +51,6 @@ private slots:
     void withoutPrintersThereIsOnlyPdf();
     void printerShowsItsDetails();
     void printersPaperIsTheSheet();
-    void maximizeAndMinimize();
     void traceShowsEachStep();
     void loadingEndsTheTrace();
     void closeAndEscapeClose();
@@ -287,23 +286,6 @@ void PreviewWindowTest::printersPaperIsTheSheet() {
     QCOMPARE(open.Window->Document().Geometry.PageHeight, 16838);
     open.Choose("cboPrinter", 2);
     QCOMPARE(open.LabelText("lblSize"), "8.5x11.0");
-}
-
-void PreviewWindowTest::maximizeAndMinimize() {
-    OpenPreview open;
-    auto& button = open.Find<QPushButton>("bMaxMin");
-    const QSize window = open.Window->size();
-    const QSize preview = open.Find("vsPrinter").size();
-    QCOMPARE(button.text().remove('&'), "Maximize");
-    button.click();
-    QVERIFY(open.Window->isMaximized());
-    QTRY_VERIFY(open.Find("vsPrinter").width() > preview.width());
-    QCOMPARE(button.text().remove('&'), "Minimize");
-    button.click();
-    QVERIFY(!open.Window->isMaximized());
-    QCOMPARE(button.text().remove('&'), "Maximize");
-    QTRY_COMPARE(open.Window->size(), window);
-    QTRY_COMPARE(open.Find("vsPrinter").size(), preview);
 }
 
 void PreviewWindowTest::traceShowsEachStep() {

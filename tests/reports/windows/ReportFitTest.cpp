@@ -18,6 +18,24 @@ QString HiddenButton(const QWidget& window, std::initializer_list<const char*> b
     return {};
 }
 
+/// The first control of the preview window that is not wholly in view, or "".
+QString HiddenInPreview(const OpenPreview& open) {
+    for (const char* control : {"cboPrinter", "cboOrientation", "lblSize", "vsPrinter", "bNextPage",
+                                "cboZoom", "bChgPage", "bMaxMin", "txtCopies", "cmdPrint", "cmdClose"}) {
+        if (!IsWholeInView(open.Find(control)))
+            return control;
+    }
+    return {};
+}
+
+void Maximize(const OpenPreview& open) {
+    open.Find<QPushButton>("bMaxMin").click();
+    const QRect screen = open.Window->screen()->availableGeometry();
+    if (!QTest::qWaitFor([&] { return open.Window->frameGeometry() == screen; }))
+        qFatal("the window does not fill the screen");
+    QCoreApplication::processEvents();
+}
+
 void Open(QWidget& window) {
     window.show();
     if (!QTest::qWaitForWindowActive(&window))
@@ -34,6 +52,8 @@ private slots:
     void theSelectionFits();
     void theHeaderFits();
     void thePreviewFits();
+    void theMaximizedPreviewHasItsSize();
+    void largeLettersCutNothing();
 };
 
 void ReportFitTest::theSelectionFits() {
@@ -64,6 +84,30 @@ void ReportFitTest::thePreviewFits() {
     QCOMPARE(HiddenButton(*open.Form, {"bChgPage", "bMaxMin", "cmdPrint", "cmdClose"}), QString());
     QVERIFY(IsWholeInView(open.Find("cboPrinter")));
     QVERIFY(IsWholeInView(open.Find("bNextPage")));
+}
+
+void ReportFitTest::theMaximizedPreviewHasItsSize() {
+    const OpenPreview open(2);
+    Maximize(open);
+    QCOMPARE(HiddenInPreview(open), QString());
+    // 600 and 1300 twips at 15 for each pixel
+    QCOMPARE(open.Find("vsPrinter").size(), open.Window->size() - QSize(40, 87));
+}
+
+void ReportFitTest::largeLettersCutNothing() {
+    if (!HasRoom({1366, 768}))
+        QSKIP("letters of this size need a larger screen");
+    const QFont usual = QApplication::font();
+    for (const double scale : {1.5, 2.0}) {
+        QFont large = usual;
+        large.setPointSizeF(usual.pointSizeF() * scale);
+        QApplication::setFont(large);
+        const OpenPreview open(2);
+        QApplication::setFont(usual);
+        QCOMPARE(HiddenInPreview(open), QString());
+        Maximize(open);
+        QCOMPARE(HiddenInPreview(open), QString());
+    }
 }
 
 QTEST_MAIN(ReportFitTest)
