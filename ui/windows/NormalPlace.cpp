@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QWidget>
+#include <utility>
 
 namespace Ledgrove {
 
@@ -17,12 +18,12 @@ NormalPlace::NormalPlace(QWidget& window)
     , m_place(window.geometry()) {
     m_settled.setSingleShot(true);
     m_settled.setInterval(settlingMilliseconds);
-    connect(&m_settled, &QTimer::timeout, this, &NormalPlace::Keep);
+    connect(&m_settled, &QTimer::timeout, this, &NormalPlace::TakeSettledPlace);
     window.installEventFilter(this);
 }
 
 void NormalPlace::Keep() {
-    if (IsNormal())
+    if (IsNormal() && !m_returns)
         m_place = m_window.geometry();
 }
 
@@ -47,11 +48,19 @@ bool NormalPlace::IsNormal() const {
 }
 
 void NormalPlace::FollowState() {
-    m_settled.stop();
-    const bool isBack = m_wasMaximized && IsNormal();
+    m_returns = IsNormal() && (m_wasMaximized || m_returns);
     m_wasMaximized = m_window.isMaximized();
-    if (isBack)
+    m_settled.stop();
+    if (m_returns)
+        m_settled.start();
+}
+
+void NormalPlace::TakeSettledPlace() {
+    // A window that is at its place is not moved: at a fractional scale, the same place may be another pixel.
+    if (std::exchange(m_returns, false) && m_window.geometry() != m_place)
         m_window.setGeometry(m_place);
+    else
+        Keep();
 }
 
 } // namespace Ledgrove

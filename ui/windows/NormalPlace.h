@@ -9,8 +9,8 @@ class QWidget;
 namespace Ledgrove {
 
 /// Puts a window back to its earlier place and size when it is no longer maximized, however it was maximized
-/// and restored. Window managers report a new size before or after the new state, so only a size that stays
-/// for a moment counts as the normal one.
+/// and restored. Most window managers do so themselves, and then this changes nothing. They report a new size
+/// before or after the new state, so only a size that stays for a moment counts.
 class NormalPlace : public QObject {
     Q_OBJECT
 
@@ -26,11 +26,13 @@ public:
 private:
     bool IsNormal() const;
     void FollowState();
+    void TakeSettledPlace();
 
     QWidget& m_window;
     QRect m_place; ///< without the frame
     QTimer m_settled;
     bool m_wasMaximized = false;
+    bool m_returns = false; ///< it is no longer maximized, and its place has not settled
 };
 
 } // namespace Ledgrove

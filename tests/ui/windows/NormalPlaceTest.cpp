@@ -38,6 +38,7 @@ private slots:
     void aSizeThatComesBeforeTheStateIsNotNormal();
     void aMovedAndResizedWindowComesBack();
     void aWindowThatWasJustMovedComesBackIfItsPlaceIsKept();
+    void maximizingAgainAtOnceKeepsThePlace();
     void minimizingTheMaximizedWindowKeepsThePlace();
     void aMovedWindowStaysWhereItIs();
 };
@@ -75,6 +76,19 @@ void NormalPlaceTest::aWindowThatWasJustMovedComesBackIfItsPlaceIsKept() {
     open.Place.Keep(); // a maximized window has no normal place
     open.Restore();
     QTRY_COMPARE(open.Window.geometry(), moved);
+}
+
+void NormalPlaceTest::maximizingAgainAtOnceKeepsThePlace() {
+    SettledWindow open;
+    open.Window.setGeometry(open.Window.screen()->availableGeometry());
+    for (int round = 0; round < 2; ++round) {
+        open.Maximize();
+        open.Restore();
+        open.Place.Keep();
+    }
+    QVERIFY(open.Window.geometry() != usual);
+    open.Window.setGeometry(open.Window.screen()->availableGeometry());
+    QTRY_COMPARE(open.Window.geometry(), usual);
 }
 
 void NormalPlaceTest::minimizingTheMaximizedWindowKeepsThePlace() {
