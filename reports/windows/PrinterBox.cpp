@@ -3,31 +3,13 @@
 #include <QAbstractItemView>
 #include <QSignalBlocker>
 #include <QStylePainter>
-#include <QStyledItemDelegate>
 #include <QTextDocument>
 
 namespace Ledgrove {
 
-namespace {
-
-/// The delegate that some styles use for pick lists cuts long items off. This one elides them, and gives
-/// them as much room above and below.
-class ElidingDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        constexpr int roomAround = 4;
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * roomAround);
-    }
-};
-
-} // namespace
-
 PrinterBox::PrinterBox(QWidget* parent)
     : QComboBox(parent) {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setItemDelegate(new ElidingDelegate(this));
     view()->setTextElideMode(Qt::ElideMiddle);
 }
 
