@@ -211,6 +211,20 @@ class WithServer(PrintTest):
         self.choose("Printer", "r", "Office")
         self.assertEqual(self.print()[0], "Office")
 
+    def test_the_opening_list_knows_a_new_printer(self):
+        self.addCleanup(self.server.remove_printer, "Attic")
+        self.start()
+        self.preview()
+        self.server.add_printer("Attic", GENERIC_PDF)
+        self.desktop.key("alt+r")
+        self.program.wait_focus("Printer")
+        self.desktop.key("alt+Down")
+        time.sleep(0.3)  # the open list takes the keys
+        self.assertEqual(self.chosen("Printer"), "Office")
+        self.desktop.key("Home", "Return")
+        wait_for(lambda: self.chosen("Printer") == "Attic", "the new printer")
+        self.assertEqual(self.print()[0], "Attic")
+
     def test_a_paused_printer_is_asked_about(self):
         self.addCleanup(self.server.resume, "Office")
         self.start()
