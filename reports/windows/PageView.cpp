@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <cmath>
+#include <optional>
 
 namespace Ledgrove {
 
@@ -26,16 +27,22 @@ void PutMiddle(QScrollBar& bar, double middle) {
     bar.setValue(static_cast<int>(std::lround(middle * content - bar.pageStep() / 2.0)));
 }
 
-/// The text of a page for screen readers.
+/// The text of a page for screen readers: a line for each line of text or row of a table.
 QString TextOf(const PrintPage& page) {
-    QStringList texts;
+    QStringList lines;
+    std::optional<Twips> lastTop;
     for (const PrintItem& item : page) {
         const auto* run = std::get_if<TextRun>(&item);
         const QString text = run ? QString::fromStdString(run->Text).trimmed() : QString();
-        if (!text.isEmpty())
-            texts += text;
+        if (text.isEmpty())
+            continue;
+        if (lastTop == run->Y)
+            lines.back() += ' ' + text;
+        else
+            lines += text;
+        lastTop = run->Y;
     }
-    return texts.join('\n');
+    return lines.join('\n');
 }
 
 } // namespace

@@ -57,6 +57,7 @@ private slots:
     void namesAreWords();
     void mnemonicsAndTabOrder();
     void screenReaderReadsThePage();
+    void screenReaderReadsARowAsALine();
 };
 
 void PreviewWindowTest::loadingComposesTheReportOnce() {
@@ -351,6 +352,23 @@ void PreviewWindowTest::screenReaderReadsThePage() {
     QVERIFY(ViewOf(open).accessibleDescription().contains("Sheet 2"));
     QVERIFY(!ViewOf(open).accessibleDescription().contains("Sheet 1"));
     QCOMPARE(SpokenName(open.Find("txtCopies")), "Copies");
+}
+
+void PreviewWindowTest::screenReaderReadsARowAsALine() {
+    const FontMeasure measure;
+    PrintDocument document(measure);
+    document.FontSize = 9;
+    document.Start();
+    document.BeginTable();
+    const Twips line = document.CurrentY;
+    document.AddTable("2000|2000|2000|2000;", "", "Income||Down Payment|;Debt");
+    document.CurrentY = line;
+    document.AddTable("2000|2000|2000|2000;", "", "|$72,000||10%;|$350");
+    document.EndTable();
+    document.End();
+    PageView view(document);
+    view.ShowPage(1);
+    QCOMPARE(view.accessibleDescription(), "Income $72,000 Down Payment 10%\nDebt $350");
 }
 
 QTEST_MAIN(PreviewWindowTest)
