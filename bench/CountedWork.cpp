@@ -73,11 +73,11 @@ private:
     int m_nowhere;
 };
 
-template <typename Reader>
-std::function<void()> Comparing(const PriceList& list) {
+template <typename Reader, typename... Run>
+std::function<void()> Comparing(const PriceList& list, Run... run) {
     const auto comparison = std::make_shared<Comparison>(Bench::SampleSession());
-    return [list, comparison] {
-        Reader reader(*comparison);
+    return [list, comparison, run...]() mutable {
+        Reader reader(*comparison, run...);
         list.Compare(reader);
     };
 }
@@ -98,7 +98,8 @@ std::function<void()> PriceRows() {
                   [](int price) {
                       return "\"$72,000\",350,10%," + std::to_string(price) + ",$" +
                              std::to_string(price + 6000) + ",2400,1700,FHA,15 years\n";
-                  }));
+                  }),
+        CsvRun{[](const std::string&) {}, {}, ','});
 }
 
 std::function<void()> Composing() {

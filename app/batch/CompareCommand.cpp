@@ -8,6 +8,7 @@
 #include "app/batch/InputFile.h"
 #include "app/batch/JsonCompare.h"
 #include "app/batch/ParallelJson.h"
+#include "app/batch/Warnings.h"
 #include "base/Text.h"
 #include "settings/HouseListFile.h"
 #include "ui/HouseScenarios.h"
@@ -17,14 +18,14 @@ namespace Ledgrove {
 namespace {
 
 std::unique_ptr<ComparisonReader> MakeReader(const CompareRequest& request, const Session& start,
-                                             Comparison& comparison) {
+                                             Comparison& comparison, CsvRun& list) {
     switch (request.Format) {
     case CompareFormat::JsonLines:
         if (request.Jobs > 1)
             return std::make_unique<ParallelJsonReader>(start, request.Jobs);
         return std::make_unique<JsonLinesReader>(comparison);
     case CompareFormat::Csv:
-        return std::make_unique<CsvReader>(comparison);
+        return std::make_unique<CsvReader>(comparison, list);
     case CompareFormat::Json:
         return std::make_unique<JsonReader>(comparison, JsonReader::Result::Json);
     case CompareFormat::Text:
@@ -63,8 +64,11 @@ int RunCompare(const CompareRequest& request, const Session& start) {
     Comparison comparison(start);
     OutputBuffer output(STDOUT_FILENO);
     int status = AllWell;
+    CsvRun list;
     for (const std::string& name : request.Files.empty() ? std::vector<std::string>{"-"} : request.Files) {
-        const auto reader = MakeReader(request, start, comparison);
+        Warnings warnings(name);
+        list.Warn = [&warnings](const std::string& sentence) { warnings.Add(sentence); };
+        const auto reader = MakeReader(request, start, comparison, list);
         status = std::max(status, ReadFile(name, *reader, output));
     }
     output.Flush();

@@ -3,140 +3,117 @@
 #include <algorithm>
 #include <csv.h>
 
-#include "engine/Figures.h"
-#include "engine/NumberText.h"
+#include "app/batch/CsvResults.h"
+#include "app/batch/CsvText.h"
+#include "base/Text.h"
 
 namespace Ledgrove {
 
 namespace {
-
-constexpr Figure resultColumns[] = {
-    Figure::StdDownPayment,
-    Figure::StdLoanAmount,
-    Figure::StdMortPayment,
-    Figure::StdPITI,
-    Figure::StdPITIU,
-    Figure::StdMaxPayment,
-    Figure::StdMaxLoan,
-    Figure::GMHDownPayment,
-    Figure::GMHLoanAmount,
-    Figure::GMHMortPayment,
-    Figure::GMHPITI,
-    Figure::GMHPITIU,
-    Figure::GMHMaxPayment,
-    Figure::GMHMaxLoan,
-    Figure::GMHPVSavings,
-    Figure::MortgageSavings,
-    Figure::UtilitySavings,
-    Figure::ShownTaxSavings,
-    Figure::NetMonthlyCashFlow,
-    Figure::ExtraCashToday,
-    Figure::PVNetCashFlow,
-    Figure::SavingsAfter7Years,
-    Figure::SavingsAfterYearsInHome,
-    Figure::SavingsAfter30Years,
-};
-
-// Text columns after the figures.
-constexpr std::string_view lblStdQualColumn = "lblStdQual";
-constexpr std::string_view lblGMHQualColumn = "lblGMHQual";
-constexpr std::string_view errorColumn = "error";
-constexpr std::size_t columnsBehindInputs = std::size(resultColumns) + 3;
-
-bool LooksLikeFormula(std::string_view cell) {
-    if (cell.empty())
-        return false;
-    // Many spreadsheets ignore leading blanks.
-    const std::size_t first = std::min(cell.find_first_not_of(" \t\r\n"), cell.size() - 1);
-    const bool startsLikeOne = cell.front() == '\t' || cell.front() == '\r' ||
-                               std::string_view("=+-@").find(cell[first]) != std::string_view::npos;
-    return startsLikeOne && !Module1::ReadNumber(cell);
-}
-
-/// Without quotes, readers drop leading and trailing blanks, as our own does.
-bool NeedsQuotes(std::string_view cell) {
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    const auto isMark = [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; };
-    return std::any_of(cell.begin(), cell.end(), isMark) ||
-           (!cell.empty() && (isBlank(cell.front()) || isBlank(cell.back())));
-}
-
-/// Appends empty results, and the reason in the last column.
-void AppendRefusal(std::string& out, const Refusal& refusal) {
-    out.append(columnsBehindInputs - 1, ',');
-    const std::string control = refusal.Control.empty() ? "" : refusal.Control + ": ";
-    AppendCsvCell(out, "Line " + std::to_string(refusal.Line) + ": " + control + refusal.Message);
-}
 
 void TakeCapitalsOff(std::string& text) {
     for (char& c : text)
         c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+bool IsAmount(Input input) {
+    switch (input) {
+    case Input::ecIncome:
+    case Input::ecMonthlyDebt:
+    case Input::ecFixedDown:
+    case Input::ecStdHome:
+    case Input::ecGMHHome:
+    case Input::ecStdUtil:
+    case Input::ecGMHUtil:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether a point probably separates thousands: one to three digits, the point, three digits.
+bool LooksLikeThousands(std::string_view text) {
+    if (text.starts_with('$'))
+        text.remove_prefix(1);
+    const std::size_t point = text.find('.');
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return point >= 1 && point <= 3 && text.size() == point + 4 &&
+           std::all_of(text.begin(), text.end(), [&](char c) { return c == '.' || isDigit(c); }) &&
+           std::count(text.begin(), text.end(), '.') == 1;
+}
+
+bool HaveSameOutput(const std::vector<CsvColumn>& a, const std::vector<CsvColumn>& b) {
+    const auto written = [](const std::vector<CsvColumn>& columns) {
+        std::vector<std::string_view> headings;
+        for (const CsvColumn& column : columns)
+            if (column.IsWritten())
+                headings.push_back(column.Heading);
+        return headings;
+    };
+    return written(a) == written(b);
+}
+
 } // namespace
 
-void AppendCsvHeading(std::string& out, const std::vector<std::string>& heading) {
-    for (const std::string& name : heading) {
-        AppendCsvCell(out, name);
-        out += ',';
+void CsvReader::TakeHeading(std::string& out) {
+    m_headingRead = true;
+    CsvHeading heading = ReadCsvHeading(m_row);
+    for (const std::string& warning : heading.Warnings)
+        m_run.Warn(warning);
+    m_columns = std::move(heading.Columns);
+    if (!heading.Refusal.empty()) {
+        m_run.Warn(heading.Refusal);
+        m_refused = true;
+    } else if (!m_run.Columns) {
+        for (const CsvColumn& column : m_columns) {
+            if (!column.IsWritten())
+                continue;
+            AppendCsvCell(out, column.Heading, m_run.Separator);
+            out += m_run.Separator;
+        }
+        AppendResultHeadings(out, m_run.Separator);
+        out += '\n';
+        m_run.Columns = m_columns;
+    } else if (!HaveSameOutput(*m_run.Columns, m_columns)) {
+        m_run.Warn("The columns differ from those of the first list. Run this list on its own.");
+        m_refused = true;
     }
-    for (const Figure column : resultColumns)
-        out.append(EntryOf(column).FullName).append(",");
-    out.append(lblStdQualColumn)
-        .append(",")
-        .append(lblGMHQualColumn)
-        .append(",")
-        .append(errorColumn)
-        .append("\n");
 }
 
-void AppendCsvResults(std::string& out, const Session& session) {
-    for (const Figure column : resultColumns) {
-        Module1::AppendCents(EntryOf(column).Value(session), out);
-        out += ',';
+void CsvReader::WarnOfRow() const {
+    const auto line = [this] { return "Line " + std::to_string(m_rowLine); };
+    const auto missing = std::find_if(
+        m_columns.begin() + static_cast<std::ptrdiff_t>(std::min(m_row.size(), m_columns.size())),
+        m_columns.end(), [](const CsvColumn& column) { return column.IsWritten(); });
+    if (missing != m_columns.end())
+        m_run.Warn(line() + " has no cell for the column " + Quoted(missing->Heading) +
+                   " and those after it. The inputs among them keep their start-up values.");
+    for (std::size_t column = 0; column < std::min(m_row.size(), m_columns.size()); ++column) {
+        const CsvColumn& meaning = m_columns[column];
+        const std::string& cell = m_row[column];
+        if (meaning.Is == CsvColumn::Kind::Input && IsAmount(meaning.Which) && LooksLikeThousands(cell))
+            m_run.Warn(line() + ", column " + Quoted(meaning.Heading) + ": " + Quoted(cell) +
+                       " is read with a decimal point. Leave the point out if it separates thousands.");
+        if (meaning.Is == CsvColumn::Kind::Nothing && !cell.empty())
+            m_run.Warn(line() + ": " + Quoted(cell) + " stands in column " + std::to_string(column + 1) +
+                       ", which has no heading, and is left out.");
     }
-    out.append(session.Screen.lblStdQual.Text).append(",").append(session.Screen.lblGMHQual.Text).append(",");
-}
-
-std::string DefusedCell(std::string_view cell) {
-    return LooksLikeFormula(cell) ? "'" + std::string(cell) : std::string(cell);
-}
-
-void AppendCsvCell(std::string& out, std::string_view cell) {
-    if (LooksLikeFormula(cell)) {
-        // With the apostrophe the cell is not a formula, so this recurses only once.
-        return AppendCsvCell(out, DefusedCell(cell));
-    }
-    if (!NeedsQuotes(cell)) {
-        out += cell;
-        return;
-    }
-    out += '"';
-    for (const char c : cell) {
-        if (c == '"')
-            out += '"';
-        out += c;
-    }
-    out += '"';
 }
 
 std::optional<Refusal> CsvReader::Compare() {
     m_inputs.Clear();
-    if (m_heading.size() == 1 && m_heading.front().find(';') != std::string::npos)
-        return Refusal{m_rowLine, "", "", "Separate the columns with commas, not with semicolons."};
-    if (m_row.size() > m_heading.size())
+    const auto extra = m_row.begin() + static_cast<std::ptrdiff_t>(std::min(m_row.size(), m_columns.size()));
+    if (std::any_of(extra, m_row.end(), [](const std::string& cell) { return !cell.empty(); }))
         return Refusal{m_rowLine, "", "", "The row has more cells than the heading row."};
-    for (std::size_t column = 0; column < m_row.size(); ++column) {
-        const std::optional<Input> input = m_columns[column];
-        if (!input)
-            return AtLine(UnknownInput(m_heading[column], m_row[column]));
-        if (m_row[column].empty())
+    WarnOfRow();
+    for (std::size_t column = 0; column < std::min(m_row.size(), m_columns.size()); ++column) {
+        if (m_columns[column].Is != CsvColumn::Kind::Input || m_row[column].empty())
             continue;
-        InputValue& value = m_inputs[*input];
+        InputValue& value = m_inputs[m_columns[column].Which];
         value.Present = true;
         value.Kind = InputKind::Text;
         value.Text = m_row[column];
-        if (input == Input::chkDoTax0)
+        if (m_columns[column].Which == Input::chkDoTax0)
             TakeCapitalsOff(value.Text); // spreadsheets write TRUE and FALSE
     }
     auto refusal = m_comparison.Run(m_inputs);
@@ -148,25 +125,33 @@ Refusal CsvReader::AtLine(Refusal refusal) const {
     return refusal;
 }
 
+void CsvReader::AppendOwnCells(std::string& out) const {
+    for (std::size_t column = 0; column < m_columns.size(); ++column) {
+        if (!m_columns[column].IsWritten())
+            continue;
+        if (column < m_row.size())
+            AppendCsvCell(out, m_row[column], m_run.Separator);
+        out += m_run.Separator;
+    }
+}
+
+void CsvReader::AppendRefusal(std::string& out, const Refusal& refusal) const {
+    const std::string control = refusal.Control.empty() ? "" : refusal.Control + ": ";
+    AppendCsvError(out, "Line " + std::to_string(refusal.Line) + ": " + control + refusal.Message,
+                   m_run.Separator);
+}
+
 void CsvReader::TakeRow(OutputBuffer& output) {
     std::string& out = output.Text();
     if (!m_headingRead) {
-        m_headingRead = true;
-        m_heading = std::move(m_row);
-        for (const std::string& name : m_heading)
-            m_columns.push_back(InputNamed(name));
-        AppendCsvHeading(out, m_heading);
-    } else {
+        TakeHeading(out);
+    } else if (!m_refused) {
         const auto refusal = Compare();
-        m_row.resize(std::max(m_row.size(), m_heading.size()));
-        for (const std::string& cell : m_row) {
-            AppendCsvCell(out, cell);
-            out += ',';
-        }
+        AppendOwnCells(out);
         if (refusal)
             AppendRefusal(out, *refusal);
         else
-            AppendCsvResults(out, m_comparison.State());
+            AppendCsvResults(out, m_comparison.State(), m_comparison.Messages(), m_run.Separator);
         m_allWell = m_allWell && !refusal;
         out += '\n';
     }
@@ -175,7 +160,8 @@ void CsvReader::TakeRow(OutputBuffer& output) {
 }
 
 void CsvReader::TakeLongRow(OutputBuffer& output) {
-    output.Text().append(m_heading.size(), ',');
+    m_row.clear();
+    AppendOwnCells(output.Text());
     AppendRefusal(output.Text(), {m_rowLine, "", "",
                                   "The row is longer than 1 MiB. Add the missing closing quote, then run the "
                                   "list again from this row."});
@@ -200,6 +186,7 @@ bool CsvReader::Read(LineReader& lines, OutputBuffer& output) {
 
     csv_parser parser;
     csv_init(&parser, 0);
+    bool separatorKnown = false;
     bool rowTooLong = false;
     while (const auto line = lines.Next()) {
         if (parsing.Held == 0) {
@@ -207,20 +194,27 @@ bool CsvReader::Read(LineReader& lines, OutputBuffer& output) {
             if (line->Text.find_first_not_of(" \t") == std::string_view::npos)
                 continue;
         }
+        if (!separatorKnown) {
+            separatorKnown = true;
+            const char separator = SeparatorOf(line->Text);
+            csv_set_delim(&parser, static_cast<unsigned char>(separator));
+            if (!m_run.Columns)
+                m_run.Separator = separator;
+        }
         parsing.Held += line->Text.size() + 1;
         // A quote that is never closed would make the rest of the file one row.
         rowTooLong = line->TooLong || parsing.Held > LongestLine;
-        if (rowTooLong || !output.Failure().empty())
+        if (rowTooLong || m_refused || !output.Failure().empty())
             break;
         csv_parse(&parser, line->Text.data(), line->Text.size(), takeCell, takeRow, &parsing);
         csv_parse(&parser, "\n", 1, takeCell, takeRow, &parsing);
     }
     if (rowTooLong)
         TakeLongRow(output);
-    else
+    else if (!m_refused)
         csv_fini(&parser, takeCell, takeRow, &parsing);
     csv_free(&parser);
-    return m_allWell;
+    return m_allWell && !m_refused;
 }
 
 } // namespace Ledgrove

@@ -1,47 +1,52 @@
 #pragma once
 
+#include <functional>
+
 #include "app/batch/CompareCommand.h"
+#include "app/batch/CsvColumns.h"
 
 namespace Ledgrove {
 
-/// Reads a price list that a spreadsheet saved: a heading row of control names, then one comparison per row.
-/// An input with an empty cell keeps its start-up value. Writes each row again, followed by the main results
-/// and a column for the error.
+/// What the price lists of one run share: a second list adds its rows to the output of the first.
+struct CsvRun {
+    std::function<void(const std::string& sentence)>
+        Warn;                                      ///< about what is read, but probably meant otherwise
+    std::optional<std::vector<CsvColumn>> Columns; ///< of the first list
+    char Separator = ',';                          ///< of the first list and the output
+};
+
+/// Reads a price list that a spreadsheet saved: a heading row, then one comparison per row. An input with an
+/// empty cell keeps its start-up value. Writes the inputs and the list's own columns again, followed by the
+/// main results, data check, messages and error.
 class CsvReader : public ComparisonReader {
 public:
-    explicit CsvReader(Comparison& comparison)
-        : m_comparison(comparison) {}
+    /// Both arguments must outlive the reader.
+    CsvReader(Comparison& comparison, CsvRun& run)
+        : m_comparison(comparison)
+        , m_run(run) {}
     bool Read(LineReader& lines, OutputBuffer& output) override;
 
 private:
     using Cells = std::vector<std::string>;
 
+    void TakeHeading(std::string& out);
     void TakeRow(OutputBuffer& output);
     void TakeLongRow(OutputBuffer& output);
+    void WarnOfRow() const;
     Refusal AtLine(Refusal refusal) const;
     std::optional<Refusal> Compare();
+    void AppendOwnCells(std::string& out) const;
+    void AppendRefusal(std::string& out, const Refusal& refusal) const;
 
     Comparison& m_comparison;
+    CsvRun& m_run;
     InputRecord m_inputs;
-    Cells m_heading;
-    std::vector<std::optional<Input>> m_columns; ///< the input of each column; empty for an unknown name
+    std::vector<CsvColumn> m_columns;
     Cells m_row;
     std::size_t m_rowLine = 0;
     bool m_headingRead = false;
+    bool m_refused = false; ///< the list as a whole
     bool m_allWell = true;
 };
-
-/// Appends the heading row: the names of the inputs, then those of the results, then "error".
-void AppendCsvHeading(std::string& out, const std::vector<std::string>& inputs);
-
-/// Appends the results that follow the inputs in the row of an accepted comparison, without a line ending.
-void AppendCsvResults(std::string& out, const Session& session);
-
-/// Puts an apostrophe before a cell that a spreadsheet would run as a formula: it begins with a tab or a
-/// carriage return, or after blanks with "=", "+", "-" or "@", and is not a number.
-std::string DefusedCell(std::string_view cell);
-
-/// Appends `cell` as CSV, made safe by DefusedCell, and in quotes if necessary.
-void AppendCsvCell(std::string& out, std::string_view cell);
 
 } // namespace Ledgrove

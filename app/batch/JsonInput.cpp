@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <string>
 
 #include <rapidjson/memorystream.h>
@@ -29,7 +30,12 @@ public:
     explicit InputHandler(InputRecord& inputs)
         : m_inputs(inputs) {}
 
-    const std::optional<Refusal>& Fault() const { return m_refusal; }
+    /// A result's other members only count as known beside its fields.
+    std::optional<Refusal> Fault() const {
+        if (!m_refusal && !m_sawFields && !m_resultMember.empty())
+            return UnknownInput(m_resultMember, "{...}");
+        return m_refusal;
+    }
 
     bool Null() { return RefuseValue("null"); }
     bool Bool(bool value) { return Take(InputKind::Boolean, value ? "true" : "false"); }
@@ -40,19 +46,23 @@ public:
         return IsWhole({text, length}) && Take(InputKind::Text, {text, length});
     }
     bool Key(const Ch* name, rapidjson::SizeType length, bool) {
-        if (m_depth == 1)
+        if (m_depth == 1 || InFields())
             m_name.assign(name, length);
         return IsWhole({name, length});
     }
     bool StartObject() {
-        if (m_depth > 0)
+        const bool fields = m_depth == 1 && m_name == fieldsMember;
+        if (m_depth > 0 && !fields && !IsResultMember())
             RefuseValue("{...}");
         ++m_depth;
+        m_sawFields = m_sawFields || fields;
+        m_inFields = m_inFields || fields;
         return true;
     }
     bool EndObject(rapidjson::SizeType) { return Leave(); }
     bool StartArray() {
-        RefuseValue("[...]");
+        if (!IsResultMember())
+            RefuseValue("[...]");
         ++m_depth;
         return true;
     }
@@ -66,14 +76,36 @@ public:
     bool Double(double) { return false; }
 
 private:
+    static constexpr std::string_view fieldsMember = "fields";
+
+    /// Directly in the fields of a result, whose texts are inputs.
+    bool InFields() const { return m_inFields && m_depth == 2; }
+
+    /// Whether the value belongs to a result's member that is worked out again; remembers it.
+    bool IsResultMember() {
+        constexpr std::string_view members[] = {"labels",  "Scenario", "StdCase",
+                                                "GMHCase", "messages", "dataCheck"};
+        const bool isOne =
+            m_depth == 1 && std::find(std::begin(members), std::end(members), m_name) != std::end(members);
+        if (isOne)
+            m_resultMember = m_name;
+        return isOne;
+    }
+
     bool Leave() {
-        --m_depth;
+        if (--m_depth == 1)
+            m_inFields = false;
         return true;
     }
 
     bool Take(InputKind kind, std::string_view text) {
-        if (m_depth > 1)
+        if (InFields()) {
+            // An empty field of a result was not entered.
+            if (text.empty())
+                return true;
+        } else if (m_depth > 1 || IsResultMember()) {
             return true;
+        }
         if (m_depth == 0)
             return RefuseValue(text);
         if (const auto input = InputNamed(m_name)) {
@@ -89,7 +121,7 @@ private:
 
     /// Parsing continues, because invalid JSON is reported first.
     bool RefuseValue(std::string_view text) {
-        if (m_depth > 1 || m_refusal)
+        if ((m_depth > 1 && !InFields()) || m_refusal)
             return true;
         if (m_depth == 0)
             m_refusal =
@@ -105,6 +137,9 @@ private:
     InputRecord& m_inputs;
     std::optional<Refusal> m_refusal;
     std::string m_name;
+    std::string m_resultMember; ///< the last one found
+    bool m_sawFields = false;
+    bool m_inFields = false;
     int m_depth = 0;
 };
 

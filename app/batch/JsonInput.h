@@ -7,8 +7,9 @@
 
 namespace Ledgrove {
 
-/// Reads one JSON object of input controls. Refuses invalid JSON, an unknown name, and a value that is not a
-/// text, a number or a boolean. The refusal's line is counted from 1 within `json`.
+/// Reads one JSON object of input controls, or a result of an earlier run, whose fields are the inputs.
+/// Refuses invalid JSON, an unknown name, and a value that is not a text, a number or a boolean. The
+/// refusal's line is counted from 1 within `json`.
 std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs);
 
 } // namespace Ledgrove

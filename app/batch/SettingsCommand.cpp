@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <unistd.h>
 
-#include "app/batch/CsvCompare.h"
+#include "app/batch/CsvText.h"
 #include "app/batch/ExitStatus.h"
 #include "app/batch/OutputBuffer.h"
 #include "engine/NumberText.h"

@@ -1,6 +1,7 @@
 #include "app/files/CsvExport.h"
 
-#include "app/batch/CsvCompare.h"
+#include "app/batch/CsvResults.h"
+#include "app/batch/CsvText.h"
 #include "app/files/ScreenInputs.h"
 
 namespace Ledgrove {
@@ -8,16 +9,16 @@ namespace Ledgrove {
 std::string ComparisonCsv(const Session& session) {
     const InputRecord inputs = ScreenInputs(session.Screen);
     std::string out;
-    std::vector<std::string> heading;
     for (const NamedInput& input : InputTable)
-        heading.emplace_back(input.Name);
-    AppendCsvHeading(out, heading);
+        out.append(input.Name).append(",");
+    AppendResultHeadings(out);
+    out += '\n';
     for (const NamedInput& input : InputTable) {
         if (inputs[input.Which].Present)
             AppendCsvCell(out, inputs[input.Which].Text);
         out += ',';
     }
-    AppendCsvResults(out, session);
+    AppendCsvResults(out, session, {});
     return out += '\n';
 }
 

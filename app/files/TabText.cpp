@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/batch/CsvCompare.h"
+#include "app/batch/CsvText.h"
 #include "base/Text.h"
 #include "ui/MainScreenRules.h"
 #include "ui/ResultSheets.h"

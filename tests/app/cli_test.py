@@ -194,60 +194,6 @@ class CompareLines(CliTest):
         self.assertLessEqual(peak(40000) - peak(8000), 4096)  # KiB
 
 
-class CompareCsv(CliTest):
-    def rows(self, given, status=0):
-        return list(csv.DictReader(io.StringIO(self.compare("csv", given, status).decode())))
-
-    def test_a_price_list_goes_in_and_comes_out_with_results(self):
-        rows = self.rows("ecIncome,ecPctDown,ecStdHome,ecGMHHome,ecStdUtil,ecGMHUtil,cboStdMortOption,"
-                         "cboGMHMortOption,chkDoTax0,ecMonthlyDebt\r\n"
-                         '"72,000",10,"$200,000",206000,2400,1700,FHA,FHA EEM,TRUE,350\r\n')
-        self.assertEqual(rows[0]["ecIncome"], "72,000")
-        self.assertEqual(rows[0]["StdCase.LoanAmount"], "180000.00")
-        self.assertEqual(rows[0]["StdCase.MortPayment"], "1137.72")  # 180,000 at 6.5 % over 30 years
-        self.assertEqual((rows[0]["lblGMHQual"], rows[0]["error"]), ("YES", ""))
-
-    def test_an_empty_cell_leaves_the_start_up_state(self):
-        rows = self.rows("ecStdHome,ecStdRate,cboMortTerm\n100000,,\n")
-        # 100,000 at the start-up rate of 6.5 % over the start-up term of 30 years
-        self.assertEqual(rows[0]["StdCase.MortPayment"], "632.07")
-
-    def test_faulty_rows_carry_their_reason_and_the_list_continues(self):
-        rows = self.rows("ecIncome,Model\n5,Lot 7\n", status=1)
-        self.assertIn("Model: This is not the name of an input", rows[0]["error"])
-        rows = self.rows("ecIncome,ecStdHome\nabc,1\n1,2,3\n5,5\n", status=1)
-        self.assertEqual(rows[0]["error"], "Line 2: ecIncome: You must enter a number here.")
-        self.assertEqual(rows[2]["error"], "")
-        self.assertEqual(rows[2]["StdCase.LoanAmount"], "5.00")
-
-    def test_semicolons_between_columns_are_named(self):
-        rows = self.rows("ecIncome;ecStdHome\n5;5\n", status=1)
-        self.assertEqual(rows[0]["error"], "Line 2: Separate the columns with commas, not with semicolons.")
-
-    def test_cells_that_a_spreadsheet_would_run_are_defused(self):
-        output = self.compare("csv", 'ecIncome,=1+1\n"=cmd|\' /C calc\'!A0",@SUM(1)\n-5,+x\n', status=1).decode()
-        for cell in next(csv.reader([output.splitlines()[0]])):
-            self.assertNotIn(cell[:1], "=@", cell)
-        rows = list(csv.reader(io.StringIO(output)))
-        self.assertEqual(rows[1][:2], ["'=cmd|' /C calc'!A0", "'@SUM(1)"])
-        self.assertEqual(rows[2][:2], ["-5", "'+x"])  # a negative number is not a formula
-
-    def test_leading_blanks_are_kept_and_do_not_hide_a_formula(self):
-        output = self.compare("csv", 'ecIncome,ecStdHome\n" =1+1","\n@SUM(1)"\n" 5 ", 6\n', status=1).decode()
-        self.assertIn("' =1+1", output)
-        rows = list(csv.reader(io.StringIO(output)))
-        self.assertEqual(rows[1][:2], ["' =1+1", "'\n@SUM(1)"])
-        self.assertIn('\n" 5 ",6,', output)  # without its quotes the blanks would be lost
-
-    def test_line_numbers_count_lines_inside_quotes(self):
-        rows = self.rows('ecIncome,ecStdHome\n"1\n\n",5\n\nabc,5\n', status=1)
-        self.assertTrue(rows[-1]["error"].startswith("Line 6: "), rows[-1]["error"])
-
-    def test_a_quote_that_is_never_closed_is_reported(self):
-        rows = self.rows('ecIncome\n"' + "1\n" * 1_200_000, status=1)
-        self.assertIn("missing closing quote", rows[0]["error"])
-
-
 class CompareHouse(CliTest):
     def with_house(self, name, inputs, status=0):
         return self.run_cli("compare", "--folder", self.folder, "--format", "json", "--house", name,

@@ -50,6 +50,25 @@ TEST(JsonInput, RemovesTheOldValuesOfTheRecord) {
     EXPECT_EQ(inputs, InputRecord());
 }
 
+TEST(JsonInput, TheFieldsOfAResultAreInputs) {
+    InputRecord expected;
+    expected[Input::ecIncome] = {true, InputKind::Text, "$72,000"};
+    expected[Input::optDownPayment] = {true, InputKind::Number, "0"};
+    expected[Input::chkDoTax0] = {true, InputKind::Boolean, "true"};
+    EXPECT_EQ(Inputs(R"({"fields": {"ecIncome": "$72,000", "ecStdHome": "", "optDownPayment": 0,
+                         "chkDoTax0": true}, "labels": {"lblPV": {"text": "x", "visible": true}},
+                         "Scenario": {"PctDown": 0.1}, "messages": [{"text": "x"}], "dataCheck": "x"})"),
+              expected);
+}
+
+TEST(JsonInput, TheMembersOfAResultNeedItsFields) {
+    EXPECT_EQ(RefusalOf(R"({"labels": {}})").Control, "labels");
+    EXPECT_EQ(RefusalOf(R"({"error": {"line": 1}})").Control, "error");
+    EXPECT_EQ(RefusalOf(R"({"fields": {"ecHouse": "5"}})").Control, "ecHouse");
+    EXPECT_EQ(RefusalOf(R"({"fields": {"ecIncome": {}}})").Control, "ecIncome");
+    EXPECT_EQ(RefusalOf(R"({"fields": 5})").Control, "fields");
+}
+
 TEST(JsonInput, AnUnknownNameIsRefusedWithItsValue) {
     const Refusal refusal = RefusalOf(R"({"ecIncome": 1, "ecHouse": "5", "ecOther": 6})");
     EXPECT_EQ(refusal.Line, 1u);

@@ -7,6 +7,7 @@
 #include "engine/NumberText.h"
 
 #include <csv.h>
+#include <functional>
 
 namespace {
 
@@ -36,10 +37,12 @@ void TakeRow(int, void* table) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string output = Fuzz::OutputOf<CsvReader>(Fuzz::TextOf(data, size));
+    CsvRun run{[](const std::string&) {}, {}, ','};
+    const std::string output = Fuzz::OutputOf<CsvReader>(Fuzz::TextOf(data, size), std::ref(run));
     Table table;
     csv_parser parser;
     csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI);
+    csv_set_delim(&parser, static_cast<unsigned char>(run.Separator));
     Require(csv_parse(&parser, output.data(), output.size(), TakeCell, TakeRow, &table) == output.size() &&
                 csv_fini(&parser, TakeCell, TakeRow, &table) == 0,
             "the result is CSV");
