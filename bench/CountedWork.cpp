@@ -63,7 +63,7 @@ public:
         lseek(m_input, 0, SEEK_SET);
         OutputBuffer output(m_nowhere);
         LineReader lines(m_input, [] {});
-        if (!reader.Read(lines, output))
+        if (!reader.Read(lines, output).AllWell())
             std::abort();
         output.Flush();
     }
@@ -99,7 +99,7 @@ std::function<void()> PriceRows() {
                       return "\"$72,000\",350,10%," + std::to_string(price) + ",$" +
                              std::to_string(price + 6000) + ",2400,1700,FHA,15 years\n";
                   }),
-        CsvRun{[](const std::string&) {}, {}, ','});
+        CsvRun{[](const std::string&) {}, [](const std::string&) {}, {}, ','});
 }
 
 std::function<void()> Composing() {

@@ -18,31 +18,71 @@ namespace Ledgrove {
 namespace {
 
 std::unique_ptr<ComparisonReader> MakeReader(const CompareRequest& request, const Session& start,
-                                             Comparison& comparison, CsvRun& list) {
+                                             Comparison& comparison, CsvRun& list, const std::string& name) {
+    const std::string file = name == "-" ? "" : name;
     switch (request.Format) {
     case CompareFormat::JsonLines:
         if (request.Jobs > 1)
-            return std::make_unique<ParallelJsonReader>(start, request.Jobs);
-        return std::make_unique<JsonLinesReader>(comparison);
+            return std::make_unique<ParallelJsonReader>(start, request.Jobs, file);
+        return std::make_unique<JsonLinesReader>(comparison, file);
     case CompareFormat::Csv:
         return std::make_unique<CsvReader>(comparison, list);
     case CompareFormat::Json:
-        return std::make_unique<JsonReader>(comparison, JsonReader::Result::Json);
+        return std::make_unique<JsonReader>(comparison, JsonReader::Result::Json, file);
     case CompareFormat::Text:
         break;
     }
-    return std::make_unique<JsonReader>(comparison, JsonReader::Result::Table);
+    return std::make_unique<JsonReader>(comparison, JsonReader::Result::Table, file);
 }
 
-int ReadFile(const std::string& name, ComparisonReader& reader, OutputBuffer& output) {
+/// The totals of all files and where the first refusal is.
+struct RunTotal {
+    Tally Sum;
+    std::string FirstFile;
+    int Status = AllWell;
+
+    void Add(const Tally& tally, const std::string& file) {
+        if (Sum.Refused == 0)
+            FirstFile = file;
+        Sum.Add(tally);
+        if (!tally.AllWell())
+            Status = std::max(Status, int{SomeRefused});
+    }
+};
+
+/// One object has its own message; lists end with their totals.
+void TellTotal(const CompareRequest& request, const RunTotal& total) {
+    const bool isList = request.Format == CompareFormat::JsonLines || request.Format == CompareFormat::Csv;
+    if (!isList || request.Quiet || total.Sum.Refused == 0)
+        return;
+    std::string place = "line " + std::to_string(total.Sum.FirstRefused);
+    if (request.Files.size() > 1)
+        place += " of " + Quoted(total.FirstFile);
+    const bool one = total.Sum.Refused == 1;
+    Complain(std::to_string(total.Sum.Refused) + " of " + std::to_string(total.Sum.Compared) +
+                 (one ? " comparisons was refused; it is " : " comparisons were refused; the first is ") +
+                 place + ".",
+             AllWell);
+}
+
+void ReadFile(const std::string& name, bool quiet, ComparisonReader& reader, OutputBuffer& output,
+              RunTotal& total) {
     const InputFile file(name);
-    if (file.Number() < 0)
-        return Complain(UnreadableInput(name, file.Failure()), CannotRun);
+    if (file.Number() < 0) {
+        total.Status = Complain(UnreadableInput(name, file.Failure()), CannotRun);
+        return;
+    }
+    if (!quiet)
+        SayIfTerminal(file.Number());
     LineReader lines(file.Number(), [&reader, &output] { reader.BeforeWaiting(output); });
-    const bool allWell = reader.Read(lines, output);
-    if (!lines.Failure().empty())
-        return Complain(UnreadableInput(name, lines.Failure()), CannotRun);
-    return allWell ? AllWell : SomeRefused;
+    const Tally tally = reader.Read(lines, output);
+    if (!lines.Failure().empty()) {
+        total.Status = Complain(UnreadableInput(name, lines.Failure()), CannotRun);
+        return;
+    }
+    if (tally.Empty)
+        Complain(EmptyInput(name), SomeRefused);
+    total.Add(tally, name);
 }
 
 } // namespace
@@ -63,18 +103,23 @@ std::string StartWithHouse(Session& session, std::string_view name) {
 int RunCompare(const CompareRequest& request, const Session& start) {
     Comparison comparison(start);
     OutputBuffer output(STDOUT_FILENO);
-    int status = AllWell;
+    RunTotal total;
     CsvRun list;
     for (const std::string& name : request.Files.empty() ? std::vector<std::string>{"-"} : request.Files) {
         Warnings warnings(name);
-        list.Warn = [&warnings](const std::string& sentence) { warnings.Add(sentence); };
-        const auto reader = MakeReader(request, start, comparison, list);
-        status = std::max(status, ReadFile(name, *reader, output));
+        list.Warn = [&](const std::string& sentence) {
+            if (!request.Quiet)
+                warnings.Add(sentence);
+        };
+        list.Refuse = [&warnings](const std::string& sentence) { warnings.Add(sentence); };
+        const auto reader = MakeReader(request, start, comparison, list, name);
+        ReadFile(name, request.Quiet, *reader, output, total);
     }
     output.Flush();
     if (!output.Failure().empty())
         return Complain(UnwrittenOutput("results", output.Failure()), CannotRun);
-    return status;
+    TellTotal(request, total);
+    return total.Status;
 }
 
 } // namespace Ledgrove

@@ -8,6 +8,7 @@
 #include "app/batch/ExitStatus.h"
 #include "app/batch/LineReader.h"
 #include "app/batch/OutputBuffer.h"
+#include "app/batch/Tally.h"
 
 namespace Ledgrove {
 
@@ -17,14 +18,15 @@ struct CompareRequest {
     CompareFormat Format = CompareFormat::Text;
     std::string House;              ///< name of the saved house scenario to start with; empty for none
     int Jobs = 1;                   ///< threads for JSON lines, at least 1
+    bool Quiet = false;             ///< without warnings and totals on standard error
     std::vector<std::string> Files; ///< "-" is standard input, and so is an empty list
 };
 
-/// Reads one input and appends a result for each comparison in it. Returns whether all were accepted.
+/// Reads one input and appends a result for each comparison in it.
 class ComparisonReader {
 public:
     virtual ~ComparisonReader() = default;
-    virtual bool Read(LineReader& lines, OutputBuffer& output) = 0;
+    virtual Tally Read(LineReader& lines, OutputBuffer& output) = 0;
     /// Called before the reader waits for input. Finished results must be written now, because the input may
     /// take long.
     virtual void BeforeWaiting(OutputBuffer& output) { output.Flush(); }

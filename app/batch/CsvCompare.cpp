@@ -57,13 +57,14 @@ bool HaveSameOutput(const std::vector<CsvColumn>& a, const std::vector<CsvColumn
 
 void CsvReader::TakeHeading(std::string& out) {
     m_headingRead = true;
+    m_tally.Empty = false;
     CsvHeading heading = ReadCsvHeading(m_row);
     for (const std::string& warning : heading.Warnings)
         m_run.Warn(warning);
     m_columns = std::move(heading.Columns);
     if (!heading.Refusal.empty()) {
-        m_run.Warn(heading.Refusal);
-        m_refused = true;
+        m_run.Refuse(heading.Refusal);
+        m_tally.ListRefused = true;
     } else if (!m_run.Columns) {
         for (const CsvColumn& column : m_columns) {
             if (!column.IsWritten())
@@ -75,8 +76,8 @@ void CsvReader::TakeHeading(std::string& out) {
         out += '\n';
         m_run.Columns = m_columns;
     } else if (!HaveSameOutput(*m_run.Columns, m_columns)) {
-        m_run.Warn("The columns differ from those of the first list. Run this list on its own.");
-        m_refused = true;
+        m_run.Refuse("The columns differ from those of the first list. Run this list on its own.");
+        m_tally.ListRefused = true;
     }
 }
 
@@ -145,14 +146,14 @@ void CsvReader::TakeRow(OutputBuffer& output) {
     std::string& out = output.Text();
     if (!m_headingRead) {
         TakeHeading(out);
-    } else if (!m_refused) {
+    } else if (!m_tally.ListRefused) {
         const auto refusal = Compare();
         AppendOwnCells(out);
         if (refusal)
             AppendRefusal(out, *refusal);
         else
             AppendCsvResults(out, m_comparison.State(), m_comparison.Messages(), m_run.Separator);
-        m_allWell = m_allWell && !refusal;
+        m_tally.Count(refusal.has_value(), m_rowLine);
         out += '\n';
     }
     m_row.clear();
@@ -166,10 +167,10 @@ void CsvReader::TakeLongRow(OutputBuffer& output) {
                                   "The row is longer than 1 MiB. Add the missing closing quote, then run the "
                                   "list again from this row."});
     output.Text() += '\n';
-    m_allWell = false;
+    m_tally.Count(true, m_rowLine);
 }
 
-bool CsvReader::Read(LineReader& lines, OutputBuffer& output) {
+Tally CsvReader::Read(LineReader& lines, OutputBuffer& output) {
     struct Parsing {
         CsvReader& Reader;
         OutputBuffer& Output;
@@ -204,17 +205,17 @@ bool CsvReader::Read(LineReader& lines, OutputBuffer& output) {
         parsing.Held += line->Text.size() + 1;
         // A quote that is never closed would make the rest of the file one row.
         rowTooLong = line->TooLong || parsing.Held > LongestLine;
-        if (rowTooLong || m_refused || !output.Failure().empty())
+        if (rowTooLong || m_tally.ListRefused || !output.Failure().empty())
             break;
         csv_parse(&parser, line->Text.data(), line->Text.size(), takeCell, takeRow, &parsing);
         csv_parse(&parser, "\n", 1, takeCell, takeRow, &parsing);
     }
     if (rowTooLong)
         TakeLongRow(output);
-    else if (!m_refused)
+    else if (!m_tally.ListRefused)
         csv_fini(&parser, takeCell, takeRow, &parsing);
     csv_free(&parser);
-    return m_allWell && !m_refused;
+    return m_tally;
 }
 
 } // namespace Ledgrove

@@ -9,8 +9,10 @@ namespace Ledgrove {
 
 /// What the price lists of one run share: a second list adds its rows to the output of the first.
 struct CsvRun {
-    std::function<void(const std::string& sentence)>
-        Warn;                                      ///< about what is read, but probably meant otherwise
+    using Say = std::function<void(const std::string& sentence)>;
+
+    Say Warn;                                      ///< about what is read, but probably meant otherwise
+    Say Refuse;                                    ///< why a list is not read
     std::optional<std::vector<CsvColumn>> Columns; ///< of the first list
     char Separator = ',';                          ///< of the first list and the output
 };
@@ -24,7 +26,7 @@ public:
     CsvReader(Comparison& comparison, CsvRun& run)
         : m_comparison(comparison)
         , m_run(run) {}
-    bool Read(LineReader& lines, OutputBuffer& output) override;
+    Tally Read(LineReader& lines, OutputBuffer& output) override;
 
 private:
     using Cells = std::vector<std::string>;
@@ -45,8 +47,7 @@ private:
     Cells m_row;
     std::size_t m_rowLine = 0;
     bool m_headingRead = false;
-    bool m_refused = false; ///< the list as a whole
-    bool m_allWell = true;
+    Tally m_tally;
 };
 
 } // namespace Ledgrove

@@ -20,6 +20,12 @@ private:
     std::optional<Descriptor> m_file; ///< empty for standard input
 };
 
+/// If the descriptor is a terminal, says on standard error that the program waits for it.
+void SayIfTerminal(int descriptor);
+
+/// The message for an input without any text; "-" is standard input.
+std::string EmptyInput(const std::string& name);
+
 /// The message for an input that cannot be read.
 std::string UnreadableInput(const std::string& name, const std::string& reason);
 

@@ -44,8 +44,10 @@ Refusal UnknownInput(std::string_view name, std::string_view value) {
 }
 
 std::string RefusalSentence(const Refusal& refusal) {
-    return refusal.Message + " (line " + std::to_string(refusal.Line) + ", " + refusal.Control + " " +
-           Quoted(refusal.Value) + ")";
+    const std::string place = " (line " + std::to_string(refusal.Line);
+    if (refusal.Control.empty())
+        return refusal.Message + place + ")";
+    return refusal.Message + place + ", " + refusal.Control + " " + Quoted(refusal.Value) + ")";
 }
 
 Refusal InputTooLong(std::size_t line) {

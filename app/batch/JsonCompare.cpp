@@ -1,5 +1,6 @@
 #include "app/batch/JsonCompare.h"
 
+#include "app/batch/ExitStatus.h"
 #include "app/batch/JsonInput.h"
 #include "app/batch/ObjectInput.h"
 #include "app/batch/TextTable.h"
@@ -18,43 +19,47 @@ std::optional<Refusal> JsonLine::Compare(const InputLine& line) {
     return refusal;
 }
 
-bool JsonLine::Append(std::string& out, const InputLine& line) {
+void JsonLine::Append(std::string& out, const InputLine& line, Tally& tally) {
     if (IsBlank(line.Text, " \t\r"))
-        return true;
+        return;
     const auto refusal = Compare(line);
     if (refusal)
-        AppendRefusalJson(out, *refusal);
+        AppendRefusalJson(out, *refusal, m_file);
     else
         m_results.Append(out, m_comparison);
     out += '\n';
-    return !refusal;
+    tally.Count(refusal.has_value(), line.Number);
 }
 
-bool JsonLinesReader::Read(LineReader& lines, OutputBuffer& output) {
-    bool allWell = true;
+Tally JsonLinesReader::Read(LineReader& lines, OutputBuffer& output) {
+    Tally tally;
     while (const auto line = lines.Next()) {
-        allWell = m_line.Append(output.Text(), *line) && allWell;
+        m_line.Append(output.Text(), *line, tally);
         output.Commit();
         if (!output.Failure().empty())
             break;
     }
-    return allWell;
+    return tally;
 }
 
-bool JsonReader::Read(LineReader& lines, OutputBuffer& output) {
+Tally JsonReader::Read(LineReader& lines, OutputBuffer& output) {
     InputRecord inputs;
     const auto refusal = RunObject(lines, m_comparison, inputs);
+    Tally tally;
     if (!lines.Failure().empty())
-        return false;
+        return tally;
     std::string& out = output.Text();
-    if (m_result == Result::Table) {
-        out += refusal ? RefusalText(*refusal) : ResultTable(m_comparison);
-    } else {
-        refusal ? AppendRefusalJson(out, *refusal) : ResultJson().Append(out, m_comparison);
+    if (m_result == Result::Json) {
+        refusal ? AppendRefusalJson(out, *refusal, m_file) : ResultJson().Append(out, m_comparison);
         out += '\n';
+    } else if (refusal) {
+        Complain((m_file.empty() ? "" : m_file + ": ") + RefusalSentence(*refusal), SomeRefused);
+    } else {
+        out += ResultTable(m_comparison);
     }
     output.Commit();
-    return !refusal;
+    tally.Count(refusal.has_value(), refusal ? refusal->Line : 1);
+    return tally;
 }
 
 } // namespace Ledgrove

@@ -8,6 +8,8 @@
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
+#include "base/Text.h"
+
 namespace Ledgrove {
 
 namespace {
@@ -155,6 +157,9 @@ Refusal MalformedJson(std::string_view json, std::size_t position) {
 
 std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs) {
     inputs.Clear();
+    if (IsBlank(json, " \t\r\n"))
+        return Refusal{1, "", "",
+                       "The input is empty. Write a JSON object, such as {\"ecIncome\": \"72000\"}."};
     // The parser would treat a NUL as the end of the text.
     if (const std::size_t nul = json.find('\0'); nul != json.npos)
         return MalformedJson(json, nul);

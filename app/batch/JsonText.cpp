@@ -237,8 +237,14 @@ void ResultJson::Append(std::string& out, const Comparison& comparison) const {
     out += '}';
 }
 
-void AppendRefusalJson(std::string& out, const Refusal& refusal) {
-    out += "{\"error\":{\"line\":";
+void AppendRefusalJson(std::string& out, const Refusal& refusal, std::string_view file) {
+    out += "{\"error\":{";
+    if (!file.empty()) {
+        out += "\"file\":";
+        AppendString(out, file);
+        out += ',';
+    }
+    out += "\"line\":";
     out += std::to_string(refusal.Line);
     AppendKey(out, "control");
     AppendString(out, refusal.Control);

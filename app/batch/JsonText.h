@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/batch/Comparison.h"
@@ -23,7 +24,8 @@ private:
     std::vector<std::string> m_labelKeys; ///< for ResultLabelTable, up to the opening of the text
 };
 
-/// Appends {"error": {"line", "control", "value", "message"}}. No line ending.
-void AppendRefusalJson(std::string& out, const Refusal& refusal);
+/// Appends {"error": {"file", "line", "control", "value", "message"}}, without "file" if `file` is empty. No
+/// line ending.
+void AppendRefusalJson(std::string& out, const Refusal& refusal, std::string_view file = {});
 
 } // namespace Ledgrove

@@ -2,6 +2,7 @@
 
 #include <new>
 #include <system_error>
+#include <utility>
 
 namespace Ledgrove {
 
@@ -23,13 +24,14 @@ bool PieceWorker::Work(PieceQueue& queue, OutputBuffer& output) {
     if (piece == nullptr)
         return false;
     for (std::size_t i = 0; i < piece->Lines.size(); ++i)
-        piece->AllWell = m_lines.Append(piece->Result, piece->LineAt(i)) && piece->AllWell;
+        m_lines.Append(piece->Result, piece->LineAt(i), piece->Outcome);
     queue.Finish(*piece, output);
     return true;
 }
 
-ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs)
+ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs, std::string file)
     : m_start(start)
+    , m_file(std::move(file))
     , m_mostThreads(static_cast<std::size_t>(jobs)) {}
 
 void ParallelJsonReader::StartThread(OutputBuffer& output) {
@@ -38,7 +40,7 @@ void ParallelJsonReader::StartThread(OutputBuffer& output) {
         // thread.
         m_spare = std::make_unique_for_overwrite<char[]>(spareSize);
         m_queue.Add(2, resultSize); // one in work and one waiting
-        m_threads.emplace_back([this, &output, worker = std::make_unique<PieceWorker>(m_start)] {
+        m_threads.emplace_back([this, &output, worker = std::make_unique<PieceWorker>(m_start, m_file)] {
             while (worker->Work(m_queue, output)) {
             }
         });
@@ -60,7 +62,7 @@ void ParallelJsonReader::HandOut(OutputBuffer& output) {
     m_queue.HandOut();
     if (m_threads.empty()) {
         if (!m_own)
-            m_own.emplace(m_start);
+            m_own.emplace(m_start, m_file);
         m_own->Work(m_queue, output);
     }
     m_queue.WaitForRoom();
@@ -70,7 +72,7 @@ void ParallelJsonReader::BeforeWaiting(OutputBuffer& output) {
     HandOut(output);
 }
 
-bool ParallelJsonReader::Read(LineReader& lines, OutputBuffer& output) {
+Tally ParallelJsonReader::Read(LineReader& lines, OutputBuffer& output) {
     while (const auto line = lines.Next()) {
         m_queue.Gather(*line);
         if (m_queue.GatheredBytes() >= pieceSize || m_queue.GatheredLines() >= pieceLines)
@@ -81,7 +83,7 @@ bool ParallelJsonReader::Read(LineReader& lines, OutputBuffer& output) {
     HandOut(output);
     m_queue.Close();
     m_threads.clear();
-    return m_queue.AllWell();
+    return m_queue.Total();
 }
 
 } // namespace Ledgrove

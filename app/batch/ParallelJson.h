@@ -14,9 +14,9 @@ namespace Ledgrove {
 /// Compares pieces of a queue in one thread. Each worker has its own state, so comparisons share nothing.
 class PieceWorker {
 public:
-    explicit PieceWorker(const Session& start)
+    PieceWorker(const Session& start, const std::string& file)
         : m_comparison(start)
-        , m_lines(m_comparison) {}
+        , m_lines(m_comparison, file) {}
     PieceWorker(const PieceWorker&) = delete;
     PieceWorker& operator=(const PieceWorker&) = delete;
 
@@ -35,10 +35,10 @@ private:
 class ParallelJsonReader : public ComparisonReader {
 public:
     /// Every comparison starts from `start`, a session after LoadMainScreen, which must outlive this object.
-    /// `jobs` is the number of threads, at least 1.
-    ParallelJsonReader(const Session& start, int jobs);
+    /// `jobs` is the number of threads, at least 1. Refusals name `file`, unless it is empty.
+    ParallelJsonReader(const Session& start, int jobs, std::string file);
 
-    bool Read(LineReader& lines, OutputBuffer& output) override;
+    Tally Read(LineReader& lines, OutputBuffer& output) override;
     /// Hands out the gathered lines, so that they are compared while the reader waits.
     void BeforeWaiting(OutputBuffer& output) override;
 
@@ -47,6 +47,7 @@ private:
     void StartThread(OutputBuffer& output);
 
     const Session& m_start;
+    std::string m_file;
     std::size_t m_mostThreads;
     PieceQueue m_queue;
     std::optional<PieceWorker> m_own; ///< used if there are no threads

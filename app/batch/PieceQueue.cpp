@@ -77,9 +77,9 @@ void PieceQueue::WriteFinished(std::unique_lock<std::mutex>& lock, OutputBuffer&
         piece.Lines.clear();
         piece.Result.clear();
         lock.lock();
-        m_allWell = m_allWell && piece.AllWell;
+        m_total.Add(piece.Outcome);
         m_failed = !output.Failure().empty();
-        piece.AllWell = true;
+        piece.Outcome = {};
         piece.Done = false;
         m_onTheirWay.pop_front();
         m_free.push_back(&piece);

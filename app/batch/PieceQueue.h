@@ -10,6 +10,7 @@
 
 #include "app/batch/LineReader.h"
 #include "app/batch/OutputBuffer.h"
+#include "app/batch/Tally.h"
 
 namespace Ledgrove {
 
@@ -25,7 +26,7 @@ struct Piece {
     std::string Text;
     std::vector<Line> Lines;
     std::string Result;
-    bool AllWell = true;
+    Tally Outcome;
     bool Done = false;
 
     InputLine LineAt(std::size_t index) const {
@@ -57,8 +58,8 @@ public:
     /// Ends the input. Pieces that were already handed out are still compared.
     void Close();
     bool OutputFailed() const;
-    /// Whether every line was accepted. Valid when all pieces are finished.
-    bool AllWell() const { return m_allWell; }
+    /// Of all lines. Valid when all pieces are finished.
+    const Tally& Total() const { return m_total; }
 
     // For the working threads.
     /// Waits for the next piece, which belongs to the caller until Finish. nullptr if none is left after
@@ -79,7 +80,7 @@ private:
     bool m_isWriting = false;
     bool m_closed = false;
     bool m_failed = false;
-    bool m_allWell = true;
+    Tally m_total;
 };
 
 } // namespace Ledgrove

@@ -109,11 +109,4 @@ std::string ResultTable(const Comparison& comparison) {
     return out;
 }
 
-std::string RefusalText(const Refusal& refusal) {
-    std::string text = "Line " + std::to_string(refusal.Line) + ": ";
-    if (!refusal.Control.empty())
-        text += refusal.Control + " \"" + refusal.Value + "\": ";
-    return text + refusal.Message + "\n";
-}
-
 } // namespace Ledgrove

@@ -10,7 +10,4 @@ namespace Ledgrove {
 /// check.
 std::string ResultTable(const Comparison& comparison);
 
-/// The refusal as one line, with its line ending.
-std::string RefusalText(const Refusal& refusal);
-
 } // namespace Ledgrove

@@ -73,6 +73,7 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
         })
         ->type_name("text|json|jsonl|csv");
     compare->add_option("--house", request.House, "Start with the four amounts of this saved house scenario");
+    compare->add_flag("--quiet", request.Quiet, "No warnings and no totals on standard error");
     request.Jobs = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
     compare
         ->add_option("--jobs", request.Jobs,

@@ -225,8 +225,9 @@ class CompareText(CliTest):
         self.assertEqual(run.stdout, self.compare("text", json.dumps(SAMPLE)))
 
     def test_a_refusal_is_a_sentence(self):
-        self.assertEqual(self.compare("text", '{"ecIncome": "abc"}', status=1),
-                         b'Line 1: ecIncome "abc": You must enter a number here.\n')
+        run = self.run_cli("compare", "--folder", self.folder, given='{"ecIncome": "abc"}', status=1)
+        self.assertEqual(run.stdout, b"")
+        self.assertEqual(run.stderr, b'ledgrove-cli: You must enter a number here. (line 1, ecIncome "abc")\n')
 
 
 class UnusableCalls(CliTest):

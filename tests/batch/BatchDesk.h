@@ -10,6 +10,7 @@
 #include "app/batch/Comparison.h"
 #include "app/batch/LineReader.h"
 #include "app/batch/OutputBuffer.h"
+#include "app/batch/Tally.h"
 #include "base/Descriptor.h"
 #include "ui/StartUp.h"
 
@@ -53,6 +54,7 @@ inline Session ShippedSession() {
 struct ReaderResult {
     std::string Output;
     bool AllWell = false;
+    Tally Total;
 };
 
 /// The output of a ComparisonReader for a whole input.
@@ -62,9 +64,9 @@ ReaderResult ReadWith(Reader& reader, std::string_view input) {
     const MemoryFile out;
     OutputBuffer output(out.Number());
     LineReader lines(in.Number(), [&] { reader.BeforeWaiting(output); });
-    const bool allWell = reader.Read(lines, output);
+    const Tally tally = reader.Read(lines, output);
     output.Flush();
-    return {out.Content(), allWell};
+    return {out.Content(), tally.AllWell(), tally};
 }
 
 } // namespace Ledgrove::Testing

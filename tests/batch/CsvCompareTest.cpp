@@ -39,7 +39,8 @@ protected:
     }
 
     std::vector<std::string> m_warnings;
-    CsvRun m_run{[this](const std::string& sentence) { m_warnings.push_back(sentence); }, {}, ','};
+    CsvRun::Say m_say = [this](const std::string& sentence) { m_warnings.push_back(sentence); };
+    CsvRun m_run{m_say, m_say, {}, ','};
     bool m_allWell = false;
 };
 

@@ -112,11 +112,16 @@ TEST(JsonInput, MalformedJsonIsRefusedWithItsPlace) {
 
 TEST(JsonInput, MalformedJsonIsReportedBeforeOtherFaults) {
     for (const std::string_view json :
-         {"", " ", "{", R"({"ecIncome": 1)", R"({"ecIncome" 1})", "{} {}", "{}x", R"({"ecHouse": 1,})",
+         {"{", R"({"ecIncome": 1)", R"({"ecIncome" 1})", "{} {}", "{}x", R"({"ecHouse": 1,})",
           R"({"ecIncome": nul})", "{'ecIncome': 1}"}) {
         const Refusal refusal = RefusalOf(json);
         EXPECT_TRUE(refusal.Message.starts_with("This is not valid JSON")) << json << refusal.Message;
     }
+}
+
+TEST(JsonInput, AnEmptyTextIsCalledEmpty) {
+    for (const std::string_view json : {"", " ", "\r\n\n"})
+        EXPECT_TRUE(RefusalOf(json).Message.starts_with("The input is empty.")) << json;
 }
 
 TEST(JsonInput, ANulIsMalformedAnywhere) {

@@ -25,7 +25,7 @@ TEST(PieceQueue, StartsEmpty) {
     EXPECT_EQ(queue.GatheredLines(), 0u);
     EXPECT_EQ(queue.GatheredBytes(), 0u);
     EXPECT_FALSE(queue.OutputFailed());
-    EXPECT_TRUE(queue.AllWell());
+    EXPECT_EQ(queue.Total().Compared, 0u);
 }
 
 TEST(PieceQueue, APieceHoldsTheGatheredLines) {
@@ -85,19 +85,21 @@ TEST(PieceQueue, AFinishedPieceIsEmptyWhenItIsReused) {
     EXPECT_EQ(out.Content(), "[a][b]");
 }
 
-TEST(PieceQueue, RemembersARefusedLine) {
+TEST(PieceQueue, AddsThePiecesInTheirOrder) {
     const MemoryFile out;
     OutputBuffer output(out.Number());
     PieceQueue queue;
-    for (const bool well : {true, false, true}) {
-        Gather(queue, "x", 1);
+    for (const std::size_t line : {1, 2, 3}) {
+        Gather(queue, "x", line);
         queue.HandOut();
         Piece* const piece = queue.Take();
-        piece->AllWell = well;
+        piece->Outcome.Count(line >= 2, line);
         queue.Finish(*piece, output);
         queue.WaitForRoom();
     }
-    EXPECT_FALSE(queue.AllWell());
+    EXPECT_EQ(queue.Total().Compared, 3u);
+    EXPECT_EQ(queue.Total().Refused, 2u);
+    EXPECT_EQ(queue.Total().FirstRefused, 2u);
 }
 
 TEST(PieceQueue, PiecesHandedOutBeforeCloseAreStillTaken) {
