@@ -15,6 +15,7 @@
 
 #include "app/windows/ChartLoader.h"
 #include "app/windows/CurrentFile.h"
+#include "app/windows/LastChoices.h"
 #include "app/windows/LoadedPrinters.h"
 #include "app/windows/MainMenu.h"
 #include "reports/windows/HelpPrint.h"
@@ -86,7 +87,8 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     }
     Ledgrove::MainActions actions = Ledgrove::DialogActions(session, host);
     Ledgrove::LoadedPrinters printers(QCoreApplication::applicationDirPath(), host);
-    actions.Print = Ledgrove::PrintAction(session, host, printers);
+    actions.Print = Ledgrove::PrintAction(
+        session, host, printers, Ledgrove::SectionsIn(Ledgrove::LastChoices(Ledgrove::RecentFilesStore())));
     actions.PrintHelp = [&host, &printers](const QTextDocument& document, QWidget& above) {
         Ledgrove::PrintHelpDocument(document, above, host,
                                     Ledgrove::RealOutside(printers, "Ledgrove Help.pdf"));

@@ -12,6 +12,7 @@
 #include "app/windows/Offscreen.h"
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
+#include "reports/ReportChoices.h"
 #include "reports/windows/ReportFile.h"
 #include "settings/HeaderSettings.h"
 
@@ -22,7 +23,7 @@ using namespace Ledgrove;
 struct Arguments {
     std::string Folder = ProgramFolder().string();
     std::string Output;
-    ReportSections Sections;
+    ReportSections Sections = AllSections;
     PageOrientation Orientation = PageOrientation::Portrait;
     std::optional<int> LogoOption; ///< empty: as in the settings file
     std::optional<std::string> Builder;
@@ -35,19 +36,7 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
     sections = {};
     std::istringstream list(names);
     for (std::string name; std::getline(list, name, ',');) {
-        if (name == "all")
-            sections = {true, true, true, true, true};
-        else if (name == "cashflow")
-            sections.CashFlow = true;
-        else if (name == "morehome")
-            sections.MoreHome = true;
-        else if (name == "affordability")
-            sections.Affordability = true;
-        else if (name == "summary")
-            sections.Summary = true;
-        else if (name == "assumptions")
-            sections.FinancialAssumptions = true;
-        else if (name != "none")
+        if (!AddSection(name, sections))
             return "There is no section " + Quoted(name) +
                    ". Choose from cashflow, morehome, affordability, summary and assumptions, or give all or "
                    "none.";
@@ -71,7 +60,6 @@ std::string ReadLogo(const std::string& name, std::optional<int>& option) {
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
-    arguments.Sections = {true, true, true, true, true};
     app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
     app.add_option("--output", arguments.Output, "The PDF to write")->required();
     app.add_option("--sections", "cashflow,morehome,affordability,summary,assumptions, all (default) or none")

@@ -5,9 +5,11 @@
 
 namespace Ledgrove {
 
-std::function<void()> PrintAction(Session& session, Host& outside, PrintServer& printers) {
-    return [&session, &outside, &printers] {
-        const PrintOutside machine = RealOutside(printers);
+std::function<void()> PrintAction(Session& session, Host& outside, PrintServer& printers,
+                                  const SectionMemory& sections) {
+    return [&session, &outside, &printers, sections] {
+        PrintOutside machine = RealOutside(printers);
+        machine.Sections = sections;
         frmReportSelection(session, outside, machine, ActiveForm()).exec();
     };
 }

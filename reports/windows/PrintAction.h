@@ -2,6 +2,7 @@
 
 #include "engine/Host.h"
 #include "engine/Session.h"
+#include "reports/ReportChoices.h"
 #include "reports/windows/Printers.h"
 
 #include <functional>
@@ -9,7 +10,8 @@
 namespace Ledgrove {
 
 /// An action that opens the report selection above the active window, with these printers and the real file
-/// dialogs. All three arguments must outlive the action.
-std::function<void()> PrintAction(Session& session, Host& outside, PrintServer& printers);
+/// dialogs. The three references must outlive the action.
+std::function<void()> PrintAction(Session& session, Host& outside, PrintServer& printers,
+                                  const SectionMemory& sections);
 
 } // namespace Ledgrove

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reports/ReportChoices.h"
 #include "reports/windows/Printers.h"
 
 #include <QDate>
@@ -19,6 +20,7 @@ struct PrintOutside {
     FileChooser ChooseLogo;
     FileChooser ChoosePdf;
     std::function<QDate()> Today;
+    SectionMemory Sections = {};
 };
 
 /// The real printers and file dialogs. `pdfName` is the suggested name of a PDF file.

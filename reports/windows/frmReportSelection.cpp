@@ -43,7 +43,16 @@ frmReportSelection::frmReportSelection(Session& session, Host& outside, const Pr
     : EntryDialog({"frmReportSelection", "Report Selection", "ctxReportSelection"}, session, outside, parent)
     , m_machine(machine) {
     BuildControls();
+    Tick(m_machine.Sections.Load());
     Present();
+}
+
+void frmReportSelection::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && !qobject_cast<QPushButton*>(focusWidget()))
+        findChild<QPushButton*>("bPrint")->click();
+    else
+        EntryDialog::keyPressEvent(event);
 }
 
 ReportSections frmReportSelection::Sections() const {
@@ -51,6 +60,11 @@ ReportSections frmReportSelection::Sections() const {
     for (const SectionBox& box : sectionBoxes)
         sections.*box.Section = findChild<QCheckBox*>(box.Control)->isChecked();
     return sections;
+}
+
+void frmReportSelection::Tick(const ReportSections& sections) {
+    for (const SectionBox& box : sectionBoxes)
+        findChild<QCheckBox*>(box.Control)->setChecked(sections.*box.Section);
 }
 
 void frmReportSelection::BuildControls() {
@@ -98,6 +112,10 @@ QLayout* frmReportSelection::MakeButtons() {
     row->addStretch();
     for (QPushButton* button : {preview, cancel, help})
         row->addWidget(button);
+    // The frame of the default button shows which one Enter presses.
+    for (QPushButton* button : {header, preview, cancel, help})
+        button->setAutoDefault(true);
+    preview->setDefault(true);
     return row;
 }
 
@@ -112,6 +130,7 @@ void frmReportSelection::Preview() {
     if (!Succeeded(Module1::FillAssumptions(assumptions, State())))
         return;
     const ReportSections sections = Sections();
+    m_machine.Sections.Save(sections);
     const auto write = [this, &assumptions, sections](PrintDocument& document) {
         const Session& session = State();
         const auto logo = LogoPicture(session, Module1::StoredLogoOption(session));

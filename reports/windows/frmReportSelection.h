@@ -6,7 +6,8 @@
 
 namespace Ledgrove {
 
-/// Asks which sections of the report to print; opens the report header's dialog and the preview.
+/// Asks which sections of the report to print, beginning with those of the last preview; opens the report
+/// header's dialog and the preview.
 class frmReportSelection : public EntryDialog {
     Q_OBJECT
 
@@ -18,7 +19,12 @@ public:
     /// The sections whose boxes are ticked.
     ReportSections Sections() const;
 
+protected:
+    /// Enter previews, except on another button.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    void Tick(const ReportSections& sections);
     void BuildControls();
     QWidget* MakeBoxes();
     QLayout* MakeButtons();

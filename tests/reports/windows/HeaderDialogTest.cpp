@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "PrintDesk.h"
+#include "ReadingOrder.h"
 #include "reports/modPrint.h"
 #include "reports/windows/FrmPrintOptions.h"
 #include "ui/StartUp.h"
@@ -322,6 +323,8 @@ void HeaderDialogTest::mnemonicsAndTabOrder() {
                                   "bCancel",       "bHelp",        "ecBuilderName"};
     QCOMPARE(open.Focused(), "ecBuilderName");
     QCOMPARE(open.TabWalk("ecBuilderName", expected.size()), expected);
+    const QStringList once = expected.first(expected.size() - 1);
+    QCOMPARE(InReadingOrder(*open.Window, once), once);
     open.Find("ecBuilderName").setFocus();
     open.Press(Qt::Key_Return);
     QCOMPARE(open.Focused(), "txtHomeBuyer");

@@ -7,6 +7,7 @@
 #include <QTextBrowser>
 
 #include "PrintDesk.h"
+#include "ReadingOrder.h"
 #include "engine/Recalculate.h"
 #include "reports/windows/PrintAction.h"
 #include "reports/windows/frmReportSelection.h"
@@ -20,9 +21,17 @@ namespace {
 
 constexpr const char* boxes[] = {"chkReport1", "chkReport3", "chkReport4", "chkReport5", "chkReport6"};
 
+/// The open dialog, which begins with these sections and keeps those of each preview.
 struct OpenSelection : PrintDesk, FormDriver {
-    OpenSelection() {
+    explicit OpenSelection(const ReportSections& kept = {})
+        : Kept(kept) {
         Bring("LedgroveEmblem.png");
+        Machine.Sections = {[this] { return Kept; },
+                            [this](const ReportSections& sections) { Kept = sections; }};
+        Reopen();
+    }
+
+    void Reopen() {
         Window = std::make_unique<frmReportSelection>(State, Outside, Machine);
         Form = Window.get();
         Window->show();
@@ -52,8 +61,18 @@ struct OpenSelection : PrintDesk, FormDriver {
         return text;
     }
 
+    QString Ticked() const { return QString::fromStdString(NamesOf(Window->Sections())); }
+
+    ReportSections Kept;
     std::unique_ptr<frmReportSelection> Window;
 };
+
+/// Presses the key while this control has the focus. Returns whether the window opened.
+bool Opens(const OpenSelection& open, const char* control, const char* window, Qt::Key key) {
+    open.Find(control).setFocus();
+    return WhileOpen(
+        window, [&open, key] { open.Press(key); }, [](QWidget& opened) { opened.close(); });
+}
 
 void FillSample(Session& session, Host& host) {
     Testing::FillSample(session.Screen);
@@ -66,7 +85,11 @@ class ReportSelectionTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void showsItsSectionsUnticked();
+    void showsItsSections();
+    void lastPreviewsSectionsAreTicked();
+    void onlyAPreviewKeepsTheSections();
+    void enterPreviewsFromEveryBox();
+    void enterPressesTheFocusedButton();
     void tickedSectionsReachTheReport_data();
     void tickedSectionsReachTheReport();
     void withoutASectionTheReportHasItsTwoTables();
@@ -80,8 +103,8 @@ private slots:
     void mainWindowOpensIt();
 };
 
-void ReportSelectionTest::showsItsSectionsUnticked() {
-    const OpenSelection open;
+void ReportSelectionTest::showsItsSections() {
+    const OpenSelection open(AllSections);
     QCOMPARE(open.Window->windowTitle(), "Report Selection");
     QVERIFY(open.Window->isModal());
     const QStringList captions = {"Cash Flow", "More Home", "Affordability", "Summary",
@@ -89,7 +112,7 @@ void ReportSelectionTest::showsItsSectionsUnticked() {
     for (int i = 0; i < captions.size(); ++i) {
         const auto& box = open.Find<QCheckBox>(boxes[i]);
         QCOMPARE(box.text().remove('&'), captions[i]);
-        QVERIFY(!box.isChecked());
+        QVERIFY(box.isChecked());
     }
     QVERIFY(!open.Window->findChild<QWidget*>("chkReport2"));
     QStringList labels;
@@ -106,6 +129,46 @@ void ReportSelectionTest::showsItsSectionsUnticked() {
     const QSize room = open.Window->screen()->geometry().size() - open.Window->size();
     QCOMPARE(open.Window->pos() - open.Window->screen()->geometry().topLeft(),
              QPoint(room.width() / 2, room.height() / 2));
+}
+
+void ReportSelectionTest::lastPreviewsSectionsAreTicked() {
+    OpenSelection open({true, false, false, false, true});
+    QCOMPARE(open.Ticked(), "cashflow assumptions");
+    open.Tick("chkReport4");
+    open.Tick("chkReport1");
+    open.PreviewedText();
+    open.Reopen();
+    QCOMPARE(open.Ticked(), "affordability assumptions");
+    open.Tick("chkReport4");
+    open.Tick("chkReport6");
+    open.PreviewedText();
+    open.Reopen();
+    QCOMPARE(open.Ticked(), "none");
+}
+
+void ReportSelectionTest::onlyAPreviewKeepsTheSections() {
+    OpenSelection open(AllSections);
+    open.Tick("chkReport1");
+    ClickAt(open.Find("bCancel"));
+    QCOMPARE(NamesOf(open.Kept), NamesOf(AllSections));
+}
+
+void ReportSelectionTest::enterPreviewsFromEveryBox() {
+    const OpenSelection open;
+    QVERIFY(open.Find<QPushButton>("bPrint").isDefault());
+    for (const char* box : boxes) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+            QVERIFY2(Opens(open, box, "frmPrint", key), box);
+    }
+    QCOMPARE(open.Ticked(), "none");
+}
+
+void ReportSelectionTest::enterPressesTheFocusedButton() {
+    const OpenSelection open;
+    QVERIFY(Opens(open, "bPrint", "frmPrint", Qt::Key_Return));
+    QVERIFY(Opens(open, "cmdReportHeader", "FrmPrintOptions", Qt::Key_Return));
+    QVERIFY(!Opens(open, "bCancel", "frmPrint", Qt::Key_Return));
+    QVERIFY(!open.Window->isVisible());
 }
 
 void ReportSelectionTest::tickedSectionsReachTheReport_data() {
@@ -214,6 +277,8 @@ void ReportSelectionTest::mnemonicsAndTabOrder() {
                                   "cmdReportHeader", "bPrint",     "bCancel",    "bHelp",      "chkReport1"};
     QCOMPARE(open.Focused(), "chkReport1");
     QCOMPARE(open.TabWalk("chkReport1", expected.size()), expected);
+    const QStringList once = expected.first(expected.size() - 1);
+    QCOMPARE(InReadingOrder(*open.Window, once), once);
     open.Press(Qt::Key_S, Qt::AltModifier);
     QTRY_VERIFY(open.Window->Sections().Summary);
     QVERIFY(!open.Window->Sections().Affordability);
@@ -222,7 +287,11 @@ void ReportSelectionTest::mnemonicsAndTabOrder() {
 void ReportSelectionTest::mainWindowOpensIt() {
     PrintDesk desk;
     MainActions actions;
-    actions.Print = PrintAction(desk.State, desk.Outside, desk.Server);
+    actions.Print = PrintAction(desk.State, desk.Outside, desk.Server,
+                                {[] {
+                                     return ReportSections{false, true, false, false, false};
+                                 },
+                                 {}});
     frmMain window(desk.State, desk.Outside, actions);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -234,6 +303,7 @@ void ReportSelectionTest::mainWindowOpensIt() {
         [&](QWidget& dialog) {
             onlyAfterTheDataCheck = desk.Outside.Messages.size() == 1;
             QCOMPARE(dialog.parentWidget(), &window);
+            QCOMPARE(NamesOf(dynamic_cast<frmReportSelection&>(dialog).Sections()), "morehome");
             dialog.close();
         }));
     QVERIFY(onlyAfterTheDataCheck);
