@@ -1,5 +1,6 @@
 #include "reports/HeaderOptions.h"
 
+#include "base/Text.h"
 #include "engine/Recalculate.h"
 #include "reports/modPrint.h"
 #include "settings/HeaderSettings.h"
@@ -10,6 +11,7 @@ std::optional<SettingsFault> FillHeaderOptions(HeaderOptions& dialog, const Sess
     const SettingsFile file(session.Folder);
     dialog.txtHomeBuyer.Text = session.Header.HomeBuyer;
     ReportHeader header;
+    header.BuilderName = session.Header.BuilderName;
     if (auto fault = LoadReportHeader(file, header))
         return fault;
     dialog.ecLogoFile.Text = header.LogoFile;
@@ -33,6 +35,15 @@ std::optional<SettingsFault> ConfirmHeaderOptions(const HeaderOptions& dialog, S
         return fault;
     session.Header = {texts.BuilderName, dialog.txtHomeBuyer.Text, texts.LogoFile};
     return std::nullopt;
+}
+
+std::string UnkeptNameNotice(const Session& session) {
+    const std::string& name = session.Header.BuilderName;
+    const auto character = UnkeepableCharacter(name);
+    return character ? "The name " + Excerpt(name) +
+                           " is used for this report but cannot be kept: Ledgrove.ini cannot hold " +
+                           character->Name + "."
+                     : "";
 }
 
 int StoredLogoOption(const Session& session) {

@@ -6,6 +6,7 @@
 #include <array>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 // The logic of the report header's dialog, without its window.
 namespace Ledgrove {
@@ -31,16 +32,21 @@ struct LogoView {
 
 namespace Ledgrove::Module1 {
 
-/// Fills the dialog from the session and the settings file. A logo option that is missing, unreadable or not
-/// in the list counts as "None".
+/// Fills the dialog from the session and the settings file. The builder name is the file's, except that the
+/// session's own stays if the file cannot hold it. A logo option that is missing, unreadable or not in the
+/// list counts as "None".
 std::optional<SettingsFault> FillHeaderOptions(HeaderOptions& dialog, const Session& session);
 
 /// The user's file from the field, which may be relative to the program's folder. A field with the
 /// placeholder gives no file.
 LogoView ViewOfLogo(const HeaderOptions& dialog, const std::filesystem::path& folder);
 
-/// Saves the dialog and makes it the session's header. On a fault neither the header nor the file changes.
+/// Saves the dialog and makes it the session's header. A builder name that the file cannot hold is not saved;
+/// the file's line for it stays. On a fault neither the header nor the file changes.
 std::optional<SettingsFault> ConfirmHeaderOptions(const HeaderOptions& dialog, Session& session);
+
+/// A sentence for the user if the session's builder name lasts only for this run; else "".
+std::string UnkeptNameNotice(const Session& session);
 
 /// The index of the logo option in the settings file, 0 if the file has none.
 int StoredLogoOption(const Session& session);

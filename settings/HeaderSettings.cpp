@@ -3,7 +3,6 @@
 #include "base/Text.h"
 #include "settings/LineSyntax.h"
 #include "settings/Rewrite.h"
-#include "settings/Windows1252.h"
 
 namespace Ledgrove::Module1 {
 namespace {
@@ -47,6 +46,13 @@ Outcome<std::string> GetHelpFile(const SettingsFile& file) {
     return GetTrimmedText(file, Key::HelpFile, "");
 }
 
+std::optional<UnencodableCharacter> UnkeepableCharacter(std::string_view builderName) {
+    const auto encoded = EncodeWindows1252(builderName);
+    if (const auto* character = std::get_if<UnencodableCharacter>(&encoded))
+        return *character;
+    return std::nullopt;
+}
+
 std::optional<SettingsFault> LoadReportHeader(const SettingsFile& file, ReportHeader& header) {
     const auto logoFile = GetLogoFile(file);
     if (!logoFile)
@@ -56,7 +62,8 @@ std::optional<SettingsFault> LoadReportHeader(const SettingsFile& file, ReportHe
     const auto builderName = GetBuilderName(file);
     if (!builderName)
         return builderName.Fault();
-    header.BuilderName = *builderName;
+    if (!UnkeepableCharacter(header.BuilderName))
+        header.BuilderName = *builderName;
     return std::nullopt;
 }
 
@@ -76,18 +83,20 @@ std::optional<SettingsFault> WriteOptions(const SettingsFile& file, const Option
     RewritePlan plan;
     plan.Rules = {ReplaceOrAppend(Key::Feature1, texts.Feature1),
                   ReplaceOrAppend(Key::Feature2, texts.Feature2)};
-    plan.AppendedAlways = {SettingLine(Key::BuilderName, texts.BuilderName),
-                           SettingLine(Key::LogoFile, texts.LogoFile)};
+    if (!UnkeepableCharacter(texts.BuilderName))
+        plan.AppendedAlways.push_back(SettingLine(Key::BuilderName, texts.BuilderName));
+    plan.AppendedAlways.push_back(SettingLine(Key::LogoFile, texts.LogoFile));
     return Rewrite(file, plan);
 }
 
 std::optional<SettingsFault> WritePrintOptions(const SettingsFile& file, const PrintOptionsTexts& texts) {
     RewritePlan plan;
     plan.Rules = {ReplaceOrAppend(Key::Feature1, texts.Feature1),
-                  ReplaceOrAppend(Key::Feature2, texts.Feature2),
-                  ReplaceOrAppend(Key::BuilderName, texts.BuilderName),
-                  ReplaceOnly(Key::LogoOption, std::to_string(texts.LogoOption)),
-                  ReplaceOrAppend(Key::LogoFile, texts.LogoFile)};
+                  ReplaceOrAppend(Key::Feature2, texts.Feature2)};
+    if (!UnkeepableCharacter(texts.BuilderName))
+        plan.Rules.push_back(ReplaceOrAppend(Key::BuilderName, texts.BuilderName));
+    plan.Rules.push_back(ReplaceOnly(Key::LogoOption, std::to_string(texts.LogoOption)));
+    plan.Rules.push_back(ReplaceOrAppend(Key::LogoFile, texts.LogoFile));
     return Rewrite(file, plan);
 }
 

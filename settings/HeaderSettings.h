@@ -2,6 +2,7 @@
 
 #include "engine/Session.h"
 #include "settings/SettingsFile.h"
+#include "settings/Windows1252.h"
 
 #include <cstdint>
 #include <optional>
@@ -28,8 +29,12 @@ Outcome<std::string> GetHelpFile(const SettingsFile& file);
 /// a fault the features get their defaults.
 std::optional<SettingsFault> GetFeatures(const SettingsFile& file, FeatureTexts& features);
 
-/// Reads builder name and logo file into the header. If the file gives no logo file, the header keeps its
-/// own.
+/// The first character of a builder name that the settings file cannot hold; nothing if it can hold them all.
+/// Such a name lasts only for the run.
+std::optional<UnencodableCharacter> UnkeepableCharacter(std::string_view builderName);
+
+/// Reads builder name and logo file into the header. The header keeps its own logo file if the file gives
+/// none, and its own builder name if the file cannot hold it.
 std::optional<SettingsFault> LoadReportHeader(const SettingsFile& file, ReportHeader& header);
 
 /// The texts that the options dialog saves: its two fields, and the builder name and logo file of the print
@@ -42,7 +47,7 @@ struct OptionsTexts {
 };
 
 /// Replaces or appends the features and always appends builder name and logo file, so each save adds two
-/// lines to the file. The last line of a key counts.
+/// lines to the file. The last line of a key counts. A builder name that the file cannot hold is left out.
 std::optional<SettingsFault> WriteOptions(const SettingsFile& file, const OptionsTexts& texts);
 
 /// The values that the print options dialog saves.
@@ -54,7 +59,8 @@ struct PrintOptionsTexts {
     std::string LogoFile;
 };
 
-/// Replaces or appends each key, except that the logo option is saved only if the file has a line for it.
+/// Replaces or appends each key, except that the logo option is saved only if the file has a line for it. The
+/// lines of the builder name stay as they are if the file cannot hold the new one.
 std::optional<SettingsFault> WritePrintOptions(const SettingsFile& file, const PrintOptionsTexts& texts);
 
 /// Every line of the key becomes "KEY=value"; if there is none, the line is appended. The key must not be

@@ -50,8 +50,11 @@ FrmPrintOptions::FrmPrintOptions(HeaderOptions& record, const ReportDesk& desk, 
 }
 
 void FrmPrintOptions::accept() {
-    if (Succeeded(Module1::ConfirmHeaderOptions(m_record, State())))
-        EntryDialog::accept();
+    if (!Succeeded(Module1::ConfirmHeaderOptions(m_record, State())))
+        return;
+    if (const std::string notice = Module1::UnkeptNameNotice(State()); !notice.empty())
+        Outside().ShowMessage({ApplicationTitle, notice, MessageIcon::Information});
+    EntryDialog::accept();
 }
 
 void FrmPrintOptions::BuildControls() {

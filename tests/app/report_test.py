@@ -5,6 +5,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import unicodedata
 import unittest
 from pathlib import Path
 
@@ -39,6 +40,11 @@ class ReportTest(unittest.TestCase):
     def info(self):
         lines = subprocess.run(["pdfinfo", self.pdf], capture_output=True, check=True, text=True).stdout.splitlines()
         return {key: value.strip() for key, _, value in (line.partition(":") for line in lines)}
+
+    def fonts(self):
+        """The names of the PDF's fonts."""
+        rows = subprocess.run(["pdffonts", self.pdf], capture_output=True, check=True, text=True).stdout.splitlines()[2:]
+        return {row.split()[0].split("+")[-1] for row in rows}
 
     def pictures(self):
         rows = subprocess.run(["pdfimages", "-list", self.pdf], capture_output=True, check=True, text=True).stdout
@@ -136,6 +142,22 @@ class Contents(ReportTest):
         self.assertRegex(text, r"Printed on \d\d/\d\d/20\d\d +Page 1\n")
         self.report("--builder", "", SAMPLE)
         self.assertNotIn("Prepared", self.text())
+
+    def test_names_in_any_script(self):
+        for name in ("محمد", "Ольга", "अनीता", "李明", "さくら", "김민준", "יעל", "สมชาย", "Ngọc Ánh", "Ελένη"):
+            with self.subTest(name):
+                self.report("--builder", name, "--buyer", name, "--sections", "none", SAMPLE)
+                # A character that no font has gets no text; marks of direction surround right-to-left words.
+                text = unicodedata.normalize("NFKC", re.sub("[\u202a-\u202e\u2066-\u2069]", "", self.text()))
+                self.assertRegex(text, f"Prepared By: +{name}\n")
+                self.assertRegex(text, f"Prepared For: +{name}\n")
+
+    def test_names_do_not_change_the_font_of_the_report(self):
+        self.report("--builder", "Pat Doe", SAMPLE)
+        plain = self.fonts()
+        self.assertTrue(all(name.startswith("LiberationSans") for name in plain), plain)
+        self.report("--builder", "李明", SAMPLE)
+        self.assertEqual({name for name in self.fonts() if name.startswith("LiberationSans")}, plain)
 
     def test_the_builder_of_the_settings_file_is_the_default(self):
         self.run_cli("settings", "--folder", self.folder, "set", "BUILDERNAME", "Acme Homes")

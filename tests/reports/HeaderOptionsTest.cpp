@@ -147,12 +147,48 @@ TEST_F(HeaderOptionsTest, AFailedSaveChangesNeitherRunNorFile) {
     Given("BUILDERNAME=Old\r\n");
     m_session.Header = {"Old", "Buyer", unnamed};
     HeaderOptions dialog = Filled();
-    dialog.ecBuilderName.Text = "Sun \xE2\x98\x80"; // a character outside the file's encoding
+    dialog.ecLogoFile.Text = "/logos/\xE2\x98\x80.bmp"; // a character outside the file's encoding
     dialog.txtHomeBuyer.Text = "Kim Park";
     EXPECT_TRUE(ConfirmHeaderOptions(dialog, m_session));
     EXPECT_EQ(Bytes(), "BUILDERNAME=Old\r\n");
     EXPECT_EQ(m_session.Header.BuilderName, "Old");
     EXPECT_EQ(m_session.Header.HomeBuyer, "Buyer");
+}
+
+TEST_F(HeaderOptionsTest, ANameThatTheFileCannotHoldLastsForTheRun) {
+    Given("BUILDERNAME=Old\r\nLOGOOPTION=0\r\nLOGOFILE=/a.bmp\r\n");
+    HeaderOptions dialog = Filled();
+    dialog.ecBuilderName.Text = "Li 李明";
+    dialog.txtHomeBuyer.Text = "김";
+    dialog.ecLogoFile.Text = "/b.bmp";
+    dialog.cboUserLogoOptions = 2;
+    EXPECT_EQ(ConfirmHeaderOptions(dialog, m_session), std::nullopt);
+    EXPECT_EQ(Bytes(), "BUILDERNAME=Old\r\nLOGOOPTION=2\r\nLOGOFILE=/b.bmp\r\nFEATURE1= \r\nFEATURE2= \r\n");
+    EXPECT_EQ(m_session.Header.BuilderName, "Li 李明");
+    EXPECT_EQ(m_session.Header.HomeBuyer, "김");
+    EXPECT_EQ(UnkeptNameNotice(m_session), "The name \"Li 李明\" is used for this report but cannot be kept: "
+                                           "Ledgrove.ini cannot hold the character "
+                                           "\"李\" (U+674E).");
+    EXPECT_EQ(Filled().ecBuilderName.Text, "Li 李明");
+}
+
+TEST_F(HeaderOptionsTest, ANameThatTheFileCannotHoldAddsNoLine) {
+    Given("X=1\r\n");
+    HeaderOptions dialog = Filled();
+    dialog.ecBuilderName.Text = "李";
+    EXPECT_EQ(ConfirmHeaderOptions(dialog, m_session), std::nullopt);
+    EXPECT_EQ(Bytes(), "X=1\r\nFEATURE1= \r\nFEATURE2= \r\nLOGOFILE=Full Path To Logo File\r\n");
+}
+
+TEST_F(HeaderOptionsTest, ANameThatTheFileHoldsNeedsNoNotice) {
+    Given("BUILDERNAME=Old\r\n");
+    m_session.Header.BuilderName = "李";
+    HeaderOptions dialog = Filled();
+    dialog.ecBuilderName.Text = "Häuser & Söhne";
+    dialog.txtHomeBuyer.Text = "李";
+    EXPECT_EQ(ConfirmHeaderOptions(dialog, m_session), std::nullopt);
+    EXPECT_EQ(UnkeptNameNotice(m_session), "");
+    EXPECT_EQ(Filled().ecBuilderName.Text, "Häuser & Söhne");
 }
 
 TEST_F(HeaderOptionsTest, ReloadingTheFeaturesShowsTheStoredTexts) {

@@ -128,6 +128,19 @@ TEST_F(HeaderSettingsTest, SavingOptionsTwiceLeavesThreeBuilderNames) {
     EXPECT_EQ(*GetBuilderName(File()), "Three");
 }
 
+TEST_F(HeaderSettingsTest, OptionsLeaveOutABuilderNameThatTheFileCannotHold) {
+    Given("BUILDERNAME=One\r\n");
+    EXPECT_EQ(WriteOptions(File(), {"a", "b", "李", "/logo.bmp"}), std::nullopt);
+    EXPECT_EQ(Bytes(), "BUILDERNAME=One\r\nFEATURE1=a\r\nFEATURE2=b\r\nLOGOFILE=/logo.bmp\r\n");
+    ReportHeader header;
+    header.BuilderName = "李";
+    EXPECT_EQ(LoadReportHeader(File(), header), std::nullopt);
+    EXPECT_EQ(header.BuilderName, "李");
+    header.BuilderName = "Two";
+    EXPECT_EQ(LoadReportHeader(File(), header), std::nullopt);
+    EXPECT_EQ(header.BuilderName, "One");
+}
+
 TEST_F(HeaderSettingsTest, EmptyFeaturesAreSavedEmptyAndReadEmpty) {
     Given("FEATURE1=x\r\nFEATURE2=y\r\n");
     EXPECT_EQ(WriteOptions(File(), {"", "", "A", ""}), std::nullopt);

@@ -1,7 +1,9 @@
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -98,6 +100,9 @@ private slots:
     void sameRunRemembersTheBuyer();
     void newRunRemembersOnlyBuilderAndLogo();
     void cancelChangesNothing();
+    void fieldsTakeNamesInEveryScript_data();
+    void fieldsTakeNamesInEveryScript();
+    void unkeptNameIsUsedAfterASentence();
     void refusedSaveKeepsTheDialogOpen();
     void namesAreWords();
     void mnemonicsAndTabOrder();
@@ -297,15 +302,65 @@ void HeaderDialogTest::cancelChangesNothing() {
     QCOMPARE(open.Chosen(), "None");
 }
 
+void HeaderDialogTest::fieldsTakeNamesInEveryScript_data() {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("Arabic") << "محمد";
+    QTest::newRow("Cyrillic") << "Ольга";
+    QTest::newRow("Devanagari") << "अनीता";
+    QTest::newRow("Han") << "李明";
+    QTest::newRow("Hangul") << "김민준";
+    QTest::newRow("Hebrew") << "יעל";
+    QTest::newRow("Thai") << "สมชาย";
+    QTest::newRow("Vietnamese") << "Ngọc Ánh";
+}
+
+void HeaderDialogTest::fieldsTakeNamesInEveryScript() {
+    QFETCH(QString, name);
+    OpenHeader open;
+    auto& builder = open.Find<QLineEdit>("ecBuilderName");
+    builder.setFocus();
+    QInputMethodEvent composed;
+    composed.setCommitString(name);
+    QCoreApplication::sendEvent(&builder, &composed);
+    QGuiApplication::clipboard()->setText(name);
+    open.Find("txtHomeBuyer").setFocus();
+    open.Press(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(open.FieldText("ecBuilderName"), name);
+    QCOMPARE(open.FieldText("txtHomeBuyer"), name);
+    ClickAt(open.Find("bOK"));
+    QCOMPARE(open.State.Header.BuilderName, name.toStdString());
+    QCOMPARE(open.State.Header.HomeBuyer, name.toStdString());
+}
+
+void HeaderDialogTest::unkeptNameIsUsedAfterASentence() {
+    OpenHeader open("BUILDERNAME=Acme\r\nLOGOOPTION=0\r\n");
+    open.Find<QLineEdit>("ecBuilderName").setText("李明");
+    open.Choose(Generic);
+    ClickAt(open.Find("bOK"));
+    QVERIFY(!open.Window->isVisible());
+    QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
+    QCOMPARE(open.Outside.Messages.front().Icon, MessageIcon::Information);
+    const std::string text = open.Outside.TakeTexts().front();
+    for (const char* part : {"\"李明\"", "is used for this report", "\"李\"", "Ledgrove.ini"})
+        QVERIFY2(text.find(part) != std::string::npos, part);
+    QCOMPARE(open.Lines("BUILDERNAME"), QByteArrayList{"BUILDERNAME=Acme"});
+    QCOMPARE(open.Lines("LOGOOPTION"), QByteArrayList{"LOGOOPTION=1"});
+    open.Reopen();
+    QCOMPARE(open.FieldText("ecBuilderName"), "李明");
+    open.Type("ecBuilderName", "Acme");
+    ClickAt(open.Find("bOK"));
+    QVERIFY(open.Outside.Messages.empty());
+}
+
 void HeaderDialogTest::refusedSaveKeepsTheDialogOpen() {
     OpenHeader open;
     const QByteArray before = open.Settings();
-    open.Find<QLineEdit>("ecBuilderName").setText(u"Sun \u2600"_qs);
+    open.Find<QLineEdit>("ecLogoFile").setText(u"/sun \u2600.bmp"_qs);
     ClickAt(open.Find("bOK"));
     QVERIFY(open.Window->isVisible());
     QCOMPARE(open.Outside.Messages.size(), std::size_t(1));
     QCOMPARE(open.Outside.Messages.front().Icon, MessageIcon::Exclamation);
-    QCOMPARE(open.FieldText("ecBuilderName"), u"Sun \u2600"_qs);
+    QCOMPARE(open.FieldText("ecLogoFile"), u"/sun \u2600.bmp"_qs);
     QCOMPARE(open.Settings(), before);
 }
 
