@@ -20,6 +20,13 @@ QRectF RectOf(const PrintBox& box) {
     return {QPointF(box.X1, box.Y1), QPointF(box.X2, box.Y2)};
 }
 
+/// The most pixels of a picture in the box that good printers show, 600 to the inch. More would only make the
+/// document larger and slower.
+QSize PixelsOf(const QRectF& box) {
+    constexpr int dotsPerInch = 600;
+    return (box.size() * dotsPerInch / TwipsPerInch).toSize();
+}
+
 /// Draws each kind of item on a page.
 class ItemPainter {
 public:
@@ -43,10 +50,10 @@ public:
     }
 
     void operator()(const PlacedPicture& picture) {
-        const QImage& image = m_pictures.Load(picture.File);
+        const QRectF box = RectOf(picture.Box);
+        const QImage& image = m_pictures.Load(picture.File, PixelsOf(box));
         if (image.isNull())
             return;
-        const QRectF box = RectOf(picture.Box);
         QRectF target({}, QSizeF(image.size()).scaled(box.size(), Qt::KeepAspectRatio));
         target.moveCenter(box.center());
         m_painter.drawImage(target, image);

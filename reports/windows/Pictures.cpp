@@ -1,6 +1,7 @@
 #include "reports/windows/Pictures.h"
 
 #include "reports/windows/BmpCheck.h"
+#include "reports/windows/JpegCheck.h"
 #include "reports/windows/WmfPicture.h"
 
 #include <QBuffer>
@@ -15,6 +16,7 @@ namespace Ledgrove {
 namespace {
 
 constexpr qint64 largestFile = 64LL * 1024 * 1024;
+
 qint64 PixelsOf(const QSize& size) {
     return qint64{std::max(size.width(), 0)} * std::max(size.height(), 0);
 }
@@ -107,6 +109,16 @@ QImage ReadPng(const QByteArray& bytes) {
     return ReadCurrent(reader, bytes.size());
 }
 
+QImage ReadJpeg(const QByteArray& bytes) {
+    if (!IsWholeJpeg(bytes))
+        return {};
+    QBuffer buffer;
+    buffer.setData(bytes);
+    PictureReader reader(&buffer, "jpeg");
+    reader.setAutoTransform(true); // cameras save a photograph as the sensor sees it, and how it was held
+    return ReadCurrent(reader, bytes.size());
+}
+
 } // namespace
 
 QImage ReadPicture(const QByteArray& bytes) {
@@ -116,6 +128,8 @@ QImage ReadPicture(const QByteArray& bytes) {
         return ReadLargestIcon(bytes);
     if (bytes.startsWith("\x89PNG"))
         return ReadPng(bytes);
+    if (IsJpeg(bytes))
+        return ReadJpeg(bytes);
     if (IsWmf(bytes))
         return ReadWmf(bytes);
     return {};
@@ -143,12 +157,21 @@ QImage OnPaper(const QImage& picture) {
     return paper;
 }
 
+/// The picture, made smaller if it does not fit.
+QImage Within(const QSize& most, const QImage& picture) {
+    if (picture.width() <= most.width() && picture.height() <= most.height())
+        return picture;
+    return picture.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
 } // namespace
 
-const QImage& PictureStore::Load(const std::filesystem::path& file) {
-    const auto found = m_pictures.find(file);
-    return found != m_pictures.end() ? found->second
-                                     : m_pictures.emplace(file, OnPaper(LoadPicture(file))).first->second;
+const QImage& PictureStore::Load(const std::filesystem::path& file, const QSize& most) {
+    const Key key(file, most.width(), most.height());
+    const auto found = m_pictures.find(key);
+    if (found != m_pictures.end())
+        return found->second;
+    return m_pictures.emplace(key, Within(most, OnPaper(LoadPicture(file)))).first->second;
 }
 
 } // namespace Ledgrove

@@ -1,7 +1,9 @@
 """`ledgrove-cli report`: the PDF shows the same figures as the screen, to the dollar."""
 import json
+import os
 import re
 import shutil
+import struct
 import subprocess
 import sys
 import tempfile
@@ -14,6 +16,12 @@ SAMPLE = SOURCE / "data/samples/first-home.ledgrove.json"
 SECTIONS = ("Financial Assumptions", "Cash Flow", "More Home", "Affordability", "Summary")
 SCENARIOS = 24
 
+
+def noisy_bmp(width, height):
+    """A picture of random pixels, which no compression makes small."""
+    pixels = os.urandom((width * 3 + 3) // 4 * 4 * height)
+    header = struct.pack("<2sIIIIiiHHIIiiII", b"BM", 54 + len(pixels), 0, 54, 40, width, height, 1, 24, 0, len(pixels), 0, 0, 0, 0)
+    return header + pixels
 
 
 class ReportTest(unittest.TestCase):
@@ -46,9 +54,18 @@ class ReportTest(unittest.TestCase):
         rows = subprocess.run(["pdffonts", self.pdf], capture_output=True, check=True, text=True).stdout.splitlines()[2:]
         return {row.split()[0].split("+")[-1] for row in rows}
 
-    def pictures(self):
+    def picture_sizes(self):
+        """Width and height of each picture, without the masks of transparency."""
         rows = subprocess.run(["pdfimages", "-list", self.pdf], capture_output=True, check=True, text=True).stdout
-        return sum(row.split()[2] == "image" for row in rows.splitlines()[2:])  # a separate row lists the transparency
+        return [(int(row.split()[3]), int(row.split()[4])) for row in rows.splitlines()[2:] if row.split()[2] == "image"]
+
+    def pictures(self):
+        return len(self.picture_sizes())
+
+    def set_logo(self, name, content):
+        """Saves the content under this name and makes it the user's logo."""
+        (self.folder / name).write_bytes(content)
+        self.run_cli("settings", "--folder", self.folder, "set", "LOGOFILE", self.folder / name)
 
     def assert_in_order(self, text, rows):
         """Each row is one line with its parts in order and only blanks between them; the rows come in this order."""
@@ -191,6 +208,19 @@ class Paper(ReportTest):
         self.assertEqual(self.pictures(), 2)
         self.run_cli("settings", "--folder", self.folder, "set", "LOGOOPTION", "2")
         self.report(SAMPLE)
+        self.assertEqual(self.pictures(), 2)
+
+    def test_a_large_logo_is_scaled_to_600_dots_per_inch(self):
+        """Its place is 1.325 by 1.125 inches, so 795 by 675 dots."""
+        for size, printed in (((3000, 2400), (795, 636)), ((795, 675), (795, 675)), ((40, 30), (40, 30))):
+            self.set_logo("own.bmp", noisy_bmp(*size))
+            self.report("--logo", "user", SAMPLE)
+            self.assertIn(printed, self.picture_sizes())
+            self.assertLess(self.pdf.stat().st_size, 2_000_000)  # 795 * 675 pixels of three bytes, and the rest
+
+    def test_a_png_logo_is_printed(self):
+        self.set_logo("own.logo", (self.folder / "LedgroveEmblem.png").read_bytes())
+        self.report("--logo", "user", SAMPLE)
         self.assertEqual(self.pictures(), 2)
 
     def test_a_missing_or_damaged_picture_is_left_out(self):

@@ -99,11 +99,81 @@ TEST_P(CutPicture, GivesNoPictureOrACompleteImage) {
     }
 }
 
+/// A picture whose left half is red and whose right half is white, in this format.
+QByteArray MakeHalves(const QSize& size, const char* format, int quality = -1) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width() / 2; ++x)
+            image.setPixel(x, y, qRgb(255, 0, 0));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!image.save(&buffer, format, quality))
+        qFatal("no %s", format);
+    return bytes;
+}
+
 INSTANTIATE_TEST_SUITE_P(Formats, CutPicture,
                          testing::Values(MakePlainBmp(9, 7, 0x336699),
                                          MakeBmp({4, 2, 8}, QByteArray::fromHex("0000000001010202")),
                                          MakeBmp({4, 2, 8, 1}, runs8), MakeBmp({4, 2, 4, 2}, runs4),
-                                         MakeIcon({16})));
+                                         MakeIcon({16}), MakeHalves({24, 16}, "png"),
+                                         MakeHalves({24, 16}, "jpeg")));
+
+/// The JPEG with an EXIF part that says how the camera was held.
+QByteArray Turned(const QByteArray& jpeg, char orientation) {
+    QByteArray exif = QByteArray::fromHex("ffe10022"                     // 34 bytes of EXIF data follow
+                                          "457869660000"                 // "Exif"
+                                          "49492a0008000000"             // little-endian, one table
+                                          "0100120103000100000001000000" // one entry: the orientation
+                                          "00000000");                   // no other table
+    exif[exif.size() - 8] = orientation;
+    return jpeg.left(2) + exif + jpeg.mid(2);
+}
+
+bool IsRed(QRgb colour) {
+    return qRed(colour) > 240 && qGreen(colour) < 40;
+}
+
+TEST(ReadPicture, ReadsPngAndJpeg) {
+    for (const char* format : {"png", "jpeg"}) {
+        const QImage image = ReadPicture(MakeHalves({64, 32}, format));
+        ASSERT_EQ(image.size(), QSize(64, 32)) << format;
+        EXPECT_TRUE(IsRed(image.pixel(8, 16))) << format;
+        EXPECT_FALSE(IsRed(image.pixel(56, 16))) << format;
+    }
+}
+
+TEST(ReadPicture, TurnsAJpegAsItsCameraWasHeld) {
+    const QByteArray jpeg = MakeHalves({64, 32}, "jpeg", 95);
+    // 3 is upside down; 6 is turned to the right, so that the left side becomes the top.
+    const QImage upsideDown = ReadPicture(Turned(jpeg, 3));
+    ASSERT_EQ(upsideDown.size(), QSize(64, 32));
+    EXPECT_TRUE(IsRed(upsideDown.pixel(56, 16)));
+    const QImage right = ReadPicture(Turned(jpeg, 6));
+    ASSERT_EQ(right.size(), QSize(32, 64));
+    EXPECT_TRUE(IsRed(right.pixel(16, 8)));
+    EXPECT_FALSE(IsRed(right.pixel(16, 56)));
+}
+
+TEST(ReadPicture, ATruncatedOrDamagedJpegIsNotRead) {
+    const QByteArray whole = MakeHalves({64, 32}, "jpeg");
+    for (qsizetype length = 0; length < whole.size(); ++length)
+        EXPECT_TRUE(ReadPicture(whole.left(length)).isNull()) << length;
+    EXPECT_FALSE(ReadPicture(whole + "other data").isNull());
+    const qsizetype scan = whole.indexOf("\xFF\xDA");
+    EXPECT_TRUE(ReadPicture(whole.left(scan) + "\xFF\xD9").isNull()); // no pixels
+    EXPECT_TRUE(ReadPicture(whole.left(4) + QByteArray(scan - 4, '\0') + whole.mid(scan)).isNull());
+    const QByteArray oneScan = whole.mid(scan, whole.size() - scan - 2);
+    EXPECT_TRUE(ReadPicture(whole.left(scan) + oneScan.repeated(1000) + "\xFF\xD9").isNull());
+}
+
+TEST(ReadPicture, AHugeJpegIsNotRead) {
+    const QByteArray small = MakeHalves({64, 32}, "jpeg");
+    const qsizetype frame = small.indexOf("\xFF\xC0") + 5; // its height and width
+    ASSERT_EQ(small.mid(frame, 4), QByteArray::fromHex("00200040"));
+    EXPECT_TRUE(ReadPicture(QByteArray(small).replace(frame, 4, QByteArray::fromHex("ffffffff"))).isNull());
+}
 
 TEST(ReadPicture, ATruncatedBmpIsNotRead) {
     const QByteArray whole = MakePlainBmp(100, 100, 0x336699);
@@ -161,7 +231,10 @@ TEST(ReadPicture, AnIconWithoutItsClaimedImagesIsNotRead) {
 }
 
 TEST(ReadPicture, OtherFilesAreNotRead) {
-    for (const char* text : {"", "B", "BM", "GIF89a", "plain text", "\xD7\xCD\xC6\x9A", "\x89PNG\r\n"})
+    for (const char* text :
+         {"", "B", "BM", "GIF89a", "plain text",
+          "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>", "II*", "RIFF\x1a WEBPVP8L",
+          "\xFF\xD8", "\xFF\xD8\xFF", "\xD7\xCD\xC6\x9A", "\x89PNG\r\n"})
         EXPECT_TRUE(ReadPicture(text).isNull()) << text;
 }
 
@@ -191,9 +264,29 @@ TEST(PictureStore, ReadsAFileOnce) {
     file.write(MakePlainBmp(3, 3, 0xFF0000));
     file.close();
     PictureStore store;
-    EXPECT_FALSE(store.Load(name.toStdString()).isNull());
+    EXPECT_FALSE(store.Load(name.toStdString(), {10, 10}).isNull());
     QFile::remove(name);
-    EXPECT_FALSE(store.Load(name.toStdString()).isNull());
+    EXPECT_FALSE(store.Load(name.toStdString(), {10, 10}).isNull());
+}
+
+TEST(PictureStore, KeepsNoMorePixelsThanItsPlaceShows) {
+    const QTemporaryDir folder;
+    const QSize place(795, 675);
+    struct Case {
+        QSize Picture, Kept;
+    };
+    for (const Case& one :
+         {Case{{3000, 2400}, {795, 636}}, // 3000 : 2400 is 795 : 636
+          Case{{700, 1350}, {350, 675}},  // only the height is too large
+          Case{{2000, 1}, {795, 1}}, Case{{795, 675}, {795, 675}}, Case{{20, 10}, {20, 10}}}) {
+        const QString name = folder.filePath(QString("%1.bmp").arg(one.Picture.width()));
+        QImage picture(one.Picture, QImage::Format_RGB32);
+        picture.fill(qRgb(0x33, 0x66, 0x99));
+        ASSERT_TRUE(picture.save(name));
+        const QImage kept = PictureStore().Load(name.toStdString(), place);
+        EXPECT_EQ(kept.size(), one.Kept);
+        EXPECT_EQ(kept.pixel(kept.width() / 2, kept.height() / 2), qRgb(0x33, 0x66, 0x99));
+    }
 }
 
 TEST(ShippedPictures, ExistAndAreLargeEnoughForPrint) {

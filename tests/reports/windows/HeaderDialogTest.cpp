@@ -62,11 +62,11 @@ struct OpenHeader : PrintDesk, FormDriver {
         return enabled;
     }
     /// A wide picture file of the user.
-    QString MakeLogo() const {
-        const QString file = Folder.filePath("Logo.bmp");
+    QString MakeLogo(const char* format = "BMP") const {
+        const QString file = Folder.filePath(QString("Logo.") + format);
         QImage picture(400, 100, QImage::Format_RGB32);
         picture.fill(Qt::red);
-        if (!picture.save(file, "BMP"))
+        if (!picture.save(file, format))
             qFatal("no picture");
         return file;
     }
@@ -194,9 +194,14 @@ void HeaderDialogTest::brokenLogoShowsNothing() {
 void HeaderDialogTest::typedLogoIsShownWhenItIsComplete() {
     OpenHeader open;
     open.Choose(User);
-    open.Type("ecLogoFile", open.MakeLogo());
-    open.Find("bOK").setFocus();
-    QVERIFY(open.ShowsPicture());
+    for (const char* format : {"BMP", "PNG", "JPEG"}) {
+        open.Type("ecLogoFile", "none");
+        open.Find("bOK").setFocus();
+        QVERIFY(!open.ShowsPicture());
+        open.Type("ecLogoFile", open.MakeLogo(format));
+        open.Find("bOK").setFocus();
+        QVERIFY2(open.ShowsPicture(), format);
+    }
 }
 
 void HeaderDialogTest::chosenLogoIsNamedAndShown() {
