@@ -12,6 +12,8 @@
 
 #include <sys/resource.h>
 
+#include "app/metafile/Frame.h"
+
 extern "C" {
 #include <libwmf/api.h>
 #include <libwmf/gd.h>
@@ -64,13 +66,33 @@ struct Drawing {
     unsigned Height = 0;
 };
 
-/// Stores the metafile's extent in `drawing`. Returns false if the metafile is damaged.
-bool Measure(wmfAPI* api, std::string& bytes, Drawing& drawing) {
+/// Stores the extent of what the metafile draws in `box`. Returns false if the metafile is damaged.
+bool Scan(wmfAPI* api, std::string& bytes, wmfD_Rect& box) {
     return wmf_mem_open(api, reinterpret_cast<unsigned char*>(bytes.data()),
                         static_cast<long>(bytes.size())) == wmf_E_None &&
-           wmf_scan(api, 0, &drawing.Box) == wmf_E_None &&
-           wmf_display_size(api, &drawing.Width, &drawing.Height, 96, 96) == wmf_E_None &&
-           drawing.Width > 0 && drawing.Height > 0;
+           wmf_scan(api, 0, &box) == wmf_E_None;
+}
+
+/// Replaces the extent of what is drawn by the frame of the placeable header, if there is one: the library
+/// looks at the frame's size only, and would omit the margins.
+void UseFrame(const std::string& bytes, wmfD_Rect& box) {
+    std::string frame = Ledgrove::FrameMetafile(bytes);
+    if (frame.empty())
+        return;
+    BitmapReader libraryReader = nullptr;
+    const Api api = MakeApi(libraryReader);
+    wmfD_Rect found{};
+    if (api && Scan(api.get(), frame, found) && found.BR.x > found.TL.x && found.BR.y > found.TL.y)
+        box = found;
+}
+
+/// Stores the metafile's extent in `drawing`. Returns false if the metafile is damaged.
+bool Measure(wmfAPI* api, std::string& bytes, Drawing& drawing) {
+    if (!Scan(api, bytes, drawing.Box) ||
+        wmf_display_size(api, &drawing.Width, &drawing.Height, 96, 96) != wmf_E_None)
+        return false;
+    UseFrame(bytes, drawing.Box);
+    return drawing.Width > 0 && drawing.Height > 0;
 }
 
 bool Play(wmfAPI* api, Drawing drawing, int longestSide) {

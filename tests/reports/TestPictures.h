@@ -92,6 +92,22 @@ inline void AppendWmfRecord(QByteArray& bytes, quint16 function, const QList<qin
         Append<qint16>(bytes, word);
 }
 
+/// The placeable header of a metafile: left, top, right and bottom of its frame, and the units per inch.
+inline QByteArray MakePlaceableHeader(const QList<int>& frame, quint16 unitsPerInch) {
+    QByteArray header;
+    Append<quint32>(header, 0x9AC6CDD7U);
+    Append<quint16>(header, 0);
+    for (const int side : frame)
+        Append<qint16>(header, static_cast<qint16>(side));
+    Append<quint16>(header, unitsPerInch);
+    Append<quint32>(header, 0);
+    quint16 checksum = 0;
+    for (qsizetype at = 0; at < header.size(); at += 2)
+        checksum ^= qFromLittleEndian<quint16>(header.constData() + at);
+    Append<quint16>(header, checksum);
+    return header;
+}
+
 /// A metafile that fills its whole window of 200 x 100 with a red rectangle.
 inline QByteArray MakeWmf(bool placeable) {
     QByteArray records;
@@ -102,20 +118,8 @@ inline QByteArray MakeWmf(bool placeable) {
     AppendWmfRecord(records, 0x041B, {100, 200, 0, 0});  // rectangle
     AppendWmfRecord(records, 0x0000, {});
     QByteArray bytes;
-    if (placeable) {
-        QByteArray header;
-        Append<quint32>(header, 0x9AC6CDD7U);
-        Append<quint16>(header, 0);
-        for (const int side : {0, 0, 200, 100})
-            Append<qint16>(header, static_cast<qint16>(side));
-        Append<quint16>(header, 96);
-        Append<quint32>(header, 0);
-        quint16 checksum = 0;
-        for (qsizetype at = 0; at < header.size(); at += 2)
-            checksum ^= qFromLittleEndian<quint16>(header.constData() + at);
-        Append<quint16>(header, checksum);
-        bytes = header;
-    }
+    if (placeable)
+        bytes = MakePlaceableHeader({0, 0, 200, 100}, 96);
     Append<quint16>(bytes, 1);
     Append<quint16>(bytes, 9);
     Append<quint16>(bytes, 0x0300);
