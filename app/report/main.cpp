@@ -13,6 +13,7 @@
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
 #include "reports/ReportChoices.h"
+#include "reports/windows/LogoFault.h"
 #include "reports/windows/ReportFile.h"
 #include "settings/HeaderSettings.h"
 
@@ -96,7 +97,11 @@ int Report(const Arguments& arguments) {
     const int logo = arguments.LogoOption.value_or(saved ? *saved : 0);
     const QString fault = WriteReportFile(
         session, {arguments.Sections, arguments.Orientation, logo, QString::fromStdString(arguments.Output)});
-    return fault.isEmpty() ? AllWell : Complain(fault.toStdString(), CannotRun);
+    if (!fault.isEmpty())
+        return Complain(fault.toStdString(), CannotRun);
+    if (const std::string missing = LogoFault(session, logo); !missing.empty())
+        Complain(missing, AllWell);
+    return AllWell;
 }
 
 } // namespace

@@ -232,6 +232,63 @@ class Paper(ReportTest):
         self.assertEqual(self.pictures(), 0)
 
 
+class MissingLogos(ReportTest):
+    """The report is written without the logo, and standard error says why in one sentence."""
+
+    def said(self, *arguments, start=()):
+        self.pdf.unlink(missing_ok=True)
+        run = subprocess.run([*start, PROGRAM, "report", "--folder", self.folder, "--output", self.pdf, *arguments, SAMPLE],
+                             capture_output=True, timeout=60, env={"PATH": "/usr/bin:/bin", "HOME": str(self.folder)})
+        self.assertEqual(run.returncode, 0)
+        self.assertEqual(self.pictures(), 1)  # the emblem
+        lines = [line for line in run.stderr.decode().splitlines() if line.startswith("ledgrove-cli: ")]
+        self.assertEqual(len(lines), 1, run.stderr)
+        return lines[0]
+
+    def assert_said(self, path, why, **start):
+        self.assertEqual(self.said("--logo", "user", **start),
+                         f'ledgrove-cli: The report was written without the logo "{path}": {why}.')
+
+    def choose(self, path):
+        self.run_cli("settings", "--folder", self.folder, "set", "LOGOFILE", path)
+
+    def test_a_logo_that_is_there_needs_no_sentence(self):
+        self.set_logo("own.bmp", noisy_bmp(40, 30))
+        for choice in ("none", "generic", "user"):
+            self.assertEqual(self.report("--logo", choice, SAMPLE).stderr, b"", choice)
+
+    def test_no_file_is_chosen(self):
+        for value in ("", "Full Path To Logo File"):
+            self.choose(value)
+            self.assertIn("no file is chosen", self.said("--logo", "user"))
+
+    def test_there_is_no_such_file(self):
+        self.choose("none.bmp")
+        self.assert_said(self.folder / "none.bmp", "there is no such file")
+        (self.folder / "GenericHouseLogo.bmp").unlink()
+        self.assertIn(f'"{self.folder}/GenericHouseLogo.bmp": there is no such file.', self.said("--logo", "generic"))
+        self.run_cli("settings", "--folder", self.folder, "set", "LOGOOPTION", "2")
+        self.assertIn("none.bmp", self.said())
+
+    def test_it_is_no_file(self):
+        self.choose(self.folder / "samples")
+        self.assert_said(self.folder / "samples", "it is a folder")
+        self.choose("/dev/null")
+        self.assert_said("/dev/null", "it is not an ordinary file")
+
+    def test_it_may_not_be_read(self):
+        self.set_logo("own.bmp", noisy_bmp(40, 30))
+        refuse = ("strace", "-f", "-o", self.folder / "calls", "-P", self.folder / "own.bmp", "-e",
+                  "inject=openat:error=EACCES")
+        self.assert_said(self.folder / "own.bmp", "Permission denied", start=refuse)
+
+    def test_it_is_not_a_picture(self):
+        for name, content in (("own.bmp", b"BM and no picture"), ("own.gif", b"GIF89a"), ("own.txt", b"text"), ("empty.bmp", b""),
+                              ("own.jpg", b"\xff\xd8\xff\xe0 and no more"), ("own.bmp", noisy_bmp(40, 30)[:-1])):
+            self.set_logo(name, content)
+            self.assert_said(self.folder / name, "it is not a picture that can be read (BMP, RLE, ICO, WMF, PNG or JPEG)")
+
+
 class Calls(ReportTest):
     def test_the_settings_file_is_never_touched(self):
         before = self.settings.read_bytes()
