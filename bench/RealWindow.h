@@ -32,7 +32,8 @@ public:
         : m_session(SampleSession())
         , m_window(m_session, m_host, Actions())
         , m_file(m_window, m_session, m_host, RecentFiles(m_folder.filePath("recent.ini")), {}) {
-        BuildMainMenu(m_file, {m_window, m_session, m_host, m_file, {}});
+        BuildMainMenu(
+            m_file, {m_window, m_session, m_host, m_file, {}, LastChoices(m_folder.filePath("recent.ini"))});
         qApp->installEventFilter(this);
         m_window.show();
         if (!QTest::qWaitForWindowExposed(&m_window))

@@ -2,7 +2,9 @@
 
 #include "reports/modPrint.h"
 
+#include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,5 +28,34 @@ struct SectionMemory {
     std::function<ReportSections()> Load = [] { return AllSections; };
     std::function<void(const ReportSections&)> Save = [](const ReportSections&) {};
 };
+
+enum class PaperSize { Letter = 0, A4 = 1, Legal = 2 };
+
+/// The names of the sizes for people, in the order of PaperSize.
+inline constexpr std::array<const char*, 3> PaperNames{"Letter", "A4", "Legal"};
+
+/// The names of the orientations for people, in the order of PageOrientation.
+inline constexpr std::array<const char*, 2> OrientationNames{"Portrait", "Landscape"};
+
+/// The paper of a report without a printer.
+struct ReportPaper {
+    PaperSize Size = PaperSize::Letter;
+    PageOrientation Orientation = PageOrientation::Portrait;
+
+    bool operator==(const ReportPaper&) const = default;
+};
+
+/// The size or the orientation of this name in lower case, such as "a4" or "landscape".
+std::optional<PaperSize> PaperNamed(std::string_view name);
+std::optional<PageOrientation> OrientationNamed(std::string_view name);
+
+/// Both names in lower case, with a blank between them: "a4 landscape".
+std::string NamesOf(const ReportPaper& paper);
+
+/// The paper of a text from NamesOf; letter paper in portrait for any other text.
+ReportPaper RememberedPaper(std::string_view names);
+
+/// The sheet with the report's margins.
+PageGeometry GeometryOf(const ReportPaper& paper);
 
 } // namespace Ledgrove

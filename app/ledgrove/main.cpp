@@ -87,8 +87,9 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     }
     Ledgrove::MainActions actions = Ledgrove::DialogActions(session, host);
     Ledgrove::LoadedPrinters printers(QCoreApplication::applicationDirPath(), host);
-    actions.Print = Ledgrove::PrintAction(
-        session, host, printers, Ledgrove::SectionsIn(Ledgrove::LastChoices(Ledgrove::RecentFilesStore())));
+    const QString store = Ledgrove::RecentFilesStore();
+    const Ledgrove::LastChoices choices(store);
+    actions.Print = Ledgrove::PrintAction(session, host, printers, Ledgrove::SectionsIn(choices));
     actions.PrintHelp = [&host, &printers](const QTextDocument& document, QWidget& above) {
         Ledgrove::PrintHelpDocument(document, above, host,
                                     Ledgrove::RealOutside(printers, "Ledgrove Help.pdf"));
@@ -102,10 +103,9 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
         actions.OpenSample = [&current, sample] { current->OpenCopy(sample); };
     Ledgrove::frmMain window(session, host, std::move(actions));
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
-    current = new Ledgrove::CurrentFile(window, session, host,
-                                        Ledgrove::RecentFiles(Ledgrove::RecentFilesStore()), questions);
+    current = new Ledgrove::CurrentFile(window, session, host, Ledgrove::RecentFiles(store), questions);
     window.show();
-    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions});
+    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions, choices});
     constexpr std::size_t mostLines = 5;
     const auto unusable = Ledgrove::CheckSettings(Ledgrove::SettingsFile(folder));
     if (!unusable.empty())

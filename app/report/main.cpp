@@ -25,7 +25,7 @@ struct Arguments {
     std::string Folder = ProgramFolder().string();
     std::string Output;
     ReportSections Sections = AllSections;
-    PageOrientation Orientation = PageOrientation::Portrait;
+    ReportPaper Paper;
     std::optional<int> LogoOption; ///< empty: as in the settings file
     std::optional<std::string> Builder;
     std::string Buyer;
@@ -45,10 +45,19 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
     return {};
 }
 
+std::string ReadPaper(const std::string& name, PaperSize& size) {
+    const auto named = PaperNamed(name);
+    if (!named)
+        return "The paper must be letter, a4 or legal.";
+    size = *named;
+    return {};
+}
+
 std::string ReadOrientation(const std::string& name, PageOrientation& orientation) {
-    if (name != "portrait" && name != "landscape")
+    const auto named = OrientationNamed(name);
+    if (!named)
         return "The orientation must be portrait or landscape.";
-    orientation = name == "landscape" ? PageOrientation::Landscape : PageOrientation::Portrait;
+    orientation = *named;
     return {};
 }
 
@@ -68,9 +77,13 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
             if (const std::string fault = ReadSections(names, arguments.Sections); !fault.empty())
                 throw CLI::ValidationError("--sections", fault);
         });
+    app.add_option("--paper", "letter (default), a4 or legal")->each([&arguments](const std::string& name) {
+        if (const std::string fault = ReadPaper(name, arguments.Paper.Size); !fault.empty())
+            throw CLI::ValidationError("--paper", fault);
+    });
     app.add_option("--orientation", "portrait (default) or landscape")
         ->each([&arguments](const std::string& name) {
-            if (const std::string fault = ReadOrientation(name, arguments.Orientation); !fault.empty())
+            if (const std::string fault = ReadOrientation(name, arguments.Paper.Orientation); !fault.empty())
                 throw CLI::ValidationError("--orientation", fault);
         });
     app.add_option("--logo", "none, generic or user (default: as in Ledgrove.ini)")
@@ -96,7 +109,7 @@ int Report(const Arguments& arguments) {
     const auto saved = Module1::GetLogoOption(SettingsFile(session.Folder));
     const int logo = arguments.LogoOption.value_or(saved ? *saved : 0);
     const QString fault = WriteReportFile(
-        session, {arguments.Sections, arguments.Orientation, logo, QString::fromStdString(arguments.Output)});
+        session, {arguments.Sections, arguments.Paper, logo, QString::fromStdString(arguments.Output)});
     if (!fault.isEmpty())
         return Complain(fault.toStdString(), CannotRun);
     if (const std::string missing = LogoFault(session, logo); !missing.empty())

@@ -5,6 +5,7 @@
 
 #include "app/files/CsvExport.h"
 #include "app/files/TabText.h"
+#include "app/windows/frmExportPdf.h"
 #include "reports/windows/ReportFile.h"
 #include "settings/HeaderSettings.h"
 #include "ui/windows/SafeFile.h"
@@ -29,13 +30,16 @@ void TellFault(Host& outside, const QString& sentence) {
 void ExportPdf(const ExportContext& context) {
     if (!context.Window.CommitEntry())
         return;
+    frmExportPdf dialog(context.Choices.Paper(), context.State, context.Outside, &context.Window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    context.Choices.KeepPaper(dialog.Paper());
     const QString file = AskName(context, "Export PDF", "PDF documents", ".pdf");
     if (file.isEmpty())
         return;
     const auto logo = Module1::GetLogoOption(SettingsFile(context.State.Folder));
-    const ReportSections all{true, true, true, true, true};
     TellFault(context.Outside,
-              WriteReportFile(context.State, {all, PageOrientation::Portrait, logo ? *logo : 0, file}));
+              WriteReportFile(context.State, {AllSections, dialog.Paper(), logo ? *logo : 0, file}));
 }
 
 void ExportCsv(const ExportContext& context) {

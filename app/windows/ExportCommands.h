@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/windows/CurrentFile.h"
+#include "app/windows/LastChoices.h"
 
 // The commands that export the comparison. They report faults through `outside`.
 namespace Ledgrove {
@@ -12,9 +13,10 @@ struct ExportContext {
     Host& Outside;
     const CurrentFile& File;
     FileQuestions Questions;
+    LastChoices Choices;
 };
 
-/// Asks for a file name and writes the whole report there.
+/// Asks for the paper and a file name, and writes the whole report there.
 void ExportPdf(const ExportContext& context);
 
 /// Asks for a file name and writes the inputs and main results there, for a spreadsheet.

@@ -8,6 +8,7 @@ namespace Ledgrove {
 namespace {
 
 constexpr const char* sectionsKey = "ReportSections";
+constexpr const char* paperKey = "ExportPaper";
 
 } // namespace
 
@@ -20,6 +21,14 @@ ReportSections LastChoices::Sections() const {
 
 void LastChoices::KeepSections(const ReportSections& sections) const {
     Store(sectionsKey, NamesOf(sections));
+}
+
+ReportPaper LastChoices::Paper() const {
+    return RememberedPaper(Stored(paperKey));
+}
+
+void LastChoices::KeepPaper(const ReportPaper& paper) const {
+    Store(paperKey, NamesOf(paper));
 }
 
 std::string LastChoices::Stored(const char* key) const {

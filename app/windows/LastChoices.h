@@ -18,6 +18,11 @@ public:
     ReportSections Sections() const;
     void KeepSections(const ReportSections& sections) const;
 
+    /// The paper of the last exported report; letter paper in portrait if there was none, or if the stored
+    /// text is damaged.
+    ReportPaper Paper() const;
+    void KeepPaper(const ReportPaper& paper) const;
+
 private:
     std::string Stored(const char* key) const;
     void Store(const char* key, const std::string& words) const;

@@ -24,7 +24,7 @@ void PrepareReport(PrintDocument& document, const PageGeometry& paper, std::stri
 QString WriteReportFile(Session& session, const ReportFileRequest& request) {
     const FontMeasure measure;
     PrintDocument document(measure);
-    PrepareReport(document, Oriented({}, request.Orientation),
+    PrepareReport(document, GeometryOf(request.Paper),
                   QDate::currentDate().toString("MM/dd/yyyy").toStdString());
     AssumptionsScreen assumptions;
     if (const auto fault = Module1::FillAssumptions(assumptions, session))

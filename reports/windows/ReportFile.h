@@ -2,7 +2,7 @@
 
 #include "engine/Session.h"
 #include "reports/PrintDocument.h"
-#include "reports/modPrint.h"
+#include "reports/ReportChoices.h"
 
 #include <QString>
 
@@ -11,7 +11,7 @@ namespace Ledgrove {
 /// The options of a report without a window.
 struct ReportFileRequest {
     ReportSections Sections;
-    PageOrientation Orientation = PageOrientation::Portrait;
+    ReportPaper Paper;
     int LogoOption = 0;
     QString File; ///< of the PDF
 };

@@ -190,6 +190,14 @@ class Paper(ReportTest):
         self.report("--orientation", "landscape", SAMPLE)
         self.assertIn("792 x 612", self.info()["Page size"])
 
+    def test_paper_sizes(self):
+        for size, width, height in (("letter", 12240, 15840), ("a4", 11906, 16838), ("legal", 12240, 20160)):
+            for orientation, twips in (("portrait", (width, height)), ("landscape", (height, width))):
+                self.report("--paper", size, "--orientation", orientation, SAMPLE)
+                found = re.match(r"([\d.]+) x ([\d.]+) pts", self.info()["Page size"])
+                for shown, exact in zip(found.groups(), twips):
+                    self.assertAlmostEqual(float(shown), exact / 20, delta=0.5)  # a PDF has whole points
+
     def test_fonts_are_embedded(self):
         self.report(SAMPLE)
         rows = subprocess.run(["pdffonts", self.pdf], capture_output=True, check=True,
@@ -303,6 +311,7 @@ class Calls(ReportTest):
     def test_unusable_calls_say_why(self):
         self.assertIn(b"--output", self.run_cli("report", SAMPLE, status=2).stderr)
         for option, value, word in (("--sections", "cashflow,garden", b"garden"), ("--orientation", "up", b"portrait"),
+                                    ("--paper", "a5", b"legal"), ("--paper", "A4", b"a4"),
                                     ("--logo", "big", b"generic")):
             self.assertIn(word, self.report(option, value, SAMPLE, status=2).stderr)
         self.assertIn(b"none.json", self.report(self.folder / "none.json", status=2).stderr)

@@ -306,8 +306,16 @@ class Menus(FilesTest):
         self.start(self.folder / "settings/samples/first-home.ledgrove.json")
         self.wait_title("first-home.ledgrove.json - Ledgrove")
         pdf = self.folder / "report.pdf"
-        self.export("e", "Export PDF", self.folder / "report")
+        self.desktop.key("alt+f")
+        wait_for(self.menu_items, "the menu File")
+        self.desktop.key("e")
+        self.program.wait_focus("Paper")
+        self.desktop.type("A")
+        self.desktop.key("Return")
+        self.name_file("Export PDF", self.folder / "report")
         wait_for(pdf.exists, "the PDF")
+        sheet = subprocess.run(["pdfinfo", pdf], check=True, capture_output=True, text=True).stdout
+        self.assertRegex(sheet, r"Page size: +595 x 842 pts \(A4\)")
         text = subprocess.run(["pdftotext", "-layout", pdf, "-"], check=True, capture_output=True, text=True).stdout
         for part in ("Summary Report for Ledgrove", "$206,000", "$1,176", "Buy More Home", "Front End Ratio"):
             self.assertIn(part, text)

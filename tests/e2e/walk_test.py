@@ -279,11 +279,18 @@ class Dialogs(WalkTest):
         wait_for(self.program.focused, f"the focus in {title}")
 
     def test_file_dialogs(self):
-        for keys, title in (("ctrl+o", "Open Comparison"), ("ctrl+s", "Save Comparison"), ("ctrl+shift+p", "Export PDF"),
-                            ("ctrl+shift+x", "Export CSV")):
+        for keys, title in (("ctrl+o", "Open Comparison"), ("ctrl+s", "Save Comparison"), ("ctrl+shift+x", "Export CSV")):
             self.open(keys, title)
             self.assertEqual(self.program.focused().get_name(), "File name:")
             self.leave()
+
+    def test_exporting_a_pdf_up_to_the_file_dialog(self):
+        self.open("ctrl+shift+p", "Export PDF")
+        self.program.wait_focus("Paper")
+        self.round_by_tab()
+        self.desktop.key("Return")
+        self.program.wait_focus("File name:")
+        self.leave()
 
     def test_messages_of_the_help_menu(self):
         self.desktop.key("alt+h")

@@ -25,11 +25,15 @@ struct OpenDesktop : SettingsDesk, FormDriver {
         actions.Questions = Questions;
         Window = std::make_unique<frmMain>(State, Outside, std::move(actions));
         File = new CurrentFile(*Window, State, Outside, Recent, Questions);
-        BuildMainMenu(*File, {*Window, State, Outside, *File, Questions});
+        BuildMainMenu(*File, Context());
         Form = Window.get();
         Window->show();
         if (!QTest::qWaitForWindowActive(Window.get()))
             qFatal("the window does not become active");
+    }
+
+    ExportContext Context() {
+        return {*Window, State, Outside, *File, Questions, LastChoices(PathOf("recent.ini"))};
     }
 
     QString FolderPath() const { return QString::fromStdString(State.Folder.string()); }

@@ -38,6 +38,8 @@ private slots:
     void sectionsAreKept();
     void damagedSectionsAreAll_data();
     void damagedSectionsAreAll();
+    void paperIsKept();
+    void damagedPaperIsLetterInPortrait();
     void recentFilesStay();
     void unwritableStoreChangesNothing();
 };
@@ -72,6 +74,23 @@ void LastChoicesTest::damagedSectionsAreAll() {
     const Store store;
     store.Write(content);
     QCOMPARE(store.Sections(), allNames);
+}
+
+void LastChoicesTest::paperIsKept() {
+    const Store store;
+    QCOMPARE(NamesOf(LastChoices(store.File).Paper()), "letter portrait");
+    LastChoices(store.File).KeepSections({});
+    LastChoices(store.File).KeepPaper({PaperSize::A4, PageOrientation::Landscape});
+    QCOMPARE(NamesOf(LastChoices(store.File).Paper()), "a4 landscape");
+    QCOMPARE(store.Sections(), "none");
+}
+
+void LastChoicesTest::damagedPaperIsLetterInPortrait() {
+    const Store store;
+    for (const char* value : {"", "a4", "a4 up", "A4 landscape", "a4, landscape", "@Invalid()"}) {
+        store.Write(QByteArray("[General]\nExportPaper=") + value + '\n');
+        QCOMPARE(NamesOf(LastChoices(store.File).Paper()), "letter portrait");
+    }
 }
 
 void LastChoicesTest::recentFilesStay() {
