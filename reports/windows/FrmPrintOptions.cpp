@@ -52,9 +52,10 @@ FrmPrintOptions::FrmPrintOptions(HeaderOptions& record, const ReportDesk& desk, 
 void FrmPrintOptions::accept() {
     if (!Succeeded(Module1::ConfirmHeaderOptions(m_record, State())))
         return;
+    EntryDialog::accept();
+    // After the dialog has closed: some window managers activate no window when two close at once.
     if (const std::string notice = Module1::UnkeptNameNotice(State()); !notice.empty())
         Outside().ShowMessage({ApplicationTitle, notice, MessageIcon::Information});
-    EntryDialog::accept();
 }
 
 void FrmPrintOptions::BuildControls() {

@@ -273,6 +273,22 @@ class Dialogs(WalkTest):
         self.leave(back_to="Report Selection")
         self.leave()
 
+    def test_a_name_that_the_settings_cannot_hold(self):
+        """The message comes after the dialog, so that the keys belong to the selection again when it closes."""
+        from gi.repository import Atspi
+        self.enter_inputs()
+        self.open("ctrl+p", "Report Selection")
+        self.open_inner("alt+r", "Print Options")
+        Atspi.EditableText.set_text_contents(self.program.field("User Name"), "李明")
+        self.desktop.key("alt+o")
+        _, text = self.told()
+        self.assertIn("李明", text)
+        self.program.window("Report Selection")
+        self.open_inner("alt+r", "Print Options")
+        self.assertIn("李明", self.texts())
+        self.leave(back_to="Report Selection")
+        self.leave()
+
     def open_inner(self, keys, title):
         self.desktop.key(keys)
         self.program.window(title)
