@@ -37,10 +37,11 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
     sections = {};
     std::istringstream list(names);
     for (std::string name; std::getline(list, name, ',');) {
-        if (!AddSection(name, sections))
+        if (!AddSection(name, sections)) {
             return "There is no section " + Quoted(name) +
                    ". Choose from cashflow, morehome, affordability, summary and assumptions, or give all or "
                    "none.";
+        }
     }
     return {};
 }
