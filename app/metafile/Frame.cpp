@@ -58,46 +58,54 @@ Area Between(int x1, int y1, int x2, int y2) {
 }
 
 /// The first record of each function that sets the mapping, and the window that they set.
-struct Mapping {
-    std::string Records;
-    std::optional<Area> Window;
-};
-
-Mapping MappingOf(std::string_view records) {
-    Mapping mapping;
-    std::array<bool, mappingFunctions.size()> seen{};
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-    while (records.size() >= recordHead) {
-        const std::uint64_t size = std::uint64_t{2} * NumberAt(records, 0, 4);
-        const int function = WordAt(records, 4);
-        if (size < recordHead || size > records.size())
-            break;
-        const std::string_view record = records.substr(0, size);
-        records.remove_prefix(size);
-        const auto* found = std::find(mappingFunctions.begin(), mappingFunctions.end(), function);
-        if (found == mappingFunctions.end())
-            continue;
-        bool& isSeen = seen[static_cast<std::size_t>(found - mappingFunctions.begin())];
-        if (std::exchange(isSeen, true))
-            continue;
-        mapping.Records += record;
-        if (size < recordHead + 4)
-            continue;
-        if (function == setWindowOrigin) {
-            y = WordAt(record, recordHead);
-            x = WordAt(record, recordHead + 2);
-        } else if (function == setWindowExtent) {
-            height = WordAt(record, recordHead);
-            width = WordAt(record, recordHead + 2);
+class Mapping {
+public:
+    explicit Mapping(std::string_view records) {
+        while (records.size() >= recordHead) {
+            const std::uint64_t size = std::uint64_t{2} * NumberAt(records, 0, 4);
+            if (size < recordHead || size > records.size())
+                return;
+            Take(records.substr(0, size));
+            records.remove_prefix(size);
         }
     }
-    if (width != 0 && height != 0)
-        mapping.Window = Between(x, y, x + width, y + height);
-    return mapping;
-}
+
+    const std::string& Records() const { return m_records; }
+
+    std::optional<Area> Window() const {
+        if (m_width == 0 || m_height == 0)
+            return std::nullopt;
+        return Between(m_x, m_y, m_x + m_width, m_y + m_height);
+    }
+
+private:
+    void Take(std::string_view record) {
+        const int function = WordAt(record, 4);
+        const auto* found = std::find(mappingFunctions.begin(), mappingFunctions.end(), function);
+        if (found == mappingFunctions.end() ||
+            std::exchange(m_seen[static_cast<std::size_t>(found - mappingFunctions.begin())], true))
+            return;
+        m_records += record;
+        if (record.size() < recordHead + 4)
+            return;
+        const int y = WordAt(record, recordHead);
+        const int x = WordAt(record, recordHead + 2);
+        if (function == setWindowOrigin) {
+            m_x = x;
+            m_y = y;
+        } else if (function == setWindowExtent) {
+            m_width = x;
+            m_height = y;
+        }
+    }
+
+    std::string m_records;
+    std::array<bool, mappingFunctions.size()> m_seen{};
+    int m_x = 0;
+    int m_y = 0;
+    int m_width = 0;
+    int m_height = 0;
+};
 
 /// Whether both are the same area, in different units.
 bool DifferOnlyInUnits(const Area& frame, const Area& window) {
@@ -133,11 +141,12 @@ std::string FrameMetafile(std::string_view metafile) {
         Between(WordAt(metafile, 6), WordAt(metafile, 8), WordAt(metafile, 10), WordAt(metafile, 12));
     if (frame.Width == 0 || frame.Height == 0)
         return {};
-    const Mapping mapping = MappingOf(metafile.substr(placeableSize + headerSize));
+    const Mapping mapping(metafile.substr(placeableSize + headerSize));
+    const std::optional<Area> window = mapping.Window();
     // Players fit the window to the frame, whatever the units of the frame are.
-    if (mapping.Window && DifferOnlyInUnits(frame, *mapping.Window))
-        frame = *mapping.Window;
-    const std::string records = mapping.Records + Filling(frame) + Record(endOfFile, {});
+    if (window && DifferOnlyInUnits(frame, *window))
+        frame = *window;
+    const std::string records = mapping.Records() + Filling(frame) + Record(endOfFile, {});
 
     std::string result(metafile.substr(0, placeableSize + 6)); // with the header's type, size and version
     Append(result, static_cast<std::uint32_t>((headerSize + records.size()) / 2), 4);
