@@ -66,10 +66,20 @@ class PrintTest(unittest.TestCase):
     def press(self, button):
         self.program.click(self.program.find("push button", button))
 
-    def tick(self, section):
-        self.program.click(self.program.find("check box", section))
+    def tick(self, sections):
+        """Ticks these sections and no others; the dialog begins with those of the last preview."""
+        from gi.repository import Atspi
+        for section in SECTIONS:
+            box = self.program.find("check box", section)
 
-    def preview(self):
+            def is_right(box=box, wanted=section in sections):
+                return box.get_state_set().contains(Atspi.StateType.CHECKED) == wanted
+            if not is_right():
+                self.program.click(box)
+                wait_for(is_right, f"{section} as wanted")
+
+    def preview(self, sections=()):
+        self.tick(sections)
         self.press("Preview")
         self.program.window(PREVIEW)
 
@@ -114,9 +124,7 @@ class WithServer(PrintTest):
 
     def test_the_report_goes_to_the_default_printer(self):
         self.start()
-        for section in SECTIONS:
-            self.tick(section)
-        self.preview()
+        self.preview(SECTIONS)
         self.assertEqual(self.chosen("Printer"), "Office")
         status = self.status()
         self.assertEqual(status[0], "DPI:  600")
@@ -295,9 +303,7 @@ class WithoutServer(PrintTest):
 
     def test_pages_and_zoom_by_keyboard(self):
         self.start()
-        for section in SECTIONS:
-            self.tick(section)
-        self.preview()
+        self.preview(SECTIONS)
         self.program.find("label", "Page 1 of 2")
         self.desktop.key("Page_Down")
         self.program.find("label", "Page 2 of 2")
