@@ -111,9 +111,8 @@ TEST(JsonInput, MalformedJsonIsRefusedWithItsPlace) {
 }
 
 TEST(JsonInput, MalformedJsonIsReportedBeforeOtherFaults) {
-    for (const std::string_view json :
-         {"{", R"({"ecIncome": 1)", R"({"ecIncome" 1})", "{} {}", "{}x", R"({"ecHouse": 1,})",
-          R"({"ecIncome": nul})", "{'ecIncome': 1}"}) {
+    for (const std::string_view json : {"{", R"({"ecIncome": 1)", R"({"ecIncome" 1})", "{} {}", "{}x",
+                                        R"({"ecHouse": 1,})", R"({"ecIncome": nul})", "{'ecIncome': 1}"}) {
         const Refusal refusal = RefusalOf(json);
         EXPECT_TRUE(refusal.Message.starts_with("This is not valid JSON")) << json << refusal.Message;
     }

@@ -150,9 +150,7 @@ class WithServer(PrintTest):
 
     def test_copies_are_collated(self):
         self.start()
-        for section in SECTIONS:
-            self.tick(section)
-        self.preview()
+        self.preview(SECTIONS)
         self.program.find("label", "Page 1 of 2")
         self.enter_copies("2")
         printer, _ = self.print()
