@@ -123,6 +123,8 @@ void frmReportSelection::OpenHeaderOptions() {
     HeaderOptions record;
     if (Succeeded(Module1::FillHeaderOptions(record, State())))
         FrmPrintOptions(record, {State(), Outside(), m_machine}, this).exec();
+    // The next step, so that Enter does not open the header again.
+    findChild<QPushButton*>("bPrint")->setFocus();
 }
 
 void frmReportSelection::Preview() {

@@ -167,6 +167,7 @@ void ReportSelectionTest::enterPressesTheFocusedButton() {
     const OpenSelection open;
     QVERIFY(Opens(open, "bPrint", "frmPrint", Qt::Key_Return));
     QVERIFY(Opens(open, "cmdReportHeader", "FrmPrintOptions", Qt::Key_Return));
+    QCOMPARE(open.Window->focusWidget()->objectName(), "bPrint"); // the next Enter previews
     QVERIFY(!Opens(open, "bCancel", "frmPrint", Qt::Key_Return));
     QVERIFY(!open.Window->isVisible());
 }
