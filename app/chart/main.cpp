@@ -7,6 +7,7 @@
 #include <QApplication>
 
 #include "app/batch/OneComparison.h"
+#include "app/batch/OutputTarget.h"
 #include "app/windows/Offscreen.h"
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
@@ -24,6 +25,7 @@ struct Arguments {
     int Width = 960;
     int Height = 600;
     std::string Input = "-";
+    std::optional<PictureFormat> Format; ///< empty: by the file name's ending
 };
 
 constexpr int smallestSide = 200;
@@ -53,11 +55,19 @@ std::optional<PictureFormat> FormatOf(const std::string& file) {
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
     app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
-    app.add_option("--output", arguments.Output, "The picture to write, *.png or *.svg")->required();
+    app.add_option("--output", arguments.Output,
+                   "The picture to write, *.png or *.svg; \"-\" is standard output, a PNG")
+        ->required();
     app.add_option("--tab", "The tab with the chart: cashflow, affordability or summary (default)")
         ->each([&arguments](const std::string& name) {
             if (const std::string fault = ReadTab(name, arguments.Kind); !fault.empty())
                 throw CLI::ValidationError("--tab", fault);
+        });
+    app.add_option("--format", "png or svg (default: by the ending of the name; png for standard output)")
+        ->each([&arguments](const std::string& name) {
+            arguments.Format = FormatOf("." + name);
+            if (!arguments.Format)
+                throw CLI::ValidationError("--format", "The format must be png or svg.");
         });
     const CLI::Range sides(smallestSide, largestSide);
     app.add_option("--width", arguments.Width, "In pixels of 1/96 inch (default: 960)")->check(sides);
@@ -67,7 +77,12 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
 }
 
 int Draw(const Arguments& arguments) {
-    const auto format = FormatOf(arguments.Output);
+    const OutputTarget target(arguments.Output, arguments.Input);
+    if (!target.Refusal().empty())
+        return Complain(target.Refusal(), CannotRun);
+    auto format = arguments.Format ? arguments.Format : FormatOf(arguments.Output);
+    if (!format && target.IsStream())
+        format = PictureFormat::Png;
     if (!format)
         return Complain("Name the chart file *.png or *.svg, not " + Quoted(arguments.Output) + ".",
                         CannotRun);
@@ -75,9 +90,11 @@ int Draw(const Arguments& arguments) {
     if (comparison.Status != AllWell)
         return Complain(comparison.Complaint, comparison.Status);
     const ChartFigures figures = MakeChart(arguments.Kind, comparison.State);
-    const QString fault = WriteWholeFile(QString::fromStdString(arguments.Output),
-                                         ChartPicture(figures, *format, {arguments.Width, arguments.Height}));
-    return fault.isEmpty() ? AllWell : Complain(fault.toStdString(), CannotRun);
+    const QByteArray picture = ChartPicture(figures, *format, {arguments.Width, arguments.Height});
+    const std::string fault =
+        target.IsStream() ? target.Write({picture.constData(), static_cast<std::size_t>(picture.size())})
+                          : WriteWholeFile(QString::fromStdString(arguments.Output), picture).toStdString();
+    return fault.empty() ? AllWell : Complain(fault, CannotRun);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 
 #include "app/batch/OneComparison.h"
+#include "app/batch/OutputTarget.h"
 #include "app/windows/Offscreen.h"
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
@@ -72,7 +73,8 @@ std::string ReadLogo(const std::string& name, std::optional<int>& option) {
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
     app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
-    app.add_option("--output", arguments.Output, "The PDF to write")->required();
+    app.add_option("--output", arguments.Output, "The PDF to write, *.pdf; \"-\" is standard output")
+        ->required();
     app.add_option("--sections", "cashflow,morehome,affordability,summary,assumptions, all (default) or none")
         ->each([&arguments](const std::string& names) {
             if (const std::string fault = ReadSections(names, arguments.Sections); !fault.empty())
@@ -99,7 +101,20 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
                    "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"");
 }
 
+/// Writes the PDF to a stream. Returns a message if that failed, else "".
+std::string Send(Session& session, const ReportFileRequest& request, const OutputTarget& target) {
+    QByteArray pdf;
+    if (const QString fault = MakeReport(session, request, pdf); !fault.isEmpty())
+        return fault.toStdString();
+    return target.Write({pdf.constData(), static_cast<std::size_t>(pdf.size())});
+}
+
 int Report(const Arguments& arguments) {
+    const OutputTarget target(arguments.Output, arguments.Input);
+    if (!target.Refusal().empty())
+        return Complain(target.Refusal(), CannotRun);
+    if (!target.IsStream() && !QString::fromStdString(arguments.Output).endsWith(".pdf", Qt::CaseInsensitive))
+        return Complain("Name the report's file *.pdf, not " + Quoted(arguments.Output) + ".", CannotRun);
     OneComparison comparison = CompareOne(arguments.Folder, arguments.Input);
     if (comparison.Status != AllWell)
         return Complain(comparison.Complaint, comparison.Status);
@@ -109,10 +124,12 @@ int Report(const Arguments& arguments) {
         session.Header.BuilderName = *arguments.Builder;
     const auto saved = Module1::GetLogoOption(SettingsFile(session.Folder));
     const int logo = arguments.LogoOption.value_or(saved ? *saved : 0);
-    const QString fault = WriteReportFile(
-        session, {arguments.Sections, arguments.Paper, logo, QString::fromStdString(arguments.Output)});
-    if (!fault.isEmpty())
-        return Complain(fault.toStdString(), CannotRun);
+    const ReportFileRequest request{arguments.Sections, arguments.Paper, logo,
+                                    QString::fromStdString(arguments.Output)};
+    const std::string fault =
+        target.IsStream() ? Send(session, request, target) : WriteReportFile(session, request).toStdString();
+    if (!fault.empty())
+        return Complain(fault, CannotRun);
     if (const std::string missing = LogoFault(session, logo); !missing.empty())
         Complain(missing, AllWell);
     return AllWell;

@@ -56,13 +56,7 @@ PrintOutcome PrintPages(QPagedPaintDevice& device, int dotsPerInch, const PrintD
     return painter.end() ? PrintOutcome::Done : PrintOutcome::Failed;
 }
 
-QString WritePdf(const PrintDocument& document, const QString& name, const PageProgress& progress) {
-    // The new file would take the place of a pipe or a device.
-    if (const std::string reason = NotAFile(QFile::encodeName(name).toStdString()); !reason.empty())
-        return Unwritable(name, QString::fromStdString(reason));
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly))
-        return Unwritable(name, file.errorString());
+PrintOutcome MakePdf(const PrintDocument& document, QByteArray& pdf, const PageProgress& progress) {
     QBuffer pages;
     pages.open(QIODevice::WriteOnly);
     PrintOutcome outcome = PrintOutcome::Failed;
@@ -75,14 +69,26 @@ QString WritePdf(const PrintDocument& document, const QString& name, const PageP
         writer.setPageLayout(LayoutOf(document.Geometry));
         outcome = PrintPages(writer, TwipsPerInch, document, progress);
     }
+    if (outcome == PrintOutcome::Done)
+        pdf = WithExtras(pages.data(), ExtrasOf(document));
+    return outcome;
+}
+
+QString WritePdf(const PrintDocument& document, const QString& name, const PageProgress& progress) {
+    // The new file would take the place of a pipe or a device.
+    if (const std::string reason = NotAFile(QFile::encodeName(name).toStdString()); !reason.empty())
+        return Unwritable(name, QString::fromStdString(reason));
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly))
+        return Unwritable(name, file.errorString());
+    QByteArray pdf;
+    const PrintOutcome outcome = MakePdf(document, pdf, progress);
     if (outcome == PrintOutcome::Stopped) {
         file.cancelWriting();
         return {};
     }
-    if (outcome == PrintOutcome::Done)
-        file.write(WithExtras(pages.data(), ExtrasOf(document)));
-    return outcome == PrintOutcome::Done && CommitWhole(file) ? QString()
-                                                              : Unwritable(name, file.errorString());
+    const bool written = outcome == PrintOutcome::Done && file.write(pdf) == pdf.size();
+    return written && CommitWhole(file) ? QString() : Unwritable(name, file.errorString());
 }
 
 } // namespace Ledgrove

@@ -2,6 +2,7 @@
 
 #include "reports/PrintDocument.h"
 
+#include <QByteArray>
 #include <QString>
 #include <functional>
 
@@ -18,6 +19,9 @@ enum class PrintOutcome { Done, Stopped, Failed };
 /// margins. All printing uses this loop. `dotsPerInch` is the device's resolution.
 PrintOutcome PrintPages(QPagedPaintDevice& device, int dotsPerInch, const PrintDocument& document,
                         const PageProgress& progress = {});
+
+/// Makes an ended document's PDF in memory.
+PrintOutcome MakePdf(const PrintDocument& document, QByteArray& pdf, const PageProgress& progress = {});
 
 /// Writes an ended document as PDF with embedded fonts and lossless pictures, and with its title, author and
 /// bookmarks. Returns a message if the file

@@ -21,18 +21,37 @@ void PrepareReport(PrintDocument& document, const PageGeometry& paper, std::stri
     document.Title = "Summary Report";
 }
 
-QString WriteReportFile(Session& session, const ReportFileRequest& request) {
-    const FontMeasure measure;
-    PrintDocument document(measure);
+namespace {
+
+std::optional<SettingsFault> Compose(PrintDocument& document, Session& session,
+                                     const ReportFileRequest& request) {
     PrepareReport(document, GeometryOf(request.Paper),
                   QDate::currentDate().toString("MM/dd/yyyy").toStdString());
     AssumptionsScreen assumptions;
-    if (const auto fault = Module1::FillAssumptions(assumptions, session))
-        return QString::fromStdString(Sentence(*fault));
+    if (auto fault = Module1::FillAssumptions(assumptions, session))
+        return fault;
     document.Start();
     modPrint::WriteReport(document, {session, assumptions, request.Sections, session.EmblemFile(),
                                      LogoPicture(session, request.LogoOption)});
     document.End();
+    return std::nullopt;
+}
+
+} // namespace
+
+QString MakeReport(Session& session, const ReportFileRequest& request, QByteArray& pdf) {
+    const FontMeasure measure;
+    PrintDocument document(measure);
+    if (const auto fault = Compose(document, session, request))
+        return QString::fromStdString(Sentence(*fault));
+    return MakePdf(document, pdf) == PrintOutcome::Done ? QString() : "The report could not be made.";
+}
+
+QString WriteReportFile(Session& session, const ReportFileRequest& request) {
+    const FontMeasure measure;
+    PrintDocument document(measure);
+    if (const auto fault = Compose(document, session, request))
+        return QString::fromStdString(Sentence(*fault));
     return WritePdf(document, request.File);
 }
 

@@ -22,6 +22,10 @@ std::string ReportFooter(std::string_view date);
 /// Sets fonts, footer and title of a document before the report is written to it.
 void PrepareReport(PrintDocument& document, const PageGeometry& paper, std::string_view date);
 
+/// Composes the report of the session's screen as PDF in `pdf`; the request's file is not used. Needs a
+/// QGuiApplication. Returns a message if that failed, else "".
+QString MakeReport(Session& session, const ReportFileRequest& request, QByteArray& pdf);
+
 /// Composes the report of the session's screen and writes it as PDF. Needs a QGuiApplication. Returns a
 /// message if the file cannot be written, else "".
 QString WriteReportFile(Session& session, const ReportFileRequest& request);
