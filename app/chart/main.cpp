@@ -3,11 +3,11 @@
 #include <optional>
 #include <string>
 
-#include <CLI/CLI.hpp>
 #include <QApplication>
 
 #include "app/batch/OneComparison.h"
 #include "app/batch/OutputTarget.h"
+#include "app/options/CommandLine.h"
 #include "app/windows/Offscreen.h"
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
@@ -53,27 +53,33 @@ std::optional<PictureFormat> FormatOf(const std::string& file) {
     return std::nullopt;
 }
 
+std::string ReadFormat(const std::string& name, std::optional<PictureFormat>& format) {
+    format = FormatOf("." + name);
+    return format ? "" : "The format must be png or svg.";
+}
+
 void AddOptions(CLI::App& app, Arguments& arguments) {
-    app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
+    AddCommon(app, arguments.Folder, "ledgrove-cli chart --output savings.png home.ledgrove.json");
     app.add_option("--output", arguments.Output,
-                   "The picture to write, *.png or *.svg; \"-\" is standard output, a PNG")
-        ->required();
-    app.add_option("--tab", "The tab with the chart: cashflow, affordability or summary (default)")
-        ->each([&arguments](const std::string& name) {
-            if (const std::string fault = ReadTab(name, arguments.Kind); !fault.empty())
-                throw CLI::ValidationError("--tab", fault);
-        });
-    app.add_option("--format", "png or svg (default: by the ending of the name; png for standard output)")
-        ->each([&arguments](const std::string& name) {
-            arguments.Format = FormatOf("." + name);
-            if (!arguments.Format)
-                throw CLI::ValidationError("--format", "The format must be png or svg.");
-        });
+                   "The picture to write, *.png or *.svg; \"-\" is standard output")
+        ->required()
+        ->type_name("OUT");
+    AddRead(
+        app, "--tab", [&](const std::string& name) { return ReadTab(name, arguments.Kind); },
+        "cashflow|affordability|summary", "The tab with the chart (default: summary)");
+    AddRead(
+        app, "--format", [&](const std::string& name) { return ReadFormat(name, arguments.Format); },
+        "png|svg", "The format (default: by the ending of the name; png for standard output)");
     const CLI::Range sides(smallestSide, largestSide);
-    app.add_option("--width", arguments.Width, "In pixels of 1/96 inch (default: 960)")->check(sides);
-    app.add_option("--height", arguments.Height, "In pixels of 1/96 inch (default: 600)")->check(sides);
+    app.add_option("--width", arguments.Width, "In pixels of 1/96 inch (default: 960)")
+        ->check(sides)
+        ->type_name("PIXELS");
+    app.add_option("--height", arguments.Height, "In pixels of 1/96 inch (default: 600)")
+        ->check(sides)
+        ->type_name("PIXELS");
     app.add_option("FILE", arguments.Input,
-                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"");
+                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"")
+        ->type_name("");
 }
 
 int Draw(const Arguments& arguments) {
@@ -103,13 +109,9 @@ int main(int argc, char** argv) {
     WorkOffscreen();
     const QApplication application(argc, argv);
     CLI::App app("Writes a chart of a comparison as a picture.", "ledgrove-cli chart");
-    app.set_version_flag("--version", "ledgrove-chart " LEDGROVE_VERSION);
     Arguments arguments;
     AddOptions(app, arguments);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& fault) {
-        return app.exit(fault) == 0 ? AllWell : CannotRun;
-    }
+    if (const auto status = Parse(app, WordsOf(argc, argv)))
+        return *status;
     return Draw(arguments);
 }

@@ -6,12 +6,12 @@
 #include <string_view>
 #include <thread>
 #include <unistd.h>
-
-#include <CLI/CLI.hpp>
+#include <vector>
 
 #include "app/batch/CompareCommand.h"
 #include "app/batch/SettingsCommand.h"
 #include "app/cli/CommandWords.h"
+#include "app/options/CommandLine.h"
 #include "base/ProgramFolder.h"
 #include "base/SystemError.h"
 #include "base/Text.h"
@@ -21,10 +21,16 @@ namespace {
 
 using namespace Ledgrove;
 
-/// Commands that need Qt are separate programs in the same folder, named after the command.
-int HandOver(const std::string& verb, char** argv) {
+/// Commands that need Qt are separate programs in the same folder, named after the command, which is the
+/// first word.
+int HandOver(const std::vector<std::string>& words) {
+    const std::string& verb = words.front();
     const std::string program = (ProgramFolder() / ("ledgrove-" + verb)).string();
-    ::execv(program.c_str(), argv);
+    std::vector<char*> arguments;
+    for (const std::string& word : words)
+        arguments.push_back(const_cast<char*>(word.c_str())); // execv does not change them
+    arguments.push_back(nullptr);
+    ::execv(program.c_str(), arguments.data());
     const int error = errno;
     return Complain(Quoted(program) + " cannot be started (" + Describe(error) + "). The command " +
                         Quoted(verb) + " needs that program in the folder of ledgrove-cli.",
@@ -44,7 +50,7 @@ int Compare(const std::filesystem::path& folder, const CompareRequest& request) 
     return RunCompare(request, session);
 }
 
-std::optional<CompareFormat> ReadFormat(const std::string& name) {
+std::optional<CompareFormat> FormatNamed(const std::string& name) {
     if (name == "text")
         return CompareFormat::Text;
     if (name == "json")
@@ -58,28 +64,35 @@ std::optional<CompareFormat> ReadFormat(const std::string& name) {
 
 constexpr int mostJobs = 256;
 
+std::string ReadFormat(const std::string& name, CompareFormat& format) {
+    const auto named = FormatNamed(name);
+    if (!named)
+        return "There is no format " + Quoted(name) + ". Choose text, json, jsonl or csv.";
+    format = *named;
+    return {};
+}
+
 CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request) {
     auto* compare =
         app.add_subcommand("compare", "Compare a base home with an energy-efficiency-labelled home");
-    compare->add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)");
-    compare
-        ->add_option_function<std::string>(
-            "--format", [&request](const std::string& name) { request.Format = *ReadFormat(name); },
-            "text: one JSON object in, a table out; json: one object in, one out; jsonl: one object per "
-            "line; csv: a price list with a heading row")
-        ->check([](const std::string& name) {
-            return ReadFormat(name) ? std::string()
-                                    : "There is no such format. Choose text, json, jsonl or csv.";
-        })
-        ->type_name("text|json|jsonl|csv");
-    compare->add_option("--house", request.House, "Start with the four amounts of this saved house scenario");
+    AddCommon(*compare, folder, "ledgrove-cli compare --format csv prices.csv > results.csv");
+    AddRead(
+        *compare, "--format", [&](const std::string& name) { return ReadFormat(name, request.Format); },
+        "text|json|jsonl|csv",
+        "text (default): one JSON object in, a table out; json: one object in, one out; jsonl: one object "
+        "per "
+        "line; csv: a price list with a heading row");
+    compare->add_option("--house", request.House, "Start with the four amounts of this saved house scenario")
+        ->type_name("NAME");
     compare->add_flag("--quiet", request.Quiet, "No warnings and no totals on standard error");
     request.Jobs = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
     compare
         ->add_option("--jobs", request.Jobs,
-                     "Threads for jsonl (default: one for each core); the results keep their order")
-        ->check(CLI::Range(1, mostJobs));
-    compare->add_option("FILE", request.Files, "Files with the inputs; standard input if none or \"-\"");
+                     "Threads for jsonl, 1 to 256 (default: one for each core); the results keep their order")
+        ->check(CLI::Range(1, mostJobs))
+        ->type_name("N");
+    compare->add_option("FILE", request.Files, "Files with the inputs; standard input if none or \"-\"")
+        ->type_name("");
     return compare;
 }
 
@@ -99,14 +112,14 @@ struct SettingsRequest {
 
 SettingsActions AddSettings(CLI::App& app, std::string& folder, SettingsRequest& request) {
     auto* settings = app.add_subcommand("settings", "Read and change Ledgrove.ini");
-    settings->add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)");
+    AddCommon(*settings, folder, "ledgrove-cli settings set BUILDERNAME \"Acme Homes\"");
     settings->require_subcommand(1);
     auto* get = settings->add_subcommand("get", "Print the value of a key");
-    get->add_option("KEY", request.Key)->required();
+    get->add_option("KEY", request.Key, "Such as YEARS_IN_HOME")->required()->type_name("");
     auto* set = settings->add_subcommand("set", "Change the value of a key");
     set->add_flag("--force", request.Force, "Write a key that is not a setting of Ledgrove");
-    set->add_option("KEY", request.Key)->required();
-    set->add_option("VALUE", request.Value)->required();
+    set->add_option("KEY", request.Key, "Such as YEARS_IN_HOME")->required()->type_name("");
+    set->add_option("VALUE", request.Value, "May begin with \"-\"")->required()->type_name("");
     auto* check = settings->add_subcommand("check", "Name the lines that cannot be used");
     auto* houses = settings->add_subcommand("houses", "List the saved house scenarios");
     // Accepts --folder before and after the verb.
@@ -118,26 +131,24 @@ SettingsActions AddSettings(CLI::App& app, std::string& folder, SettingsRequest&
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
-    app.set_version_flag("--version", "ledgrove-cli " LEDGROVE_VERSION);
-    app.require_subcommand(1);
+    const std::vector<std::string> words = CommandFirst(WordsOf(argc, argv));
+    if (const std::string fault = CommandFault(words); !fault.empty())
+        return Complain(fault, CannotRun);
     // The other programs parse their own arguments.
-    for (const std::string_view verb : {"report", "chart"}) {
-        if (argc > 1 && argv[1] == verb)
-            return HandOver(std::string(verb), argv + 1);
-    }
+    if (words.front() == "report" || words.front() == "chart")
+        return HandOver(words);
+    CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
+    std::string folder = ProgramFolder().string();
+    AddCommon(app, folder, "ledgrove-cli compare home.ledgrove.json");
+    app.require_subcommand(1);
     app.add_subcommand("report", "Write the report of a comparison as PDF (ledgrove-cli report --help)");
     app.add_subcommand("chart", "Write a chart of a comparison as a picture (ledgrove-cli chart --help)");
-    std::string folder = ProgramFolder().string();
     SettingsRequest setting;
     CompareRequest request;
     const CLI::App* compare = AddCompare(app, folder, request);
     const SettingsActions settings = AddSettings(app, folder, setting);
-    try {
-        app.parse(ParserWords(argc, argv));
-    } catch (const CLI::ParseError& fault) {
-        return app.exit(fault) == 0 ? AllWell : CannotRun;
-    }
+    if (const auto status = Parse(app, ParserWords(words)))
+        return *status;
     if (*compare)
         return Compare(folder, request);
     if (*settings.Get)

@@ -5,11 +5,11 @@
 #include <sstream>
 #include <string>
 
-#include <CLI/CLI.hpp>
 #include <QGuiApplication>
 
 #include "app/batch/OneComparison.h"
 #include "app/batch/OutputTarget.h"
+#include "app/options/CommandLine.h"
 #include "app/windows/Offscreen.h"
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
@@ -72,33 +72,35 @@ std::string ReadLogo(const std::string& name, std::optional<int>& option) {
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
-    app.add_option("--folder", arguments.Folder, "The folder of Ledgrove.ini (default: the program's own)");
+    AddCommon(app, arguments.Folder,
+              "ledgrove-cli report --output comparison.pdf --buyer \"Pat Doe\" home.ledgrove.json");
     app.add_option("--output", arguments.Output, "The PDF to write, *.pdf; \"-\" is standard output")
-        ->required();
-    app.add_option("--sections", "cashflow,morehome,affordability,summary,assumptions, all (default) or none")
-        ->each([&arguments](const std::string& names) {
-            if (const std::string fault = ReadSections(names, arguments.Sections); !fault.empty())
-                throw CLI::ValidationError("--sections", fault);
-        });
-    app.add_option("--paper", "letter (default), a4 or legal")->each([&arguments](const std::string& name) {
-        if (const std::string fault = ReadPaper(name, arguments.Paper.Size); !fault.empty())
-            throw CLI::ValidationError("--paper", fault);
-    });
-    app.add_option("--orientation", "portrait (default) or landscape")
-        ->each([&arguments](const std::string& name) {
-            if (const std::string fault = ReadOrientation(name, arguments.Paper.Orientation); !fault.empty())
-                throw CLI::ValidationError("--orientation", fault);
-        });
-    app.add_option("--logo", "none, generic or user (default: as in Ledgrove.ini)")
-        ->each([&arguments](const std::string& name) {
-            if (const std::string fault = ReadLogo(name, arguments.LogoOption); !fault.empty())
-                throw CLI::ValidationError("--logo", fault);
-        });
+        ->required()
+        ->type_name("OUT.pdf");
+    const auto read = [&app](const std::string& name, OptionReader reader, const std::string& values,
+                             const std::string& description) {
+        AddRead(app, name, std::move(reader), values, description);
+    };
+    read(
+        "--sections", [&](const std::string& names) { return ReadSections(names, arguments.Sections); },
+        "LIST", "cashflow,morehome,affordability,summary,assumptions, all (default) or none");
+    read(
+        "--paper", [&](const std::string& name) { return ReadPaper(name, arguments.Paper.Size); },
+        "letter|a4|legal", "The paper (default: letter)");
+    read(
+        "--orientation",
+        [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); },
+        "portrait|landscape", "The orientation (default: portrait)");
+    read(
+        "--logo", [&](const std::string& name) { return ReadLogo(name, arguments.LogoOption); },
+        "none|generic|user", "The logo (default: as in Ledgrove.ini)");
     app.add_option("--builder", arguments.Builder,
-                   "Name after \"Prepared By:\" (default: as in Ledgrove.ini)");
-    app.add_option("--buyer", arguments.Buyer, "Name after \"Prepared For:\"");
+                   "Name after \"Prepared By:\" (default: as in Ledgrove.ini)")
+        ->type_name("NAME");
+    app.add_option("--buyer", arguments.Buyer, "Name after \"Prepared For:\"")->type_name("NAME");
     app.add_option("FILE", arguments.Input,
-                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"");
+                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"")
+        ->type_name("");
 }
 
 /// Writes the PDF to a stream. Returns a message if that failed, else "".
@@ -141,13 +143,9 @@ int main(int argc, char** argv) {
     WorkOffscreen();
     const QGuiApplication application(argc, argv);
     CLI::App app("Writes the report of a comparison as PDF.", "ledgrove-cli report");
-    app.set_version_flag("--version", "ledgrove-report " LEDGROVE_VERSION);
     Arguments arguments;
     AddOptions(app, arguments);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& fault) {
-        return app.exit(fault) == 0 ? AllWell : CannotRun;
-    }
+    if (const auto status = Parse(app, WordsOf(argc, argv)))
+        return *status;
     return Report(arguments);
 }

@@ -75,5 +75,45 @@ class Terminal(CliTest):
                                         "on a new line.\n")
 
 
+class Words(CliTest):
+    def said(self, *words, status=2):
+        run = self.run_cli(*words, status=status)
+        self.assertEqual(run.stdout, b"") if status else None
+        return (run.stderr if status else run.stdout).decode()
+
+    def test_an_unknown_command_is_named_and_the_nearest_offered(self):
+        self.assertEqual(self.said("reprot"), 'ledgrove-cli: There is no command "reprot". Did you mean "report"?\n')
+        self.assertIn("The commands are compare, report, chart and settings.", self.said("bogus"))
+        self.assertIn('"gt". Did you mean "get"?', self.said("settings", "--folder", self.folder, "gt"))
+        self.assertIn('"setings". Did you mean "settings"?', self.said("help", "setings"))
+        self.assertIn("Give a command", self.said())
+        self.assertIn("Give a command after settings", self.said("settings"))
+
+    def test_a_fault_names_its_option_once_and_the_help_to_read(self):
+        for words, sentence in (
+                (["report", "--output", "a.pdf", "--paper", "x"], "--paper: The paper must be letter, a4 or legal."),
+                (["compare", "--format", "xml"], '--format: There is no format "xml".'),
+                (["chart", "--output", "a.png", "--tab", "x"], '--tab: There is no chart of "x".'),
+                (["report"], "--output is required.")):
+            said = self.said(*words)
+            self.assertTrue(said.startswith("ledgrove-cli: " + sentence), said)
+            self.assertTrue(said.endswith(f'"ledgrove-cli {words[0]} --help" explains it.\n'), said)
+
+    def test_help_and_version_everywhere(self):
+        for words in ([], ["compare"], ["report"], ["chart"], ["settings"], ["settings", "get"], ["settings", "set"],
+                      ["settings", "check"], ["settings", "houses"]):
+            shown = self.said(*words, "--help", status=0)
+            for part in ("Usage: ledgrove-cli", "Example:", "Exit status:", "1  some input was refused"):
+                self.assertIn(part, shown, words)
+            self.assertRegex(self.said(*words, "--version", status=0), r"^ledgrove-cli \d+\.\d+\.\d+\n$")
+            self.assertEqual(self.said("help", *words, status=0), shown)
+        self.assertIn("--output OUT.pdf REQUIRED", self.said("help", "report", status=0))
+        self.assertIn("--paper letter|a4|legal", self.said("help", "report", status=0))
+
+    def test_options_of_all_commands_may_come_first(self):
+        self.assertEqual(self.said("--folder", self.folder, "settings", "get", "FEATURE2", status=0), "Larger deck\n")
+        self.assertIn("--output is required", self.said("--folder", self.folder, "report"))
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -1,0 +1,99 @@
+#include "app/options/CommandLine.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "app/batch/ExitStatus.h"
+#include "base/Text.h"
+
+namespace Ledgrove {
+
+namespace {
+
+/// The number of letters to add, drop or change to make `a` to `b`.
+std::size_t Distance(std::string_view a, std::string_view b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        std::size_t diagonal = std::exchange(row[0], i + 1);
+        for (std::size_t j = 0; j < b.size(); ++j) {
+            const std::size_t changed = diagonal + (a[i] == b[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({changed, row[j] + 1, diagonal + 1});
+        }
+    }
+    return row.back();
+}
+
+/// The app that was being read when the fault came: the last subcommand given.
+const CLI::App& Innermost(const CLI::App& app) {
+    const auto given = app.get_subcommands();
+    return given.empty() ? app : Innermost(*given.back());
+}
+
+std::string FullName(const CLI::App& app) {
+    return app.get_parent() ? FullName(*app.get_parent()) + " " + app.get_name() : app.get_name();
+}
+
+} // namespace
+
+CLI::Option* AddRead(CLI::App& app, const std::string& name, OptionReader read, const std::string& values,
+                     const std::string& description) {
+    return app
+        .add_option_function<std::string>(
+            name,
+            [name, read = std::move(read)](const std::string& text) {
+                if (const std::string fault = read(text); !fault.empty())
+                    throw CLI::ValidationError(name, fault);
+            },
+            description)
+        ->type_name(values);
+}
+
+void AddCommon(CLI::App& app, std::string& folder, const std::string& example) {
+    app.add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)")
+        ->type_name("DIR");
+    app.set_version_flag("--version", "ledgrove-cli " LEDGROVE_VERSION, "Show the version");
+    app.set_help_flag("-h,--help", "Show this help");
+    app.footer(
+        "Example:\n  " + example +
+        "\n\nExit status:\n  0  success\n  1  some input was refused\n  2  the command line, the settings "
+        "or a file cannot be used; standard error says what to do");
+}
+
+std::optional<int> Parse(CLI::App& app, std::vector<std::string> words) {
+    std::reverse(words.begin(), words.end()); // as the parser expects them
+    try {
+        app.parse(std::move(words));
+        return std::nullopt;
+    } catch (const CLI::Success& answer) {
+        return app.exit(answer) == 0 ? AllWell : CannotRun;
+    } catch (const CLI::ParseError& fault) {
+        std::string sentence = fault.what();
+        while (sentence.ends_with('.') || sentence.ends_with('\n'))
+            sentence.pop_back();
+        return Complain(sentence + ". " + Quoted(FullName(Innermost(app)) + " --help") + " explains it.",
+                        CannotRun);
+    }
+}
+
+std::vector<std::string> WordsOf(int argc, char** argv) {
+    return {argv + std::min(argc, 1), argv + argc};
+}
+
+std::string UnknownWord(const std::string& what, const std::string& word,
+                        const std::vector<std::string>& known) {
+    std::string list;
+    for (const std::string& one : known)
+        list += (list.empty() ? "" : &one == &known.back() ? " and " : ", ") + one;
+    const auto nearest = std::min_element(known.begin(), known.end(), [&](const auto& a, const auto& b) {
+        return Distance(a, word) < Distance(b, word);
+    });
+    constexpr std::size_t mostChanges = 2;
+    const bool isNear = nearest != known.end() && Distance(*nearest, word) <= mostChanges;
+    return "There is no " + what + " " + Quoted(word) +
+           (isNear ? ". Did you mean " + Quoted(*nearest) + "?" : ". The " + what + "s are " + list + ".");
+}
+
+} // namespace Ledgrove
