@@ -99,7 +99,7 @@ std::function<void()> PriceRows() {
                       return "\"$72,000\",350,10%," + std::to_string(price) + ",$" +
                              std::to_string(price + 6000) + ",2400,1700,FHA,15 years\n";
                   }),
-        CsvRun{[](const std::string&) {}, [](const std::string&) {}, {}, ','});
+        CsvRun{[](const std::string&) {}, [](const std::string&) {}, {}, CsvResults(), ','});
 }
 
 std::function<void()> Composing() {

@@ -7,12 +7,12 @@ namespace Ledgrove {
 namespace {
 
 // clang-format off
-#define LEDGROVE_ENTRY(record, id, name, unit)                                                               \
-    FigureEntry{Figure::id, FigureRecord::record, #name, #record "." #name, FigureUnit::unit,                \
+#define LEDGROVE_ENTRY(record, id, name, unit, meaning) \
+    FigureEntry{Figure::id, FigureRecord::record, #name, #record "." #name, FigureUnit::unit, meaning, \
                 [](const Records& records) { return records.record.name; }},
-#define LEDGROVE_STD_ENTRY(name, unit) LEDGROVE_ENTRY(StdCase, Std##name, name, unit)
-#define LEDGROVE_GMH_ENTRY(name, unit) LEDGROVE_ENTRY(GMHCase, GMH##name, name, unit)
-#define LEDGROVE_OWN_ENTRY(name, unit) LEDGROVE_ENTRY(Scenario, name, name, unit)
+#define LEDGROVE_STD_ENTRY(name, unit, meaning) LEDGROVE_ENTRY(StdCase, Std##name, name, unit, meaning)
+#define LEDGROVE_GMH_ENTRY(name, unit, meaning) LEDGROVE_ENTRY(GMHCase, GMH##name, name, unit, meaning)
+#define LEDGROVE_OWN_ENTRY(name, unit, meaning) LEDGROVE_ENTRY(Scenario, name, name, unit, meaning)
 constexpr std::array table{
     LEDGROVE_HOME_FIGURES(LEDGROVE_STD_ENTRY)
     LEDGROVE_HOME_FIGURES(LEDGROVE_GMH_ENTRY)

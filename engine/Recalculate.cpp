@@ -15,11 +15,11 @@ constexpr const char* EEMNotice = "The homebuyer may not qualify for the EEM you
 
 } // namespace
 
-void Recalculate(Session& session, Host& host) {
+void Recalculate(Session& session, Host& host, const ShownLabels& shown) {
     Carried carried = CarriedBy(session);
     Results results = Evaluate(ReadInputs(session.Screen), session, carried);
     static_cast<Results&>(session) = results;
-    ShowResults(results, session.Screen);
+    ShowResults(results, session.Screen, shown);
     ShowCurrentPanel(session, host);
     if (results.NoticeApplies)
         host.ShowMessage({ApplicationTitle, EEMNotice});

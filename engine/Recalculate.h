@@ -2,12 +2,14 @@
 
 #include "engine/Host.h"
 #include "engine/Session.h"
+#include "engine/ShowResults.h"
 
 namespace Ledgrove::Module1 {
 
 /// Reads the inputs from the main screen, evaluates them, writes the result labels, shows the EEM notice if
 /// it is due, and processes pending events. An empty field, or one that is not a number, counts as 0.
-void Recalculate(Session& session, Host& host);
+/// The labels that are not `shown` keep their texts.
+void Recalculate(Session& session, Host& host, const ShownLabels& shown = {});
 
 /// Whether a recalculation would change nothing: inputs and rules are those of the last one, and no notice is
 /// due.

@@ -2,6 +2,9 @@
 
 #include "engine/NumberText.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace Ledgrove::Module1 {
 
 namespace {
@@ -118,9 +121,23 @@ void ShowSummaryPanel(MainScreen& screen, const Results& results, bool withTaxes
 
 } // namespace
 
-void ShowResults(const Results& results, MainScreen& screen) {
-    ShowAffordabilityResults(results, screen);
-    ShowCashFlowResults(results, screen);
+void ShowResults(const Results& results, MainScreen& screen, const ShownLabels& shown) {
+    if (shown.Affordability)
+        ShowAffordabilityResults(results, screen);
+    if (shown.CashFlow)
+        ShowCashFlowResults(results, screen);
+}
+
+ShownLabels GroupOf(Label MainScreen::*label) {
+    using S = MainScreen;
+    constexpr Label S::*ofHomes[] = {
+        &S::lblStdPITI,    &S::lblStdMortPayment, &S::lblStdUtilMo,      &S::lblStdHome,   &S::lblStdDown,
+        &S::lblstddown2,   &S::lblStdMortgage,    &S::lblStdMort,        &S::lblStdInc,    &S::lblStdMaxHome,
+        &S::lblStdQual,    &S::lblGMHPITI,        &S::lblGMHMortPayment, &S::lblGMHUtilMo, &S::lblGMHHome,
+        &S::lblgmhDown,    &S::lblgmhdown2,       &S::lblgmhMortgage,    &S::lblGMHMort,   &S::lblGMHInc,
+        &S::lblGMHMaxHome, &S::lblGMHQual};
+    const bool isOfHomes = std::find(std::begin(ofHomes), std::end(ofHomes), label) != std::end(ofHomes);
+    return {isOfHomes, !isOfHomes};
 }
 
 void ShowAffordabilityResults(const Results& results, MainScreen& s) {

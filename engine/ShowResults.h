@@ -3,11 +3,24 @@
 #include "engine/MainScreen.h"
 #include "engine/Results.h"
 
+namespace Ledgrove {
+
+/// Two groups of result labels.
+struct ShownLabels {
+    bool Affordability = true; ///< what ShowAffordabilityResults writes
+    bool CashFlow = true;      ///< what ShowCashFlowResults writes
+};
+
+} // namespace Ledgrove
+
 namespace Ledgrove::Module1 {
 
-/// Writes every result label of the main screen, with amounts in whole dollars. Reads the tax box and the
+/// The group that writes the label.
+ShownLabels GroupOf(Label MainScreen::*label);
+
+/// Writes the result labels of the main screen, with amounts in whole dollars. Reads the tax box and the
 /// labelled home's option from `screen`.
-void ShowResults(const Results& results, MainScreen& screen);
+void ShowResults(const Results& results, MainScreen& screen, const ShownLabels& shown = {});
 
 /// Writes the labels of the Affordability panel and the Summary figures of each home.
 void ShowAffordabilityResults(const Results& results, MainScreen& screen);

@@ -19,20 +19,20 @@ namespace {
 
 std::unique_ptr<ComparisonReader> MakeReader(const CompareRequest& request, const Session& start,
                                              Comparison& comparison, CsvRun& list, const std::string& name) {
-    const std::string file = name == "-" ? "" : name;
+    const JsonOptions options{name == "-" ? "" : name, request.Only};
     switch (request.Format) {
     case CompareFormat::JsonLines:
         if (request.Jobs > 1)
-            return std::make_unique<ParallelJsonReader>(start, request.Jobs, file);
-        return std::make_unique<JsonLinesReader>(comparison, file);
+            return std::make_unique<ParallelJsonReader>(start, request.Jobs, options);
+        return std::make_unique<JsonLinesReader>(comparison, options);
     case CompareFormat::Csv:
         return std::make_unique<CsvReader>(comparison, list);
     case CompareFormat::Json:
-        return std::make_unique<JsonReader>(comparison, JsonReader::Result::Json, file);
+        return std::make_unique<JsonReader>(comparison, JsonReader::Result::Json, options);
     case CompareFormat::Text:
         break;
     }
-    return std::make_unique<JsonReader>(comparison, JsonReader::Result::Table, file);
+    return std::make_unique<JsonReader>(comparison, JsonReader::Result::Table, options);
 }
 
 /// The totals of all files and where the first refusal is.
@@ -100,11 +100,22 @@ std::string StartWithHouse(Session& session, std::string_view name) {
     return {};
 }
 
+int PrintResultNames() {
+    OutputBuffer output(STDOUT_FILENO);
+    output.Text() = ResultNameTable();
+    output.Flush();
+    return output.Failure().empty() ? AllWell
+                                    : Complain(UnwrittenOutput("names", output.Failure()), CannotRun);
+}
+
 int RunCompare(const CompareRequest& request, const Session& start) {
     Comparison comparison(start);
+    if (request.Format != CompareFormat::Text && !request.Only.empty())
+        comparison.Show(LabelsFor(request.Only));
     OutputBuffer output(STDOUT_FILENO);
     RunTotal total;
     CsvRun list;
+    list.Results = CsvResults(request.Only);
     for (const std::string& name : request.Files.empty() ? std::vector<std::string>{"-"} : request.Files) {
         Warnings warnings(name);
         list.Warn = [&](const std::string& sentence) {

@@ -138,7 +138,7 @@ std::optional<Refusal> Comparison::Run(const InputRecord& inputs) {
         return refusal;
     NameHouse(inputs[Input::lblHomeName]);
     m_state.Scenario.EEMNoticeFlag = true;
-    Module1::Recalculate(m_state, m_host);
+    Module1::Recalculate(m_state, m_host, m_shown);
     Module1::RefreshFeatureCaptions(m_state);
     return std::nullopt;
 }

@@ -7,6 +7,7 @@
 #include "app/batch/InputRecord.h"
 #include "engine/Host.h"
 #include "engine/Session.h"
+#include "engine/ShowResults.h"
 
 namespace Ledgrove {
 
@@ -36,6 +37,9 @@ public:
     /// input, if there is one; do not use State, Messages and DataCheck then.
     std::optional<Refusal> Run(const InputRecord& inputs);
 
+    /// Comparisons are faster if fewer result labels are written.
+    void Show(const ShownLabels& shown) { m_shown = shown; }
+
     const Session& State() const { return m_state; }
     const std::vector<Message>& Messages() const { return m_host.Messages(); }
     /// The text of the data check for the inputs; empty if they are plausible.
@@ -51,6 +55,7 @@ private:
     Session m_start;
     Session m_state;
     CollectingHost m_host;
+    ShownLabels m_shown;
 };
 
 } // namespace Ledgrove

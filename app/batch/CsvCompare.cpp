@@ -72,7 +72,7 @@ void CsvReader::TakeHeading(std::string& out) {
             AppendCsvCell(out, column.Heading, m_run.Separator);
             out += m_run.Separator;
         }
-        AppendResultHeadings(out, m_run.Separator);
+        m_run.Results.AppendHeadings(out, m_run.Separator);
         out += '\n';
         m_run.Columns = m_columns;
     } else if (!HaveSameOutput(*m_run.Columns, m_columns)) {
@@ -138,8 +138,8 @@ void CsvReader::AppendOwnCells(std::string& out) const {
 
 void CsvReader::AppendRefusal(std::string& out, const Refusal& refusal) const {
     const std::string control = refusal.Control.empty() ? "" : refusal.Control + ": ";
-    AppendCsvError(out, "Line " + std::to_string(refusal.Line) + ": " + control + refusal.Message,
-                   m_run.Separator);
+    m_run.Results.AppendError(out, "Line " + std::to_string(refusal.Line) + ": " + control + refusal.Message,
+                              m_run.Separator);
 }
 
 void CsvReader::TakeRow(OutputBuffer& output) {
@@ -152,7 +152,7 @@ void CsvReader::TakeRow(OutputBuffer& output) {
         if (refusal)
             AppendRefusal(out, *refusal);
         else
-            AppendCsvResults(out, m_comparison.State(), m_comparison.Messages(), m_run.Separator);
+            m_run.Results.Append(out, m_comparison.State(), m_comparison.Messages(), m_run.Separator);
         m_tally.Count(refusal.has_value(), m_rowLine);
         out += '\n';
     }

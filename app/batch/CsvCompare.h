@@ -4,6 +4,7 @@
 
 #include "app/batch/CompareCommand.h"
 #include "app/batch/CsvColumns.h"
+#include "app/batch/CsvResults.h"
 
 namespace Ledgrove {
 
@@ -14,6 +15,7 @@ struct CsvRun {
     Say Warn;                                      ///< about what is read, but probably meant otherwise
     Say Refuse;                                    ///< why a list is not read
     std::optional<std::vector<CsvColumn>> Columns; ///< of the first list
+    CsvResults Results = CsvResults();             ///< the columns after the list's own
     char Separator = ',';                          ///< of the first list and the output
 };
 

@@ -1,8 +1,7 @@
 #include "app/batch/CsvResults.h"
 
-#include <algorithm>
 #include <array>
-#include <iterator>
+#include <utility>
 
 #include "app/batch/CsvText.h"
 #include "base/Text.h"
@@ -41,9 +40,17 @@ constexpr Figure resultColumns[] = {
     Figure::SavingsAfter30Years,
 };
 
-/// The texts after the figures.
-constexpr std::array<std::string_view, 5> textColumns{"lblStdQual", "lblGMHQual", "dataCheck", "messages",
-                                                      "error"};
+constexpr std::array<std::string_view, 4> textColumns{"lblStdQual", "lblGMHQual", "dataCheck", "messages"};
+constexpr std::string_view errorColumn = "error";
+
+ChosenNames MainResults() {
+    ChosenNames names;
+    for (const Figure column : resultColumns)
+        names.push_back(FindResultName(EntryOf(column).FullName));
+    for (const std::string_view column : textColumns)
+        names.push_back(FindResultName(column));
+    return names;
+}
 
 /// A text of several lines as one: tools that read lines must not find half a row.
 std::string OnOneLine(std::string_view text) {
@@ -58,41 +65,94 @@ std::string OnOneLine(std::string_view text) {
     return line;
 }
 
+/// Appends the cell of any kind of result.
+class CellWriter {
+public:
+    CellWriter(std::string& out, const Session& session, const std::vector<Message>& messages, char separator)
+        : m_out(out)
+        , m_session(session)
+        , m_messages(messages)
+        , m_separator(separator) {}
+
+    void operator()(Field MainScreen::*field) const { Text((m_session.Screen.*field).Text); }
+    void operator()(PickList MainScreen::*list) const { Text((m_session.Screen.*list).Text()); }
+    void operator()(Label MainScreen::*label) const { Text((m_session.Screen.*label).Text); }
+    void operator()(const FigureEntry* figure) const {
+        const float value = figure->Value(m_session);
+        const bool isFraction =
+            figure->Unit == FigureUnit::Fraction || figure->Unit == FigureUnit::FractionPerYear;
+        if (isFraction)
+            m_out += Module1::ShortestText(value);
+        else
+            Module1::AppendCents(value, m_out);
+    }
+    void operator()(ResultPart part) const {
+        switch (part) {
+        case ResultPart::DownOption:
+            m_out += m_session.Screen.optDownPayment == 0 ? '0' : '1';
+            return;
+        case ResultPart::TaxBox:
+            return Flag(m_session.Screen.chkDoTax0);
+        case ResultPart::DownAsPercent:
+            return Flag(m_session.Scenario.DownAsPercent);
+        case ResultPart::YearsInHome:
+            m_out += std::to_string(m_session.Scenario.YearsInHome);
+            return;
+        case ResultPart::EEMNoticeFlag:
+            return Flag(m_session.Scenario.EEMNoticeFlag);
+        case ResultPart::Messages:
+            return Text(AllMessages());
+        case ResultPart::DataCheck:
+            return Text(Module1::DataCheckText(m_session.Screen));
+        }
+    }
+
+private:
+    void Text(std::string_view text) const { AppendCsvCell(m_out, OnOneLine(text), m_separator); }
+    void Flag(bool value) const { m_out += value ? "true" : "false"; }
+    std::string AllMessages() const {
+        std::string texts;
+        for (const Message& message : m_messages)
+            texts.append(message.Text).append("\n");
+        return texts;
+    }
+
+    std::string& m_out;
+    const Session& m_session;
+    const std::vector<Message>& m_messages;
+    char m_separator;
+};
+
 } // namespace
 
 bool IsResultColumn(std::string_view heading) {
-    const auto table = FigureTable();
-    return std::find(textColumns.begin(), textColumns.end(), heading) != textColumns.end() ||
-           std::any_of(table.begin(), table.end(),
-                       [heading](const FigureEntry& figure) { return figure.FullName == heading; });
+    if (heading == errorColumn)
+        return true;
+    // The names of the fields are inputs.
+    const ResultName* const name = FindResultName(heading);
+    return name && name->Heading() == heading;
 }
 
-void AppendResultHeadings(std::string& out, char separator) {
-    for (const Figure column : resultColumns)
-        out.append(EntryOf(column).FullName).push_back(separator);
-    for (const std::string_view& column : textColumns)
-        out.append(&column == textColumns.data() ? "" : std::string(1, separator)).append(column);
+CsvResults::CsvResults(ChosenNames columns)
+    : m_columns(columns.empty() ? MainResults() : std::move(columns)) {}
+
+void CsvResults::AppendHeadings(std::string& out, char separator) const {
+    for (const ResultName* const column : m_columns)
+        out.append(column->Heading()).push_back(separator);
+    out += errorColumn;
 }
 
-void AppendCsvResults(std::string& out, const Session& session, const std::vector<Message>& messages,
-                      char separator) {
-    for (const Figure column : resultColumns) {
-        Module1::AppendCents(EntryOf(column).Value(session), out);
+void CsvResults::Append(std::string& out, const Session& session, const std::vector<Message>& messages,
+                        char separator) const {
+    const CellWriter write(out, session, messages, separator);
+    for (const ResultName* const column : m_columns) {
+        std::visit(write, column->Value);
         out += separator;
     }
-    out.append(session.Screen.lblStdQual.Text).push_back(separator);
-    out.append(session.Screen.lblGMHQual.Text).push_back(separator);
-    AppendCsvCell(out, OnOneLine(Module1::DataCheckText(session.Screen)), separator);
-    out += separator;
-    std::string texts;
-    for (const Message& message : messages)
-        texts.append(message.Text).append("\n");
-    AppendCsvCell(out, OnOneLine(texts), separator);
-    out += separator;
 }
 
-void AppendCsvError(std::string& out, std::string_view error, char separator) {
-    out.append(std::size(resultColumns) + textColumns.size() - 1, separator);
+void CsvResults::AppendError(std::string& out, std::string_view error, char separator) const {
+    out.append(m_columns.size(), separator);
     AppendCsvCell(out, error, separator);
 }
 

@@ -50,10 +50,12 @@ Tally JsonReader::Read(LineReader& lines, OutputBuffer& output) {
         return tally;
     std::string& out = output.Text();
     if (m_result == Result::Json) {
-        refusal ? AppendRefusalJson(out, *refusal, m_file) : ResultJson().Append(out, m_comparison);
+        refusal ? AppendRefusalJson(out, *refusal, m_options.File)
+                : ResultJson(m_options.Only).Append(out, m_comparison);
         out += '\n';
     } else if (refusal) {
-        Complain((m_file.empty() ? "" : m_file + ": ") + RefusalSentence(*refusal), SomeRefused);
+        Complain((m_options.File.empty() ? "" : m_options.File + ": ") + RefusalSentence(*refusal),
+                 SomeRefused);
     } else {
         out += ResultTable(m_comparison);
     }

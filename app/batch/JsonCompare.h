@@ -8,13 +8,18 @@
 
 namespace Ledgrove {
 
+struct JsonOptions {
+    std::string File; ///< that refusals name; empty for none
+    ChosenNames Only; ///< what the results hold; empty for everything
+};
+
 /// Compares one line of JSON lines: one object per line, in and out.
 class JsonLine {
 public:
-    /// Refusals name `file`, unless it is empty.
-    JsonLine(Comparison& comparison, std::string file)
+    JsonLine(Comparison& comparison, const JsonOptions& options)
         : m_comparison(comparison)
-        , m_file(std::move(file)) {}
+        , m_file(options.File)
+        , m_results(options.Only) {}
 
     /// Appends the result or the refusal as a line and counts it. Skips a blank line.
     void Append(std::string& out, const InputLine& line, Tally& tally);
@@ -31,8 +36,8 @@ private:
 /// Reads JSON lines and compares them one after another.
 class JsonLinesReader : public ComparisonReader {
 public:
-    explicit JsonLinesReader(Comparison& comparison, std::string file = {})
-        : m_line(comparison, std::move(file)) {}
+    explicit JsonLinesReader(Comparison& comparison, const JsonOptions& options = {})
+        : m_line(comparison, options) {}
     Tally Read(LineReader& lines, OutputBuffer& output) override;
 
 private:
@@ -45,17 +50,16 @@ class JsonReader : public ComparisonReader {
 public:
     enum class Result { Json, Table };
 
-    /// Refusals name `file`, unless it is empty.
-    JsonReader(Comparison& comparison, Result result, std::string file = {})
+    JsonReader(Comparison& comparison, Result result, JsonOptions options = {})
         : m_comparison(comparison)
         , m_result(result)
-        , m_file(std::move(file)) {}
+        , m_options(std::move(options)) {}
     Tally Read(LineReader& lines, OutputBuffer& output) override;
 
 private:
     Comparison& m_comparison;
     Result m_result;
-    std::string m_file;
+    JsonOptions m_options;
 };
 
 } // namespace Ledgrove

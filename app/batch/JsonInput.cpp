@@ -145,6 +145,14 @@ private:
     int m_depth = 0;
 };
 
+/// Without an early exit, the compiler can vectorise this loop.
+bool IsAscii(std::string_view text) {
+    unsigned char all = 0;
+    for (const char c : text)
+        all |= static_cast<unsigned char>(c);
+    return all < 0x80;
+}
+
 Refusal MalformedJson(std::string_view json, std::size_t position) {
     const std::string_view before = json.substr(0, std::min(position, json.size()));
     const auto line = 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
@@ -164,12 +172,14 @@ std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs
     if (const std::size_t nul = json.find('\0'); nul != json.npos)
         return MalformedJson(json, nul);
     // Iterative parsing uses no stack for deep nesting.
-    constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag |
-                               rapidjson::kParseValidateEncodingFlag;
+    constexpr unsigned plainFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
+    constexpr unsigned flags = plainFlags | rapidjson::kParseValidateEncodingFlag;
     rapidjson::MemoryStream stream(json.data(), json.size());
     rapidjson::Reader reader;
     InputHandler handler(inputs);
-    const rapidjson::ParseResult result = reader.Parse<flags>(stream, handler);
+    // Most lines are ASCII, which needs no validation: it would take a tenth of the comparison.
+    const rapidjson::ParseResult result =
+        IsAscii(json) ? reader.Parse<plainFlags>(stream, handler) : reader.Parse<flags>(stream, handler);
     if (result.IsError())
         return MalformedJson(json, result.Offset());
     auto refusal = handler.Fault();

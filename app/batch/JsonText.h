@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/batch/ChosenJson.h"
 #include "app/batch/Comparison.h"
 
 // Appends results as JSON text to a buffer. A document tree of two hundred values would take longer than the
@@ -13,7 +15,8 @@ namespace Ledgrove {
 /// Writes results. The parts that are the same in all of them are built once.
 class ResultJson {
 public:
-    ResultJson();
+    /// Whole results, or only those parts of them that have names here.
+    explicit ResultJson(const ChosenNames& only = {});
 
     /// Appends one object: fields, labels, Scenario, StdCase, GMHCase, messages, dataCheck. No line ending.
     void Append(std::string& out, const Comparison& comparison) const;
@@ -21,6 +24,7 @@ public:
 private:
     void AppendLabels(std::string& out, const MainScreen& screen) const;
 
+    std::optional<ChosenJson> m_chosen;
     std::vector<std::string> m_labelKeys; ///< for ResultLabelTable, up to the opening of the text
 };
 

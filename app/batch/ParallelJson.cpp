@@ -29,9 +29,9 @@ bool PieceWorker::Work(PieceQueue& queue, OutputBuffer& output) {
     return true;
 }
 
-ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs, std::string file)
+ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs, JsonOptions options)
     : m_start(start)
-    , m_file(std::move(file))
+    , m_options(std::move(options))
     , m_mostThreads(static_cast<std::size_t>(jobs)) {}
 
 void ParallelJsonReader::StartThread(OutputBuffer& output) {
@@ -40,7 +40,7 @@ void ParallelJsonReader::StartThread(OutputBuffer& output) {
         // thread.
         m_spare = std::make_unique_for_overwrite<char[]>(spareSize);
         m_queue.Add(2, resultSize); // one in work and one waiting
-        m_threads.emplace_back([this, &output, worker = std::make_unique<PieceWorker>(m_start, m_file)] {
+        m_threads.emplace_back([this, &output, worker = std::make_unique<PieceWorker>(m_start, m_options)] {
             while (worker->Work(m_queue, output)) {
             }
         });
@@ -62,7 +62,7 @@ void ParallelJsonReader::HandOut(OutputBuffer& output) {
     m_queue.HandOut();
     if (m_threads.empty()) {
         if (!m_own)
-            m_own.emplace(m_start, m_file);
+            m_own.emplace(m_start, m_options);
         m_own->Work(m_queue, output);
     }
     m_queue.WaitForRoom();

@@ -14,9 +14,11 @@ namespace Ledgrove {
 /// Compares pieces of a queue in one thread. Each worker has its own state, so comparisons share nothing.
 class PieceWorker {
 public:
-    PieceWorker(const Session& start, const std::string& file)
+    PieceWorker(const Session& start, const JsonOptions& options)
         : m_comparison(start)
-        , m_lines(m_comparison, file) {}
+        , m_lines(m_comparison, options) {
+        m_comparison.Show(LabelsFor(options.Only));
+    }
     PieceWorker(const PieceWorker&) = delete;
     PieceWorker& operator=(const PieceWorker&) = delete;
 
@@ -35,8 +37,8 @@ private:
 class ParallelJsonReader : public ComparisonReader {
 public:
     /// Every comparison starts from `start`, a session after LoadMainScreen, which must outlive this object.
-    /// `jobs` is the number of threads, at least 1. Refusals name `file`, unless it is empty.
-    ParallelJsonReader(const Session& start, int jobs, std::string file);
+    /// `jobs` is the number of threads, at least 1.
+    ParallelJsonReader(const Session& start, int jobs, JsonOptions options = {});
 
     Tally Read(LineReader& lines, OutputBuffer& output) override;
     /// Hands out the gathered lines, so that they are compared while the reader waits.
@@ -47,7 +49,7 @@ private:
     void StartThread(OutputBuffer& output);
 
     const Session& m_start;
-    std::string m_file;
+    JsonOptions m_options;
     std::size_t m_mostThreads;
     PieceQueue m_queue;
     std::optional<PieceWorker> m_own; ///< used if there are no threads

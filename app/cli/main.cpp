@@ -38,6 +38,8 @@ int HandOver(const std::vector<std::string>& words) {
 }
 
 int Compare(const std::filesystem::path& folder, const CompareRequest& request) {
+    if (request.ListNames)
+        return PrintResultNames();
     Session session;
     CollectingHost host;
     if (const auto fault = Module1::LoadMainScreen(session, host, folder))
@@ -82,6 +84,13 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
         "text (default): one JSON object in, a table out; json: one object in, one out; jsonl: one object "
         "per "
         "line; csv: a price list with a heading row");
+    AddRead(
+        *compare, "--columns", [&](const std::string& names) { return ReadResultNames(names, request.Only); },
+        "LIST", "csv: these results instead of the main ones; the names are those of --list-names");
+    AddRead(
+        *compare, "--only", [&](const std::string& names) { return ReadResultNames(names, request.Only); },
+        "LIST", "json and jsonl: only these results");
+    compare->add_flag("--list-names", request.ListNames, "List the names of all results and end");
     compare->add_option("--house", request.House, "Start with the four amounts of this saved house scenario")
         ->type_name("NAME");
     compare->add_flag("--quiet", request.Quiet, "No warnings and no totals on standard error");
@@ -94,6 +103,17 @@ CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request
     compare->add_option("FILE", request.Files, "Files with the inputs; standard input if none or \"-\"")
         ->type_name("");
     return compare;
+}
+
+/// Why the choice of results does not fit the format; empty if it does.
+std::string ChoiceFault(const CLI::App& compare, const CompareRequest& request) {
+    const bool isCsv = request.Format == CompareFormat::Csv;
+    const bool isJson = request.Format == CompareFormat::Json || request.Format == CompareFormat::JsonLines;
+    if (compare.count("--columns") > 0 && !isCsv)
+        return "--columns is for --format csv. For json and jsonl use --only.";
+    if (compare.count("--only") > 0 && !isJson)
+        return "--only is for --format json and jsonl. For csv use --columns.";
+    return {};
 }
 
 struct SettingsActions {
@@ -149,8 +169,10 @@ int main(int argc, char** argv) {
     const SettingsActions settings = AddSettings(app, folder, setting);
     if (const auto status = Parse(app, ParserWords(words)))
         return *status;
-    if (*compare)
-        return Compare(folder, request);
+    if (*compare) {
+        const std::string fault = ChoiceFault(*compare, request);
+        return fault.empty() ? Compare(folder, request) : Complain(fault, CannotRun);
+    }
     if (*settings.Get)
         return PrintSetting(folder, setting.Key);
     if (*settings.Set)

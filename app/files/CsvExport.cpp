@@ -11,14 +11,15 @@ std::string ComparisonCsv(const Session& session) {
     std::string out;
     for (const NamedInput& input : InputTable)
         out.append(input.Name).append(",");
-    AppendResultHeadings(out);
+    const CsvResults results;
+    results.AppendHeadings(out);
     out += '\n';
     for (const NamedInput& input : InputTable) {
         if (inputs[input.Which].Present)
             AppendCsvCell(out, inputs[input.Which].Text);
         out += ',';
     }
-    AppendCsvResults(out, session, {});
+    results.Append(out, session, {});
     return out += '\n';
 }
 

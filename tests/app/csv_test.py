@@ -146,6 +146,47 @@ class OwnLists(CliTest):
         self.assertNotIn("\r", rows[0]["dataCheck"] + rows[0]["messages"])
         self.assertEqual(list(rows[0])[-3:], ["dataCheck", "messages", "error"])
 
+    def test_columns_are_chosen(self):
+        run = self.run_csv("--columns", "StdCase.PITI,lblStdQual,Scenario.PctDown",
+                           given="Lot,ecStdHome,ecPctDown\n7,200000,10\n8,abc,10\n", status=1)
+        lines = run.stdout.decode().splitlines()
+        self.assertEqual(lines[0], "Lot,ecStdHome,ecPctDown,StdCase.PITI,lblStdQual,Scenario.PctDown,error")
+        self.assertRegex(lines[1], r"^7,200000,10,\d+\.\d\d,\*NO,0\.1,$")
+        self.assertEqual(lines[2], "8,abc,10,,,,Line 3: ecStdHome: You must enter a number here.")
+        again = self.run_csv("--columns", "StdCase.PITI,lblStdQual,Scenario.PctDown", given=run.stdout, status=1)
+        self.assertEqual(again.stdout.decode().splitlines()[:2], lines[:2])
+
+
+class Chosen(CliTest):
+    def test_only_some_members(self):
+        given = '{"ecStdHome":"200000"}\n{"ecStdHome":"300000"}\n'
+        whole = [json.loads(line) for line in self.compare("jsonl", given).splitlines()]
+        names = "StdCase.LoanAmount,lblStdHome,ecStdHome,dataCheck"
+        for jobs in ("1", "4"):
+            run = self.run_cli("compare", "--folder", self.folder, "--format", "jsonl", "--jobs", jobs, "--only", names,
+                               given=given)
+            self.assertEqual([json.loads(line) for line in run.stdout.splitlines()], [
+                {"fields": {"ecStdHome": result["fields"]["ecStdHome"]},
+                 "labels": {"lblStdHome": result["labels"]["lblStdHome"]},
+                 "StdCase": {"LoanAmount": result["StdCase"]["LoanAmount"]}, "dataCheck": result["dataCheck"]}
+                for result in whole])
+
+    def test_every_name_of_a_result_is_listed(self):
+        listed = self.run_cli("compare", "--list-names").stdout.decode().splitlines()
+        names = {line.split("  ")[0] for line in listed}
+        result = self.compare_json({})
+        wanted = set(result["fields"]) | set(result["labels"]) | {"messages", "dataCheck"}
+        for record in ("Scenario", "StdCase", "GMHCase"):
+            wanted |= {f"{record}.{key}" for key in result[record]}
+        self.assertEqual(names, wanted)
+
+    def test_a_wrong_choice_is_refused(self):
+        for words, part in ((["--format", "csv", "--columns", "PITI"], '"PITI"'),
+                            (["--format", "json", "--columns", "StdCase.PITI"], "use --only"),
+                            (["--only", "StdCase.PITI"], "--only is for")):
+            run = self.run_cli("compare", "--folder", self.folder, *words, given="{}", status=2)
+            self.assertIn(part, run.stderr.decode())
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -40,7 +40,7 @@ protected:
 
     std::vector<std::string> m_warnings;
     CsvRun::Say m_say = [this](const std::string& sentence) { m_warnings.push_back(sentence); };
-    CsvRun m_run{m_say, m_say, {}, ','};
+    CsvRun m_run{m_say, m_say, {}, CsvResults(), ','};
     bool m_allWell = false;
 };
 

@@ -11,7 +11,7 @@ using Testing::ReaderResult;
 class ParallelJsonTest : public testing::Test {
 protected:
     ReaderResult Parallel(std::string_view input, int jobs) {
-        ParallelJsonReader reader(m_start, jobs, {});
+        ParallelJsonReader reader(m_start, jobs);
         return Testing::ReadWith(reader, input);
     }
 
@@ -72,7 +72,7 @@ TEST_F(ParallelJsonTest, AnswersALineWhileTheNextIsAwaited) {
     ASSERT_EQ(pipe(in.data()), 0);
     ASSERT_EQ(pipe(out.data()), 0);
     std::jthread running([&] {
-        ParallelJsonReader reader(m_start, 3, {});
+        ParallelJsonReader reader(m_start, 3);
         OutputBuffer output(out[1]);
         LineReader lines(in[0], [&] { reader.BeforeWaiting(output); });
         reader.Read(lines, output);
@@ -95,7 +95,7 @@ TEST_F(ParallelJsonTest, AFailedWriteEndsTheRun) {
     const MemoryFile in(Lines(20000));
     const Descriptor full("/dev/full", O_WRONLY);
     OutputBuffer output(full.Number());
-    ParallelJsonReader reader(m_start, 2, {});
+    ParallelJsonReader reader(m_start, 2);
     LineReader lines(in.Number(), [&] { reader.BeforeWaiting(output); });
     reader.Read(lines, output);
     EXPECT_EQ(output.Failure(), "No space left on device");

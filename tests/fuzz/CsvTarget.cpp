@@ -38,7 +38,7 @@ void TakeRow(int, void* table) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const CsvRun::Say silent = [](const std::string&) {};
-    CsvRun run{silent, silent, {}, ','};
+    CsvRun run{silent, silent, {}, CsvResults(), ','};
     const std::string output = Fuzz::OutputOf<CsvReader>(Fuzz::TextOf(data, size), std::ref(run));
     Table table;
     csv_parser parser;
