@@ -129,18 +129,18 @@ std::vector<TableBand> PrintDocument::LayOutTable(std::string_view format, std::
     return bands;
 }
 
-/// Lays out one row. A row that is higher than half a page becomes several bands, which may go on different
+/// Lays out one row. If it is higher than half a page, each of its lines is a band, so that it fills the
 /// pages.
 void PrintDocument::AddBands(const TableRow& row, const std::vector<TableColumn>& columns, TableBand like,
                              std::vector<TableBand>& bands) const {
     const TextStyle style = CurrentStyle();
     const Twips lineHeight = std::max(m_measure.LineHeight(style), 1);
     const RowLayout layout = LayOutRow(row, columns, style, m_measure);
-    const auto mostLines = static_cast<std::size_t>(std::max(PageRoom() / 2 / lineHeight, 1));
+    const bool isTall = layout.LineCount > static_cast<std::size_t>(std::max(PageRoom() / 2 / lineHeight, 1));
     if (!HasText(row) && !like.Shade)
         like.Is = Kind::Blank;
-    for (std::size_t first = 0; first < layout.LineCount; first += mostLines) {
-        const std::size_t count = std::min(mostLines, layout.LineCount - first);
+    for (std::size_t first = 0; first < layout.LineCount;) {
+        const std::size_t count = isTall ? 1 : layout.LineCount;
         const Twips paddingAbove = first == 0 ? rowPadding : 0;
         const Twips paddingBelow = first + count == layout.LineCount ? rowPadding : 0;
         TableBand band = like;
@@ -160,6 +160,8 @@ void PrintDocument::AddBands(const TableRow& row, const std::vector<TableColumn>
         }
         bands.push_back(std::move(band));
         like.BeginsPart = false;
+        like.Is = Kind::More;
+        first += count;
     }
 }
 
@@ -201,7 +203,9 @@ void PrintDocument::PlaceBand(const TableBand& band, const TableBand* above, con
     const bool isGap = band.Is == Kind::Blank; // has sides, but no rules
     if (band.Framed) {
         const bool framedAbove = above && above->Framed;
-        if (!isGap && !(framedAbove && above->Is == Kind::Blank))
+        const bool continues =
+            framedAbove && band.Is == Kind::More && (above->Is == Kind::Row || above->Is == Kind::More);
+        if (!isGap && !continues && !(framedAbove && above->Is == Kind::Blank))
             page.push_back(RuledLine{{left, CurrentY, right, CurrentY},
                                      frameThickness,
                                      framedAbove && !band.BeginsPart ? ruleColour : frameColour});

@@ -31,6 +31,9 @@ public:
     }
 
 private:
+    bool IsRowOrMore(std::size_t band) const {
+        return m_bands[band].Is == Kind::Row || m_bands[band].Is == Kind::More;
+    }
     bool IsBlank(std::size_t band) const { return m_bands[band].Is == Kind::Blank; }
 
     /// Without the empty rows at the end.
@@ -125,10 +128,11 @@ private:
         }
     }
 
-    /// The end of the first `count` rows, or of all.
+    /// The end of the first `count` rows, or of all. The lines of a long row count as rows here: two of them
+    /// may stand on a page.
     std::size_t EndOfRows(std::size_t row, std::size_t last, std::size_t count) const {
         while (row < last && count > 0)
-            count -= m_bands[row++].Is == Kind::Row ? 1 : 0;
+            count -= IsRowOrMore(row++) ? 1 : 0;
         return row;
     }
 

@@ -18,6 +18,7 @@ struct BandText {
 struct TableBand {
     enum class Kind {
         Row,
+        More,    ///< further lines of the row above, which may go on the next page
         Title,   ///< the table's title bar, which is repeated where the table continues
         Heading, ///< names the columns of the rows below it, and is repeated with them
         Blank    ///< empty, for spacing

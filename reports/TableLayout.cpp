@@ -39,6 +39,20 @@ RowLayout LayOutRow(const TableRow& row, const std::vector<TableColumn>& columns
         Twips room = cell.TextWidth;
         if (index == 0 && columns.size() > 1 && column.Align == CellAlign::Left)
             room += FreeWidthOf(columns[1], row.size() > 1 ? row[1] : "", style, measure);
+        // A figure that is too wide begins in the free space of its left neighbour: broken, it would read as
+        // two.
+        if (index > 0 && column.Align == CellAlign::Right && text.find(' ') == std::string::npos) {
+            const Twips missing = measure.Width(text, style) - cell.TextWidth;
+            const Twips free = layout.Cells.back().Align == CellAlign::Left
+                                   ? layout.Cells.back().TextWidth -
+                                         measure.Width(index - 1 < row.size() ? row[index - 1] : "", style)
+                                   : 0;
+            if (missing > 0 && missing <= free) {
+                cell.X -= missing;
+                cell.TextWidth += missing;
+                room = cell.TextWidth;
+            }
+        }
         const bool runsOver = measure.Width(text, style) <= room;
         cell.Lines = WrapText(text, runsOver ? room : cell.TextWidth, style, measure);
         layout.LineCount = std::max(layout.LineCount, cell.Lines.size());

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace Ledgrove {
 namespace {
 
@@ -348,6 +350,35 @@ TEST_F(PrintTableTest, ARowHigherThanAPageContinuesOnTheNextPages) {
     for (std::size_t page = 1; page <= m_document.PageCount(); ++page)
         written += Runs(page).size();
     EXPECT_EQ(written, 400U);
+}
+
+TEST_F(PrintTableTest, ARowHigherThanHalfAPageFillsThePages) {
+    std::string words;
+    for (int word = 0; word < 100; ++word)
+        words += "abcdef ";
+    m_document.TableBorder = 4;
+    m_document.BeginTable();
+    m_document.AddTable("720;", "title", "", PrintGrey);
+    m_document.AddTable("720;", "", words); // 100 lines of 200 twips
+    m_document.EndTable();
+    const int bottom = 15840 - 720;
+    for (std::size_t page = 1; page < m_document.PageCount(); ++page)
+        EXPECT_GT(Runs(page).back().Y + 2 * 200, bottom) << page;
+    // Rules only above the row and below it, on each page.
+    const auto lines = ItemsOf<RuledLine>(m_document.Page(1));
+    EXPECT_LE(std::count_if(lines.begin(), lines.end(),
+                            [](const RuledLine& line) { return line.Ends.Y1 == line.Ends.Y2; }),
+              4);
+}
+
+TEST_F(PrintTableTest, AFigureThatIsTooWideBeginsInItsNeighbour) {
+    // "$1,234,567" is ten characters, 1000 twips; the column has 600 less its padding of 120.
+    m_document.AddTable("2000|>600;", "", "ab|$1,234,567");
+    EXPECT_THAT(TextsOf(m_document.Page(1)), ElementsAre("ab", "$1,234,567"));
+    EXPECT_EQ(Runs()[1].X + Runs()[1].Width, 720 + 2600 - 60);
+    m_document.Start();
+    m_document.AddTable("2000|>600;", "", std::string(18, 'x') + "|$1,234,567");
+    EXPECT_GT(Runs().size(), 2U); // no room: it wraps in its column
 }
 
 TEST_F(PrintTableTest, AFrameIsDrawnOnlyWithBorderFour) {

@@ -10,8 +10,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Bands of 100 twips: "T" a title bar, "H" a heading, "r" a row, "." an empty row, "|" a place where the
-/// table may continue on the next page.
+/// Bands of 100 twips: "T" a title bar, "H" a heading, "r" a row, "m" more lines of the row above, "." an
+/// empty row, "|" a place where the table may continue on the next page.
 std::vector<TableBand> Bands(std::string_view letters) {
     std::vector<TableBand> bands;
     bool mayBreak = false;
@@ -23,6 +23,7 @@ std::vector<TableBand> Bands(std::string_view letters) {
         TableBand& band = bands.emplace_back();
         band.Is = letter == 'T'   ? TableBand::Kind::Title
                   : letter == 'H' ? TableBand::Kind::Heading
+                  : letter == 'm' ? TableBand::Kind::More
                   : letter == '.' ? TableBand::Kind::Blank
                                   : TableBand::Kind::Row;
         band.Height = 100;
@@ -92,6 +93,11 @@ TEST(BreakTable, EmptyRowsDoNotBeginAPage) {
 TEST(BreakTable, WithoutKeepingItWholeATableBeginsOnTheCurrentPage) {
     EXPECT_THAT(Pages("THrrrrr", 5, 8, false), ElementsAre("THrrr", "THrr"));
     EXPECT_THAT(Pages("THrrrrr", 3, 8, false), ElementsAre("", "THrrrrr"));
+}
+
+TEST(BreakTable, ALongRowFillsThePages) {
+    EXPECT_THAT(Pages("THrmmmmmmmmr", 6, 6), ElementsAre("THrmmm", "THmmmm", "THmr"));
+    EXPECT_THAT(Pages("THrmmmm", 4, 5), ElementsAre("THrm", "THmmm")); // two lines fit here
 }
 
 TEST(BreakTable, EachPageTakesARowEvenIfItIsTooSmall) {
