@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "ui/windows/FileQuestions.h"
 #include "ui/windows/UsersFolder.h"
 
 namespace Ledgrove {
@@ -36,7 +37,8 @@ std::unique_ptr<QFileDialog> LogoDialog(QWidget& parent) {
 std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent, const QString& pdfName) {
     auto dialog = std::make_unique<QFileDialog>(&parent, "Print to PDF");
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix("pdf");
+    // The name gets its ending and its question afterwards: Qt would leave "Dr. Smith" without the ending.
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->setNameFilter("PDF files (*.pdf)");
     dialog->setDirectory(UsersFolder(QStandardPaths::DocumentsLocation));
     dialog->selectFile(pdfName);
@@ -45,7 +47,9 @@ std::unique_ptr<QFileDialog> PdfDialog(QWidget& parent, const QString& pdfName) 
 
 PrintOutside RealOutside(PrintServer& server, const QString& pdfName) {
     return {server, [](QWidget& parent) { return Chosen(*LogoDialog(parent)); },
-            [pdfName](QWidget& parent) { return Chosen(*PdfDialog(parent, pdfName)); },
+            [pdfName](QWidget& parent) {
+                return NameToWrite(parent, Chosen(*PdfDialog(parent, pdfName)), ".pdf");
+            },
             [] { return QDate::currentDate(); }};
 }
 

@@ -190,6 +190,7 @@ void frmPrint::Connect() {
     OnClick(*m_changePage, [this] { ChangePage(); });
     OnClick(*m_maximize, [this] { MaximizeOrRestore(); });
     OnClick(*m_print, [this] { Print(); });
+    m_print->installEventFilter(this);
     EntryEvents events;
     events.GotFocus = events.Click = [this] { Context().Focus.SelectFieldText(); };
     events.Change = [this](const std::string& text) { m_copies.Text = text; };
@@ -223,6 +224,13 @@ void frmPrint::keyPressEvent(QKeyEvent* event) {
         return StepZoom(step);
     if (!m_preview->TakeKey(*event))
         EntryDialog::keyPressEvent(event);
+}
+
+bool frmPrint::eventFilter(QObject* watched, QEvent* event) {
+    // A double click means to print once.
+    if (watched == m_print && event->type() == QEvent::MouseButtonDblClick)
+        return true;
+    return EntryDialog::eventFilter(watched, event);
 }
 
 void frmPrint::ChangeZoom() {

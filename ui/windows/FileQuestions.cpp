@@ -30,12 +30,7 @@ QString AskSaveName(QWidget& above, const FileRequest& request) {
     // Qt's own question would check the typed name, not the name with its suffix.
     const QString typed = QFileDialog::getSaveFileName(&above, request.Title, request.Start, request.Filter,
                                                        nullptr, QFileDialog::DontConfirmOverwrite);
-    if (typed.isEmpty())
-        return {};
-    const QString name = WithSuffix(typed, request.Suffix);
-    // The save refuses a folder or a pipe of this name.
-    const bool isFile = NotAFile(QFile::encodeName(name).toStdString()).empty();
-    return QFileInfo::exists(name) && isFile && !MayReplace(above, name) ? QString() : name;
+    return NameToWrite(above, typed, request.Suffix);
 }
 
 SaveAnswer AskUnsaved(QWidget& above, const QString& name) {
@@ -58,6 +53,15 @@ SaveAnswer AskUnsaved(QWidget& above, const QString& name) {
 
 FileQuestions AskAtScreen() {
     return {AskOpenName, AskSaveName, AskUnsaved};
+}
+
+QString NameToWrite(QWidget& above, const QString& typed, const QString& suffix) {
+    if (typed.isEmpty())
+        return {};
+    const QString name = WithSuffix(typed, suffix);
+    // The save refuses a folder or a pipe of this name.
+    const bool isFile = NotAFile(QFile::encodeName(name).toStdString()).empty();
+    return QFileInfo::exists(name) && isFile && !MayReplace(above, name) ? QString() : name;
 }
 
 QString WithSuffix(const QString& name, const QString& suffix) {

@@ -30,6 +30,10 @@ struct FileQuestions {
 /// The questions as dialogs.
 FileQuestions AskAtScreen();
 
+/// The name under which a typed name is written: with `suffix`, and after a question if the file exists. ""
+/// if nothing was typed or the answer is No.
+QString NameToWrite(QWidget& above, const QString& typed, const QString& suffix);
+
 /// `name` with `suffix`, which is appended unless the name already ends in it or in its last part, ignoring
 /// case: with ".ledgrove.json", "plain" becomes "plain.ledgrove.json", and "plain.json" stays. Any other
 /// ending counts as a part of the name, because it would promise another kind of file.

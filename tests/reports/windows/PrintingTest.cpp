@@ -3,8 +3,10 @@
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 #include "PrintDesk.h"
+#include "ui/windows/FileQuestions.h"
 
 using namespace Ledgrove;
 
@@ -54,6 +56,8 @@ private slots:
     void progressNamesPageAndPrinter();
     void cancelPrintsNothing();
     void cancelLeavesNoPdf();
+    void aDoubleClickPrintsOnce();
+    void namesGetTheirEnding();
     void chooserAsksForPdf();
 };
 
@@ -338,12 +342,27 @@ void PrintingTest::cancelLeavesNoPdf() {
     CheckReady(open);
 }
 
+void PrintingTest::aDoubleClickPrintsOnce() {
+    OpenPreview open(2, WithPrinters);
+    QTest::mouseClick(&open.Find("cmdPrint"), Qt::LeftButton);
+    QTest::mouseDClick(&open.Find("cmdPrint"), Qt::LeftButton); // its second press
+    QCOMPARE(open.Server.Jobs.size(), std::size_t(1));
+}
+
+void PrintingTest::namesGetTheirEnding() {
+    QWidget parent;
+    const QTemporaryDir folder;
+    QCOMPARE(NameToWrite(parent, folder.filePath("Dr. Smith"), ".pdf"), folder.filePath("Dr. Smith.pdf"));
+    QCOMPARE(NameToWrite(parent, folder.filePath("a.PDF"), ".pdf"), folder.filePath("a.PDF"));
+    QCOMPARE(NameToWrite(parent, "", ".pdf"), "");
+}
+
 void PrintingTest::chooserAsksForPdf() {
     QWidget parent;
     const auto dialog = PdfDialog(parent);
     QCOMPARE(dialog->windowTitle(), "Print to PDF");
     QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
-    QCOMPARE(dialog->defaultSuffix(), "pdf");
+    QCOMPARE(dialog->defaultSuffix(), ""); // NameToWrite adds it, also to "Dr. Smith"
     QVERIFY(dialog->nameFilters().first().contains("*.pdf"));
 }
 
