@@ -1,3 +1,5 @@
+#include "base/Text.h"
+#include "reports/PrinterWords.h"
 #include "reports/SectionParts.h"
 #include "reports/modPrint.h"
 
@@ -21,13 +23,19 @@ void WritePictures(PrintDocument& document, const ReportContent& content) {
 }
 
 /// What PDF readers show in place of the file's name.
-std::string TitleWithNames(const ReportHeader& header) {
+std::string TitleWithNames(const std::string& buyer, const std::string& builder) {
     std::string title = "Summary Report";
-    if (!header.HomeBuyer.empty())
-        title += " for " + header.HomeBuyer;
-    if (!header.BuilderName.empty())
-        title += ", prepared by " + header.BuilderName;
+    if (!buyer.empty())
+        title += " for " + buyer;
+    if (!builder.empty())
+        title += ", prepared by " + builder;
     return title;
+}
+
+/// A name for the document's properties, which are one line each.
+std::string PlainName(const std::string& name) {
+    const std::string line = OneLine(name);
+    return std::string(Trimmed(line));
 }
 
 /// Writes a row of bold labels and, on the same line, its figures in regular weight.
@@ -78,8 +86,9 @@ void WriteTitleBlock(PrintDocument& document, const ReportContent& content) {
     document.Paragraph(" ");
     document.Paragraph(" ");
     const ReportHeader& header = content.State.Header;
-    document.PdfTitle = TitleWithNames(header);
-    document.Author = header.BuilderName.empty() ? "Ledgrove" : header.BuilderName;
+    const std::string builder = PlainName(header.BuilderName);
+    document.PdfTitle = TitleWithNames(PlainName(header.HomeBuyer), builder);
+    document.Author = builder.empty() ? "Ledgrove" : builder;
     if (!header.BuilderName.empty()) {
         document.Text("Prepared By:  " + header.BuilderName);
         document.Paragraph("");

@@ -15,6 +15,7 @@
 #include "base/Text.h"
 #include "reports/ReportChoices.h"
 #include "reports/windows/LogoFault.h"
+#include "reports/windows/NameFault.h"
 #include "reports/windows/ReportFile.h"
 #include "settings/HeaderSettings.h"
 
@@ -38,8 +39,9 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
     sections = {};
     std::istringstream list(names);
     for (std::string name; std::getline(list, name, ',');) {
-        if (!AddSection(name, sections)) {
-            return "There is no section " + Quoted(name) +
+        const std::string section(Trimmed(name));
+        if (!AddSection(section, sections)) {
+            return "There is no section " + Quoted(section) +
                    ". Choose from cashflow, morehome, affordability, summary and assumptions, or give all or "
                    "none.";
         }
@@ -103,6 +105,11 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
         ->type_name("");
 }
 
+/// Letters with their accents as single characters, for which fonts have glyphs.
+std::string Composed(const std::string& name) {
+    return QString::fromStdString(name).normalized(QString::NormalizationForm_C).toStdString();
+}
+
 /// Writes the PDF to a stream. Returns a message if that failed, else "".
 std::string Send(Session& session, const ReportFileRequest& request, const OutputTarget& target) {
     QByteArray pdf;
@@ -121,9 +128,9 @@ int Report(const Arguments& arguments) {
     if (comparison.Status != AllWell)
         return Complain(comparison.Complaint, comparison.Status);
     Session& session = comparison.State;
-    session.Header.HomeBuyer = arguments.Buyer;
+    session.Header.HomeBuyer = Composed(arguments.Buyer);
     if (arguments.Builder)
-        session.Header.BuilderName = *arguments.Builder;
+        session.Header.BuilderName = Composed(*arguments.Builder);
     const auto saved = Module1::GetLogoOption(SettingsFile(session.Folder));
     const int logo = arguments.LogoOption.value_or(saved ? *saved : 0);
     const ReportFileRequest request{arguments.Sections, arguments.Paper, logo,
@@ -132,6 +139,9 @@ int Report(const Arguments& arguments) {
         target.IsStream() ? Send(session, request, target) : WriteReportFile(session, request).toStdString();
     if (!fault.empty())
         return Complain(fault, CannotRun);
+    for (const std::string& name : {session.Header.BuilderName, session.Header.HomeBuyer})
+        if (const std::string unprinted = NameFault(name); !unprinted.empty())
+            Complain(unprinted, AllWell);
     if (const std::string missing = LogoFault(session, logo); !missing.empty())
         Complain(missing, AllWell);
     return AllWell;

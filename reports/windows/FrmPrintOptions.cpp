@@ -1,6 +1,7 @@
 #include "reports/windows/FrmPrintOptions.h"
 
 #include "reports/windows/FittedPicture.h"
+#include "reports/windows/NameFault.h"
 #include "reports/windows/Pictures.h"
 #include "ui/windows/FormParts.h"
 #include "ui/windows/HeadedGroup.h"
@@ -54,8 +55,11 @@ void FrmPrintOptions::accept() {
         return;
     EntryDialog::accept();
     // After the dialog has closed: some window managers activate no window when two close at once.
-    if (const std::string notice = Module1::UnkeptNameNotice(State()); !notice.empty())
-        Outside().ShowMessage({ApplicationTitle, notice, MessageIcon::Information});
+    const ReportHeader& header = State().Header;
+    for (const std::string& notice :
+         {Module1::UnkeptNameNotice(State()), NameFault(header.BuilderName), NameFault(header.HomeBuyer)})
+        if (!notice.empty())
+            Outside().ShowMessage({ApplicationTitle, notice, MessageIcon::Information});
 }
 
 void FrmPrintOptions::BuildControls() {
@@ -114,7 +118,10 @@ void FrmPrintOptions::Bind(const char* control, Field& field) {
             Context().Focus.NextField();
         return Module1::EntryOutcome::Accepted;
     };
-    events.Change = [&field](const std::string& text) { field.Text = text; };
+    // Composed, "e" with an accent is one character, which the settings file may hold and fonts have.
+    events.Change = [&field](const std::string& text) {
+        field.Text = QString::fromStdString(text).normalized(QString::NormalizationForm_C).toStdString();
+    };
     BindField(control, field, std::move(events));
 }
 

@@ -114,6 +114,8 @@ Twips FontMeasure::LineHeight(const TextStyle& style) const {
 void PaintPage(QPainter& painter, const PrintPage& page, PictureStore& pictures) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+    // A wrapped name must not change its direction with the first letter of each line.
+    painter.setLayoutDirection(Qt::LeftToRight);
     ItemPainter paint(painter, pictures);
     for (const PrintItem& item : page)
         std::visit(paint, item);

@@ -24,7 +24,7 @@ qint64 PixelsOf(const QSize& size) {
 /// The limit of pixels for a file of this size. Each pixel may use nine bytes on its way to the page, and a
 /// small file cannot hold a photograph, whatever it claims.
 qint64 MostPixels(qsizetype fileSize) {
-    constexpr qsizetype smallFile = 64 * 1024;
+    constexpr qsizetype smallFile = 4 * 1024;
     return fileSize < smallFile ? 4LL * 1000 * 1000 : 12LL * 1000 * 1000;
 }
 
