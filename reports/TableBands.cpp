@@ -46,10 +46,11 @@ private:
         return height;
     }
 
+    /// The lines of a long row count as rows: two of them may stand on a page.
     std::size_t RowsIn(std::size_t first, std::size_t last) const {
         std::size_t rows = 0;
         for (; first < last; ++first)
-            rows += m_bands[first].Is == Kind::Row ? 1 : 0;
+            rows += IsRowOrMore(first) ? 1 : 0;
         return rows;
     }
 
@@ -128,8 +129,7 @@ private:
         }
     }
 
-    /// The end of the first `count` rows, or of all. The lines of a long row count as rows here: two of them
-    /// may stand on a page.
+    /// The end of the first `count` rows, or of all.
     std::size_t EndOfRows(std::size_t row, std::size_t last, std::size_t count) const {
         while (row < last && count > 0)
             count -= IsRowOrMore(row++) ? 1 : 0;

@@ -98,6 +98,7 @@ TEST(BreakTable, WithoutKeepingItWholeATableBeginsOnTheCurrentPage) {
 TEST(BreakTable, ALongRowFillsThePages) {
     EXPECT_THAT(Pages("THrmmmmmmmmr", 6, 6), ElementsAre("THrmmm", "THmmmm", "THmr"));
     EXPECT_THAT(Pages("THrmmmm", 4, 5), ElementsAre("THrm", "THmmm")); // two lines fit here
+    EXPECT_THAT(Pages("rrrmmmmr", 5, 5), ElementsAre("rrrmm", "mmr"));
 }
 
 TEST(BreakTable, EachPageTakesARowEvenIfItIsTooSmall) {
