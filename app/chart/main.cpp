@@ -59,7 +59,8 @@ std::string ReadFormat(const std::string& name, std::optional<PictureFormat>& fo
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
-    AddCommon(app, arguments.Folder, "ledgrove-cli chart --output savings.png home.ledgrove.json");
+    AddCommon(app, "ledgrove-chart", arguments.Folder,
+              "ledgrove-cli chart --output savings.png home.ledgrove.json");
     app.add_option("--output", arguments.Output,
                    "The picture to write, *.png or *.svg; \"-\" is standard output")
         ->required()

@@ -77,7 +77,7 @@ std::string ReadFormat(const std::string& name, CompareFormat& format) {
 CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request) {
     auto* compare =
         app.add_subcommand("compare", "Compare a base home with an energy-efficiency-labelled home");
-    AddCommon(*compare, folder, "ledgrove-cli compare --format csv prices.csv > results.csv");
+    AddCommon(*compare, "ledgrove-cli", folder, "ledgrove-cli compare --format csv prices.csv > results.csv");
     AddRead(
         *compare, "--format", [&](const std::string& name) { return ReadFormat(name, request.Format); },
         "text|json|jsonl|csv",
@@ -132,7 +132,7 @@ struct SettingsRequest {
 
 SettingsActions AddSettings(CLI::App& app, std::string& folder, SettingsRequest& request) {
     auto* settings = app.add_subcommand("settings", "Read and change Ledgrove.ini");
-    AddCommon(*settings, folder, "ledgrove-cli settings set BUILDERNAME \"Acme Homes\"");
+    AddCommon(*settings, "ledgrove-cli", folder, "ledgrove-cli settings set BUILDERNAME \"Acme Homes\"");
     settings->require_subcommand(1);
     auto* get = settings->add_subcommand("get", "Print the value of a key");
     get->add_option("KEY", request.Key, "Such as YEARS_IN_HOME")->required()->type_name("");
@@ -159,7 +159,7 @@ int main(int argc, char** argv) {
         return HandOver(words);
     CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
     std::string folder = ProgramFolder().string();
-    AddCommon(app, folder, "ledgrove-cli compare home.ledgrove.json");
+    AddCommon(app, "ledgrove-cli", folder, "ledgrove-cli compare home.ledgrove.json");
     app.require_subcommand(1);
     app.add_subcommand("report", "Write the report of a comparison as PDF (ledgrove-cli report --help)");
     app.add_subcommand("chart", "Write a chart of a comparison as a picture (ledgrove-cli chart --help)");

@@ -51,10 +51,10 @@ CLI::Option* AddRead(CLI::App& app, const std::string& name, OptionReader read, 
         ->type_name(values);
 }
 
-void AddCommon(CLI::App& app, std::string& folder, const std::string& example) {
+void AddCommon(CLI::App& app, const std::string& program, std::string& folder, const std::string& example) {
     app.add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)")
         ->type_name("DIR");
-    app.set_version_flag("--version", "ledgrove-cli " LEDGROVE_VERSION, "Show the version");
+    app.set_version_flag("--version", program + " " LEDGROVE_VERSION, "Show the version");
     app.set_help_flag("-h,--help", "Show this help");
     app.footer(
         "Example:\n  " + example +

@@ -18,8 +18,8 @@ using OptionReader = std::function<std::string(const std::string& text)>;
 CLI::Option* AddRead(CLI::App& app, const std::string& name, OptionReader read, const std::string& values,
                      const std::string& description);
 
-/// Adds --folder, --version and, at the end of the help, an example and the exit statuses.
-void AddCommon(CLI::App& app, std::string& folder, const std::string& example);
+/// Adds --folder, --version of `program` and, at the end of the help, an example and the exit statuses.
+void AddCommon(CLI::App& app, const std::string& program, std::string& folder, const std::string& example);
 
 /// Parses the words, which are in their order. Returns the exit status if the program must end now: after
 /// the help or the version, and after a fault, which standard error then names.

@@ -74,7 +74,7 @@ std::string ReadLogo(const std::string& name, std::optional<int>& option) {
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
-    AddCommon(app, arguments.Folder,
+    AddCommon(app, "ledgrove-report", arguments.Folder,
               "ledgrove-cli report --output comparison.pdf --buyer \"Pat Doe\" home.ledgrove.json");
     app.add_option("--output", arguments.Output, "The PDF to write, *.pdf; \"-\" is standard output")
         ->required()

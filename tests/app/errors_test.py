@@ -105,7 +105,7 @@ class Words(CliTest):
             shown = self.said(*words, "--help", status=0)
             for part in ("Usage: ledgrove-cli", "Example:", "Exit status:", "1  some input was refused"):
                 self.assertIn(part, shown, words)
-            self.assertRegex(self.said(*words, "--version", status=0), r"^ledgrove-cli \d+\.\d+\.\d+\n$")
+            self.assertRegex(self.said(*words, "--version", status=0), r"^ledgrove-(cli|report|chart) \d+\.\d+\.\d+\n$")
             self.assertEqual(self.said("help", *words, status=0), shown)
         self.assertIn("--output OUT.pdf REQUIRED", self.said("help", "report", status=0))
         self.assertIn("--paper letter|a4|legal", self.said("help", "report", status=0))
