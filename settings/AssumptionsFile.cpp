@@ -10,19 +10,6 @@
 namespace Ledgrove::Module1 {
 namespace {
 
-struct SingleKey {
-    std::string_view Name;
-    float AssumptionSet::*Value;
-};
-
-constexpr std::array<SingleKey, 7> singleKeys = {{{Key::RealEstateTax, &AssumptionSet::RealEstateTaxPct},
-                                                  {Key::Insurance, &AssumptionSet::InsurancePct},
-                                                  {Key::PVTerm, &AssumptionSet::PVTerm},
-                                                  {Key::PMIMult1, &AssumptionSet::PMIMult1},
-                                                  {Key::PMIMult2, &AssumptionSet::PMIMult2},
-                                                  {Key::PMIMult3, &AssumptionSet::PMIMult3},
-                                                  {Key::PMIMult4, &AssumptionSet::PMIMult4}}};
-
 enum class LineResult { Read, NotANumber };
 
 template <typename Number>
@@ -34,9 +21,9 @@ LineResult Store(std::optional<Number> number, Number& target) {
 }
 
 LineResult ReadLine(std::string_view line, AssumptionSet& assumptions) {
-    for (const SingleKey& key : singleKeys) {
-        if (BelongsTo(line, key.Name))
-            return Store(ToSingle(ValueOf(line, key.Name)), assumptions.*key.Value);
+    for (const NumericAssumption& key : NumericAssumptions) {
+        if (BelongsTo(line, key.Key))
+            return Store(ToSingle(ValueOf(line, key.Key)), assumptions.*key.Value);
     }
     // The rate is read like an entry field: a text that is not a number counts as 0 and does not stop the
     // reader.

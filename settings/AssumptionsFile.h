@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/TypeDeclarations.h"
+#include "settings/LineSyntax.h"
 #include "settings/Rewrite.h"
 #include "settings/SettingsFile.h"
 
@@ -8,8 +9,28 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 // The financial assumptions in the settings file.
+namespace Ledgrove {
+
+/// An assumption that is a plain number in the file.
+struct NumericAssumption {
+    std::string_view Key;
+    float AssumptionSet::*Value;
+};
+
+inline constexpr std::array<NumericAssumption, 7> NumericAssumptions{
+    {{Key::RealEstateTax, &AssumptionSet::RealEstateTaxPct},
+     {Key::Insurance, &AssumptionSet::InsurancePct},
+     {Key::PVTerm, &AssumptionSet::PVTerm},
+     {Key::PMIMult1, &AssumptionSet::PMIMult1},
+     {Key::PMIMult2, &AssumptionSet::PMIMult2},
+     {Key::PMIMult3, &AssumptionSet::PMIMult3},
+     {Key::PMIMult4, &AssumptionSet::PMIMult4}}};
+
+} // namespace Ledgrove
+
 namespace Ledgrove::Module1 {
 
 /// Sets every value that has a line; the others do not change. A value that is not a number stops the reader

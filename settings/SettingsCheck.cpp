@@ -17,26 +17,13 @@ namespace Ledgrove {
 
 namespace {
 
-struct AssumptionKey {
-    std::string_view Name;
-    float AssumptionSet::*Value;
-};
-
-constexpr std::array<AssumptionKey, 7> numberKeys{{{Key::RealEstateTax, &AssumptionSet::RealEstateTaxPct},
-                                                   {Key::Insurance, &AssumptionSet::InsurancePct},
-                                                   {Key::PVTerm, &AssumptionSet::PVTerm},
-                                                   {Key::PMIMult1, &AssumptionSet::PMIMult1},
-                                                   {Key::PMIMult2, &AssumptionSet::PMIMult2},
-                                                   {Key::PMIMult3, &AssumptionSet::PMIMult3},
-                                                   {Key::PMIMult4, &AssumptionSet::PMIMult4}}};
-
 constexpr std::array otherAssumptions = {Key::PVRate, Key::PVFlag, Key::YearsInHome};
 
 /// The key of an assumption that the line belongs to; empty for any other line.
 std::string_view AssumptionOf(std::string_view line) {
-    for (const AssumptionKey& key : numberKeys)
-        if (BelongsTo(line, key.Name))
-            return key.Name;
+    for (const NumericAssumption& key : NumericAssumptions)
+        if (BelongsTo(line, key.Key))
+            return key.Key;
     for (const std::string_view key : otherAssumptions)
         if (BelongsTo(line, key))
             return key;
@@ -45,8 +32,8 @@ std::string_view AssumptionOf(std::string_view line) {
 
 /// The value that the program works with, in the unit of the file.
 std::string InForce(const AssumptionSet& assumptions, std::string_view key) {
-    for (const AssumptionKey& number : numberKeys)
-        if (number.Name == key)
+    for (const NumericAssumption& number : NumericAssumptions)
+        if (number.Key == key)
             return Module1::ShortestText(assumptions.*number.Value);
     if (key == Key::PVRate)
         // The record holds a fraction; rounding brings back the digits of the file.
