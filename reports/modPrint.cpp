@@ -97,8 +97,10 @@ void WriteSection(PrintDocument& document, const Section& section, const ReportC
     };
     const bool fitsOnePage = fitsHere || movedHeight() <= document.PageRoom();
     const bool moves = fitsOnePage ? !fitsHere : document.Room() < document.PageRoom() / 2;
-    if (moves || ReachesPaperEdge(document, section.Inches))
+    if (moves)
         StartContinuedPage(document);
+    else
+        ContinueHeader(document, section.Inches);
     document.KeepTables = fitsOnePage;
     write(document);
     document.KeepTables = true;

@@ -52,7 +52,7 @@ public:
     int Root() const { return NumberAfter(m_trailer, "/Root"); }
     int Info() const { return NumberAfter(m_trailer, "/Info"); }
 
-    /// The text between "obj" and "endobj"; empty if there is no such object.
+    /// The text between "obj" and "endobj"; empty for a number without an object.
     QByteArray Object(int number) const {
         // The table begins with "xref\n0 SIZE\n", and each entry has 20 bytes.
         constexpr qsizetype entrySize = 20;
