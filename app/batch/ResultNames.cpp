@@ -128,8 +128,8 @@ std::string ReadResultNames(std::string_view list, ChosenNames& chosen) {
         list = comma == std::string_view::npos ? std::string_view() : list.substr(comma + 1);
         const ResultName* const found = FindResultName(name);
         if (!found)
-            return "There is no result " + Quoted(name) +
-                   ". \"ledgrove-cli compare --list-names\" lists all of them.";
+            return Quoted(name) +
+                   " is not the name of a result. \"ledgrove-cli compare --list-names\" lists all of them.";
         if (std::find(chosen.begin(), chosen.end(), found) != chosen.end())
             return "The result " + Quoted(name) + " is named twice. Leave one of them out.";
         chosen.push_back(found);

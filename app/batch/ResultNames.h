@@ -35,7 +35,7 @@ using ChosenNames = std::vector<const ResultName*>;
 /// Everything in a result, in the order of the JSON.
 const std::vector<ResultName>& ResultNames();
 
-/// The name or the heading; nullptr if there is no such result.
+/// Finds a result by its name or its heading; nullptr for any other text.
 const ResultName* FindResultName(std::string_view name);
 
 /// Reads names separated by commas into `chosen`. Returns a message for an unknown or repeated name and for

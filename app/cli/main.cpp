@@ -69,7 +69,7 @@ constexpr int mostJobs = 256;
 std::string ReadFormat(const std::string& name, CompareFormat& format) {
     const auto named = FormatNamed(name);
     if (!named)
-        return "There is no format " + Quoted(name) + ". Choose text, json, jsonl or csv.";
+        return Quoted(name) + " is not a format. Choose text, json, jsonl or csv.";
     format = *named;
     return {};
 }

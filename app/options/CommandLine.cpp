@@ -92,7 +92,7 @@ std::string UnknownWord(const std::string& what, const std::string& word,
     });
     constexpr std::size_t mostChanges = 2;
     const bool isNear = nearest != known.end() && Distance(*nearest, word) <= mostChanges;
-    return "There is no " + what + " " + Quoted(word) +
+    return Quoted(word) + " is not a " + what +
            (isNear ? ". Did you mean " + Quoted(*nearest) + "?" : ". The " + what + "s are " + list + ".");
 }
 

@@ -41,9 +41,9 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
     for (std::string name; std::getline(list, name, ',');) {
         const std::string section(Trimmed(name));
         if (!AddSection(section, sections)) {
-            return "There is no section " + Quoted(section) +
-                   ". Choose from cashflow, morehome, affordability, summary and assumptions, or give all or "
-                   "none.";
+            return Quoted(section) + " is not a section. Choose from cashflow, morehome, affordability, "
+                                     "summary and assumptions, or give all or "
+                                     "none.";
         }
     }
     return {};

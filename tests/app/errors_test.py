@@ -82,17 +82,17 @@ class Words(CliTest):
         return (run.stderr if status else run.stdout).decode()
 
     def test_an_unknown_command_is_named_and_the_nearest_offered(self):
-        self.assertEqual(self.said("reprot"), 'ledgrove-cli: There is no command "reprot". Did you mean "report"?\n')
+        self.assertEqual(self.said("reprot"), 'ledgrove-cli: "reprot" is not a command. Did you mean "report"?\n')
         self.assertIn("The commands are compare, report, chart and settings.", self.said("bogus"))
-        self.assertIn('"gt". Did you mean "get"?', self.said("settings", "--folder", self.folder, "gt"))
-        self.assertIn('"setings". Did you mean "settings"?', self.said("help", "setings"))
+        self.assertIn('"gt" is not a command. Did you mean "get"?', self.said("settings", "--folder", self.folder, "gt"))
+        self.assertIn('"setings" is not a command. Did you mean "settings"?', self.said("help", "setings"))
         self.assertIn("Give a command", self.said())
         self.assertIn("Give a command after settings", self.said("settings"))
 
     def test_a_fault_names_its_option_once_and_the_help_to_read(self):
         for words, sentence in (
                 (["report", "--output", "a.pdf", "--paper", "x"], "--paper: The paper must be letter, a4 or legal."),
-                (["compare", "--format", "xml"], '--format: There is no format "xml".'),
+                (["compare", "--format", "xml"], '--format: "xml" is not a format.'),
                 (["chart", "--output", "a.png", "--tab", "x"], '--tab: There is no chart of "x".'),
                 (["report"], "--output is required.")):
             said = self.said(*words)

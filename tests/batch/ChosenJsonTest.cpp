@@ -62,7 +62,8 @@ TEST_F(ChosenJsonTest, AllNamesTogetherAreTheWholeResult) {
 
 TEST(ReadResultNames, RefusesUnknownRepeatedAndNoNames) {
     ChosenNames names;
-    EXPECT_THAT(ReadResultNames("StdCase.PITI,PITI", names), HasSubstr("There is no result \"PITI\"."));
+    EXPECT_THAT(ReadResultNames("StdCase.PITI,PITI", names),
+                HasSubstr("\"PITI\" is not the name of a result."));
     names.clear();
     EXPECT_THAT(ReadResultNames("ecIncome, fields.ecIncome", names), HasSubstr("is named twice"));
     names.clear();
