@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <variant>
+#include <vector>
 
 namespace Ledgrove {
 namespace {
@@ -32,15 +33,9 @@ bool Contains(const Keys& keys, std::string_view key) {
 /// The first known key that `matches` accepts.
 template <typename Predicate>
 std::optional<std::string_view> FindKnownKey(Predicate matches) {
-    const auto findIn = [&](const auto& keys) -> std::optional<std::string_view> {
-        const auto found = std::find_if(keys.begin(), keys.end(), matches);
-        return found == keys.end() ? std::nullopt : std::optional(*found);
-    };
-    if (const auto key = findIn(listKeys))
-        return key;
-    if (const auto key = findIn(assumptionKeys))
-        return key;
-    return findIn(otherKeys);
+    const auto keys = KnownKeys();
+    const auto found = std::find_if(keys.begin(), keys.end(), matches);
+    return found == keys.end() ? std::nullopt : std::optional(*found);
 }
 
 /// A known key that begins with this one and is longer. Every line that begins with a key belongs to it.
@@ -120,6 +115,13 @@ std::optional<std::string> CheckText(std::string_view what, std::string_view tex
 }
 
 } // namespace
+
+std::vector<std::string_view> KnownKeys() {
+    std::vector<std::string_view> keys(listKeys.begin(), listKeys.end());
+    keys.insert(keys.end(), assumptionKeys.begin(), assumptionKeys.end());
+    keys.insert(keys.end(), otherKeys.begin(), otherKeys.end());
+    return keys;
+}
 
 Outcome<std::string> SettingText(const SettingsFile& file, std::string_view key) {
     // Reads the file first, so that no reader below creates a missing file.

@@ -5,9 +5,13 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Access to the settings file by key and text, for scripts.
 namespace Ledgrove {
+
+/// Every key that the program reads: the lists, then the assumptions, then the others.
+std::vector<std::string_view> KnownKeys();
 
 /// The key's value as the program reads it, trimmed and with its default, in UTF-8. Numbers are plain and in
 /// the file's unit, so they can be written back unchanged. A list key gives the values of all its lines,

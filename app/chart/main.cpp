@@ -59,28 +59,13 @@ std::string ReadFormat(const std::string& name, std::optional<PictureFormat>& fo
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
-    AddCommon(app, "ledgrove-chart", arguments.Folder,
-              "ledgrove-cli chart --output savings.png home.ledgrove.json");
-    app.add_option("--output", arguments.Output,
-                   "The picture to write, *.png or *.svg; \"-\" is standard output")
-        ->required()
-        ->type_name("OUT");
-    AddRead(
-        app, "--tab", [&](const std::string& name) { return ReadTab(name, arguments.Kind); },
-        "cashflow|affordability|summary", "The tab with the chart (default: summary)");
-    AddRead(
-        app, "--format", [&](const std::string& name) { return ReadFormat(name, arguments.Format); },
-        "png|svg", "The format (default: by the ending of the name; png for standard output)");
-    const CLI::Range sides(smallestSide, largestSide);
-    app.add_option("--width", arguments.Width, "In pixels of 1/96 inch (default: 960)")
-        ->check(sides)
-        ->type_name("PIXELS");
-    app.add_option("--height", arguments.Height, "In pixels of 1/96 inch (default: 600)")
-        ->check(sides)
-        ->type_name("PIXELS");
-    app.add_option("FILE", arguments.Input,
-                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"")
-        ->type_name("");
+    CommandOptions options(app, "ledgrove-cli chart", arguments.Folder, "ledgrove-chart");
+    options.Take("--output", arguments.Output);
+    options.Read("--tab", [&](const std::string& name) { return ReadTab(name, arguments.Kind); });
+    options.Read("--format", [&](const std::string& name) { return ReadFormat(name, arguments.Format); });
+    options.Number("--width", arguments.Width, smallestSide, largestSide);
+    options.Number("--height", arguments.Height, smallestSide, largestSide);
+    options.Take("FILE", arguments.Input);
 }
 
 int Draw(const Arguments& arguments) {
@@ -109,7 +94,7 @@ int Draw(const Arguments& arguments) {
 int main(int argc, char** argv) {
     WorkOffscreen();
     const QApplication application(argc, argv);
-    CLI::App app("Writes a chart of a comparison as a picture.", "ledgrove-cli chart");
+    CLI::App app(SummaryOf("ledgrove-cli chart"), "ledgrove-cli chart");
     Arguments arguments;
     AddOptions(app, arguments);
     if (const auto status = Parse(app, WordsOf(argc, argv)))

@@ -32,7 +32,7 @@ std::size_t SetKey(const std::vector<std::string>& words) {
 } // namespace
 
 std::vector<std::string> Commands() {
-    return {"compare", "report", "chart", "settings"};
+    return CommandsBelow("ledgrove-cli");
 }
 
 std::vector<std::string> CommandFirst(std::vector<std::string> words) {
@@ -58,7 +58,7 @@ std::string CommandFault(const std::vector<std::string>& words) {
         return UnknownWord("command", words.front(), Commands());
     if (words.front() != "settings")
         return {};
-    const std::vector<std::string> verbs{"get", "set", "check", "houses"};
+    const std::vector<std::string> verbs = CommandsBelow("ledgrove-cli settings");
     const std::size_t verb = AfterOptions(words, 1);
     const bool asks = std::any_of(words.begin(), words.end(), [](const std::string& word) {
         return word == "--help" || word == "-h" || word == "--version";

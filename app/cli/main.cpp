@@ -12,6 +12,7 @@
 #include "app/batch/SettingsCommand.h"
 #include "app/cli/CommandWords.h"
 #include "app/options/CommandLine.h"
+#include "app/options/CommandTable.h"
 #include "base/ProgramFolder.h"
 #include "base/SystemError.h"
 #include "base/Text.h"
@@ -74,34 +75,27 @@ std::string ReadFormat(const std::string& name, CompareFormat& format) {
     return {};
 }
 
+/// A command of ledgrove-cli with its row's words.
+CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& fullName) {
+    return app.add_subcommand(name, std::string(CommandNamed(fullName).Summary));
+}
+
 CLI::App* AddCompare(CLI::App& app, std::string& folder, CompareRequest& request) {
-    auto* compare =
-        app.add_subcommand("compare", "Compare a base home with an energy-efficiency-labelled home");
-    AddCommon(*compare, "ledgrove-cli", folder, "ledgrove-cli compare --format csv prices.csv > results.csv");
-    AddRead(
-        *compare, "--format", [&](const std::string& name) { return ReadFormat(name, request.Format); },
-        "text|json|jsonl|csv",
-        "text (default): one JSON object in, a table out; json: one object in, one out; jsonl: one object "
-        "per "
-        "line; csv: a price list with a heading row");
-    AddRead(
-        *compare, "--columns", [&](const std::string& names) { return ReadResultNames(names, request.Only); },
-        "LIST", "csv: these results instead of the main ones; the names are those of --list-names");
-    AddRead(
-        *compare, "--only", [&](const std::string& names) { return ReadResultNames(names, request.Only); },
-        "LIST", "json and jsonl: only these results");
-    compare->add_flag("--list-names", request.ListNames, "List the names of all results and end");
-    compare->add_option("--house", request.House, "Start with the four amounts of this saved house scenario")
-        ->type_name("NAME");
-    compare->add_flag("--quiet", request.Quiet, "No warnings and no totals on standard error");
+    CLI::App* const compare = AddCommand(app, "compare", "ledgrove-cli compare");
+    CommandOptions options(*compare, "ledgrove-cli compare", folder);
+    const auto readNames = [&](const std::string& names) {
+        request.Only.clear();
+        return ReadResultNames(names, request.Only);
+    };
+    options.Read("--format", [&](const std::string& name) { return ReadFormat(name, request.Format); });
+    options.Read("--columns", readNames);
+    options.Read("--only", readNames);
+    options.Flag("--list-names", request.ListNames);
+    options.Take("--house", request.House);
+    options.Flag("--quiet", request.Quiet);
     request.Jobs = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
-    compare
-        ->add_option("--jobs", request.Jobs,
-                     "Threads for jsonl, 1 to 256 (default: one for each core); the results keep their order")
-        ->check(CLI::Range(1, mostJobs))
-        ->type_name("N");
-    compare->add_option("FILE", request.Files, "Files with the inputs; standard input if none or \"-\"")
-        ->type_name("");
+    options.Number("--jobs", request.Jobs, 1, mostJobs);
+    options.Take("FILE", request.Files);
     return compare;
 }
 
@@ -131,21 +125,22 @@ struct SettingsRequest {
 };
 
 SettingsActions AddSettings(CLI::App& app, std::string& folder, SettingsRequest& request) {
-    auto* settings = app.add_subcommand("settings", "Read and change Ledgrove.ini");
-    AddCommon(*settings, "ledgrove-cli", folder, "ledgrove-cli settings set BUILDERNAME \"Acme Homes\"");
+    CLI::App* const settings = AddCommand(app, "settings", "ledgrove-cli settings");
+    const CommandOptions common(*settings, "ledgrove-cli settings", folder);
     settings->require_subcommand(1);
-    auto* get = settings->add_subcommand("get", "Print the value of a key");
-    get->add_option("KEY", request.Key, "Such as YEARS_IN_HOME")->required()->type_name("");
-    auto* set = settings->add_subcommand("set", "Change the value of a key");
-    set->add_flag("--force", request.Force, "Write a key that is not a setting of Ledgrove");
-    set->add_option("KEY", request.Key, "Such as YEARS_IN_HOME")->required()->type_name("");
-    set->add_option("VALUE", request.Value, "May begin with \"-\"")->required()->type_name("");
-    auto* check = settings->add_subcommand("check", "Name the lines that cannot be used");
-    auto* houses = settings->add_subcommand("houses", "List the saved house scenarios");
-    // Accepts --folder before and after the verb.
-    for (CLI::App* verb : {get, set, check, houses})
-        verb->fallthrough();
-    return {get, set, check, houses};
+    const auto add = [&](const std::string& verb) {
+        return AddCommand(*settings, verb, "ledgrove-cli settings " + verb);
+    };
+    const SettingsActions actions{add("get"), add("set"), add("check"), add("houses")};
+    CommandOptions get(*actions.Get, "ledgrove-cli settings get", folder);
+    get.Take("KEY", request.Key);
+    CommandOptions set(*actions.Set, "ledgrove-cli settings set", folder);
+    set.Flag("--force", request.Force);
+    set.Take("KEY", request.Key);
+    set.Take("VALUE", request.Value);
+    const CommandOptions check(*actions.Check, "ledgrove-cli settings check", folder);
+    const CommandOptions houses(*actions.Houses, "ledgrove-cli settings houses", folder);
+    return actions;
 }
 
 } // namespace
@@ -157,15 +152,15 @@ int main(int argc, char** argv) {
     // The other programs parse their own arguments.
     if (words.front() == "report" || words.front() == "chart")
         return HandOver(words);
-    CLI::App app("Ledgrove compares a base home with an energy-efficiency-labelled home.", "ledgrove-cli");
+    CLI::App app(SummaryOf("ledgrove-cli"), "ledgrove-cli");
     std::string folder = ProgramFolder().string();
-    AddCommon(app, "ledgrove-cli", folder, "ledgrove-cli compare home.ledgrove.json");
+    const CommandOptions common(app, "ledgrove-cli", folder);
     app.require_subcommand(1);
-    app.add_subcommand("report", "Write the report of a comparison as PDF (ledgrove-cli report --help)");
-    app.add_subcommand("chart", "Write a chart of a comparison as a picture (ledgrove-cli chart --help)");
     SettingsRequest setting;
     CompareRequest request;
     const CLI::App* compare = AddCompare(app, folder, request);
+    AddCommand(app, "report", "ledgrove-cli report");
+    AddCommand(app, "chart", "ledgrove-cli chart");
     const SettingsActions settings = AddSettings(app, folder, setting);
     if (const auto status = Parse(app, ParserWords(words)))
         return *status;

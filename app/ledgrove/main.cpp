@@ -13,6 +13,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "app/options/CommandTable.h"
 #include "app/windows/ChartLoader.h"
 #include "app/windows/CurrentFile.h"
 #include "app/windows/LastChoices.h"
@@ -119,6 +120,11 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     return QCoreApplication::exec();
 }
 
+/// Words of the table of commands as a sentence.
+QString InWords(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size())) + '.';
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -135,14 +141,15 @@ int main(int argc, char* argv[]) {
                                                                    : new QCoreApplication(argc, argv));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription("Compares the mortgages of two homes.");
+    const Ledgrove::CommandRow& command = Ledgrove::CommandNamed("ledgrove");
+    parser.setApplicationDescription(InWords(command.Summary));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption folderOption("folder",
-                                          "The folder of Ledgrove.ini (default: the program's own).", "DIR",
+    const Ledgrove::OptionRow& folderRow = Ledgrove::OptionOf(command, "--folder");
+    const QCommandLineOption folderOption("folder", InWords(folderRow.Meaning), "DIR",
                                           QCoreApplication::applicationDirPath());
     parser.addOption(folderOption);
-    parser.addPositionalArgument("FILE", "A comparison to open (*.ledgrove.json).", "[FILE]");
+    parser.addPositionalArgument("FILE", InWords(Ledgrove::OptionOf(command, "FILE").Meaning), "[FILE]");
     if (!parser.parse(QCoreApplication::arguments()))
         return Refuse(parser.errorText() + " See ledgrove --help.");
     // The parser's own way to show these would end the process while the fonts are still being read.

@@ -1,6 +1,7 @@
 #include "app/options/CommandLine.h"
 
 #include <algorithm>
+#include <charconv>
 #include <numeric>
 #include <utility>
 
@@ -38,28 +39,52 @@ std::string FullName(const CLI::App& app) {
 
 } // namespace
 
-CLI::Option* AddRead(CLI::App& app, const std::string& name, OptionReader read, const std::string& values,
-                     const std::string& description) {
-    return app
-        .add_option_function<std::string>(
-            name,
-            [name, read = std::move(read)](const std::string& text) {
-                if (const std::string fault = read(text); !fault.empty())
-                    throw CLI::ValidationError(name, fault);
-            },
-            description)
-        ->type_name(values);
+CommandOptions::CommandOptions(CLI::App& app, std::string_view name, std::string& folder,
+                               const std::string& program)
+    : m_app(app)
+    , m_command(CommandNamed(name)) {
+    Take("--folder", folder);
+    app.set_version_flag("--version", program + " " LEDGROVE_VERSION,
+                         std::string(OptionOf(m_command, "--version").Meaning));
+    app.set_help_flag("-h,--help", std::string(OptionOf(m_command, "--help").Meaning));
+    std::string ending = "Example:\n  " + std::string(m_command.Example) + "\n\nExit status:";
+    for (const StatusRow& row : StatusTable())
+        ending += "\n  " + std::to_string(row.Status) + "  " + std::string(row.Meaning);
+    app.footer(ending);
 }
 
-void AddCommon(CLI::App& app, const std::string& program, std::string& folder, const std::string& example) {
-    app.add_option("--folder", folder, "The folder of Ledgrove.ini (default: the program's own)")
-        ->type_name("DIR");
-    app.set_version_flag("--version", program + " " LEDGROVE_VERSION, "Show the version");
-    app.set_help_flag("-h,--help", "Show this help");
-    app.footer(
-        "Example:\n  " + example +
-        "\n\nExit status:\n  0  success\n  1  some input was refused\n  2  the command line, the settings "
-        "or a file cannot be used; standard error says what to do");
+void CommandOptions::Read(std::string_view name, OptionReader read) {
+    const auto take = [name = std::string(name), read = std::move(read)](const std::string& text) {
+        if (const std::string fault = read(text); !fault.empty())
+            throw CLI::ValidationError(name, fault);
+    };
+    Described(m_app.add_option_function<std::string>(std::string(name), take), OptionOf(m_command, name));
+}
+
+void CommandOptions::Number(std::string_view name, int& target, int least, int most) {
+    Read(name, [&target, least, most](const std::string& text) {
+        int number = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+        if (error != std::errc() || end != text.data() + text.size() || number < least || number > most)
+            return "Give a whole number from " + std::to_string(least) + " to " + std::to_string(most) + ".";
+        target = number;
+        return std::string();
+    });
+}
+
+void CommandOptions::Flag(std::string_view name, bool& target) {
+    m_app.add_flag(std::string(name), target, std::string(OptionOf(m_command, name).Meaning));
+}
+
+void CommandOptions::Described(CLI::Option* option, const OptionRow& row) {
+    option->description(std::string(row.Meaning));
+    option->type_name(std::string(row.Values))->required(row.IsRequired);
+    if (!row.IsList)
+        option->take_last();
+}
+
+std::string SummaryOf(std::string_view name) {
+    return std::string(CommandNamed(name).Summary) + ".";
 }
 
 std::optional<int> Parse(CLI::App& app, std::vector<std::string> words) {

@@ -74,35 +74,17 @@ std::string ReadLogo(const std::string& name, std::optional<int>& option) {
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
-    AddCommon(app, "ledgrove-report", arguments.Folder,
-              "ledgrove-cli report --output comparison.pdf --buyer \"Pat Doe\" home.ledgrove.json");
-    app.add_option("--output", arguments.Output, "The PDF to write, *.pdf; \"-\" is standard output")
-        ->required()
-        ->type_name("OUT.pdf");
-    const auto read = [&app](const std::string& name, OptionReader reader, const std::string& values,
-                             const std::string& description) {
-        AddRead(app, name, std::move(reader), values, description);
-    };
-    read(
-        "--sections", [&](const std::string& names) { return ReadSections(names, arguments.Sections); },
-        "LIST", "cashflow,morehome,affordability,summary,assumptions, all (default) or none");
-    read(
-        "--paper", [&](const std::string& name) { return ReadPaper(name, arguments.Paper.Size); },
-        "letter|a4|legal", "The paper (default: letter)");
-    read(
-        "--orientation",
-        [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); },
-        "portrait|landscape", "The orientation (default: portrait)");
-    read(
-        "--logo", [&](const std::string& name) { return ReadLogo(name, arguments.LogoOption); },
-        "none|generic|user", "The logo (default: as in Ledgrove.ini)");
-    app.add_option("--builder", arguments.Builder,
-                   "Name after \"Prepared By:\" (default: as in Ledgrove.ini)")
-        ->type_name("NAME");
-    app.add_option("--buyer", arguments.Buyer, "Name after \"Prepared For:\"")->type_name("NAME");
-    app.add_option("FILE", arguments.Input,
-                   "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\"")
-        ->type_name("");
+    CommandOptions options(app, "ledgrove-cli report", arguments.Folder, "ledgrove-report");
+    options.Take("--output", arguments.Output);
+    options.Read("--sections",
+                 [&](const std::string& names) { return ReadSections(names, arguments.Sections); });
+    options.Read("--paper", [&](const std::string& name) { return ReadPaper(name, arguments.Paper.Size); });
+    options.Read("--orientation",
+                 [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); });
+    options.Read("--logo", [&](const std::string& name) { return ReadLogo(name, arguments.LogoOption); });
+    options.Take("--builder", arguments.Builder);
+    options.Take("--buyer", arguments.Buyer);
+    options.Take("FILE", arguments.Input);
 }
 
 /// Letters with their accents as single characters, for which fonts have glyphs.
@@ -152,7 +134,7 @@ int Report(const Arguments& arguments) {
 int main(int argc, char** argv) {
     WorkOffscreen();
     const QGuiApplication application(argc, argv);
-    CLI::App app("Writes the report of a comparison as PDF.", "ledgrove-cli report");
+    CLI::App app(SummaryOf("ledgrove-cli report"), "ledgrove-cli report");
     Arguments arguments;
     AddOptions(app, arguments);
     if (const auto status = Parse(app, WordsOf(argc, argv)))

@@ -110,6 +110,20 @@ class Words(CliTest):
         self.assertIn("--output OUT.pdf REQUIRED", self.said("help", "report", status=0))
         self.assertIn("--paper letter|a4|legal", self.said("help", "report", status=0))
 
+    def test_an_option_given_twice_counts_as_given_last(self):
+        self.assertEqual(self.said("settings", "--folder", "/nowhere", "--folder", self.folder, "get", "FEATURE2", status=0),
+                         "Larger deck\n")
+        self.assertIn('--format: "xml" is not a format', self.said("compare", "--format", "json", "--format", "xml"))
+        out = self.run_cli("compare", "--folder", self.folder, "--format", "json", "--only", "lblStdQual", "--only",
+                           "messages", given="{}").stdout
+        self.assertEqual(json.loads(out), {"messages": []})
+
+    def test_a_number_out_of_range_names_the_range(self):
+        for number in ("0", "257", "2x", ""):
+            self.assertIn("--jobs: Give a whole number from 1 to 256.", self.said("compare", "--jobs", number))
+        self.assertIn("--width: Give a whole number from 200 to 4000.",
+                      self.said("chart", "--output", "a.png", "--width", "199"))
+
     def test_options_of_all_commands_may_come_first(self):
         self.assertEqual(self.said("--folder", self.folder, "settings", "get", "FEATURE2", status=0), "Larger deck\n")
         self.assertIn("--output is required", self.said("--folder", self.folder, "report"))
