@@ -43,15 +43,6 @@ constexpr Figure resultColumns[] = {
 constexpr std::array<std::string_view, 4> textColumns{"lblStdQual", "lblGMHQual", "dataCheck", "messages"};
 constexpr std::string_view errorColumn = "error";
 
-ChosenNames MainResults() {
-    ChosenNames names;
-    for (const Figure column : resultColumns)
-        names.push_back(FindResultName(EntryOf(column).FullName));
-    for (const std::string_view column : textColumns)
-        names.push_back(FindResultName(column));
-    return names;
-}
-
 /// A text of several lines as one: tools that read lines must not find half a row.
 std::string OnOneLine(std::string_view text) {
     std::string line;
@@ -124,6 +115,15 @@ private:
 };
 
 } // namespace
+
+ChosenNames MainResults() {
+    ChosenNames names;
+    for (const Figure column : resultColumns)
+        names.push_back(FindResultName(EntryOf(column).FullName));
+    for (const std::string_view column : textColumns)
+        names.push_back(FindResultName(column));
+    return names;
+}
 
 bool IsResultColumn(std::string_view heading) {
     if (heading == errorColumn)

@@ -14,6 +14,9 @@ namespace Ledgrove {
 /// Whether a column with this heading is a result, so that an earlier run's output can be an input.
 bool IsResultColumn(std::string_view heading);
 
+/// The result columns of a price list without --columns.
+ChosenNames MainResults();
+
 /// Writes the result columns. "error" always comes last.
 class CsvResults {
 public:

@@ -1,6 +1,7 @@
 #include "app/batch/ResultNames.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Text.h"
 #include "ui/InputWords.h"
@@ -26,6 +27,29 @@ std::string UnitText(FigureUnit unit) {
     return {};
 }
 
+/// Captions that depend on the result, and texts outside the result sheets.
+constexpr std::pair<LabelMember, std::string_view> labelWords[] = {
+    {&MainScreen::lbladditionalmortgagetext, "Mortgage Savings (below 0: Additional Mortgage)"},
+    {&MainScreen::lblutilitysavingstext, "Utility Savings (below 0: Additional Utilities)"},
+    {&MainScreen::lbltaxsavingstext, "Tax Savings (below 0: Additional Taxes)"},
+    {&MainScreen::lblTaxSavmo2Text, "Tax Savings (below 0: Additional Taxes)"},
+    {&MainScreen::lblnetcashflowtext, "Net Monthly Cash Flow"},
+    {&MainScreen::lblYrsIn, "Expected Savings After the years in the home"},
+    {&MainScreen::lblTerm, "Expected Savings After 30 Years"},
+    {&MainScreen::lblPV, "PV of Savings"},
+    {&MainScreen::Label6, "sentence: what the monthly cash flow buys today"},
+    {&MainScreen::lblfeature1, "first feature to buy, from FEATURE1"},
+    {&MainScreen::lblfeature2, "second feature to buy, from FEATURE2"},
+    {&MainScreen::lblPVNote, "note on PV of Savings, shown with a Fannie Mae EEM"},
+};
+
+std::string WordsOf(LabelMember label) {
+    for (const auto& [member, words] : labelWords)
+        if (member == label)
+            return std::string(words);
+    return {};
+}
+
 /// What the result sheets say about a label: caption and column.
 std::string LabelMeaning(LabelMember label) {
     for (const SheetKind kind :
@@ -34,17 +58,16 @@ std::string LabelMeaning(LabelMember label) {
         const ResultSheet& sheet = SheetOf(kind);
         for (const SheetRow& row : sheet.Rows) {
             if (label == row.CaptionLabel)
-                return "caption";
+                return "caption: " + WordsOf(label);
             if (label != row.First && label != row.Second)
                 continue;
-            std::string caption = row.CaptionLabel ? "figure of " + std::string(LabelName(row.CaptionLabel))
-                                                   : std::string(row.Caption);
+            std::string caption = row.CaptionLabel ? WordsOf(row.CaptionLabel) : std::string(row.Caption);
             if (row.First)
                 caption += ", " + std::string(sheet.Heads[label == row.First ? 0 : 1]);
             return row.Meaning.empty() ? caption : caption + ": " + std::string(row.Meaning);
         }
     }
-    return "text on a result tab";
+    return WordsOf(label);
 }
 
 class NameList {

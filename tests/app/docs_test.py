@@ -1,4 +1,6 @@
-"""Runs the examples of the documents and compares their output."""
+"""Runs the examples of the documents and compares their output: docs_test.py PROGRAM SOURCE [BUILD].
+
+With the build folder, those of the folder that users get run in that folder."""
 import re
 import shutil
 import subprocess
@@ -8,7 +10,8 @@ import unittest
 from pathlib import Path
 
 PROGRAM, SOURCE = Path(sys.argv.pop(1)), Path(sys.argv.pop(1))
-DOCUMENTS = ("README.md", "docs/cli.md", "docs/guide.md")
+BUILD = Path(sys.argv.pop(1)) if len(sys.argv) > 1 and not sys.argv[1].startswith("-") else None
+DOCUMENTS = ("docs/cli.md", "docs/guide.md") if BUILD else ("README.md", "docs/cli.md", "docs/guide.md")
 
 
 def fenced(text):
@@ -27,15 +30,24 @@ class Examples(unittest.TestCase):
     def setUp(self):
         self.folder = Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, self.folder)
-        shutil.copytree(SOURCE / "data", self.folder / "data")
-        # Each test has its own program folder, because an example may change the settings.
-        self.programs = self.folder / "program"
-        shutil.copytree(SOURCE / "data", self.programs)
-        for name in ("ledgrove-cli", "ledgrove-report", "ledgrove-chart"):
-            shutil.copy(PROGRAM.parent / name, self.programs)
+        if BUILD:
+            subprocess.run(["cmake", "--install", BUILD, "--prefix", self.folder], check=True, capture_output=True)
+            self.documents = self.programs = self.folder
+        else:
+            self.documents, self.programs = SOURCE, self.make_program_folder()
         shutil.copy(SOURCE / "data/samples/first-home.ledgrove.json", self.folder / "home.ledgrove.json")
         (self.folder / "homes.jsonl").write_text('{"ecStdHome": 200000}\n{"ecStdHome": 210000}\n')
         (self.folder / "pricelist.csv").write_text("ecStdHome,ecGMHHome\n200000,206000\n")
+
+    def make_program_folder(self):
+        """Each test has its own program folder, because an example may change the settings."""
+        shutil.copytree(SOURCE / "data", self.folder / "data")
+        shutil.copytree(SOURCE / "data/samples", self.folder / "samples")
+        programs = self.folder / "program"
+        shutil.copytree(SOURCE / "data", programs)
+        for name in ("ledgrove-cli", "ledgrove-report", "ledgrove-chart"):
+            shutil.copy(PROGRAM.parent / name, programs)
+        return programs
 
     def run_shell(self, command):
         return subprocess.run(["sh", "-c", command], cwd=self.folder, capture_output=True, text=True, timeout=60,
@@ -44,7 +56,7 @@ class Examples(unittest.TestCase):
     def test_commands_run(self):
         count = 0
         for document in DOCUMENTS:
-            for command in indented((SOURCE / document).read_text()):
+            for command in indented((self.documents / document).read_text()):
                 run = self.run_shell(command)
                 self.assertEqual(run.returncode, 0, f"{document}: {command}\n{run.stderr}")
                 count += 1
@@ -53,7 +65,7 @@ class Examples(unittest.TestCase):
     def test_sessions_print_what_is_shown(self):
         count = 0
         for document in DOCUMENTS:
-            for block in fenced((SOURCE / document).read_text()):
+            for block in fenced((self.documents / document).read_text()):
                 for typed, answer in re.findall(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", block, re.M):
                     run = self.run_shell(typed)
                     self.assertEqual(run.stdout + run.stderr, answer, f"{document}: {typed}")
