@@ -113,6 +113,11 @@ class Measurements:
         own, floor = self.rates(self.one_core(), plain)
         return rate_at_least(own, floor, 0.8)
 
+    def chosen(self):
+        names = ",".join(f"{home}Case.{figure}" for home in ("Std", "GMH") for figure in ("PITI", "LoanAmount", "MaxLoan", "MaxPayment"))
+        own, floor = self.rates([*self.one_core(), "--only", names + ",Scenario.NetMonthlyCashFlow,lblStdQual"], self.one_core())
+        return rate_at_least(own, floor, 2.5, "whole ")
+
     def jsonl_size(self):
         """The floor is valid only if it writes as much."""
         few = self.prices.json(20_000)
@@ -219,6 +224,7 @@ ROWS = [
     ("evaluate", "one evaluation / a plain loop in double", Measurements.evaluate),
     ("recalculate", "one recalculation / a plain loop in double", Measurements.recalculate),
     ("jsonl", "compare --format jsonl, one core / a plain program", Measurements.jsonl),
+    ("chosen", "jsonl with ten names / whole results, one core", Measurements.chosen),
     ("jsonl-size", "jsonl: size of the output / of the plain program's", Measurements.jsonl_size),
     ("jsonl-memory", "jsonl: peak memory", Measurements.jsonl_memory),
     ("jsonl-order", "jsonl: output in the order of the input", Measurements.jsonl_order),

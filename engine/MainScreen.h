@@ -60,7 +60,8 @@ inline constexpr int TabCount = 5;
 /// The name of a house whose prices and utility costs are not those of a house scenario.
 inline constexpr std::string_view CustomHouse = "Custom";
 
-struct MainScreen {
+/// What the user enters and chooses.
+struct ScreenEntries {
     Field ecIncome, ecMonthlyDebt, ecPctDown, ecFixedDown;
     Field ecStdHome = Field::FeedingEEMRule(), ecGMHHome = Field::FeedingEEMRule();
     Field ecStdUtil = Field::FeedingEEMRule(), ecGMHUtil = Field::FeedingEEMRule();
@@ -78,7 +79,9 @@ struct MainScreen {
     std::int32_t xMortTerm = 0;                  ///< term in years
 
     Label lblHomeName;
+};
 
+struct MainScreen : ScreenEntries {
     // Affordability, and the Summary figures of each home
     Label lblStdPITI, lblStdMortPayment, lblStdUtilMo, lblStdHome, lblStdDown, lblstddown2;
     Label lblStdMortgage, lblStdMort, lblStdInc, lblStdMaxHome, lblStdQual;

@@ -83,6 +83,8 @@ std::optional<double> ReadUnsigned(std::string_view text) {
         return std::nullopt;
     if (digits.Count > Digits::Fit)
         return ReadLongNumber(text);
+    if (digits.Places == 0)
+        return static_cast<double>(digits.Value);
     // One division of exact numbers rounds once, so this is the nearest double, as from_chars would give.
     constexpr double tens[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
@@ -266,7 +268,9 @@ std::string StripPercent(std::string_view text) {
 }
 
 std::optional<double> ReadStrippedNumber(std::string_view text) {
-    return text.find('%') == text.npos ? ReadNumber(text) : ReadNumber(StripPercent(text));
+    // No text with "%" is a number by itself, and most texts have none.
+    const auto number = ReadNumber(text);
+    return number || text.find('%') == text.npos ? number : ReadNumber(StripPercent(text));
 }
 
 float ParseFieldValue(std::string_view text, double divisor) {

@@ -10,11 +10,10 @@ namespace Ledgrove::Module1 {
 namespace {
 
 struct HomeLabels {
-    Label &PITI, &MortPayment, &UtilMonthly, &Price, &Down, &Down2, &Mortgage, &Mort, &MaxPayment, &MaxLoan,
-        &Qualifies;
+    Label &PITI, &MortPayment, &UtilMonthly, &Price, &Down, &Down2, &Mortgage, &Mort, &MaxPayment, &MaxLoan;
 };
 
-void ShowHome(const HomeCase& home, bool qualifies, const HomeLabels& labels) {
+void ShowHome(const HomeCase& home, const HomeLabels& labels) {
     MoneyText(home.PITI, labels.PITI.Text);
     MoneyText(home.MortPayment, labels.MortPayment.Text);
     MoneyText(home.UtilMonthly, labels.UtilMonthly.Text);
@@ -25,7 +24,6 @@ void ShowHome(const HomeCase& home, bool qualifies, const HomeLabels& labels) {
     labels.Mort.Text = labels.Mortgage.Text;
     MoneyText(home.MaxPayment, labels.MaxPayment.Text);
     MoneyText(home.MaxLoan, labels.MaxLoan.Text);
-    labels.Qualifies.Text = qualifies ? "YES" : "*NO";
 }
 
 float YearOf(double monthly) {
@@ -124,6 +122,8 @@ void ShowSummaryPanel(MainScreen& screen, const Results& results, bool withTaxes
 void ShowResults(const Results& results, MainScreen& screen, const ShownLabels& shown) {
     if (shown.Affordability)
         ShowAffordabilityResults(results, screen);
+    if (shown.Qualification)
+        ShowQualification(results, screen);
     if (shown.CashFlow)
         ShowCashFlowResults(results, screen);
 }
@@ -131,22 +131,26 @@ void ShowResults(const Results& results, MainScreen& screen, const ShownLabels& 
 ShownLabels GroupOf(Label MainScreen::*label) {
     using S = MainScreen;
     constexpr Label S::*ofHomes[] = {
-        &S::lblStdPITI,    &S::lblStdMortPayment, &S::lblStdUtilMo,      &S::lblStdHome,   &S::lblStdDown,
-        &S::lblstddown2,   &S::lblStdMortgage,    &S::lblStdMort,        &S::lblStdInc,    &S::lblStdMaxHome,
-        &S::lblStdQual,    &S::lblGMHPITI,        &S::lblGMHMortPayment, &S::lblGMHUtilMo, &S::lblGMHHome,
-        &S::lblgmhDown,    &S::lblgmhdown2,       &S::lblgmhMortgage,    &S::lblGMHMort,   &S::lblGMHInc,
-        &S::lblGMHMaxHome, &S::lblGMHQual};
+        &S::lblStdPITI,  &S::lblStdMortPayment, &S::lblStdUtilMo, &S::lblStdHome, &S::lblStdDown,
+        &S::lblstddown2, &S::lblStdMortgage,    &S::lblStdMort,   &S::lblStdInc,  &S::lblStdMaxHome,
+        &S::lblGMHPITI,  &S::lblGMHMortPayment, &S::lblGMHUtilMo, &S::lblGMHHome, &S::lblgmhDown,
+        &S::lblgmhdown2, &S::lblgmhMortgage,    &S::lblGMHMort,   &S::lblGMHInc,  &S::lblGMHMaxHome};
     const bool isOfHomes = std::find(std::begin(ofHomes), std::end(ofHomes), label) != std::end(ofHomes);
-    return {isOfHomes, !isOfHomes};
+    const bool isQualification = label == &S::lblStdQual || label == &S::lblGMHQual;
+    return {isOfHomes, isQualification, !isOfHomes && !isQualification};
 }
 
 void ShowAffordabilityResults(const Results& results, MainScreen& s) {
-    ShowHome(results.StdCase, results.StdQualifies,
-             {s.lblStdPITI, s.lblStdMortPayment, s.lblStdUtilMo, s.lblStdHome, s.lblStdDown, s.lblstddown2,
-              s.lblStdMortgage, s.lblStdMort, s.lblStdInc, s.lblStdMaxHome, s.lblStdQual});
-    ShowHome(results.GMHCase, results.GMHQualifies,
-             {s.lblGMHPITI, s.lblGMHMortPayment, s.lblGMHUtilMo, s.lblGMHHome, s.lblgmhDown, s.lblgmhdown2,
-              s.lblgmhMortgage, s.lblGMHMort, s.lblGMHInc, s.lblGMHMaxHome, s.lblGMHQual});
+    ShowHome(results.StdCase, {s.lblStdPITI, s.lblStdMortPayment, s.lblStdUtilMo, s.lblStdHome, s.lblStdDown,
+                               s.lblstddown2, s.lblStdMortgage, s.lblStdMort, s.lblStdInc, s.lblStdMaxHome});
+    ShowHome(results.GMHCase, {s.lblGMHPITI, s.lblGMHMortPayment, s.lblGMHUtilMo, s.lblGMHHome, s.lblgmhDown,
+                               s.lblgmhdown2, s.lblgmhMortgage, s.lblGMHMort, s.lblGMHInc, s.lblGMHMaxHome});
+}
+
+void ShowQualification(const Results& results, MainScreen& screen) {
+    const auto text = [](bool qualifies) { return qualifies ? "YES" : "*NO"; };
+    screen.lblStdQual.Text = text(results.StdQualifies);
+    screen.lblGMHQual.Text = text(results.GMHQualifies);
 }
 
 void ShowCashFlowResults(const Results& results, MainScreen& screen) {

@@ -13,15 +13,28 @@ void FormatEntry(Session& session, Field& field, FieldFormat format) {
         ConvertPercentDown(session);
 }
 
+const char* NumberComplaint(std::optional<double> number) {
+    if (!number)
+        return "You must enter a number here.";
+    return *number < 0 ? "You must enter a positive number here." : "";
+}
+
 } // namespace
 
 std::string FieldComplaint(std::string_view text, FieldFormat format) {
     if (text.empty() || format == FieldFormat::String)
         return {};
+    return NumberComplaint(ReadStrippedNumber(text));
+}
+
+FieldReading ReadFieldText(std::string_view text, FieldFormat format) {
+    if (format == FieldFormat::String)
+        return {"", std::string(text)};
     const auto number = ReadStrippedNumber(text);
-    if (!number)
-        return "You must enter a number here.";
-    return *number < 0 ? "You must enter a positive number here." : "";
+    FieldReading reading{NumberComplaint(number), ""};
+    if (reading.Complaint.empty())
+        reading.Text = FormatFieldText(text, *number, format);
+    return reading;
 }
 
 void SetFieldText(Session& session, Field& field, std::string_view text) {

@@ -40,6 +40,15 @@ enum class Complaint { Shown, Quiet };
 /// requires a number that is not negative. An empty text counts as "0".
 std::string FieldComplaint(std::string_view text, FieldFormat format);
 
+/// What a field makes of a text that is not empty.
+struct FieldReading {
+    std::string Complaint; ///< the message for a refused text; empty if it is accepted
+    std::string Text;      ///< an accepted text in its display format
+};
+
+/// FieldComplaint and FormatFieldText in one, which reads the number once.
+FieldReading ReadFieldText(std::string_view text, FieldFormat format);
+
 /// Sets the field's text with the effects of its Change event: if the input affects the EEM eligibility, sets
 /// the notice flag. Setting the text that the field already has does nothing.
 void SetFieldText(Session& session, Field& field, std::string_view text);

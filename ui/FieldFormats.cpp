@@ -26,25 +26,28 @@ std::string Either2Text(double value) {
 } // namespace
 
 std::string FormatFieldText(std::string_view text, FieldFormat format) {
-    const double value = ReadStrippedNumber(text).value_or(0);
+    return FormatFieldText(text, ReadStrippedNumber(text).value_or(0), format);
+}
+
+std::string FormatFieldText(std::string_view text, double number, FieldFormat format) {
     switch (format) {
     case FieldFormat::Dollar:
-        return FormatPicture(value, dollars);
+        return FormatPicture(number, dollars);
     case FieldFormat::IntRate:
-        return PercentPicture(value, "#0.000");
+        return PercentPicture(number, "#0.000");
     case FieldFormat::Percent:
-        return PercentText(text, value);
+        return PercentText(text, number);
     case FieldFormat::Percent2:
-        return PercentPicture(value < 0.01 ? value * 100 : value, "#0.00");
+        return PercentPicture(number < 0.01 ? number * 100 : number, "#0.00");
     case FieldFormat::Either:
-        return value < 1.0 ? PercentPicture(value * 100, "#0.0") : FormatPicture(value, dollars);
+        return number < 1.0 ? PercentPicture(number * 100, "#0.0") : FormatPicture(number, dollars);
     case FieldFormat::Either2:
-        return Either2Text(value);
+        return Either2Text(number);
     case FieldFormat::Whole:
         // Intended: this format does not remove "%", so a text with "%" is not a number and is shown as 0.
         return FormatPicture(ReadNumber(text).value_or(0), "###,##0");
     case FieldFormat::WholePercent:
-        return PercentPicture(value, "##0.00");
+        return PercentPicture(number, "##0.00");
     case FieldFormat::String:
     case FieldFormat::SmallPercent:
         break;

@@ -38,4 +38,7 @@ namespace Ledgrove::Module1 {
 /// the text unchanged.
 std::string FormatFieldText(std::string_view text, FieldFormat format);
 
+/// The same for a text whose number, without "%", is already known.
+std::string FormatFieldText(std::string_view text, double number, FieldFormat format);
+
 } // namespace Ledgrove::Module1

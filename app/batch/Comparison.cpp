@@ -43,9 +43,10 @@ std::optional<Refusal> EnterField(Session& session, const EntryInput& entry, con
     if (value.Kind == InputKind::Boolean)
         return Refuse(entry.Which, value, "You must enter a number here.");
     const std::string_view typed = value.Text.empty() ? "0" : std::string_view(value.Text);
-    if (auto complaint = Module1::FieldComplaint(typed, rule.Format); !complaint.empty())
-        return Refuse(entry.Which, value, std::move(complaint));
-    Module1::SetFieldText(session, session.Screen.*rule.Member, Module1::FormatFieldText(typed, rule.Format));
+    Module1::FieldReading reading = Module1::ReadFieldText(typed, rule.Format);
+    if (!reading.Complaint.empty())
+        return Refuse(entry.Which, value, std::move(reading.Complaint));
+    Module1::SetFieldText(session, session.Screen.*rule.Member, reading.Text);
     return std::nullopt;
 }
 
@@ -65,8 +66,9 @@ Comparison::Comparison(Session start)
     , m_state(m_start) {}
 
 void Comparison::Reset() {
-    // The tables need no reset, because comparisons do not change them.
-    m_state.Screen = m_start.Screen;
+    // The tables need no reset, because comparisons do not change them, and the labels none, because a
+    // recalculation writes whatever it can change of them.
+    static_cast<ScreenEntries&>(m_state.Screen) = m_start.Screen;
     static_cast<Results&>(m_state) = m_start;
     m_state.ChosenHouse = m_start.ChosenHouse;
     m_host.Clear();

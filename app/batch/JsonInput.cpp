@@ -29,8 +29,10 @@ class InputHandler {
 public:
     using Ch = char;
 
-    explicit InputHandler(InputRecord& inputs)
-        : m_inputs(inputs) {}
+    /// Only an escape can be an unpaired surrogate.
+    InputHandler(InputRecord& inputs, bool hasEscapes)
+        : m_inputs(inputs)
+        , m_hasEscapes(hasEscapes) {}
 
     /// A result's other members only count as known beside its fields.
     std::optional<Refusal> Fault() const {
@@ -45,12 +47,12 @@ public:
         return Take(InputKind::Number, {text, length});
     }
     bool String(const Ch* text, rapidjson::SizeType length, bool) {
-        return IsWhole({text, length}) && Take(InputKind::Text, {text, length});
+        return IsReadable({text, length}) && Take(InputKind::Text, {text, length});
     }
     bool Key(const Ch* name, rapidjson::SizeType length, bool) {
         if (m_depth == 1 || InFields())
             m_name.assign(name, length);
-        return IsWhole({name, length});
+        return IsReadable({name, length});
     }
     bool StartObject() {
         const bool fields = m_depth == 1 && m_name == fieldsMember;
@@ -80,6 +82,8 @@ public:
 private:
     static constexpr std::string_view fieldsMember = "fields";
 
+    bool IsReadable(std::string_view text) const { return !m_hasEscapes || IsWhole(text); }
+
     /// Directly in the fields of a result, whose texts are inputs.
     bool InFields() const { return m_inFields && m_depth == 2; }
 
@@ -105,17 +109,17 @@ private:
             // An empty field of a result was not entered.
             if (text.empty())
                 return true;
-        } else if (m_depth > 1 || IsResultMember()) {
+        } else if (m_depth > 1) {
             return true;
-        }
-        if (m_depth == 0)
+        } else if (m_depth == 0) {
             return RefuseValue(text);
+        }
         if (const auto input = InputNamed(m_name)) {
             InputValue& value = m_inputs[*input];
             value.Present = true;
             value.Kind = kind;
             value.Text = text;
-        } else if (!m_refusal) {
+        } else if (!IsResultMember() && !m_refusal) {
             m_refusal = UnknownInput(m_name, text);
         }
         return true;
@@ -137,6 +141,7 @@ private:
     }
 
     InputRecord& m_inputs;
+    bool m_hasEscapes;
     std::optional<Refusal> m_refusal;
     std::string m_name;
     std::string m_resultMember; ///< the last one found
@@ -176,7 +181,7 @@ std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs
     constexpr unsigned flags = plainFlags | rapidjson::kParseValidateEncodingFlag;
     rapidjson::MemoryStream stream(json.data(), json.size());
     rapidjson::Reader reader;
-    InputHandler handler(inputs);
+    InputHandler handler(inputs, json.find('\\') != json.npos);
     // Most lines are ASCII, which needs no validation: it would take a tenth of the comparison.
     const rapidjson::ParseResult result =
         IsAscii(json) ? reader.Parse<plainFlags>(stream, handler) : reader.Parse<flags>(stream, handler);

@@ -161,13 +161,14 @@ std::string ReadResultNames(std::string_view list, ChosenNames& chosen) {
 }
 
 ShownLabels LabelsFor(const ChosenNames& names) {
-    ShownLabels shown{names.empty(), names.empty()};
+    ShownLabels shown{names.empty(), names.empty(), names.empty()};
     for (const ResultName* const name : names) {
         const auto* const label = std::get_if<LabelMember>(&name->Value);
         if (!label)
             continue;
         const ShownLabels group = Module1::GroupOf(*label);
         shown.Affordability = shown.Affordability || group.Affordability;
+        shown.Qualification = shown.Qualification || group.Qualification;
         shown.CashFlow = shown.CashFlow || group.CashFlow;
     }
     return shown;

@@ -79,6 +79,26 @@ TEST_F(ComparisonTest, EachRunStartsFromTheSameState) {
     EXPECT_EQ(ResultOf({}), first);
 }
 
+// Amounts in red, a hidden tax line and a visible note on Fannie Mae must not stay from one comparison to the
+// next.
+TEST_F(ComparisonTest, NoLabelKeepsAnythingOfAnEarlierComparison) {
+    const InputRecord costly = Given({{Input::ecIncome, "72000"},
+                                      {Input::ecStdHome, "200000"},
+                                      {Input::ecGMHHome, "260000"},
+                                      {Input::ecStdUtil, "1000"},
+                                      {Input::ecGMHUtil, "2000"},
+                                      {Input::cboGMHMortOption, "Fannie Mae EEM"},
+                                      {Input::chkDoTax0, "false"}});
+    const InputRecord saving = Given({{Input::ecIncome, "90000"},
+                                      {Input::ecStdHome, "200000"},
+                                      {Input::ecGMHHome, "201000"},
+                                      {Input::ecStdUtil, "3000"},
+                                      {Input::ecGMHUtil, "1000"}});
+    const std::string shown = ResultOf(saving);
+    EXPECT_THAT(ResultOf(costly), HasSubstr("#ff0000"));
+    EXPECT_EQ(ResultOf(saving), shown);
+}
+
 TEST_F(ComparisonTest, RefusesTheFirstInvalidInputInTheOrderOfEntry) {
     const Refusal refusal = RefusalOf(
         Given({{Input::chkDoTax0, "maybe"}, {Input::ecStdHome, "x"}, {Input::ecMonthlyDebt, "-5"}}));

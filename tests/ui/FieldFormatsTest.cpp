@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "ui/Entry.h"
+
 namespace Ledgrove::Module1 {
 
 namespace {
@@ -123,6 +125,20 @@ TEST(FieldFormats, ShowTheirOwnTextsUnchanged) {
             const std::string shown = FormatFieldText(typed, format);
             EXPECT_EQ(FormatFieldText(shown, format), shown) << static_cast<int>(format) << ' ' << typed;
         }
+}
+
+// The price list enters texts with one call for both.
+TEST(FieldFormats, OneReadingGivesTheComplaintOrTheText) {
+    for (const FieldFormat format :
+         {FieldFormat::Dollar, FieldFormat::IntRate, FieldFormat::Percent, FieldFormat::Percent2,
+          FieldFormat::Either, FieldFormat::Either2, FieldFormat::Whole, FieldFormat::WholePercent,
+          FieldFormat::String, FieldFormat::SmallPercent}) {
+        for (const char* typed : {"0", "12.5", "$1,234.50", "0.5%", "%", "-3", "-3%", "abc", " 7 ", "1e5"}) {
+            const FieldReading reading = ReadFieldText(typed, format);
+            EXPECT_EQ(reading.Complaint, FieldComplaint(typed, format)) << typed;
+            EXPECT_EQ(reading.Text, reading.Complaint.empty() ? FormatFieldText(typed, format) : "") << typed;
+        }
+    }
 }
 
 } // namespace
