@@ -37,6 +37,7 @@ protected:
     void Compute(HomeCode code) {
         ComputeAffordability(ReadInputs(m_session.Screen), m_session, code, m_session);
         ShowAffordabilityResults(m_session, m_session.Screen);
+        ShowQualification(m_session, m_session.Screen);
     }
 
     Session m_session = StartedSession();
