@@ -78,7 +78,7 @@ void CurrentFile::New() {
     NewComparison(m_session, m_start, m_outside);
     m_name.clear();
     m_saved = ScreenInputs(m_session.Screen);
-    m_window.Refresh();
+    m_window.ShowAnew();
     StartEntering();
 }
 
@@ -115,7 +115,7 @@ bool CurrentFile::Load(const QString& file) {
         Tell(*fault);
         return false;
     }
-    m_window.Refresh();
+    m_window.ShowAnew();
     StartEntering();
     return true;
 }

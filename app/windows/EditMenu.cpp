@@ -5,11 +5,10 @@
 
 namespace Ledgrove {
 
-EditMenu::EditMenu(QWidget& window)
+EditMenu::EditMenu(frmMain& window)
     : QMenu("&Edit", &window)
     , m_window(window) {
-    AddCommand({"&Undo", QKeySequence::Undo, &QLineEdit::undo, &QLineEdit::isUndoAvailable});
-    AddCommand({"&Redo", QKeySequence::Redo, &QLineEdit::redo, &QLineEdit::isRedoAvailable});
+    AddHistory();
     addSeparator();
     AddCommand({"Cu&t", QKeySequence::Cut, &QLineEdit::cut,
                 [](const QLineEdit& field) { return field.hasSelectedText() && !field.isReadOnly(); }});
@@ -23,6 +22,25 @@ EditMenu::EditMenu(QWidget& window)
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* focused) { RememberField(focused); });
     RememberField(QApplication::focusWidget());
+}
+
+/// The keys reach the window when the focused field has no typing of its own to undo.
+void EditMenu::AddHistory() {
+    QAction* undo = addAction(
+        "&Undo", this, [this] { m_field && m_field->isUndoAvailable() ? m_field->undo() : m_window.Undo(); });
+    undo->setShortcut(QKeySequence("Ctrl+Z"));
+    QAction* redo = addAction(
+        "&Redo", this, [this] { m_field && m_field->isRedoAvailable() ? m_field->redo() : m_window.Redo(); });
+    redo->setShortcut(QKeySequence("Ctrl+Shift+Z"));
+    connect(this, &QMenu::aboutToShow, this, [this, undo, redo] {
+        undo->setEnabled((m_field && m_field->isUndoAvailable()) || m_window.CanUndo());
+        redo->setEnabled((m_field && m_field->isRedoAvailable()) || m_window.CanRedo());
+    });
+    // A key must not meet a state from the last time that the menu was open.
+    connect(this, &QMenu::aboutToHide, this, [undo, redo] {
+        undo->setEnabled(true);
+        redo->setEnabled(true);
+    });
 }
 
 void EditMenu::AddCommand(const Command& command) {

@@ -5,15 +5,18 @@
 #include <QPointer>
 #include <functional>
 
+#include "ui/windows/frmMain.h"
+
 namespace Ledgrove {
 
-/// Undo, cut, copy and paste for the field that had the focus before the menu opened.
+/// Undo and redo of entries, and what the field that had the focus before the menu opened can do: it undoes
+/// its own typing first.
 class EditMenu : public QMenu {
     Q_OBJECT
 
 public:
     /// The menu works on the fields of `window`.
-    explicit EditMenu(QWidget& window);
+    explicit EditMenu(frmMain& window);
 
 private:
     struct Command {
@@ -24,9 +27,10 @@ private:
     };
 
     void AddCommand(const Command& command);
+    void AddHistory();
     void RememberField(QWidget* focused);
 
-    QWidget& m_window;
+    frmMain& m_window;
     QPointer<QLineEdit> m_field;
 };
 

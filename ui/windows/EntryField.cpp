@@ -85,21 +85,45 @@ void EntryField::Refresh() {
 }
 
 bool EntryField::CommitInPlace() {
-    if (m_events.LostFocus && m_events.LostFocus() == EntryOutcome::Refused)
+    const bool wasTyped = isModified();
+    setModified(false);
+    if (m_events.LostFocus && m_events.LostFocus() == EntryOutcome::Refused) {
+        setModified(wasTyped);
         return false;
+    }
     selectAll();
     return true;
 }
 
+void EntryField::ForgetTyping() {
+    const QSignalBlocker nothingTyped(this);
+    setText(text());
+}
+
 bool EntryField::Commit(KeyCode key) {
-    if (m_events.KeyPress && m_events.KeyPress(key) == EntryOutcome::Refused)
+    const bool wasTyped = isModified();
+    setModified(false);
+    if (m_events.KeyPress && m_events.KeyPress(key) == EntryOutcome::Refused) {
+        setModified(wasTyped);
         return false;
+    }
     // A message may have opened in between. The entry is complete, so no return to it selects less than all.
     m_returns = false;
     return true;
 }
 
+/// Without typing to undo, the keys belong to the window, which undoes entries.
+bool EntryField::TakesKey(const QKeyEvent& key) const {
+    if (key.matches(QKeySequence::Undo))
+        return isUndoAvailable();
+    return !key.matches(QKeySequence::Redo) || isRedoAvailable();
+}
+
 bool EntryField::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && !TakesKey(static_cast<QKeyEvent&>(*event))) {
+        event->ignore();
+        return true;
+    }
     // Qt moves the focus on Tab before it calls keyPressEvent.
     if (event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<QKeyEvent&>(*event);

@@ -55,6 +55,12 @@ public:
     /// Returns false if the text was refused, after a message.
     bool CommitInPlace();
 
+    /// Whether the text was typed and is not committed yet.
+    bool IsBeingTyped() const { return hasFocus() && isModified(); }
+
+    /// Keeps the text; its typing can no longer be undone or redone.
+    void ForgetTyping();
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -67,6 +73,7 @@ protected:
 
 private:
     bool Commit(KeyCode key);
+    bool TakesKey(const QKeyEvent& key) const;
     void ForgetOtherEntries();
     void PasteOver();
     bool IsDrag(const QMouseEvent& event) const;

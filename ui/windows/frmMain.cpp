@@ -85,7 +85,32 @@ void frmMain::Refresh() {
     for (ChartPlace* chart : m_charts)
         chart->Refresh();
     m_hint->Refresh();
+    const auto* field = qobject_cast<EntryField*>(focusWidget());
+    if (!field || !field->IsBeingTyped())
+        m_history.Note(m_session);
     emit Refreshed();
+}
+
+void frmMain::ShowAnew() {
+    Refresh();
+    m_history.Restart(m_session);
+}
+
+void frmMain::Undo() {
+    GoThroughHistory(&EntryHistory::Undo);
+}
+
+void frmMain::Redo() {
+    GoThroughHistory(&EntryHistory::Redo);
+}
+
+void frmMain::GoThroughHistory(void (EntryHistory::*step)(Session&)) {
+    m_shows.Run([&] { (m_history.*step)(m_session); });
+    // The field must not bring back typing that is older than the step.
+    if (auto* field = qobject_cast<EntryField*>(focusWidget()))
+        field->ForgetTyping();
+    // What is typed next replaces the figure.
+    m_focus.SelectFieldText();
 }
 
 bool frmMain::CommitEntry() {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "ui/EntryHistory.h"
 #include "ui/windows/ChartPlace.h"
 #include "ui/windows/FormFocus.h"
 #include "ui/windows/HelpPrinter.h"
@@ -45,10 +46,21 @@ public:
     /// Shows the record again after code outside the window changed it.
     void Refresh();
 
+    /// Shows a record whose inputs were replaced as a whole: nothing before it can be undone.
+    void ShowAnew();
+
+    bool CanUndo() const { return m_history.CanUndo(); }
+    bool CanRedo() const { return m_history.CanRedo(); }
+
     /// Commits the text in the focused field as if the user left it. Returns false if the text was refused.
     bool CommitEntry();
 
     void PrintHelp(const QTextDocument& document, QWidget& above) override;
+
+public slots:
+    /// Takes back the last entry, or brings it again.
+    void Undo();
+    void Redo();
 
 signals:
     /// The record was shown again; any of its texts may have changed.
@@ -71,6 +83,7 @@ private:
     void ConnectCharts();
     void ConnectWelcome();
     void GoTo(const QString& control);
+    void GoThroughHistory(void (EntryHistory::*step)(Session&));
     void ConnectAction(const char* button, std::function<void()> action);
     void OpenHelp();
     void OpenHouses();
@@ -82,6 +95,7 @@ private:
     FormFocus m_focus;
     EntryContext m_context;
     MainActions m_actions;
+    EntryHistory m_history;
     std::unique_ptr<MainBinding> m_binding;
     QList<ChartPlace*> m_charts;
     WelcomeHint* m_hint = nullptr;

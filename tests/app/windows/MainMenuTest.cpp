@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -51,6 +52,9 @@ private slots:
     void commandsLeaveTheFieldFirst();
     void tabsAreChosen();
     void editCommandsWorkOnTheField();
+    void undoTakesBackTypingThenEntries();
+    void undoInTheMiddleOfAFigureDoesNotMixIt();
+    void openingAFileIsNotUndone();
     void menuBarKeepsTheSelection();
     void editCommandsAreOffWithoutAField();
     void arrowKeysStayInTheMenuBar();
@@ -153,6 +157,58 @@ void MainMenuTest::editCommandsWorkOnTheField() {
     QCOMPARE(open.State.Screen.ecStdHome.Text, std::string("72000"));
 }
 
+void MainMenuTest::undoTakesBackTypingThenEntries() {
+    OpenDesktop open;
+    // An empty field that is left becomes $0, which would be a step of its own.
+    PutBytes(open.PathOf("a.ledgrove.json"), R"({"ecIncome": 1, "ecStdHome": 200000, "ecGMHHome": 206000})");
+    open.File->OpenNamed(open.PathOf("a.ledgrove.json"));
+    open.Enter("ecStdHome", "205000");
+    open.Enter("ecStdHome", "210000");
+    // The down payment option is an entry too.
+    open.Find<QAbstractButton>("optDownPayment1").click();
+    open.Type("ecGMHHome", "3");
+    open.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(open.FieldText("ecGMHHome"), "$206,000");
+    QCOMPARE(open.State.Screen.optDownPayment, 1);
+    open.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(open.State.Screen.optDownPayment, 0);
+    open.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(open.FieldText("ecStdHome"), "$205,000");
+    open.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(open.FieldText("ecStdHome"), "$200,000");
+    emit MenuNamed(open, "Edit")->aboutToShow();
+    QVERIFY(!Command(open, "Edit", "Undo")->isEnabled());
+    emit MenuNamed(open, "Edit")->aboutToHide();
+    open.Press(Qt::Key_Z, Qt::ControlModifier);
+    for (int entry = 0; entry < 3; ++entry)
+        open.Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(open.FieldText("ecStdHome"), "$210,000");
+    QCOMPARE(open.State.Screen.optDownPayment, 1);
+    QCOMPARE(open.State.Screen.lblStdHome.Text, std::string("$210,000"));
+}
+
+void MainMenuTest::undoInTheMiddleOfAFigureDoesNotMixIt() {
+    OpenDesktop open;
+    open.Enter("ecStdHome", "200000");
+    open.Enter("ecStdHome", "210000");
+    open.Find("ecStdHome").setFocus();
+    open.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(open.FieldText("ecStdHome"), "$200,000");
+    QTest::keyClicks(&open.Find("ecStdHome"), "5");
+    QCOMPARE(open.FieldText("ecStdHome"), "5");
+}
+
+void MainMenuTest::openingAFileIsNotUndone() {
+    OpenDesktop open;
+    open.Enter("ecStdHome", "200000");
+    PutBytes(open.PathOf("a.ledgrove.json"), "{\"ecStdHome\": \"150000\"}");
+    open.Answer = SaveAnswer::Discard;
+    open.File->OpenNamed(open.PathOf("a.ledgrove.json"));
+    QCOMPARE(open.FieldText("ecStdHome"), "$150,000");
+    Command(open, "Edit", "Undo")->trigger();
+    QCOMPARE(open.FieldText("ecStdHome"), "$150,000");
+}
+
 void MainMenuTest::menuBarKeepsTheSelection() {
     OpenDesktop open;
     open.Type("ecIncome", "72000");
@@ -171,7 +227,9 @@ void MainMenuTest::editCommandsAreOffWithoutAField() {
     open.Find("chkDoTax0").setFocus();
     QMenu* menu = MenuNamed(open, "Edit");
     emit menu->aboutToShow();
-    for (const char* text : {"Undo", "Redo", "Cut", "Copy", "Paste", "Select All"})
+    // Leaving the empty field entered 0, which can be undone.
+    QVERIFY(Command(open, "Edit", "Undo")->isEnabled());
+    for (const char* text : {"Redo", "Cut", "Copy", "Paste", "Select All"})
         QVERIFY2(!Command(open, "Edit", text)->isEnabled(), text);
     QVERIFY(Command(open, "Edit", "Copy Tab as Text")->isEnabled());
 }
