@@ -6,7 +6,7 @@ import sys
 from pathlib import Path, PurePath
 
 ROOT = Path(__file__).resolve().parents[2]
-LAYERS = ("base", "engine", "settings", "ui", "reports", "app/batch", "app/files", "app/options", "app/windows")  # lowest first
+LAYERS = ("base", "engine", "settings", "insight", "ui", "reports", "app/batch", "app/files", "app/options", "app/windows")  # lowest first
 PROGRAMS = ("app/ledgrove", "app/cli", "app/report", "app/chart", "app/metafile", "app/pages")
 TOOLKIT_PROGRAMS = ("app/ledgrove", "app/report", "app/chart")
 # Libraries that are loaded at run time, each with the program that may link it directly.

@@ -1,0 +1,166 @@
+#include "insight/Conditions.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/Rounding.h"
+
+namespace Ledgrove {
+
+namespace {
+
+struct Span {
+    float Least, Most;
+};
+
+Span SpanOf(float a, float b) {
+    return {std::min(a, b), std::max(a, b)};
+}
+
+float Narrowed(double value) {
+    return static_cast<float>(value);
+}
+
+/// The span with room for `error` at both ends.
+Span Widened(const Span& span, double error) {
+    if (error == 0)
+        return span;
+    return {Narrowed(static_cast<double>(span.Least) - error),
+            Narrowed(static_cast<double>(span.Most) + error)};
+}
+
+/// The sums of two amounts that vary independently, rounded as the engine rounds a sum.
+Span SumOf(const Span& a, const Span& b) {
+    return {Narrowed(static_cast<double>(a.Least) + static_cast<double>(b.Least)),
+            Narrowed(static_cast<double>(a.Most) + static_cast<double>(b.Most))};
+}
+
+bool SameRules(const HomeDecisions& a, const HomeDecisions& b) {
+    return a.DownPayment == b.DownPayment && a.PMI == b.PMI && a.MaxPayment == b.MaxPayment &&
+           a.CaseFault == b.CaseFault && a.AffordabilityFault == b.AffordabilityFault;
+}
+
+bool SavingsPay(const Results& results) {
+    return results.GMHCase.PVSavings >= results.Scenario.CostDifference;
+}
+
+/// How far the loan may be off a straight line. Below this price single precision holds every half dollar, so
+/// a loan only rises with the price; above it the rounded down payment may rise faster than the price.
+double LoanError(const HomeCase& a, const HomeCase& b) {
+    constexpr float exactBelow = 8388608;
+    const float largest = std::max({a.Cost, b.Cost, a.DownPayment, b.DownPayment});
+    return largest < exactBelow ? 0 : std::ldexp(static_cast<double>(largest), -21);
+}
+
+/// The same for the payment on it, per month.
+double PaymentError(const HomeCase& a, const HomeCase& b) {
+    const double loanError = LoanError(a, b);
+    if (loanError == 0)
+        return 0;
+    const auto perDollar = [](const HomeCase& home) {
+        return home.LoanAmount == 0 ? 1
+                                    : std::fabs(static_cast<double>(home.MortPayment + home.PMIMonthly) /
+                                                static_cast<double>(home.LoanAmount));
+    };
+    return loanError * std::max(perDollar(a), perDollar(b));
+}
+
+std::optional<bool> Decided(bool always, bool never) {
+    if (always)
+        return true;
+    if (never)
+        return false;
+    return std::nullopt;
+}
+
+/// What the savings add to the largest loan.
+float AddedLoan(const HomeDecisions& decided, const Results& results) {
+    switch (decided.MaxLoan) {
+    case LoanRule::WithSavings:
+        return results.GMHCase.PVSavings;
+    case LoanRule::WithAllowance:
+        return results.Scenario.EEMAllowance;
+    case LoanRule::None:
+    case LoanRule::FromPayment:
+        break;
+    }
+    return 0;
+}
+
+/// The largest loans between two results: the loan from the payment and what the savings add may move in
+/// opposite directions.
+Span MaxLoanSpan(const HomeCase& a, const HomeCase& b, float addedA, float addedB) {
+    if (addedA == addedB)
+        return SpanOf(a.MaxLoan, b.MaxLoan);
+    const float plainA = a.MaxLoan - addedA;
+    const float plainB = b.MaxLoan - addedB;
+    if ((plainA <= plainB) == (addedA <= addedB))
+        return SpanOf(a.MaxLoan, b.MaxLoan);
+    const double rounding =
+        std::ldexp(static_cast<double>(std::max(std::fabs(a.MaxLoan), std::fabs(b.MaxLoan))) + 8000, -21);
+    return Widened(SumOf(SpanOf(plainA, plainB), SpanOf(addedA, addedB)), rounding);
+}
+
+} // namespace
+
+bool NetCondition::Holds(const Results& results) const {
+    return (m_withTaxes ? results.Scenario.NetMonthlyCashFlow : results.Scenario.NetBeforeTax) >= 0;
+}
+
+std::optional<bool> NetCondition::Throughout(const Results& a, const Results& b) const {
+    if (!SameRules(a.Decisions.GMH, b.Decisions.GMH) ||
+        a.Decisions.CashFlowFault != b.Decisions.CashFlowFault)
+        return std::nullopt;
+    const double error = PaymentError(a.GMHCase, b.GMHCase);
+    Span net = Widened(SpanOf(a.Scenario.NetBeforeTax, b.Scenario.NetBeforeTax), error);
+    if (m_withTaxes)
+        net = SumOf(net, Widened(SpanOf(a.Scenario.TaxSavings, b.Scenario.TaxSavings), error));
+    return Decided(net.Least >= 0, net.Most < 0);
+}
+
+AnswerEdge NetCondition::EdgeBetween(const Results& a, const Results& b) const {
+    return a.Decisions.GMH.DownPayment == b.Decisions.GMH.DownPayment ? AnswerEdge::None
+                                                                      : AnswerEdge::SavingsWorth;
+}
+
+bool SavingsCondition::Holds(const Results& results) const {
+    return SavingsPay(results);
+}
+
+std::optional<bool> SavingsCondition::Throughout(const Results& a, const Results& b) const {
+    if (a.Decisions.GMH.CaseFault != b.Decisions.GMH.CaseFault)
+        return std::nullopt;
+    const Span savings = SpanOf(a.GMHCase.PVSavings, b.GMHCase.PVSavings);
+    const Span upgrade = SpanOf(a.Scenario.CostDifference, b.Scenario.CostDifference);
+    return Decided(savings.Least >= upgrade.Most, savings.Most < upgrade.Least);
+}
+
+bool QualifiesCondition::Holds(const Results& results) const {
+    return m_home == HomeCode::GMH ? results.GMHQualifies : results.StdQualifies;
+}
+
+std::optional<bool> QualifiesCondition::Throughout(const Results& a, const Results& b) const {
+    const HomeCase& homeA = a.Home(m_home);
+    const HomeCase& homeB = b.Home(m_home);
+    // With a negative ratio the payment rises and then falls with the income.
+    const bool oddRatios = homeA.FrontRatio < 0 || homeA.BackRatio < 0;
+    if (oddRatios || !SameRules(Decided(a), Decided(b)))
+        return std::nullopt;
+    const double error = LoanError(homeA, homeB);
+    const Span loan = Widened(SpanOf(homeA.LoanAmount, homeB.LoanAmount), error);
+    const Span largest =
+        Widened(MaxLoanSpan(homeA, homeB, AddedLoan(Decided(a), a), AddedLoan(Decided(b), b)), error);
+    using Module1::ShownDollars;
+    return Ledgrove::Decided(ShownDollars(loan.Most) < ShownDollars(largest.Least),
+                             ShownDollars(loan.Least) >= ShownDollars(largest.Most));
+}
+
+AnswerEdge QualifiesCondition::EdgeBetween(const Results& a, const Results& b) const {
+    if (Decided(a).PMI != Decided(b).PMI)
+        return AnswerEdge::PMIBand;
+    return m_home == HomeCode::GMH && Decided(a).MaxPayment != Decided(b).MaxPayment
+               ? AnswerEdge::SavingsWorth
+               : AnswerEdge::None;
+}
+
+} // namespace Ledgrove
