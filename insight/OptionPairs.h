@@ -1,0 +1,30 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "engine/Inputs.h"
+#include "engine/MainScreen.h"
+#include "engine/Results.h"
+
+// The pairs of mortgage options that the lists allow.
+namespace Ledgrove {
+
+struct OptionPair {
+    PickItem Base;
+    PickItem Labelled;
+};
+
+/// Each base option with each labelled option of its list, in the order of the lists.
+std::span<const OptionPair> OptionPairs();
+
+/// The inputs with other options.
+Inputs WithOptions(Inputs inputs, const OptionPair& pair);
+
+/// Why the monthly costs of a home are unknown with this pair; empty if they are known.
+std::string HomeFault(const Results& results, const OptionPair& pair, HomeCode home);
+
+/// The same for the first of both homes at fault.
+std::string PairFault(const Results& results, const OptionPair& pair);
+
+} // namespace Ledgrove

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A view's answers as a table with sentences, once for every output: the window, the command line's text, the
+// clipboard, CSV and the report.
+namespace Ledgrove {
+
+enum class CellUnit : std::uint8_t { Text, Dollars, DollarsPerMonth, Percent, Years };
+
+/// What the window and the report point out about a cell.
+enum class CellMark : std::uint8_t {
+    None,
+    Best,    ///< the best of its column
+    Current, ///< what is chosen now
+    Bad,     ///< below 0, or does not qualify
+    Idle     ///< does not move the result
+};
+
+struct SheetCell {
+    std::string Text;
+    std::optional<double> Number = std::nullopt; ///< for spreadsheets; empty where the text is not a number
+    CellUnit Unit = CellUnit::Text;
+    CellMark Mark = CellMark::None;
+};
+
+struct Sheet {
+    std::string_view Title;
+    std::string Sentence;           ///< the answer in words; may be several sentences
+    std::vector<std::string> Heads; ///< of the columns
+    std::vector<std::vector<SheetCell>> Rows;
+};
+
+/// A text cell.
+SheetCell TextCell(std::string text, CellMark mark = CellMark::None);
+
+/// An amount in whole dollars, marked Bad below 0: "$1,234", "-$12".
+SheetCell DollarCell(double amount, CellUnit unit = CellUnit::Dollars);
+
+/// "$1,234" as in a field.
+std::string DollarText(double amount);
+
+} // namespace Ledgrove
