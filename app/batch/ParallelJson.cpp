@@ -17,22 +17,44 @@ constexpr std::size_t resultSize = pieceLines * 8 * 1024;
 /// heap of the thread, and the rest is for later allocations of all threads.
 constexpr std::size_t spareSize = std::size_t{96} * 1024 * 1024;
 
+class CompareLines : public LineWork {
+public:
+    CompareLines(const Session& start, const JsonOptions& options)
+        : m_comparison(start)
+        , m_line(m_comparison, options) {
+        m_comparison.Show(LabelsFor(options.Only));
+    }
+    void Append(std::string& out, const InputLine& line, Tally& tally) override {
+        m_line.Append(out, line, tally);
+    }
+
+private:
+    Comparison m_comparison;
+    JsonLine m_line;
+};
+
 } // namespace
 
-bool PieceWorker::Work(PieceQueue& queue, OutputBuffer& output) {
+MakeLineWork CompareWork(const Session& start, JsonOptions options) {
+    return [&start, options = std::move(options)] { return std::make_unique<CompareLines>(start, options); };
+}
+
+bool WorkOnPiece(LineWork& work, PieceQueue& queue, OutputBuffer& output) {
     Piece* const piece = queue.Take();
     if (piece == nullptr)
         return false;
     for (std::size_t i = 0; i < piece->Lines.size(); ++i)
-        m_lines.Append(piece->Result, piece->LineAt(i), piece->Outcome);
+        work.Append(piece->Result, piece->LineAt(i), piece->Outcome);
     queue.Finish(*piece, output);
     return true;
 }
 
-ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs, JsonOptions options)
-    : m_start(start)
-    , m_options(std::move(options))
+ParallelJsonReader::ParallelJsonReader(MakeLineWork makeWork, int jobs)
+    : m_makeWork(std::move(makeWork))
     , m_mostThreads(static_cast<std::size_t>(jobs)) {}
+
+ParallelJsonReader::ParallelJsonReader(const Session& start, int jobs, JsonOptions options)
+    : ParallelJsonReader(CompareWork(start, std::move(options)), jobs) {}
 
 void ParallelJsonReader::StartThread(OutputBuffer& output) {
     try {
@@ -40,8 +62,8 @@ void ParallelJsonReader::StartThread(OutputBuffer& output) {
         // thread.
         m_spare = std::make_unique_for_overwrite<char[]>(spareSize);
         m_queue.Add(2, resultSize); // one in work and one waiting
-        m_threads.emplace_back([this, &output, worker = std::make_unique<PieceWorker>(m_start, m_options)] {
-            while (worker->Work(m_queue, output)) {
+        m_threads.emplace_back([this, &output, work = m_makeWork()] {
+            while (WorkOnPiece(*work, m_queue, output)) {
             }
         });
     } catch (const std::system_error&) {
@@ -62,8 +84,8 @@ void ParallelJsonReader::HandOut(OutputBuffer& output) {
     m_queue.HandOut();
     if (m_threads.empty()) {
         if (!m_own)
-            m_own.emplace(m_start, m_options);
-        m_own->Work(m_queue, output);
+            m_own = m_makeWork();
+        WorkOnPiece(*m_own, m_queue, output);
     }
     m_queue.WaitForRoom();
 }

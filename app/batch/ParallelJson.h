@@ -1,7 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
-#include <optional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -11,33 +12,37 @@
 
 namespace Ledgrove {
 
-/// Compares pieces of a queue in one thread. Each worker has its own state, so comparisons share nothing.
-class PieceWorker {
+/// Answers lines in one thread, with a state of its own.
+class LineWork {
 public:
-    PieceWorker(const Session& start, const JsonOptions& options)
-        : m_comparison(start)
-        , m_lines(m_comparison, options) {
-        m_comparison.Show(LabelsFor(options.Only));
-    }
-    PieceWorker(const PieceWorker&) = delete;
-    PieceWorker& operator=(const PieceWorker&) = delete;
+    LineWork() = default;
+    virtual ~LineWork() = default;
+    LineWork(const LineWork&) = delete;
+    LineWork& operator=(const LineWork&) = delete;
 
-    /// Waits for the next piece, compares its lines and finishes it. Returns false when no more pieces will
-    /// come.
-    bool Work(PieceQueue& queue, OutputBuffer& output);
-
-private:
-    Comparison m_comparison;
-    JsonLine m_lines;
+    /// Appends the answer to a line and counts it.
+    virtual void Append(std::string& out, const InputLine& line, Tally& tally) = 0;
 };
 
-/// Compares JSON lines in several threads. The results keep the order of the lines, memory use does not grow
+/// Makes the state of a further thread.
+using MakeLineWork = std::function<std::unique_ptr<LineWork>()>;
+
+/// The work of `compare`. `start` must outlive it.
+MakeLineWork CompareWork(const Session& start, JsonOptions options);
+
+/// Answers the lines of the next piece of the queue and finishes it. Returns false when no more pieces will
+/// come.
+bool WorkOnPiece(LineWork& work, PieceQueue& queue, OutputBuffer& output);
+
+/// Answers JSON lines in several threads. The results keep the order of the lines, memory use does not grow
 /// with the input, and a program that waits for each answer gets it immediately, as with one thread. If the
 /// system provides fewer threads, those do the work; if it provides none, the calling thread does.
 class ParallelJsonReader : public ComparisonReader {
 public:
-    /// Every comparison starts from `start`, a session after LoadMainScreen, which must outlive this object.
     /// `jobs` is the number of threads, at least 1.
+    ParallelJsonReader(MakeLineWork makeWork, int jobs);
+    /// For `compare`. Every comparison starts from `start`, a session after LoadMainScreen, which must
+    /// outlive this object.
     ParallelJsonReader(const Session& start, int jobs, JsonOptions options = {});
 
     Tally Read(LineReader& lines, OutputBuffer& output) override;
@@ -48,12 +53,11 @@ private:
     void HandOut(OutputBuffer& output);
     void StartThread(OutputBuffer& output);
 
-    const Session& m_start;
-    JsonOptions m_options;
+    MakeLineWork m_makeWork;
     std::size_t m_mostThreads;
     PieceQueue m_queue;
-    std::optional<PieceWorker> m_own; ///< used if there are no threads
-    std::unique_ptr<char[]> m_spare;  ///< released after a thread has started
+    std::unique_ptr<LineWork> m_own; ///< used if there are no threads
+    std::unique_ptr<char[]> m_spare; ///< released after a thread has started
     std::vector<std::jthread> m_threads;
 };
 
