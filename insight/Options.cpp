@@ -22,10 +22,10 @@ OptionHome HomeOf(const Results& results, HomeCode home) {
     return result;
 }
 
-OptionRow RowOf(const Insight& insight, const OptionPair& pair) {
+OptionAnswer RowOf(const Insight& insight, const OptionPair& pair) {
     const Inputs inputs = WithOptions(insight.Now(), pair);
     const Results results = insight.At(inputs);
-    OptionRow row;
+    OptionAnswer row;
     row.Base = pair.Base.Text;
     row.Labelled = pair.Labelled.Text;
     row.Missing = PairFault(results, pair);
@@ -47,7 +47,7 @@ void FindBaseIncomes(const Insight& insight, OptionTable& table) {
     std::map<std::string_view, std::optional<Step>> found;
     const auto pairs = OptionPairs();
     for (std::size_t i = 0; i < table.Rows.size(); ++i) {
-        OptionRow& row = table.Rows[i];
+        OptionAnswer& row = table.Rows[i];
         if (!row.Missing.empty())
             continue;
         if (!found.contains(row.Base))
@@ -59,8 +59,8 @@ void FindBaseIncomes(const Insight& insight, OptionTable& table) {
 
 /// The first row of each group has its plain option.
 void FindLoanGains(OptionTable& table) {
-    const OptionRow* plain = nullptr;
-    for (OptionRow& row : table.Rows) {
+    const OptionAnswer* plain = nullptr;
+    for (OptionAnswer& row : table.Rows) {
         if (row.Base == row.Labelled)
             plain = &row;
         if (row.Missing.empty() && plain && plain->Missing.empty())
@@ -70,7 +70,7 @@ void FindLoanGains(OptionTable& table) {
 }
 
 /// The figure that competes, so that more is better; empty if the row does not compete.
-std::optional<double> Merit(const OptionRow& row, BestIn column) {
+std::optional<double> Merit(const OptionAnswer& row, BestIn column) {
     if (!row.Missing.empty())
         return std::nullopt;
     switch (column) {
@@ -93,17 +93,17 @@ std::optional<double> Merit(const OptionRow& row, BestIn column) {
 /// std::nullopt is less than every figure.
 std::optional<double> BestMerit(const OptionTable& table, BestIn column) {
     std::optional<double> best;
-    for (const OptionRow& row : table.Rows)
+    for (const OptionAnswer& row : table.Rows)
         best = std::max(best, Merit(row, column));
     return best;
 }
 
 void MarkBest(OptionTable& table, BestIn column) {
     const auto best = BestMerit(table, column);
-    const auto isBest = [&](const OptionRow& row) { return best && Merit(row, column) == best; };
+    const auto isBest = [&](const OptionAnswer& row) { return best && Merit(row, column) == best; };
     if (std::count_if(table.Rows.begin(), table.Rows.end(), isBest) >= tooManyBest)
         return;
-    for (OptionRow& row : table.Rows) {
+    for (OptionAnswer& row : table.Rows) {
         if (isBest(row))
             row.Best.push_back(column);
     }
@@ -111,7 +111,7 @@ void MarkBest(OptionTable& table, BestIn column) {
 
 bool PaymentsTie(const OptionTable& table) {
     std::vector<double> payments;
-    for (const OptionRow& row : table.Rows) {
+    for (const OptionAnswer& row : table.Rows) {
         if (const auto payment = Merit(row, BestIn::Payment))
             payments.push_back(*payment);
     }

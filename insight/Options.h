@@ -25,7 +25,7 @@ enum class BestIn : std::uint8_t { Payment, Cash, Room, Net, Income };
 
 inline constexpr std::array<std::string_view, 5> BestNames{"payment", "cash", "room", "net", "income"};
 
-struct OptionRow {
+struct OptionAnswer {
     std::string_view Base;
     std::string_view Labelled;
     std::string Missing; ///< why the pair has no figures; empty if it has
@@ -40,7 +40,7 @@ struct OptionRow {
 };
 
 struct OptionTable {
-    std::vector<OptionRow> Rows;
+    std::vector<OptionAnswer> Rows;
     int Current = -1;     ///< the index of the pair that is chosen now
     std::string Sentence; ///< what the payments leave out, and where they tie
 };

@@ -1,0 +1,96 @@
+#include "insight/AnswerWords.h"
+
+#include <cmath>
+
+#include "engine/NumberText.h"
+
+namespace Ledgrove {
+
+namespace {
+
+bool IsPercent(const Answer& answer) {
+    return answer.Input == "ecPctDown" || answer.Input.ends_with("Rate");
+}
+
+bool IsTerm(const Answer& answer) {
+    return answer.Input == "cboMortTerm";
+}
+
+std::string_view EdgeOfBand(PMIBand beyond) {
+    switch (beyond) {
+    case PMIBand::Below5:
+        return "5%";
+    case PMIBand::Below10:
+        return "10%";
+    case PMIBand::Below15:
+        return "15%";
+    case PMIBand::Below20:
+        return "20%";
+    case PMIBand::None:
+    case PMIBand::NoPMI:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+CellUnit UnitOf(const Answer& answer) {
+    if (IsTerm(answer))
+        return CellUnit::Years;
+    return IsPercent(answer) ? CellUnit::Percent : CellUnit::Dollars;
+}
+
+std::string ChangeSize(const Answer& answer) {
+    if (!answer.Change)
+        return {};
+    const double size = std::fabs(*answer.Change);
+    if (IsTerm(answer))
+        return Module1::FormatPicture(size, "#0") + " years";
+    if (!IsPercent(answer))
+        return DollarText(size);
+    return Module1::FormatPicture(size, answer.Input == "ecPctDown" ? "#0.00" : "#0.000") + " points";
+}
+
+std::string_view ChangeWord(const Answer& answer) {
+    const bool more = answer.Change.value_or(0) > 0;
+    if (IsTerm(answer))
+        return more ? "longer" : "shorter";
+    return more ? "more" : "less";
+}
+
+SheetCell AnswerCell(const std::optional<Answer>& answer) {
+    if (!answer)
+        return TextCell("does not count");
+    if (!answer->To)
+        return TextCell(answer->Input.ends_with("Util") ? "not even $0 would do" : "does not help");
+    SheetCell cell{*answer->To, answer->ToValue, UnitOf(*answer), CellMark::None};
+    if (cell.Text.empty())
+        cell.Text = "$0";
+    if (answer->State == AnswerState::Always)
+        cell.Text += " and beyond";
+    return cell;
+}
+
+SheetCell ChangeCell(const std::optional<Answer>& answer) {
+    if (!answer || !answer->Change)
+        return {};
+    const double change = *answer->Change;
+    const std::string sign = change > 0 ? "+" : (change < 0 ? "-" : "");
+    return {sign + ChangeSize(*answer), change, UnitOf(*answer), CellMark::None};
+}
+
+std::string EdgeSentence(const Answer& answer) {
+    if (answer.Kind != AnswerKind::Limit || answer.State != AnswerState::Found)
+        return {};
+    if (answer.Edge == AnswerEdge::SavingsWorth)
+        return "One step further the energy savings are no longer worth the upgrade, and the loan counts "
+               "without them.";
+    const std::string_view edge = EdgeOfBand(answer.Beyond);
+    if (answer.Edge != AnswerEdge::PMIBand || edge.empty())
+        return {};
+    return "One step further puts the down payment below " + std::string(edge) +
+           ", where mortgage insurance costs more.";
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "insight/Answer.h"
+#include "insight/Sheet.h"
+
+// Limits and nearests in the words of a buyer.
+namespace Ledgrove {
+
+/// The unit of the field that the answer is about.
+CellUnit UnitOf(const Answer& answer);
+
+/// The change without its sign: "$6,660", "0.277 points", "5 years"; empty without a change.
+std::string ChangeSize(const Answer& answer);
+
+/// "more" or "less", "longer" or "shorter".
+std::string_view ChangeWord(const Answer& answer);
+
+/// The value that the answer arrives at, as a cell: "up to $214,300", "from $93,077", "does not help"; "does
+/// not count" without an answer.
+SheetCell AnswerCell(const std::optional<Answer>& answer);
+
+/// The change with its sign, as a cell: "+$6,660"; empty without a change.
+SheetCell ChangeCell(const std::optional<Answer>& answer);
+
+/// Why a limit stops at an edge, as a sentence; empty if it does not.
+std::string EdgeSentence(const Answer& answer);
+
+} // namespace Ledgrove

@@ -1,0 +1,57 @@
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "insight/Options.h"
+
+namespace Ledgrove {
+
+namespace {
+
+SheetCell Best(SheetCell cell, const OptionAnswer& row, BestIn column) {
+    if (std::find(row.Best.begin(), row.Best.end(), column) != row.Best.end())
+        cell.Mark = CellMark::Best;
+    return cell;
+}
+
+std::vector<SheetCell> FigureCells(const OptionAnswer& row) {
+    const auto dollars = [](float amount, CellUnit unit = CellUnit::Dollars) {
+        return DollarCell(static_cast<double>(amount), unit);
+    };
+    const HomeCase& home = row.GMH.Figures;
+    const auto income = row.GMH.IncomeToQualify;
+    return {TextCell(row.GMH.Qualifies ? "YES" : "*NO", row.GMH.Qualifies ? CellMark::None : CellMark::Bad),
+            Best(income ? DollarCell(static_cast<double>(*income)) : TextCell("none"), row, BestIn::Income),
+            Best(dollars(home.DownPayment), row, BestIn::Cash),
+            dollars(home.LoanAmount),
+            Best(dollars(home.PITIU, CellUnit::DollarsPerMonth), row, BestIn::Payment),
+            Best(dollars(row.ShownNet, CellUnit::DollarsPerMonth), row, BestIn::Net),
+            Best(DollarCell(row.GMH.Margin), row, BestIn::Room),
+            row.LoanGain ? DollarCell(*row.LoanGain) : SheetCell()};
+}
+
+} // namespace
+
+Sheet OptionsSheet(const OptionTable& options) {
+    Sheet sheet;
+    sheet.Title = "Mortgage options";
+    sheet.Sentence = options.Sentence;
+    sheet.Heads = {"Base / GREENMARK", "Qualifies",   "Income", "Down Payment", "Mortgage",
+                   "Monthly Cost",     "Monthly Net", "Room",   "Larger Loan"};
+    for (const OptionAnswer& row : options.Rows) {
+        const bool isCurrent = &row - options.Rows.data() == options.Current;
+        std::vector<SheetCell> cells{TextCell(std::string(row.Base) + " / " + std::string(row.Labelled),
+                                              isCurrent ? CellMark::Current : CellMark::None)};
+        if (row.Missing.empty()) {
+            auto figures = FigureCells(row);
+            std::move(figures.begin(), figures.end(), std::back_inserter(cells));
+        } else {
+            cells.push_back(TextCell(row.Missing));
+            cells.resize(sheet.Heads.size());
+        }
+        sheet.Rows.push_back(std::move(cells));
+    }
+    return sheet;
+}
+
+} // namespace Ledgrove

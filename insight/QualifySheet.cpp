@@ -1,0 +1,104 @@
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "insight/AnswerWords.h"
+#include "insight/Qualify.h"
+
+namespace Ledgrove {
+
+namespace {
+
+struct QuestionRow {
+    const char* Caption;
+    std::optional<Answer> HomeQualification::*Member;
+};
+
+constexpr std::array<QuestionRow, 7> questions{{{"Annual income", &HomeQualification::Income},
+                                                {"Monthly debt", &HomeQualification::Debt},
+                                                {"Down payment", &HomeQualification::Down},
+                                                {"Price", &HomeQualification::Price},
+                                                {"Annual utility cost", &HomeQualification::Bill},
+                                                {"Interest rate", &HomeQualification::Rate},
+                                                {"Term", &HomeQualification::Term}}};
+
+SheetCell QualifiesCell(bool qualifies) {
+    return TextCell(qualifies ? "YES" : "*NO", qualifies ? CellMark::None : CellMark::Bad);
+}
+
+/// "at least $93,077 (-$1,923)" for a limit, "needs $113,761 (+$1,761)" for a nearest.
+SheetCell QuestionCell(const std::optional<Answer>& answer) {
+    SheetCell cell = AnswerCell(answer);
+    if (!answer || !answer->To)
+        return cell;
+    if (answer->Kind == AnswerKind::Nearest)
+        cell.Text = "needs " + cell.Text;
+    const std::string change = ChangeCell(answer).Text;
+    if (*answer->Change != 0)
+        cell.Text += " (" + change + ")";
+    return cell;
+}
+
+std::string RoomSentence(const char* home, const HomeQualification& own) {
+    std::string sentence = std::string("The buyer ");
+    if (own.Qualifies)
+        return sentence + "qualifies for the " + home + ", with room for " + DollarText(own.Margin) +
+               " more loan.";
+    sentence += std::string("does not qualify for the ") + home;
+    if (own.Margin < 0)
+        sentence += ": the loan is " + DollarText(-own.Margin) + " too large";
+    if (own.Income && own.Income->To)
+        sentence += (own.Margin < 0 ? "; an" : ": an") + std::string(" income of ") + *own.Income->To +
+                    " a year would do";
+    return sentence + ".";
+}
+
+/// The first answer of the home that stops at an edge.
+std::string HomeEdge(const char* home, const HomeQualification& own) {
+    for (const QuestionRow& question : questions) {
+        const auto& answer = own.*question.Member;
+        if (!answer)
+            continue;
+        if (const std::string edge = EdgeSentence(*answer); !edge.empty())
+            return std::string(" ") + home + ", " + question.Caption + ": " + edge;
+    }
+    return {};
+}
+
+void AddOptions(Sheet& sheet, const std::vector<OtherOption>& options, bool labelled) {
+    for (const OtherOption& option : options) {
+        std::string caption = "With " + std::string(option.Base);
+        if (labelled)
+            caption += " / " + std::string(option.Labelled);
+        SheetCell cell = option.Missing.empty() ? QualifiesCell(option.Qualifies) : TextCell(option.Missing);
+        std::vector<SheetCell> row{TextCell(std::move(caption)), {}, {}};
+        row[labelled ? 2 : 1] = std::move(cell);
+        sheet.Rows.push_back(std::move(row));
+    }
+}
+
+} // namespace
+
+Sheet QualifySheet(const Qualification& qualification) {
+    const HomeQualification& base = qualification.Std;
+    const HomeQualification& labelled = qualification.GMH;
+    Sheet sheet;
+    sheet.Title = "Who qualifies";
+    sheet.Sentence = RoomSentence("base home", base) + " " + RoomSentence("GREENMARK home", labelled) +
+                     HomeEdge("Base home", base) + HomeEdge("GREENMARK home", labelled);
+    sheet.Heads = {"Buyer Qualifies", "Base Home", "GREENMARK Home"};
+    sheet.Rows.push_back({TextCell("Now"), QualifiesCell(base.Qualifies), QualifiesCell(labelled.Qualifies)});
+    sheet.Rows.push_back(
+        {TextCell("Room for a larger loan"), DollarCell(base.Margin), DollarCell(labelled.Margin)});
+    for (const QuestionRow& question : questions) {
+        const bool ofBase = question.Member != &HomeQualification::Bill;
+        sheet.Rows.push_back({TextCell(question.Caption),
+                              ofBase ? QuestionCell(base.*question.Member) : SheetCell(),
+                              QuestionCell(labelled.*question.Member)});
+    }
+    AddOptions(sheet, base.Options, false);
+    AddOptions(sheet, labelled.Options, true);
+    return sheet;
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,36 @@
+#include "insight/Views.h"
+
+namespace Ledgrove {
+
+namespace {
+
+template <typename View, typename Compute>
+const View& Once(std::optional<View>& view, Compute compute) {
+    if (!view)
+        view.emplace(compute());
+    return *view;
+}
+
+} // namespace
+
+const Breakeven& InsightViews::BreakevenView() {
+    return Once(m_breakeven, [this] { return ComputeBreakeven(m_insight); });
+}
+
+const Qualification& InsightViews::QualifyView() {
+    return Once(m_qualify, [this] { return ComputeQualification(m_insight); });
+}
+
+const OptionTable& InsightViews::OptionsView() {
+    return Once(m_options, [this] { return ComputeOptions(m_insight); });
+}
+
+const Sensitivity& InsightViews::SensitivityView() {
+    return Once(m_sensitivity, [this] { return ComputeSensitivity(m_insight, m_by); });
+}
+
+const NetMap& InsightViews::MapView() {
+    return Once(m_map, [this] { return ComputeMap(m_insight, BreakevenView()); });
+}
+
+} // namespace Ledgrove
