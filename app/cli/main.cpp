@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/batch/CompareCommand.h"
+#include "app/batch/InsightCommand.h"
 #include "app/batch/SettingsCommand.h"
 #include "app/cli/CommandWords.h"
 #include "app/options/CommandLine.h"
@@ -110,6 +111,16 @@ std::string ChoiceFault(const CLI::App& compare, const CompareRequest& request) 
     return {};
 }
 
+CLI::App* AddInsight(CLI::App& app, std::string& folder, InsightCommand& insight, std::string& file) {
+    CLI::App* const added = AddCommand(app, "insight", "ledgrove-cli insight");
+    CommandOptions options(*added, "ledgrove-cli insight", folder);
+    options.Read("--format", [&](const std::string& name) { return insight.ReadFormat(name, UnknownWord); });
+    options.Read("--view", [&](const std::string& list) { return insight.ReadViews(list, UnknownWord); });
+    options.Read("--by", [&](const std::string& percent) { return insight.ReadBy(percent); });
+    options.Take("FILE", file);
+    return added;
+}
+
 struct SettingsActions {
     CLI::App* Get;
     CLI::App* Set;
@@ -159,6 +170,9 @@ int main(int argc, char** argv) {
     SettingsRequest setting;
     CompareRequest request;
     const CLI::App* compare = AddCompare(app, folder, request);
+    InsightCommand insight;
+    std::string insightFile = "-";
+    const CLI::App* const answers = AddInsight(app, folder, insight, insightFile);
     AddCommand(app, "report", "ledgrove-cli report");
     AddCommand(app, "chart", "ledgrove-cli chart");
     const SettingsActions settings = AddSettings(app, folder, setting);
@@ -168,6 +182,8 @@ int main(int argc, char** argv) {
         const std::string fault = ChoiceFault(*compare, request);
         return fault.empty() ? Compare(folder, request) : Complain(fault, CannotRun);
     }
+    if (*answers)
+        return insight.Run(folder, insightFile);
     if (*settings.Get)
         return PrintSetting(folder, setting.Key);
     if (*settings.Set)

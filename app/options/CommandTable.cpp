@@ -31,6 +31,18 @@ constexpr std::array compareOptions{
     OptionRow{"FILE", Value::File, "", "Files with the inputs; standard input if none or \"-\"", false, true},
 };
 
+constexpr std::array insightOptions{
+    OptionRow{
+        "--format", Value::Choice, "text|json|jsonl",
+        "text (default): sentences and tables; json: one object; jsonl: one object per line in and out"},
+    OptionRow{
+        "--view", Value::Text, "LIST",
+        "Some of breakeven, options, qualify, sensitivity, map, separated by commas (default: all but map)"},
+    OptionRow{"--by", Value::Text, "PERCENT",
+              "How far sensitivity moves each input, above 0 and at most 100 (default: 10)"},
+    oneInput,
+};
+
 constexpr std::array reportOptions{
     OptionRow{"--output", Value::Output, "OUT.pdf", "The PDF to write, *.pdf; \"-\" is standard output",
               true},
@@ -75,6 +87,9 @@ constexpr std::array commands{
                "ledgrove-cli compare home.ledgrove.json"},
     CommandRow{"ledgrove-cli compare", "Compare homes: one comparison, a stream of them or a price list",
                compareOptions, "ledgrove-cli compare --format csv prices.csv > results.csv"},
+    CommandRow{"ledgrove-cli insight",
+               "Answer the questions behind a comparison: how far it pays and who qualifies", insightOptions,
+               "ledgrove-cli insight --view breakeven,qualify home.ledgrove.json"},
     CommandRow{"ledgrove-cli report", "Write the report of a comparison as PDF", reportOptions,
                "ledgrove-cli report --output comparison.pdf --buyer \"Pat Doe\" home.ledgrove.json"},
     CommandRow{"ledgrove-cli chart", "Write a chart of a comparison as a picture", chartOptions,

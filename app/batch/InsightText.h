@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "insight/Sheet.h"
+
+namespace Ledgrove {
+
+/// Appends a sheet for people: its sentence, then its table in aligned columns.
+void AppendSheetText(std::string& out, const Sheet& sheet);
+
+} // namespace Ledgrove

@@ -1,0 +1,53 @@
+#include "app/batch/InsightViewTable.h"
+
+#include <array>
+
+#include "app/batch/InsightJson.h"
+
+namespace Ledgrove {
+
+namespace {
+
+using Views = InsightViews;
+using Writer = Json::Writer;
+
+const std::array table{
+    InsightView{"breakeven", true,
+                [](Writer& json, Views& views) { Json::WriteBreakeven(json, views.BreakevenView()); },
+                [](Views& views) { return BreakevenSheet(views.Of(), views.BreakevenView()); }},
+    InsightView{"options", true,
+                [](Writer& json, Views& views) { Json::WriteOptions(json, views.OptionsView()); },
+                [](Views& views) { return OptionsSheet(views.OptionsView()); }},
+    InsightView{"qualify", true,
+                [](Writer& json, Views& views) { Json::WriteQualify(json, views.QualifyView()); },
+                [](Views& views) { return QualifySheet(views.QualifyView()); }},
+    InsightView{"sensitivity", true,
+                [](Writer& json, Views& views) { Json::WriteSensitivity(json, views.SensitivityView()); },
+                [](Views& views) { return SensitivitySheet(views.Of(), views.SensitivityView()); }},
+    InsightView{"map", false, [](Writer& json, Views& views) { Json::WriteMap(json, views.MapView()); },
+                [](Views& views) { return MapSheet(views.MapView()); }},
+};
+
+} // namespace
+
+std::span<const InsightView> InsightViewTable() {
+    return table;
+}
+
+std::vector<std::string> InsightViewNames() {
+    std::vector<std::string> names;
+    for (const InsightView& view : table)
+        names.emplace_back(view.Name);
+    return names;
+}
+
+ChosenViews DefaultViews() {
+    ChosenViews chosen;
+    for (const InsightView& view : table) {
+        if (view.ByDefault)
+            chosen.push_back(&view);
+    }
+    return chosen;
+}
+
+} // namespace Ledgrove
