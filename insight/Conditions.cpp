@@ -44,25 +44,24 @@ bool SavingsPay(const Results& results) {
     return results.GMHCase.PVSavings >= results.Scenario.CostDifference;
 }
 
-/// How far the loan may be off a straight line. Below this price single precision holds every half dollar, so
-/// a loan only rises with the price; above it the rounded down payment may rise faster than the price.
+/// How far the loan may stand from where it would only rise or only fall with the price. A down payment of
+/// more than the price is the only one that is rounded more coarsely than the price.
 double LoanError(const HomeCase& a, const HomeCase& b) {
-    constexpr float exactBelow = 8388608;
-    const float largest = std::max({a.Cost, b.Cost, a.DownPayment, b.DownPayment});
-    return largest < exactBelow ? 0 : std::ldexp(static_cast<double>(largest), -21);
+    constexpr float exactBelow = 8388608; // single precision holds every half dollar
+    const float largest = std::max(a.DownPayment, b.DownPayment);
+    const bool exceedsPrice = a.DownPayment > a.Cost || b.DownPayment > b.Cost;
+    return exceedsPrice && largest >= exactBelow ? std::ldexp(static_cast<double>(largest), -23) : 0;
 }
 
 /// The same for the payment on it, per month.
 double PaymentError(const HomeCase& a, const HomeCase& b) {
-    const double loanError = LoanError(a, b);
-    if (loanError == 0)
-        return 0;
     const auto perDollar = [](const HomeCase& home) {
-        return home.LoanAmount == 0 ? 1
+        return home.LoanAmount == 0 ? 0
                                     : std::fabs(static_cast<double>(home.MortPayment + home.PMIMonthly) /
                                                 static_cast<double>(home.LoanAmount));
     };
-    return loanError * std::max(perDollar(a), perDollar(b));
+    const double loanError = LoanError(a, b);
+    return loanError == 0 ? 0 : loanError * std::max(perDollar(a), perDollar(b));
 }
 
 std::optional<bool> Decided(bool always, bool never) {

@@ -46,7 +46,37 @@ inline void PutPriceAtSavings(Random& random, Session& session) {
         session.Screen.ecGMHHome.Text = Dollars(price);
 }
 
-/// The texts are those that the fields show after entering. Prices stay small enough to try every step.
+/// Mostly small enough to try every step; sometimes so large that single precision rounds dollars.
+inline double RandomPrice(Random& random) {
+    if (random.OneIn(12))
+        return random.Between(1, 400);
+    return random.OneIn(12) ? random.Between(8'000'000, 20'000'000) : random.Between(20'000, 160'000);
+}
+
+/// Texts that only a file can have, or a field before it is left: between two steps, or beyond the range.
+inline void PutOddText(Random& random, MainScreen& s) {
+    switch (random.Below(6)) {
+    case 0:
+        s.ecGMHRate.Text = "6.12345%";
+        break;
+    case 1:
+        s.ecStdRate.Text = "31.5%";
+        break;
+    case 2:
+        s.ecPctDown.Text = "133.333%";
+        break;
+    case 3:
+        s.ecGMHHome.Text = "$61,234.56";
+        break;
+    case 4:
+        s.ecMonthlyDebt.Text = "1200000.5";
+        break;
+    default:
+        s.ecIncome.Text = "12345678.9";
+    }
+}
+
+/// The texts are those that the fields show after entering, with few exceptions.
 inline Session RandomInsightSession(Random& random) {
     static constexpr std::array<int, 7> terms{10, 15, 20, 25, 30, 35, 40};
     static constexpr std::array<double, 8> edges{0, 4.99, 5, 9.99, 10, 15, 20, 100};
@@ -54,7 +84,7 @@ inline Session RandomInsightSession(Random& random) {
     if (random.OneIn(3))
         ChangeTables(random, session);
     MainScreen& s = session.Screen;
-    const double price = random.OneIn(12) ? random.Between(1, 400) : random.Between(20'000, 160'000);
+    const double price = RandomPrice(random);
     s.ecStdHome.Text = Dollars(price);
     s.ecGMHHome.Text = Dollars(std::fmax(1, std::floor(price * random.Between(900, 1'150, 0.001))));
     s.ecStdUtil.Text = Dollars(random.Between(0, 5'000));
@@ -74,6 +104,8 @@ inline Session RandomInsightSession(Random& random) {
     ChooseRandomOptions(random, session);
     if (random.OneIn(3))
         PutPriceAtSavings(random, session);
+    if (random.OneIn(10))
+        PutOddText(random, s);
     return session;
 }
 
