@@ -59,21 +59,21 @@ std::string_view ChangeWord(const Answer& answer) {
     return more ? "more" : "less";
 }
 
-SheetCell AnswerCell(const std::optional<Answer>& answer) {
+SheetCell AnswerCell(const std::optional<Answer>& answer, std::string_view whenNone) {
     if (!answer)
-        return TextCell("does not count");
+        return TextCell(std::string(whenNone));
     if (!answer->To)
         return TextCell(answer->Input.ends_with("Util") ? "not even $0 would do" : "does not help");
     SheetCell cell{*answer->To, answer->ToValue, UnitOf(*answer), CellMark::None};
     if (cell.Text.empty())
         cell.Text = "$0";
     if (answer->State == AnswerState::Always)
-        cell.Text += " and beyond";
+        cell.Text.insert(0, "any, to ");
     return cell;
 }
 
 SheetCell ChangeCell(const std::optional<Answer>& answer) {
-    if (!answer || !answer->Change)
+    if (!answer || !answer->Change || answer->State == AnswerState::Always)
         return {};
     const double change = *answer->Change;
     const std::string sign = change > 0 ? "+" : (change < 0 ? "-" : "");

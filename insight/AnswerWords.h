@@ -18,9 +18,9 @@ std::string ChangeSize(const Answer& answer);
 /// "more" or "less", "longer" or "shorter".
 std::string_view ChangeWord(const Answer& answer);
 
-/// The value that the answer arrives at, as a cell: "up to $214,300", "from $93,077", "does not help"; "does
-/// not count" without an answer.
-SheetCell AnswerCell(const std::optional<Answer>& answer);
+/// The value that the answer arrives at, as a cell: "$214,300", "any, to 0.00%", "does not help"; `whenNone`
+/// without an answer.
+SheetCell AnswerCell(const std::optional<Answer>& answer, std::string_view whenNone);
 
 /// The change with its sign, as a cell: "+$6,660"; empty without a change.
 SheetCell ChangeCell(const std::optional<Answer>& answer);

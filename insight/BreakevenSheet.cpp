@@ -61,8 +61,8 @@ Sheet BreakevenSheet(const Insight& insight, const Breakeven& breakeven) {
         sheet.Sentence += " " + EdgeSentence(*breakeven.Price);
     sheet.Heads = {"GREENMARK Home", "Now", "Pays Up To", "Change"};
     const auto add = [&](const char* what, const std::optional<Answer>& answer) {
-        sheet.Rows.push_back(
-            {TextCell(what), TextCell(answer ? answer->From : ""), AnswerCell(answer), ChangeCell(answer)});
+        sheet.Rows.push_back({TextCell(what), TextCell(answer ? answer->From : ""),
+                              AnswerCell(answer, "unknown"), ChangeCell(answer)});
     };
     add(insight.Now().IncludeTaxes ? "Price, with tax savings" : "Price", breakeven.Price);
     if (insight.Now().IncludeTaxes)

@@ -122,7 +122,7 @@ bool PaymentsTie(const OptionTable& table) {
 std::string SentenceOf(const OptionTable& table) {
     std::string sentence = "The fees and premiums of FHA and VA loans are not in the payment.";
     if (PaymentsTie(table))
-        sentence += " Where two options show the same payment, those fees make the difference.";
+        sentence += " Some options show the same payment here; compare those costs as well.";
     return sentence;
 }
 

@@ -26,15 +26,15 @@ SheetCell QualifiesCell(bool qualifies) {
     return TextCell(qualifies ? "YES" : "*NO", qualifies ? CellMark::None : CellMark::Bad);
 }
 
-/// "at least $93,077 (-$1,923)" for a limit, "needs $113,761 (+$1,761)" for a nearest.
+/// "$93,077 (-$1,923)" for a limit, "needs $113,761 (+$1,761)" for a nearest.
 SheetCell QuestionCell(const std::optional<Answer>& answer) {
-    SheetCell cell = AnswerCell(answer);
+    SheetCell cell = AnswerCell(answer, "does not count");
     if (!answer || !answer->To)
         return cell;
     if (answer->Kind == AnswerKind::Nearest)
         cell.Text = "needs " + cell.Text;
     const std::string change = ChangeCell(answer).Text;
-    if (*answer->Change != 0)
+    if (!change.empty() && *answer->Change != 0)
         cell.Text += " (" + change + ")";
     return cell;
 }

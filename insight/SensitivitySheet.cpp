@@ -12,24 +12,25 @@ namespace {
 struct InputName {
     std::string_view Name;
     const char* Caption;
+    const char* InSentence;
 };
 
-constexpr std::array<InputName, 11> inputNames{{{"upgrade", "Price difference"},
-                                                {"savings", "Yearly energy savings"},
-                                                {"rates", "Both interest rates"},
-                                                {"down", "Down payment"},
-                                                {"income", "Annual income"},
-                                                {"debt", "Monthly debt"},
-                                                {"term", "Term"},
-                                                {"yearsInHome", "Years in the home"},
-                                                {"propertyTax", "Property tax"},
-                                                {"insurance", "Homeowner's insurance"},
-                                                {"pmi", "Mortgage insurance (PMI)"}}};
+constexpr std::array<InputName, 11> inputNames{
+    {{"upgrade", "Price difference", "the price difference"},
+     {"savings", "Yearly energy savings", "the yearly energy savings"},
+     {"rates", "Both interest rates", "the interest rates"},
+     {"down", "Down payment", "the down payment"},
+     {"income", "Annual income", "the income"},
+     {"debt", "Monthly debt", "the debt"},
+     {"term", "Term", "the term"},
+     {"yearsInHome", "Years in the home", "the years in the home"},
+     {"propertyTax", "Property tax", "the property tax"},
+     {"insurance", "Homeowner's insurance", "the homeowner's insurance"},
+     {"pmi", "Mortgage insurance (PMI)", "the mortgage insurance"}}};
 
-const char* CaptionOf(std::string_view input) {
-    return std::find_if(inputNames.begin(), inputNames.end(),
-                        [input](const InputName& name) { return name.Name == input; })
-        ->Caption;
+const InputName& NameOfInput(std::string_view input) {
+    return *std::find_if(inputNames.begin(), inputNames.end(),
+                         [input](const InputName& name) { return name.Name == input; });
 }
 
 /// An assumption as a percentage, or as years.
@@ -56,6 +57,23 @@ SheetCell MarginCell(const std::optional<SensitivitySide>& side) {
     return side ? DollarCell(side->GMHMargin) : SheetCell();
 }
 
+/// "The income and the debt do not move it.", also with three or more; empty if every input moves it.
+std::string IdleSentence(const Sensitivity& sensitivity) {
+    std::vector<std::string> idle;
+    for (const SensitivityRow& row : sensitivity.Rows) {
+        if (row.NetMove == 0)
+            idle.emplace_back(NameOfInput(row.Input).InSentence);
+    }
+    if (idle.empty())
+        return {};
+    std::string sentence;
+    for (std::size_t i = 0; i < idle.size(); ++i)
+        sentence += (i == 0 ? "" : (i + 1 == idle.size() ? " and " : ", ")) + idle[i];
+    sentence.front() = 'T';
+    return " " + sentence + (idle.size() > 1 || idle.front().ends_with('s') ? " do" : " does") +
+           " not move it.";
+}
+
 std::string SentenceOf(const Insight& insight, const Sensitivity& sensitivity) {
     const SensitivityRow& first = sensitivity.Rows.front();
     if (first.NetMove == 0)
@@ -63,13 +81,9 @@ std::string SentenceOf(const Insight& insight, const Sensitivity& sensitivity) {
     const auto netOf = [&](const std::optional<SensitivitySide>& side) {
         return DollarText(static_cast<double>(side ? side->ShownNet : insight.ShownNet(insight.Record())));
     };
-    std::string sentence = std::string(CaptionOf(first.Input)) + " moves the result most: from " +
-                           netOf(first.Low) + " to " + netOf(first.High) + " a month.";
-    const auto idle = std::count_if(sensitivity.Rows.begin(), sensitivity.Rows.end(),
-                                    [](const SensitivityRow& row) { return row.NetMove == 0; });
-    if (idle > 0)
-        sentence += " The inputs at the end, which show the same net twice, do not move it at all.";
-    return sentence;
+    return std::string("The result depends most on ") + NameOfInput(first.Input).InSentence +
+           ": the monthly net goes from " + netOf(first.Low) + " to " + netOf(first.High) + "." +
+           IdleSentence(sensitivity);
 }
 
 } // namespace
@@ -81,7 +95,7 @@ Sheet SensitivitySheet(const Insight& insight, const Sensitivity& sensitivity) {
     sheet.Heads = {"Input", "Lower", "Monthly Net", "Higher", "Monthly Net", "Room, Lower", "Room, Higher"};
     for (const SensitivityRow& row : sensitivity.Rows)
         sheet.Rows.push_back(
-            {TextCell(CaptionOf(row.Input), row.NetMove == 0 ? CellMark::Idle : CellMark::None),
+            {TextCell(NameOfInput(row.Input).Caption, row.NetMove == 0 ? CellMark::Idle : CellMark::None),
              TextCell(ValueText(row.Input, row.Low)), NetCell(row.Low),
              TextCell(ValueText(row.Input, row.High)), NetCell(row.High), MarginCell(row.Low),
              MarginCell(row.High)});

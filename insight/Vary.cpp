@@ -98,7 +98,7 @@ Lattice::Lattice(Varied input, const MainScreen& screen, double fixedDownEnd)
         ++m_ceiling;
     const Range range = RangeOf(input, m_now, fixedDownEnd);
     m_least = std::min(static_cast<Step>(range.Least), m_ceiling);
-    m_most = std::max(static_cast<Step>(range.Most), m_floor);
+    m_most = std::max({static_cast<Step>(range.Most), m_floor, m_least});
 }
 
 std::string_view Lattice::Control() const {

@@ -98,8 +98,8 @@ std::optional<int> Parse(CLI::App& app, std::vector<std::string> words) {
         std::string sentence = fault.what();
         while (sentence.ends_with('.') || sentence.ends_with('\n'))
             sentence.pop_back();
-        return Complain(sentence + ". " + Quoted(FullName(Innermost(app)) + " --help") + " explains it.",
-                        CannotRun);
+        sentence += sentence.ends_with('?') ? " " : ". ";
+        return Complain(sentence + Quoted(FullName(Innermost(app)) + " --help") + " explains it.", CannotRun);
     }
 }
 
