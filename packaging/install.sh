@@ -54,8 +54,21 @@ sum_as_it_came() {
     done <"$list"
 }
 
+# A link that the Debian package's launcher made is not the user's own.
+is_packages() {
+    case $(readlink -- "$program/$1" || true) in
+    */share/ledgrove/"$1") return 0 ;;
+    *) return 1 ;;
+    esac
+}
+
 is_own() {
-    may_be_own "$1" && [ -e "$program/$1" ] && [ "$(sum_of "$program/$1")" != "$(sum_as_it_came "$1")" ]
+    may_be_own "$1" && [ -e "$program/$1" ] && ! is_packages "$1" &&
+        [ "$(sum_of "$program/$1")" != "$(sum_as_it_came "$1")" ]
+}
+
+has() {
+    command -v "$1" >/dev/null 2>&1
 }
 
 make_folder() {
@@ -134,12 +147,21 @@ exec_path() {
     printf '%s\n' "$1" | sed -e 's/[\\"`$]/\\&/g' -e 's/\\/\\\\/g' -e 's/%/%%/g' -e 's/.*/"&"/'
 }
 
+# The Exec line's command. GLib looks for its first word before it reads "%%" as "%" and drops an entry without a program, so a
+# shell starts a path with "%".
+exec_command() {
+    case $1 in
+    *%*) printf '%s ' 'sh -c "exec \\"\\$0\\" \\"\\$@\\""' ;;
+    esac
+    exec_path "$1"
+}
+
 write_entry() {
     entry=$data/applications/$id.desktop
     make_folder "$data/applications"
     while IFS= read -r line; do
         case $line in
-        Exec=*) printf 'Exec=%s %%f\n' "$(exec_path "$program/ledgrove")" ;;
+        Exec=*) printf 'Exec=%s %%f\n' "$(exec_command "$program/ledgrove")" ;;
         *) printf '%s\n' "$line" ;;
         esac
     done <"$program/share/applications/$id.desktop" >"$entry.new" ||
@@ -163,15 +185,29 @@ make_links() {
     done
 }
 
-# The desktop's caches of file types and applications; a desktop without these tools reads the files directly.
+# Writes the desktop's list of programs by file type without the tool for it: keeps the other programs' lines.
+write_programs_by_type() {
+    cache=$data/applications/mimeinfo.cache
+    line="application/$type=$id.desktop;"
+    [ -f "$data/applications/$id.desktop" ] || [ -f "$cache" ] || return 0
+    {
+        echo "[MIME Cache]"
+        [ ! -f "$cache" ] || grep -vxF -e "[MIME Cache]" -e "$line" -- "$cache" || true
+        [ ! -f "$data/applications/$id.desktop" ] || echo "$line"
+    } >"$cache.new" || fail "\"$cache\" cannot be written. Free some space there $again"
+    mv -f -- "$cache.new" "$cache"
+}
+
+# The desktop's lists of file types, of programs by file type, and of icons.
 refresh_desktop() {
-    if [ -d "$data/mime/packages" ] && command -v update-mime-database >/dev/null 2>&1; then
+    if [ -d "$data/mime/packages" ] && has update-mime-database; then
         update-mime-database "$data/mime" >/dev/null 2>&1 || true
     fi
-    if [ -d "$data/applications" ] && command -v update-desktop-database >/dev/null 2>&1; then
-        update-desktop-database -q "$data/applications" >/dev/null 2>&1 || true
+    if [ -d "$data/applications" ]; then
+        { has update-desktop-database && update-desktop-database -q "$data/applications" >/dev/null 2>&1; } ||
+            write_programs_by_type
     fi
-    if [ -f "$data/icons/hicolor/icon-theme.cache" ] && command -v gtk-update-icon-cache >/dev/null 2>&1; then
+    if [ -f "$data/icons/hicolor/icon-theme.cache" ] && has gtk-update-icon-cache; then
         gtk-update-icon-cache -q -f -t "$data/icons/hicolor" >/dev/null 2>&1 || true
     fi
 }
@@ -193,6 +229,9 @@ install_all() {
     refresh_desktop
     echo "Ledgrove $(version) is installed in \"$program\"."
     echo "Start it from the desktop's menu, or as \"$bin/ledgrove\"."
+    has update-mime-database ||
+        echo "A double click does not open comparisons yet: the tool update-mime-database is missing. Install the Debian" \
+            "package shared-mime-info $again" >&2
     if ldd "$program/ledgrove" "$program/modules/"*.so "$program/ledgrove-cli" 2>/dev/null |
         grep -q 'not found'; then
         echo "It cannot start yet: libraries are missing. \"$program/README.md\" names the packages to install." >&2
@@ -246,7 +285,8 @@ remove_all() {
     remove_folders
     echo "Ledgrove is removed."
     if [ -d "$program" ]; then
-        echo "Your settings, and files that are your own, are still in \"$program\"."
+        echo "Your settings, and files that are your own, are still in \"$program\":"
+        (cd -- "$program" && find . ! -type d ! -lname '*/share/ledgrove/*') | sed 's|^\./|    |' | sort
     fi
 }
 
