@@ -51,6 +51,31 @@ class Contents(PackageTest):
                 self.assertTrue((self.pristine / name).parent.joinpath(link).exists(), f"{name}: {link}")
 
 
+class Source(PackageTest):
+    """The source, which the licence demands with the program."""
+
+    def test_its_archive_holds_the_sources_and_nothing_else(self):
+        subprocess.run(["cpack", "-G", "TGZ", "--config", BUILD / "CPackSourceConfig.cmake", "-B", self.temporary / "made"],
+                       check=True, capture_output=True)
+        name = f"ledgrove-{VERSION}-source"
+        subprocess.run(["tar", "-xf", self.temporary / f"made/{name}.tar.gz", "-C", self.temporary], check=True)
+        packed = files(self.temporary / name)
+        self.assertTrue({"CMakeLists.txt", "LICENSE", "run", "test", "docs/images/summary.png", ".clang-format"} <= packed)
+        listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=SOURCE,
+                                capture_output=True, text=True)
+        if listed.returncode == 0:  # it fails in sources that came as an archive
+            tracked = {file for file in listed.stdout.split("\0") if file and (SOURCE / file).exists()}
+            self.assertEqual({file for file in packed if "__pycache__" not in file},
+                             {file for file in tracked if "__pycache__" not in file})
+        for script in ("run", "test", "scripts/package"):
+            self.assertTrue(os.access(self.temporary / name / script, os.X_OK))
+
+    def test_the_readme_names_it_and_who_must_give_it(self):
+        text = (self.pristine / "README.md").read_text()
+        self.assertIn(f"`ledgrove-{VERSION}-source.tar.gz`", text)
+        self.assertIn("Whoever gives you Ledgrove\nmust also give you that file", text)
+
+
 class Packages(PackageTest):
     """The Debian packages that it needs."""
 
@@ -119,6 +144,19 @@ class Desktop(PackageTest):
         self.assertEqual([release.get("version") for release in root.iter("release")], [VERSION])
         self.assertEqual([node.text for node in root.iter("launchable")], [f"{ID}.desktop"])
         self.assertEqual([node.text for node in root.iter("mediatype")], [TYPE])
+
+    def test_screenshots_on_the_web_are_in_the_metadata(self):
+        address = "https://example.org/pictures"
+        build = self.temporary / "build"
+        subprocess.run(["cmake", "-S", SOURCE, "-B", build, "-G", "Ninja", "-D", "LEDGROVE_TESTS=OFF", "-D",
+                        f"LEDGROVE_PICTURES_URL={address}"], check=True, capture_output=True)
+        metadata = build / f"packaging/{ID}.metainfo.xml"
+        run("appstreamcli", "validate", "--no-net", metadata)
+        pictures = [node.text for node in ElementTree.parse(metadata).getroot().iter("image")]
+        self.assertEqual([Path(picture).parent.name for picture in pictures], ["pictures"] * 3)
+        for picture in pictures:
+            self.assertTrue(picture.startswith(address))
+            self.assertTrue((SOURCE / "docs/images" / Path(picture).name).exists())
 
     def test_the_file_type(self):
         root = ElementTree.parse(self.pristine / f"share/mime/packages/{ID}.xml").getroot()

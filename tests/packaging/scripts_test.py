@@ -108,7 +108,10 @@ class Run(ScriptTest):
         self.sources = self.temporary / "the sources"
         (self.sources / "build/release").mkdir(parents=True)
         (self.sources / "build/release/build.ninja").touch()
-        (self.sources / "build/release/bin").symlink_to(BUILD / "bin")
+        self.programs = self.sources / "build/release/bin"
+        shutil.copytree(SOURCE / "data", self.programs)
+        for name in ("ledgrove", "ledgrove-cli"):
+            (self.programs / name).symlink_to(BUILD / "bin" / name)
         shutil.copy(SOURCE / "run", self.sources)
         for name in ("scripts", "data"):
             (self.sources / name).symlink_to(SOURCE / name)
@@ -161,14 +164,49 @@ class Run(ScriptTest):
         self.assertIn("missing.json", self.start("missing.json", status=2).stderr)
 
     def test_with_a_display_the_program_gets_all_arguments(self):
-        (self.sources / "build/release/bin").unlink()
-        (self.sources / "build/release/bin").mkdir()
-        program = self.sources / "build/release/bin/ledgrove"
+        program = self.programs / "ledgrove"
+        program.unlink()
         program.write_text(f'#!/bin/sh\nprintf "%s\\n" "$PWD" "$@" >"{self.log}.program"\n')
         program.chmod(0o755)
         self.start("--folder", "a b", "home.json", DISPLAY=":99")
         self.assertEqual(Path(f"{self.log}.program").read_text().splitlines(),
                          [str(self.theirs), "--folder", "a b", "home.json"])
+
+
+class Package(ScriptTest):
+    """scripts/package, which builds once whatever it packs, and always packs the source too."""
+
+    def setUp(self):
+        super().setUp()
+        self.stand_in("dpkg-query", "printf installed")
+        self.stand_in("cmake", "ECHO")
+        self.stand_in("cpack", "ECHO\necho 'CPack: Create package'\necho \"CPack: - package: /made/$2 generated.\"")
+
+    def pack(self, *arguments, **options):
+        return self.run_script(SOURCE / "scripts/package", *arguments, **options)
+
+    def test_it_packs_one_build_and_the_source(self):
+        for arguments, generator in (((), "TGZ"), (("--deb",), "DEB")):
+            self.assertEqual(self.pack(*arguments, "/the build").stdout, f"/made/{generator}\n/made/TGZ\n")
+            self.assertEqual(self.logged(), [
+                "cmake --preset release -B /the build -U LEDGROVE_MAINTAINER", "cmake --build /the build",
+                f"cpack -G {generator} --config /the build/CPackConfig.cmake",
+                "cpack -G TGZ --config /the build/CPackSourceConfig.cmake"])
+            self.log.unlink()
+
+    def test_the_default_is_the_build_that_run_starts(self):
+        self.pack("--deb")
+        self.assertIn("cmake --build build/release", self.logged())
+
+    def test_the_maker_of_the_package_is_named(self):
+        self.pack("--deb", DEBFULLNAME="Ann Lee", DEBEMAIL="ann@example.org")
+        self.assertTrue(self.logged()[0].endswith("-D LEDGROVE_MAINTAINER=Ann Lee <ann@example.org>"))
+
+    def test_a_fault_ends_it(self):
+        self.stand_in("cpack", "ECHO\nexit 1")
+        self.assertEqual(self.pack(status=1).stdout, "")
+        self.assertEqual(len([line for line in self.logged() if line.startswith("cpack")]), 1)
+        self.assertIn("usage:", self.pack("--rpm", status=2).stderr)
 
 
 class Documents(unittest.TestCase):
