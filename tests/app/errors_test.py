@@ -83,7 +83,7 @@ class Words(CliTest):
 
     def test_an_unknown_command_is_named_and_the_nearest_offered(self):
         self.assertEqual(self.said("reprot"), 'ledgrove-cli: "reprot" is not a command. Did you mean "report"?\n')
-        self.assertIn("The commands are compare, report, chart and settings.", self.said("bogus"))
+        self.assertIn("The commands are compare, insight, report, chart and settings.", self.said("bogus"))
         self.assertIn('"gt" is not a command. Did you mean "get"?', self.said("settings", "--folder", self.folder, "gt"))
         self.assertIn('"setings" is not a command. Did you mean "settings"?', self.said("help", "setings"))
         self.assertIn("Give a command", self.said())
@@ -100,7 +100,7 @@ class Words(CliTest):
             self.assertTrue(said.endswith(f'"ledgrove-cli {words[0]} --help" explains it.\n'), said)
 
     def test_help_and_version_everywhere(self):
-        for words in ([], ["compare"], ["report"], ["chart"], ["settings"], ["settings", "get"], ["settings", "set"],
+        for words in ([], ["compare"], ["insight"], ["report"], ["chart"], ["settings"], ["settings", "get"], ["settings", "set"],
                       ["settings", "check"], ["settings", "houses"]):
             shown = self.said(*words, "--help", status=0)
             for part in ("Usage: ledgrove-cli", "Example:", "Exit status:", "1  some input was refused"):
