@@ -169,12 +169,28 @@ write_entry() {
     mv -f -- "$entry.new" "$entry"
 }
 
-copy_icons() {
+# Where the desktop, "man" and the shells look for a shipped file; nothing for a file that only the program reads.
+place_of() {
+    case $1 in
+    share/icons/* | share/man/* | share/bash-completion/* | share/zsh/* | share/fish/*) echo "$data/${1#share/}" ;;
+    esac
+}
+
+copy_places() {
     while read -r name; do
-        case $name in
-        share/icons/*) copy "$program/$name" "$data/${name#share/}" ;;
-        esac
+        place=$(place_of "$name")
+        [ -z "$place" ] || copy "$program/$name" "$place"
     done <"$program/share/files"
+}
+
+remove_places() {
+    [ -f "$program/share/files" ] || return 0
+    while read -r name; do
+        place=$(place_of "$name")
+        [ -z "$place" ] || rm -f -- "$place"
+    done <"$program/share/files"
+    rmdir -- "$data/man/man1" "$data/man" "$data/bash-completion/completions" "$data/bash-completion" \
+        "$data/zsh/site-functions" "$data/zsh" "$data/fish/vendor_completions.d" "$data/fish" 2>/dev/null || true
 }
 
 make_links() {
@@ -223,12 +239,22 @@ install_all() {
         copy_program
     fi
     write_entry
-    copy_icons
+    copy_places
     copy "$program/share/mime/packages/$id.xml" "$data/mime/packages/$id.xml"
     make_links
     refresh_desktop
     echo "Ledgrove $(version) is installed in \"$program\"."
     echo "Start it from the desktop's menu, or as \"$bin/ledgrove\"."
+    case ":${PATH:-}:" in
+    *":$bin:"*)
+        echo "In a terminal, \"man ledgrove-cli\" describes the commands, and Tab completes them in bash and fish."
+        ;;
+    *)
+        echo "The folder \"$bin\" is not on your PATH. To type \"ledgrove-cli\" alone, add this line to \"$HOME/.profile\" and log" \
+            "in again: PATH=\"$bin:\$PATH\""
+        ;;
+    esac
+    echo "For zsh, add this line before compinit in \"$HOME/.zshrc\": fpath=(\"$data/zsh/site-functions\" \$fpath)"
     has update-mime-database ||
         echo "A double click does not open comparisons yet: the tool update-mime-database is missing. Install the Debian" \
             "package shared-mime-info $again" >&2
@@ -244,8 +270,8 @@ remove_desktop() {
             rm -f -- "$bin/$name"
         fi
     done
-    rm -f -- "$data/applications/$id.desktop" "$data/mime/packages/$id.xml" \
-        "$data/icons/hicolor/"*"/apps/$id".[ps][nv]g
+    rm -f -- "$data/applications/$id.desktop" "$data/mime/packages/$id.xml"
+    remove_places
     refresh_desktop
     remove_empty_lists
 }

@@ -5,7 +5,7 @@ import subprocess
 import unittest
 from pathlib import Path
 
-from packed import CONTENTS, ICONS, ID, SAMPLE, TYPE, VERSION, PackageTest, files, run, wait_for
+from packed import CONTENTS, ICONS, ID, PAGES, SAMPLE, TYPE, VERSION, PackageTest, files, run, wait_for
 
 
 class Installing(PackageTest):
@@ -77,7 +77,7 @@ class Installing(PackageTest):
         text = command.replace("\\\\", "\\")
         last = re.findall(r'"((?:\\.|[^"\\])*)"', text)[-1]
         self.assertEqual(re.sub(r"\\(.)", r"\1", last).replace("%%", "%"), str(self.program / "ledgrove"))
-        for name in ICONS | {f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/mime/packages/{ID}.xml"}:
+        for name in ICONS | PAGES | {f"share/icons/hicolor/scalable/apps/{ID}.svg", f"share/mime/packages/{ID}.xml"}:
             self.assertEqual((self.data / name.removeprefix("share/")).read_bytes(), (self.pristine / name).read_bytes())
 
     def test_the_desktops_launcher_starts_it_from_any_path(self):
@@ -90,6 +90,17 @@ class Installing(PackageTest):
             entry = home / f".local/share/applications/{ID}.desktop"
             run("desktop-file-validate", entry)
             self.assertEqual(self.opened("gio", "launch", entry, file), [str(self.program / "ledgrove"), str(file)])
+
+    def test_the_shells_and_man_know_it(self):
+        told = self.install().stdout
+        self.assertIn(f'The folder "{self.link.parent}" is not on your PATH.', told)
+        self.assertIn(f'fpath=("{self.data}/zsh/site-functions" $fpath)', told)
+        path = f"{self.link.parent}:/usr/bin:/bin"
+        self.assertIn("describes the commands", self.install(path=path).stdout)
+        shown = run("man", "-w", "ledgrove-cli", home=self.home, path=path).stdout
+        self.assertEqual(Path(shown.strip()).read_bytes(), (self.pristine / "share/man/man1/ledgrove-cli.1").read_bytes())
+        offered = run("fish", "-c", "complete -C 'ledgrove-cli re'", home=self.home, path=path).stdout
+        self.assertIn("report", offered)
 
     def test_a_double_click_opens_a_comparison(self):
         for missing in ((), ("update-desktop-database",)):

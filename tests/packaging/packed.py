@@ -14,8 +14,11 @@ TYPE = "application/vnd.ledgrove.comparison+json"
 PROGRAMS = {"ledgrove", "ledgrove-cli", "ledgrove-report", "ledgrove-chart", "ledgrove-metafile"}
 ICONS = {f"share/icons/hicolor/{size}x{size}/apps/{ID}.png" for size in (16, 24, 32, 48, 64, 128, 256)}
 MODULES = {"modules/ledgrove-charts.so", "modules/ledgrove-printers.so"}
-CONTENTS = PROGRAMS | MODULES | ICONS | {
-    "Ledgrove.ini", "LEDGROVE.HLP", "GenericHouseLogo.bmp", "LedgroveEmblem.png",
+PAGES = {page for name in ("ledgrove", "ledgrove-cli") for page in (
+    f"share/man/man1/{name}.1", f"share/bash-completion/completions/{name}", f"share/zsh/site-functions/_{name}",
+    f"share/fish/vendor_completions.d/{name}.fish")}
+CONTENTS = PROGRAMS | MODULES | ICONS | PAGES | {
+    "Ledgrove.ini", "LEDGROVE.HLP", "result.schema.json", "GenericHouseLogo.bmp", "LedgroveEmblem.png",
     "samples/first-home.ledgrove.json", "LICENSE", "README.md", "install.sh", "docs/guide.md", "docs/cli.md",
     "docs/defaults.md", "share/files", f"share/icons/hicolor/scalable/apps/{ID}.svg",
     f"share/applications/{ID}.desktop", f"share/mime/packages/{ID}.xml", f"share/metainfo/{ID}.metainfo.xml"}
