@@ -246,16 +246,24 @@ void SetScale(ChartFigures& chart, double lowest, double highest, int mostSteps)
         chart.Ticks.push_back({i * step, Money(i * step)});
 }
 
+void SetSpan(ChartFigures& chart, double lowest, double highest, int mostSteps) {
+    const double step = RoundStep(std::max(highest - lowest, 5.0), mostSteps);
+    chart.Lowest = lowest;
+    chart.Highest = highest;
+    chart.Ticks.clear();
+    for (double i = std::ceil(lowest / step); i * step <= highest; ++i)
+        chart.Ticks.push_back({i * step, Money(i * step)});
+}
+
 ChartFigures MakeChart(ChartKind kind, const Session& session) {
     switch (kind) {
     case ChartKind::MonthlyCost:
         return MonthlyCostChart(session);
     case ChartKind::Affordability:
         return AffordabilityChart(session);
-    case ChartKind::Savings:
-        break;
+    default:
+        return SavingsChart(session);
     }
-    return SavingsChart(session);
 }
 
 } // namespace Ledgrove

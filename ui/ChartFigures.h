@@ -12,7 +12,9 @@ namespace Ledgrove {
 enum class ChartKind {
     MonthlyCost,   ///< Cash Flow: the monthly cost of each home, its parts stacked
     Affordability, ///< the mortgage next to the largest loan that the buyer qualifies for
-    Savings        ///< Summary: the savings of the labelled home over the years
+    Savings,       ///< Summary: the savings of the labelled home over the years
+    Sensitivity,   ///< what moves the result: bars on both sides of the monthly net as it is now
+    NetMap         ///< the monthly net for many price differences and yearly savings
 };
 
 /// The chart of a tab of the main screen; empty for a tab without a chart.
@@ -43,6 +45,17 @@ struct ChartTick {
     bool operator==(const ChartTick&) const = default;
 };
 
+/// A chart of coloured cells. Rows count from the smallest saving upwards.
+struct ChartGrid {
+    std::vector<double> Columns;                         ///< price differences
+    std::vector<double> Rows;                            ///< yearly savings
+    std::vector<std::vector<std::optional<float>>> Nets; ///< a row for each saving; empty: not possible
+    double ColumnNow = 0;
+    double RowNow = 0;
+
+    bool operator==(const ChartGrid&) const = default;
+};
+
 struct ChartFigures {
     ChartKind Kind = ChartKind::MonthlyCost;
     std::string Title;
@@ -50,6 +63,8 @@ struct ChartFigures {
     std::vector<std::string> Categories; ///< the homes; empty if the chart shows years
     std::vector<ChartSeries> Series;
     std::vector<ChartMark> Marks;
+    double Middle = 0; ///< where the bars of the sensitivity begin
+    ChartGrid Grid;    ///< of the map
     double Lowest = 0; ///< the lower end of the dollar axis; `Highest` is the upper end
     double Highest = 0;
     std::vector<ChartTick> Ticks; ///< round amounts within the axis, including 0
@@ -62,8 +77,12 @@ struct ChartFigures {
 /// The last year of the savings chart.
 inline constexpr int ChartYears = 30;
 
-/// Makes the chart of the session's current figures. An amount that cannot be computed is drawn as 0.
+/// Makes the chart of a tab from the session's current figures. An amount that cannot be computed is drawn as
+/// 0.
 ChartFigures MakeChart(ChartKind kind, const Session& session);
+
+/// Sets the axis to reach from `lowest` to `highest`, with at most `mostSteps` round steps between them.
+void SetSpan(ChartFigures& chart, double lowest, double highest, int mostSteps);
 
 /// Sets the chart's axis so that it shows all values from `lowest` (0 or below) to `highest` (0 or above),
 /// with at most `mostSteps` round steps. The axis ends at a round step above `highest`, but just below
