@@ -23,7 +23,7 @@ enum class AnswerState : std::uint8_t {
 enum class AnswerEdge : std::uint8_t {
     None,
     PMIBand,      ///< the down payment enters another band of PMI
-    SavingsWorth, ///< the savings' present value crosses the price difference
+    SavingsWorth, ///< the savings are no longer worth the upgrade, so they do not raise the largest loan
 };
 
 /// A limit or a nearest of one input.

@@ -84,8 +84,9 @@ std::string EdgeSentence(const Answer& answer) {
     if (answer.Kind != AnswerKind::Limit || answer.State != AnswerState::Found)
         return {};
     if (answer.Edge == AnswerEdge::SavingsWorth)
-        return "One step further the energy savings are no longer worth the upgrade, and the loan counts "
-               "without them.";
+        return "One step further the energy savings are no longer worth the upgrade, so they do not raise "
+               "the "
+               "loan.";
     const std::string_view edge = EdgeOfBand(answer.Beyond);
     if (answer.Edge != AnswerEdge::PMIBand || edge.empty())
         return {};

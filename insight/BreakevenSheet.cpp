@@ -57,8 +57,6 @@ Sheet BreakevenSheet(const Insight& insight, const Breakeven& breakeven) {
         sheet.Sentence = PriceSentence(*breakeven.Price);
     if (breakeven.Bill)
         sheet.Sentence += " " + BillSentence(breakeven);
-    if (breakeven.Price && breakeven.Price->Edge == AnswerEdge::SavingsWorth)
-        sheet.Sentence += " " + EdgeSentence(*breakeven.Price);
     sheet.Heads = {"GREENMARK Home", "Now", "Pays Up To", "Change"};
     const auto add = [&](const char* what, const std::optional<Answer>& answer) {
         sheet.Rows.push_back({TextCell(what), TextCell(answer ? answer->From : ""),

@@ -91,13 +91,10 @@ float AddedLoan(const HomeDecisions& decided, const Results& results) {
 Span MaxLoanSpan(const HomeCase& a, const HomeCase& b, float addedA, float addedB) {
     if (addedA == addedB)
         return SpanOf(a.MaxLoan, b.MaxLoan);
-    const float plainA = a.MaxLoan - addedA;
-    const float plainB = b.MaxLoan - addedB;
-    if ((plainA <= plainB) == (addedA <= addedB))
-        return SpanOf(a.MaxLoan, b.MaxLoan);
-    const double rounding =
-        std::ldexp(static_cast<double>(std::max(std::fabs(a.MaxLoan), std::fabs(b.MaxLoan))) + 8000, -21);
-    return Widened(SumOf(SpanOf(plainA, plainB), SpanOf(addedA, addedB)), rounding);
+    const float largest =
+        std::max({std::fabs(a.MaxLoan), std::fabs(b.MaxLoan), std::fabs(addedA), std::fabs(addedB)});
+    const double rounding = std::ldexp(static_cast<double>(largest), -21); // of the differences and the sum
+    return Widened(SumOf(SpanOf(a.MaxLoan - addedA, b.MaxLoan - addedB), SpanOf(addedA, addedB)), rounding);
 }
 
 } // namespace
@@ -115,11 +112,6 @@ std::optional<bool> NetCondition::Throughout(const Results& a, const Results& b)
     if (m_withTaxes)
         net = SumOf(net, Widened(SpanOf(a.Scenario.TaxSavings, b.Scenario.TaxSavings), error));
     return Decided(net.Least >= 0, net.Most < 0);
-}
-
-AnswerEdge NetCondition::EdgeBetween(const Results& a, const Results& b) const {
-    return a.Decisions.GMH.DownPayment == b.Decisions.GMH.DownPayment ? AnswerEdge::None
-                                                                      : AnswerEdge::SavingsWorth;
 }
 
 bool SavingsCondition::Holds(const Results& results) const {
@@ -154,12 +146,13 @@ std::optional<bool> QualifiesCondition::Throughout(const Results& a, const Resul
                              ShownDollars(loan.Least) >= ShownDollars(largest.Most));
 }
 
-AnswerEdge QualifiesCondition::EdgeBetween(const Results& a, const Results& b) const {
-    if (Decided(a).PMI != Decided(b).PMI)
+AnswerEdge QualifiesCondition::EdgeBetween(const Results& inside, const Results& outside) const {
+    if (Decided(inside).PMI != Decided(outside).PMI)
         return AnswerEdge::PMIBand;
-    return m_home == HomeCode::GMH && Decided(a).MaxPayment != Decided(b).MaxPayment
-               ? AnswerEdge::SavingsWorth
-               : AnswerEdge::None;
+    const bool losesSavings = m_home == HomeCode::GMH &&
+                              Decided(inside).MaxPayment != Decided(outside).MaxPayment &&
+                              !SavingsPay(outside);
+    return losesSavings ? AnswerEdge::SavingsWorth : AnswerEdge::None;
 }
 
 } // namespace Ledgrove

@@ -17,10 +17,10 @@ public:
     /// Whether it holds (or fails) at both ends and at every step between; empty if that is not certain. The
     /// results must differ in one input only, the one that is searched.
     virtual std::optional<bool> Throughout(const Results& a, const Results& b) const = 0;
-    /// The rule that changes between two neighbouring steps.
-    virtual AnswerEdge EdgeBetween(const Results& a, const Results& b) const = 0;
+    /// The rule that changes between two neighbouring steps, of which the condition holds at the first only.
+    virtual AnswerEdge EdgeBetween(const Results&, const Results&) const { return AnswerEdge::None; }
     /// The band of PMI that counts for the condition.
-    virtual PMIBand BandAt(const Results& results) const = 0;
+    virtual PMIBand BandAt(const Results& results) const { return results.Decisions.GMH.PMI; }
 };
 
 /// The net of a month is at least 0. For the labelled home's price, bill and rate.
@@ -30,8 +30,6 @@ public:
         : m_withTaxes(withTaxes) {}
     bool Holds(const Results& results) const override;
     std::optional<bool> Throughout(const Results& a, const Results& b) const override;
-    AnswerEdge EdgeBetween(const Results& a, const Results& b) const override;
-    PMIBand BandAt(const Results& results) const override { return results.Decisions.GMH.PMI; }
 
 private:
     bool m_withTaxes;
@@ -42,8 +40,6 @@ class SavingsCondition : public Condition {
 public:
     bool Holds(const Results& results) const override;
     std::optional<bool> Throughout(const Results& a, const Results& b) const override;
-    AnswerEdge EdgeBetween(const Results&, const Results&) const override { return AnswerEdge::None; }
-    PMIBand BandAt(const Results& results) const override { return results.Decisions.GMH.PMI; }
 };
 
 /// The buyer qualifies for the home. For income, debt, down payment and the home's own price, bill and rate.
@@ -53,7 +49,7 @@ public:
         : m_home(home) {}
     bool Holds(const Results& results) const override;
     std::optional<bool> Throughout(const Results& a, const Results& b) const override;
-    AnswerEdge EdgeBetween(const Results& a, const Results& b) const override;
+    AnswerEdge EdgeBetween(const Results& inside, const Results& outside) const override;
     PMIBand BandAt(const Results& results) const override { return Decided(results).PMI; }
 
 private:
