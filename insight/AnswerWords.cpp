@@ -83,10 +83,10 @@ SheetCell ChangeCell(const std::optional<Answer>& answer) {
 std::string EdgeSentence(const Answer& answer) {
     if (answer.Kind != AnswerKind::Limit || answer.State != AnswerState::Found)
         return {};
-    if (answer.Edge == AnswerEdge::SavingsWorth)
+    if (answer.Edge == AnswerEdge::SavingsWorth) {
         return "One step further the energy savings are no longer worth the upgrade, so they do not raise "
-               "the "
-               "loan.";
+               "the loan.";
+    }
     const std::string_view edge = EdgeOfBand(answer.Beyond);
     if (answer.Edge != AnswerEdge::PMIBand || edge.empty())
         return {};

@@ -68,12 +68,14 @@ Sheet BreakevenSheet(const Insight& insight, const Breakeven& breakeven) {
     add("Price that the energy savings are worth", breakeven.SavingsPrice);
     add("Annual utility cost", breakeven.Bill);
     add("Interest rate", breakeven.Rate);
-    if (breakeven.SavingsShare)
-        sheet.Rows.push_back({TextCell("Share of the savings that must come true"),
-                              TextCell("100%"),
-                              {ShareText(*breakeven.SavingsShare), *breakeven.SavingsShare * 100,
-                               CellUnit::Percent, CellMark::None},
-                              {}});
+    if (breakeven.SavingsShare) {
+        const double percent = *breakeven.SavingsShare * 100;
+        sheet.Rows.push_back(
+            {TextCell("Share of the savings that must come true"),
+             TextCell("100%"),
+             {ShareText(*breakeven.SavingsShare), percent, CellUnit::Percent, CellMark::None},
+             {}});
+    }
     return sheet;
 }
 

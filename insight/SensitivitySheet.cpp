@@ -93,12 +93,13 @@ Sheet SensitivitySheet(const Insight& insight, const Sensitivity& sensitivity) {
     sheet.Title = "What moves the result";
     sheet.Sentence = SentenceOf(insight, sensitivity);
     sheet.Heads = {"Input", "Lower", "Monthly Net", "Higher", "Monthly Net", "Room, Lower", "Room, Higher"};
-    for (const SensitivityRow& row : sensitivity.Rows)
-        sheet.Rows.push_back(
-            {TextCell(NameOfInput(row.Input).Caption, row.NetMove == 0 ? CellMark::Idle : CellMark::None),
-             TextCell(ValueText(row.Input, row.Low)), NetCell(row.Low),
-             TextCell(ValueText(row.Input, row.High)), NetCell(row.High), MarginCell(row.Low),
-             MarginCell(row.High)});
+    for (const SensitivityRow& row : sensitivity.Rows) {
+        const CellMark mark = row.NetMove == 0 ? CellMark::Idle : CellMark::None;
+        sheet.Rows.push_back({TextCell(NameOfInput(row.Input).Caption, mark),
+                              TextCell(ValueText(row.Input, row.Low)), NetCell(row.Low),
+                              TextCell(ValueText(row.Input, row.High)), NetCell(row.High),
+                              MarginCell(row.Low), MarginCell(row.High)});
+    }
     return sheet;
 }
 

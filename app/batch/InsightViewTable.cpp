@@ -36,6 +36,7 @@ std::span<const InsightView> InsightViewTable() {
 
 std::vector<std::string> InsightViewNames() {
     std::vector<std::string> names;
+    names.reserve(table.size());
     for (const InsightView& view : table)
         names.emplace_back(view.Name);
     return names;
