@@ -80,17 +80,17 @@ SheetCell ChangeCell(const std::optional<Answer>& answer) {
     return {sign + ChangeSize(*answer), change, UnitOf(*answer), CellMark::None};
 }
 
-std::string EdgeSentence(const Answer& answer) {
+std::string EdgePhrase(const Answer& answer) {
     if (answer.Kind != AnswerKind::Limit || answer.State != AnswerState::Found)
         return {};
     if (answer.Edge == AnswerEdge::SavingsWorth) {
-        return "One step further the energy savings are no longer worth the upgrade, so they do not raise "
+        return "one step further the energy savings are no longer worth the upgrade, so they do not raise "
                "the loan.";
     }
     const std::string_view edge = EdgeOfBand(answer.Beyond);
     if (answer.Edge != AnswerEdge::PMIBand || edge.empty())
         return {};
-    return "One step further puts the down payment below " + std::string(edge) +
+    return "one step further puts the down payment below " + std::string(edge) +
            ", where mortgage insurance costs more.";
 }
 

@@ -25,7 +25,7 @@ SheetCell AnswerCell(const std::optional<Answer>& answer, std::string_view whenN
 /// The change with its sign, as a cell: "+$6,660"; empty without a change.
 SheetCell ChangeCell(const std::optional<Answer>& answer);
 
-/// Why a limit stops at an edge, as a sentence; empty if it does not.
-std::string EdgeSentence(const Answer& answer);
+/// Why a limit stops at an edge: "one step further puts ..."; empty if it does not.
+std::string EdgePhrase(const Answer& answer);
 
 } // namespace Ledgrove

@@ -53,8 +53,9 @@ std::string BillSentence(const Breakeven& breakeven) {
 Sheet BreakevenSheet(const Insight& insight, const Breakeven& breakeven) {
     Sheet sheet;
     sheet.Title = "Break-even";
-    if (breakeven.Price)
-        sheet.Sentence = PriceSentence(*breakeven.Price);
+    sheet.Sentence = breakeven.Price
+                         ? PriceSentence(*breakeven.Price)
+                         : "It is not known up to which price the GREENMARK home pays for itself.";
     if (breakeven.Bill)
         sheet.Sentence += " " + BillSentence(breakeven);
     sheet.Heads = {"GREENMARK Home", "Now", "Pays Up To", "Change"};

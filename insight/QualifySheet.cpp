@@ -11,16 +11,18 @@ namespace {
 
 struct QuestionRow {
     const char* Caption;
+    const char* InSentence;
     std::optional<Answer> HomeQualification::*Member;
 };
 
-constexpr std::array<QuestionRow, 7> questions{{{"Annual income", &HomeQualification::Income},
-                                                {"Monthly debt", &HomeQualification::Debt},
-                                                {"Down payment", &HomeQualification::Down},
-                                                {"Price", &HomeQualification::Price},
-                                                {"Annual utility cost", &HomeQualification::Bill},
-                                                {"Interest rate", &HomeQualification::Rate},
-                                                {"Term", &HomeQualification::Term}}};
+constexpr std::array<QuestionRow, 7> questions{
+    {{"Annual income", "income", &HomeQualification::Income},
+     {"Monthly debt", "debt", &HomeQualification::Debt},
+     {"Down payment", "down payment", &HomeQualification::Down},
+     {"Price", "price", &HomeQualification::Price},
+     {"Annual utility cost", "utility cost", &HomeQualification::Bill},
+     {"Interest rate", "rate", &HomeQualification::Rate},
+     {"Term", "term", &HomeQualification::Term}}};
 
 SheetCell QualifiesCell(bool qualifies) {
     return TextCell(qualifies ? "YES" : "*NO", qualifies ? CellMark::None : CellMark::Bad);
@@ -59,8 +61,8 @@ std::string HomeEdge(const char* home, const HomeQualification& own) {
         const auto& answer = own.*question.Member;
         if (!answer)
             continue;
-        if (const std::string edge = EdgeSentence(*answer); !edge.empty())
-            return std::string(" ") + home + ", " + question.Caption + ": " + edge;
+        if (const std::string edge = EdgePhrase(*answer); !edge.empty())
+            return std::string(" ") + home + ", " + question.InSentence + " " + *answer->To + ": " + edge;
     }
     return {};
 }

@@ -101,7 +101,10 @@ TEST(Qualify, ALimitMayStopAtABandOfPMI) {
     EXPECT_EQ(base.Down->Edge, AnswerEdge::PMIBand);
     EXPECT_EQ(base.Down->Beyond, PMIBand::Below10);
     const Sheet sheet = QualifySheet(QualificationOf(session));
-    EXPECT_NE(sheet.Sentence.find("One step further puts the down payment below 10%"), std::string::npos);
+    EXPECT_NE(sheet.Sentence.find(
+                  "Base home, down payment 10.00%: one step further puts the down payment below 10%, "
+                  "where mortgage insurance costs more."),
+              std::string::npos);
 }
 
 TEST(Qualify, TriesTheOtherOptionsOnce) {
