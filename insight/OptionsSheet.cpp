@@ -35,7 +35,10 @@ std::vector<SheetCell> FigureCells(const OptionAnswer& row) {
 Sheet OptionsSheet(const OptionTable& options) {
     Sheet sheet;
     sheet.Title = "Mortgage options";
-    sheet.Sentence = options.Sentence;
+    sheet.Sentence =
+        options.Sentence +
+        " \"Larger Loan\" is how much more an option allows than the plain option of its group, by "
+        "its ratios and the energy savings together.";
     sheet.Heads = {"Base / GREENMARK", "Qualifies",   "Income", "Down Payment", "Mortgage",
                    "Monthly Cost",     "Monthly Net", "Room",   "Larger Loan"};
     for (const OptionAnswer& row : options.Rows) {

@@ -99,6 +99,8 @@ TEST(Options, SaysWhatThePaymentLeavesOut) {
               "The fees and premiums of FHA and VA loans are not in the payment. Some options "
               "show the same payment here; compare those costs as well.");
     const Sheet sheet = OptionsSheet(table);
+    EXPECT_TRUE(sheet.Sentence.starts_with(table.Sentence));
+    EXPECT_NE(sheet.Sentence.find("by its ratios and the energy savings together"), std::string::npos);
     EXPECT_EQ(sheet.Rows.size(), 7U);
     for (const auto& row : sheet.Rows)
         EXPECT_EQ(row.size(), sheet.Heads.size());
