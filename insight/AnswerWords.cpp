@@ -65,6 +65,8 @@ SheetCell AnswerCell(const std::optional<Answer>& answer, std::string_view whenN
     if (!answer->To)
         return TextCell(answer->Input.ends_with("Util") ? "not even $0 would do" : "does not help");
     SheetCell cell{*answer->To, answer->ToValue, UnitOf(*answer), CellMark::None};
+    if (answer->State == AnswerState::Found && answer->Change.value_or(0) != 0)
+        cell.Entries = {{answer->Input, *answer->To}};
     if (cell.Text.empty())
         cell.Text = "$0";
     if (answer->State == AnswerState::Always)
@@ -77,7 +79,7 @@ SheetCell ChangeCell(const std::optional<Answer>& answer) {
         return {};
     const double change = *answer->Change;
     const std::string sign = change > 0 ? "+" : (change < 0 ? "-" : "");
-    return {sign + ChangeSize(*answer), change, UnitOf(*answer), CellMark::None};
+    return {sign + ChangeSize(*answer), change, UnitOf(*answer), CellMark::None, {}};
 }
 
 std::string EdgePhrase(const Answer& answer) {

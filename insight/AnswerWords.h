@@ -19,7 +19,7 @@ std::string ChangeSize(const Answer& answer);
 std::string_view ChangeWord(const Answer& answer);
 
 /// The value that the answer arrives at, as a cell: "$214,300", "any, to 0.00%", "does not help"; `whenNone`
-/// without an answer.
+/// without an answer. The cell proposes to enter a value that was found.
 SheetCell AnswerCell(const std::optional<Answer>& answer, std::string_view whenNone);
 
 /// The change with its sign, as a cell: "+$6,660"; empty without a change.

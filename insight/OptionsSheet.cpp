@@ -45,6 +45,9 @@ Sheet OptionsSheet(const OptionTable& options) {
         const bool isCurrent = &row - options.Rows.data() == options.Current;
         std::vector<SheetCell> cells{TextCell(std::string(row.Base) + " / " + std::string(row.Labelled),
                                               isCurrent ? CellMark::Current : CellMark::None)};
+        if (!isCurrent)
+            cells.front().Entries = {{"cboStdMortOption", std::string(row.Base)},
+                                     {"cboGMHMortOption", std::string(row.Labelled)}};
         if (row.Missing.empty()) {
             auto figures = FigureCells(row);
             std::move(figures.begin(), figures.end(), std::back_inserter(cells));

@@ -74,6 +74,9 @@ void AddOptions(Sheet& sheet, const std::vector<OtherOption>& options, bool labe
             caption += " / " + std::string(option.Labelled);
         SheetCell cell = option.Missing.empty() ? QualifiesCell(option.Qualifies) : TextCell(option.Missing);
         std::vector<SheetCell> row{TextCell(std::move(caption)), {}, {}};
+        row.front().Entries = {{"cboStdMortOption", std::string(option.Base)}};
+        if (labelled)
+            row.front().Entries.push_back({"cboGMHMortOption", std::string(option.Labelled)});
         row[labelled ? 2 : 1] = std::move(cell);
         sheet.Rows.push_back(std::move(row));
     }

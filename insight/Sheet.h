@@ -21,11 +21,20 @@ enum class CellMark : std::uint8_t {
     Idle     ///< does not move the result
 };
 
+/// A text to enter into a control of the main window, or to choose there.
+struct EntryText {
+    std::string_view Control;
+    std::string Text;
+
+    bool operator==(const EntryText&) const = default;
+};
+
 struct SheetCell {
     std::string Text;
     std::optional<double> Number = std::nullopt; ///< for spreadsheets; empty where the text is not a number
     CellUnit Unit = CellUnit::Text;
     CellMark Mark = CellMark::None;
+    std::vector<EntryText> Entries = {}; ///< what the cell proposes to enter; empty for none
 };
 
 struct Sheet {
