@@ -14,8 +14,8 @@ constexpr std::size_t shownStep = 5;
 Sheet MapSheet(const NetMap& map) {
     Sheet sheet;
     sheet.Title = "Price difference and savings";
-    sheet.Sentence = "What is left each month for a price difference (across) and a yearly energy saving "
-                     "(down). Now the difference is " +
+    sheet.Sentence = "What is left each month for each price difference and yearly energy saving. Now the "
+                     "difference is " +
                      DollarText(map.PriceNow) + " and the saving " + DollarText(map.SavingsNow) +
                      " a year, which leaves " + DollarText(static_cast<double>(map.NetNow)) + " a month.";
     sheet.Heads.emplace_back("Saving");

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <utility>
 
@@ -30,21 +31,44 @@ std::vector<SheetCell> FigureCells(const OptionAnswer& row) {
             row.LoanGain ? DollarCell(*row.LoanGain) : SheetCell()};
 }
 
+constexpr std::array<std::string_view, BestNames.size()> bestWords{
+    "the lowest monthly cost", "the least cash down", "the most room", "the most left each month",
+    "the least income needed"};
+
+std::string PairOf(const OptionAnswer& row) {
+    return std::string(row.Base) + " / " + std::string(row.Labelled);
+}
+
+/// "FHA / FHA EEM has the least cash down and the least income needed."; empty if no row is the best of a
+/// column.
+std::string BestSentences(const OptionTable& options) {
+    std::string text;
+    for (const OptionAnswer& row : options.Rows) {
+        if (row.Best.empty())
+            continue;
+        text += PairOf(row);
+        for (std::size_t i = 0; i < row.Best.size(); ++i)
+            text += (i == 0 ? " has " : (i + 1 == row.Best.size() ? " and " : ", ")) +
+                    std::string(bestWords[static_cast<std::size_t>(row.Best[i])]);
+        text += ". ";
+    }
+    return text;
+}
+
 } // namespace
 
 Sheet OptionsSheet(const OptionTable& options) {
     Sheet sheet;
     sheet.Title = "Mortgage options";
     sheet.Sentence =
-        options.Sentence +
+        BestSentences(options) + options.Sentence +
         " \"Larger Loan\" is how much more an option allows than the plain option of its group, by "
         "its ratios and the energy savings together.";
     sheet.Heads = {"Base / GREENMARK", "Qualifies",   "Income", "Down Payment", "Mortgage",
                    "Monthly Cost",     "Monthly Net", "Room",   "Larger Loan"};
     for (const OptionAnswer& row : options.Rows) {
         const bool isCurrent = &row - options.Rows.data() == options.Current;
-        std::vector<SheetCell> cells{TextCell(std::string(row.Base) + " / " + std::string(row.Labelled),
-                                              isCurrent ? CellMark::Current : CellMark::None)};
+        std::vector<SheetCell> cells{TextCell(PairOf(row), isCurrent ? CellMark::Current : CellMark::None)};
         if (!isCurrent)
             cells.front().Entries = {{"cboStdMortOption", std::string(row.Base)},
                                      {"cboGMHMortOption", std::string(row.Labelled)}};

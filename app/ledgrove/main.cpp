@@ -16,6 +16,7 @@
 #include "app/options/CommandTable.h"
 #include "app/windows/ChartLoader.h"
 #include "app/windows/CurrentFile.h"
+#include "app/windows/InsightOpener.h"
 #include "app/windows/LastChoices.h"
 #include "app/windows/LoadedPrinters.h"
 #include "app/windows/MainMenu.h"
@@ -97,12 +98,15 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     };
     const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
     actions.Questions = questions;
+    Ledgrove::InsightOpener insight(session, host, questions, QCoreApplication::applicationDirPath());
+    actions.Ask = [&insight](Ledgrove::InsightQuestion question) { insight.Ask(question); };
     actions.Charts = [] { return Ledgrove::LoadCharts(QCoreApplication::applicationDirPath()); };
     Ledgrove::CurrentFile* current = nullptr;
     const QString sample = SampleFile(folder);
     if (QFile::exists(sample))
         actions.OpenSample = [&current, sample] { current->OpenCopy(sample); };
     Ledgrove::frmMain window(session, host, std::move(actions));
+    insight.Follow(window);
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
     current = new Ledgrove::CurrentFile(window, session, host, Ledgrove::RecentFiles(store), questions);
     window.show();

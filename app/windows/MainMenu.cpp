@@ -133,6 +133,10 @@ void AddToolsMenu(QMenuBar& bar, frmMain& window) {
     AddButtonCommand(menu, window, "bHouses", "&House Scenarios…", QKeySequence("Ctrl+H"));
     AddButtonCommand(menu, window, "Command1", "&Financial Assumptions…", QKeySequence("Ctrl+Shift+F"));
     AddButtonCommand(menu, window, "bSysOpt", "&Options…", QKeySequence("Ctrl+Shift+O"));
+    menu.addSeparator();
+    QAction* insight =
+        AddCommand(menu, "&Insight", QKeySequence("Ctrl+I"), [&window] { window.AskInsight(); });
+    insight->setEnabled(window.HasInsight());
 }
 
 void AddHelpMenu(QMenuBar& bar, frmMain& window) {

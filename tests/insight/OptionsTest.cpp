@@ -99,7 +99,12 @@ TEST(Options, SaysWhatThePaymentLeavesOut) {
               "The fees and premiums of FHA and VA loans are not in the payment. Some options "
               "show the same payment here; compare those costs as well.");
     const Sheet sheet = OptionsSheet(table);
-    EXPECT_TRUE(sheet.Sentence.starts_with(table.Sentence));
+    EXPECT_NE(sheet.Sentence.find(table.Sentence), std::string::npos);
+    // The answer comes first: the stars of the table in words.
+    EXPECT_EQ(sheet.Rows[6][2].Mark, CellMark::Best);
+    EXPECT_NE(sheet.Sentence.find("VA / VA EEM has the most room and the least income needed"),
+              std::string::npos)
+        << sheet.Sentence;
     EXPECT_NE(sheet.Sentence.find("by its ratios and the energy savings together"), std::string::npos);
     EXPECT_EQ(sheet.Rows.size(), 7U);
     for (const auto& row : sheet.Rows)

@@ -13,7 +13,7 @@ ID = "org.ledgrove.Ledgrove"
 TYPE = "application/vnd.ledgrove.comparison+json"
 PROGRAMS = {"ledgrove", "ledgrove-cli", "ledgrove-report", "ledgrove-chart", "ledgrove-metafile"}
 ICONS = {f"share/icons/hicolor/{size}x{size}/apps/{ID}.png" for size in (16, 24, 32, 48, 64, 128, 256)}
-MODULES = {"modules/ledgrove-charts.so", "modules/ledgrove-printers.so"}
+MODULES = {"modules/ledgrove-charts.so", "modules/ledgrove-insight.so", "modules/ledgrove-printers.so"}
 PAGES = {page for name in ("ledgrove", "ledgrove-cli") for page in (
     f"share/man/man1/{name}.1", f"share/bash-completion/completions/{name}", f"share/zsh/site-functions/_{name}",
     f"share/fish/vendor_completions.d/{name}.fish")}

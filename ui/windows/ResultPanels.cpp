@@ -10,6 +10,7 @@
 #include "ui/MainScreenRules.h"
 #include "ui/windows/ChartPlace.h"
 #include "ui/windows/Labels.h"
+#include "ui/windows/QuestionLink.h"
 #include "ui/windows/ResultTable.h"
 #include "ui/windows/ScrolledForm.h"
 #include "ui/windows/WelcomeHint.h"
@@ -192,6 +193,9 @@ ResultPanels::ResultPanels(QWidget* parent)
     // A click on a tab must take the focus, so that the current field is committed before the tab shows
     // results.
     tabBar()->setFocusPolicy(Qt::StrongFocus);
+    auto* link = new QuestionLink;
+    setCornerWidget(link);
+    connect(this, &QTabWidget::currentChanged, link, &QuestionLink::ShowTab);
     const char* mnemonics[TabCount] = {"&Welcome", "&Cash Flow", "&More Home", "Affordabi&lity", "Summar&y"};
     constexpr int moreHome = 2;
     QWidget* panels[TabCount] = {

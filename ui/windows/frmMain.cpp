@@ -16,6 +16,7 @@
 #include "engine/Recalculate.h"
 #include "ui/DataCheck.h"
 #include "ui/MainScreenRules.h"
+#include "ui/TextEntry.h"
 #include "ui/windows/Binding.h"
 #include "ui/windows/DownPaymentKeys.h"
 #include "ui/windows/EntryField.h"
@@ -23,6 +24,7 @@
 #include "ui/windows/MainInputs.h"
 #include "ui/windows/MainKeys.h"
 #include "ui/windows/Pictures.h"
+#include "ui/windows/QuestionLink.h"
 #include "ui/windows/ResultPanels.h"
 #include "ui/windows/ScrolledForm.h"
 #include "ui/windows/WelcomeHint.h"
@@ -68,6 +70,7 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     ConnectButtons();
     ConnectCharts();
     ConnectWelcome();
+    ConnectInsight();
     new FormGuard(*this);
     new MainKeys(*this, m_focus, [this] { OpenHelp(); });
     m_binding = std::make_unique<MainBinding>(m_session.Screen, *this);
@@ -94,6 +97,12 @@ void frmMain::Refresh() {
 void frmMain::ShowAnew() {
     Refresh();
     m_history.Restart(m_session);
+}
+
+void frmMain::Enter(const std::vector<EntryText>& texts) {
+    if (!CommitEntry())
+        return;
+    m_shows.Run([&] { Module1::EnterTexts(m_context, texts); });
 }
 
 void frmMain::Undo() {
@@ -221,6 +230,24 @@ void frmMain::ConnectWelcome() {
     m_hint = findChild<WelcomeHint*>();
     m_hint->Connect(m_session.Screen, m_actions.OpenSample);
     connect(m_hint, &WelcomeHint::Chosen, this, &frmMain::GoTo);
+}
+
+void frmMain::ConnectInsight() {
+    auto* link = findChild<QuestionLink*>();
+    if (!m_actions.Ask)
+        return link->hide();
+    connect(link, &QuestionLink::Asked, this,
+            [this](InsightQuestion question) { m_shows.Run([&] { m_actions.Ask(question); }); });
+}
+
+void frmMain::AskInsight() {
+    const int tab = m_session.Screen.SSTab1;
+    InsightQuestion question = InsightQuestions.front().Id;
+    for (const QuestionRow& row : InsightQuestions)
+        if (row.Tab == tab)
+            question = row.Id;
+    if (CommitEntry() && m_actions.Ask)
+        m_actions.Ask(question);
 }
 
 void frmMain::GoTo(const QString& control) {

@@ -4,7 +4,9 @@
 #include <functional>
 #include <memory>
 
+#include "insight/Sheet.h"
 #include "ui/EntryHistory.h"
+#include "ui/InsightQuestions.h"
 #include "ui/windows/ChartPlace.h"
 #include "ui/windows/FormFocus.h"
 #include "ui/windows/HelpPrinter.h"
@@ -30,7 +32,9 @@ struct MainActions {
     std::function<void(const QTextDocument&, QWidget& above)> PrintHelp;
     std::function<void()> OpenSample;    ///< fills in a sample comparison; empty if there is none
     std::function<ChartSource()> Charts; ///< empty: the tabs have no charts
-    FileQuestions Questions;             ///< asks where to save a chart
+    /// Opens the Insight window with this question; empty: there is none.
+    std::function<void(InsightQuestion)> Ask;
+    FileQuestions Questions; ///< asks where to save a chart
 };
 
 /// The main window: a view of the session's screen record. It passes events to the rules and then shows the
@@ -49,6 +53,10 @@ public:
     /// Shows a record whose inputs were replaced as a whole: nothing before it can be undone.
     void ShowAnew();
 
+    /// Enters texts as if they were typed and chosen in this window; one step for Undo. Does nothing if the
+    /// field with the focus refuses its own text.
+    void Enter(const std::vector<EntryText>& texts);
+
     bool CanUndo() const { return m_history.CanUndo(); }
     bool CanRedo() const { return m_history.CanRedo(); }
 
@@ -56,6 +64,13 @@ public:
     bool CommitEntry();
 
     void PrintHelp(const QTextDocument& document, QWidget& above) override;
+
+    /// Opens the help at a topic, such as "ctxInsight".
+    void OpenHelpAt(const QString& anchor) { m_help.Open(anchor); }
+
+    /// Asks the question of the shown tab, or the first one.
+    void AskInsight();
+    bool HasInsight() const { return static_cast<bool>(m_actions.Ask); }
 
 public slots:
     /// Takes back the last entry, or brings it again.
@@ -82,6 +97,7 @@ private:
     void ConnectButtons();
     void ConnectCharts();
     void ConnectWelcome();
+    void ConnectInsight();
     void GoTo(const QString& control);
     void GoThroughHistory(void (EntryHistory::*step)(Session&));
     void ConnectAction(const char* button, std::function<void()> action);

@@ -1,0 +1,65 @@
+#include "app/windows/InsightOpener.h"
+
+#include <QPluginLoader>
+#include <QPushButton>
+#include <utility>
+
+#include "ui/InsightCharts.h"
+#include "ui/windows/SafeFile.h"
+
+namespace Ledgrove {
+
+InsightOpener::InsightOpener(Session& session, Host& outside, FileQuestions questions, QString folder)
+    : m_session(session)
+    , m_outside(outside)
+    , m_questions(std::move(questions))
+    , m_folder(std::move(folder)) {}
+
+InsightOpener::~InsightOpener() = default;
+
+void InsightOpener::Follow(frmMain& window) {
+    m_main = &window;
+    connect(&window, &frmMain::Refreshed, this, [this] {
+        if (m_window)
+            m_window->Follow();
+    });
+    connect(&window, &frmMain::Closed, this, [this] { m_window.reset(); });
+}
+
+InsightContext InsightOpener::Context() {
+    InsightContext context;
+    context.Answer = [this](InsightQuestion question) { return AnswerOf(question, m_session); };
+    context.CellText = &MapCellText;
+    context.CellEntries = [this](const ChartGrid& grid, std::size_t column, std::size_t row) {
+        return EntriesOfCell(m_session, grid, column, row);
+    };
+    context.Enter = [this](const std::vector<EntryText>& texts) { m_main->Enter(texts); };
+    context.Help = [this] { m_main->OpenHelpAt("ctxInsight"); };
+    context.Questions = m_questions;
+    context.Write = [this](const QString& file, const QByteArray& content) {
+        const QString fault = WriteWholeFile(file, content);
+        if (!fault.isEmpty())
+            m_outside.ShowMessage({ApplicationTitle, fault.toStdString(), MessageIcon::Exclamation});
+    };
+    return context;
+}
+
+void InsightOpener::Ask(InsightQuestion question) {
+    if (!m_window) {
+        QPluginLoader loader(m_folder + "/modules/ledgrove-insight.so");
+        auto* factory = qobject_cast<InsightFactory*>(loader.instance());
+        if (!factory) {
+            const std::string why = loader.errorString().toStdString();
+            m_outside.ShowMessage(
+                {ApplicationTitle, "Insight cannot be opened: " + why, MessageIcon::Exclamation});
+            return;
+        }
+        m_window.reset(factory->Make(Context()));
+    }
+    m_window->show();
+    m_window->Ask(question);
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+#include "engine/Session.h"
+#include "ui/windows/InsightWindow.h"
+#include "ui/windows/frmMain.h"
+
+namespace Ledgrove {
+
+/// Opens the Insight window, which it loads from `modules` with the first question, and keeps it up to date.
+class InsightOpener : public QObject {
+    Q_OBJECT
+
+public:
+    /// `session` and `outside` must outlive the object; `folder` is the program's.
+    InsightOpener(Session& session, Host& outside, FileQuestions questions, QString folder);
+    ~InsightOpener() override;
+
+    /// Connects the main window, whose entries the Insight window follows. It must outlive the object.
+    void Follow(frmMain& window);
+
+    /// Opens the window with this question, or brings it to the front. Reports a missing library.
+    void Ask(InsightQuestion question);
+
+private:
+    InsightContext Context();
+
+    Session& m_session;
+    Host& m_outside;
+    FileQuestions m_questions;
+    QString m_folder;
+    frmMain* m_main = nullptr;
+    std::unique_ptr<InsightWindow> m_window;
+};
+
+} // namespace Ledgrove

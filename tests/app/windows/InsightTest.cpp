@@ -1,0 +1,312 @@
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <memory>
+
+#include "DesktopDesk.h"
+#include "ui/InsightAnswers.h"
+#include "ui/InsightCharts.h"
+#include "ui/windows/QuestionLink.h"
+#include "ui/windows/insight/AnswerPicture.h"
+#include "ui/windows/insight/SheetModel.h"
+#include "ui/windows/insight/SheetView.h"
+#include "ui/windows/insight/frmInsight.h"
+
+using namespace Ledgrove;
+
+namespace {
+
+constexpr auto sample = R"({"ecIncome": 72000, "ecMonthlyDebt": 350, "ecPctDown": 10, "ecStdHome": 200000,
+    "ecGMHHome": 206000, "ecStdUtil": 2400, "ecGMHUtil": 1700, "ecStdRate": 6.5, "ecGMHRate": 6.5})";
+
+/// The main window with the sample and the Insight window beside it.
+struct InsightDesk {
+    InsightDesk()
+        : Open(Actions()) {
+        PutBytes(Open.PathOf("a.ledgrove.json"), sample);
+        Open.File->OpenNamed(Open.PathOf("a.ledgrove.json"));
+        InsightContext context;
+        context.Answer = [this](InsightQuestion question) {
+            ++Answers;
+            return AnswerOf(question, Open.State);
+        };
+        context.CellText = &MapCellText;
+        context.CellEntries = [this](const ChartGrid& grid, std::size_t column, std::size_t row) {
+            return EntriesOfCell(Open.State, grid, column, row);
+        };
+        context.Enter = [this](const std::vector<EntryText>& texts) { Open.Window->Enter(texts); };
+        context.Help = [this] { ++Helps; };
+        context.Questions = Open.Questions;
+        context.Write = [this](const QString&, const QByteArray& content) { Written = content; };
+        Window = std::make_unique<frmInsight>(std::move(context));
+        QObject::connect(Open.Window.get(), &frmMain::Refreshed, Window.get(), [this] { Window->Follow(); });
+    }
+
+    MainActions Actions() {
+        MainActions actions;
+        actions.Ask = [this](InsightQuestion question) { Asked.append(question); };
+        return actions;
+    }
+
+    void Show(InsightQuestion question) {
+        Window->show();
+        Window->Ask(question);
+    }
+
+    template <typename Widget>
+    Widget& Find(const char* name) {
+        return *Window->findChild<Widget*>(name);
+    }
+
+    QString Sentence() { return Find<QLabel>("Sentence").text(); }
+    QAbstractItemModel& Table() { return *Find<SheetView>("AnswerTable").model(); }
+    QString Cell(int row, int column) { return Table().index(row, column).data().toString(); }
+    int RowOf(const QString& caption) {
+        for (int row = 0; row < Table().rowCount(); ++row)
+            if (Cell(row, 0) == caption)
+                return row;
+        return -1;
+    }
+
+    int Answers = 0;
+    int Helps = 0;
+    QByteArray Written;
+    QList<InsightQuestion> Asked;
+    OpenDesktop Open;
+    std::unique_ptr<frmInsight> Window;
+};
+
+} // namespace
+
+class InsightTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aLinkAsksTheTabsQuestion();
+    void nothingIsComputedWhileItIsClosed();
+    void itFollowsEachEntry();
+    void whatChangedIsMarkedForAMoment();
+    void aMissingPriceIsSaid();
+    void aFoundValueIsEntered();
+    void optionsAreChosen();
+    void anEntryIsOneStepOfUndo();
+    void aRefusedFieldIsNotOverwritten();
+    void tablesAreSortedAndRestored();
+    void tablesAreSpokenWithRowAndColumn();
+    void tablesAreCopied();
+    void theMapsCellsAreReachedByKeys();
+    void aCellOfTheMapIsEntered();
+    void picturesAreSaved();
+    void keysCloseAndHelp();
+};
+
+void InsightTest::aLinkAsksTheTabsQuestion() {
+    InsightDesk desk;
+    auto& link = desk.Open.Find<QuestionLink>("bQuestion");
+    QVERIFY(!link.isEnabled());
+    const std::pair<int, InsightQuestion> tabs[] = {{1, InsightQuestion::HowFar},
+                                                    {2, InsightQuestion::WhichLoan},
+                                                    {3, InsightQuestion::WhoQualifies},
+                                                    {4, InsightQuestion::WhatMatters}};
+    for (const auto& [tab, question] : tabs) {
+        desk.Open.Find<QTabWidget>("SSTab1").setCurrentIndex(tab);
+        link.click();
+        QCOMPARE(desk.Asked.last(), question);
+    }
+    QCOMPARE(link.text(), "What matters most?");
+}
+
+void InsightTest::nothingIsComputedWhileItIsClosed() {
+    InsightDesk desk;
+    desk.Open.Enter("ecStdHome", "201000");
+    QCOMPARE(desk.Answers, 0);
+    desk.Show(InsightQuestion::HowFar);
+    QVERIFY(desk.Answers > 0);
+    desk.Window->close();
+    const int before = desk.Answers;
+    desk.Open.Enter("ecStdHome", "202000");
+    QCOMPARE(desk.Answers, before);
+}
+
+void InsightTest::itFollowsEachEntry() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::HowFar);
+    QVERIFY2(desk.Sentence().startsWith("The GREENMARK home pays for itself up to a price of"),
+             qPrintable(desk.Sentence()));
+    const QString before = desk.Cell(0, 2);
+    const int answers = desk.Answers;
+    desk.Open.Enter("ecGMHUtil", "1500");
+    QVERIFY(desk.Cell(0, 2) != before);
+    QCOMPARE(desk.Answers, answers + 1);
+}
+
+void InsightTest::whatChangedIsMarkedForAMoment() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::HowFar);
+    QVERIFY(!desk.Find<QLabel>("Sentence").autoFillBackground());
+    desk.Open.Enter("ecGMHUtil", "1500");
+    QVERIFY(desk.Find<QLabel>("Sentence").autoFillBackground());
+    const QModelIndex changed = desk.Table().index(0, 2);
+    QVERIFY(changed.data(Qt::BackgroundRole).isValid());
+    QVERIFY(!desk.Table().index(0, 0).data(Qt::BackgroundRole).isValid());
+    QTRY_VERIFY(!changed.data(Qt::BackgroundRole).isValid());
+    QTRY_VERIFY(!desk.Find<QLabel>("Sentence").autoFillBackground());
+}
+
+void InsightTest::aMissingPriceIsSaid() {
+    InsightDesk desk;
+    desk.Open.Enter("ecGMHHome", "0");
+    desk.Show(InsightQuestion::HowFar);
+    QVERIFY(!desk.Sentence().isEmpty());
+    QVERIFY(!desk.Find<SheetView>("AnswerTable").isVisible());
+    QVERIFY(!desk.Find<QPushButton>("bCopy").isEnabled());
+    QVERIFY(!desk.Find<QPushButton>("bEnter").isEnabled());
+}
+
+void InsightTest::aFoundValueIsEntered() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::HowFar);
+    auto& enter = desk.Find<QPushButton>("bEnter");
+    QVERIFY(!enter.isEnabled());
+    const QString price = desk.Cell(0, 2);
+    desk.Find<SheetView>("AnswerTable").setCurrentIndex(desk.Table().index(0, 2));
+    QVERIFY(enter.isEnabled());
+    enter.click();
+    QCOMPARE(desk.Open.FieldText("ecGMHHome"), price);
+    // At its limit the home just pays; a dollar further it would not.
+    QVERIFY(desk.Open.State.Scenario.NetMonthlyCashFlow >= 0);
+    desk.Open.Enter("ecGMHHome", QString::number(QString(price).remove('$').remove(',').toInt() + 1));
+    QVERIFY(desk.Open.State.Scenario.NetMonthlyCashFlow < 0);
+}
+
+void InsightTest::optionsAreChosen() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::WhichLoan);
+    auto& enter = desk.Find<QPushButton>("bEnter");
+    desk.Find<SheetView>("AnswerTable").setCurrentIndex(desk.Table().index(desk.RowOf("VA / VA EEM"), 3));
+    QCOMPARE(enter.text().remove('&'), "Use These Options");
+    enter.click();
+    QCOMPARE(desk.Open.Find<QComboBox>("cboStdMortOption").currentText(), "VA");
+    QCOMPARE(desk.Open.Find<QComboBox>("cboGMHMortOption").currentText(), "VA EEM");
+    QVERIFY(desk.RowOf("> VA / VA EEM") >= 0);
+}
+
+void InsightTest::anEntryIsOneStepOfUndo() {
+    InsightDesk desk;
+    desk.Open.Window->Enter({{"ecGMHHome", "$210,000"}, {"ecGMHUtil", "$1,000"}});
+    QCOMPARE(desk.Open.FieldText("ecGMHUtil"), "$1,000");
+    desk.Open.Window->Undo();
+    QCOMPARE(desk.Open.FieldText("ecGMHHome"), "$206,000");
+    QCOMPARE(desk.Open.FieldText("ecGMHUtil"), "$1,700");
+}
+
+void InsightTest::aRefusedFieldIsNotOverwritten() {
+    InsightDesk desk;
+    desk.Open.Type("ecGMHHome", "abc");
+    desk.Open.Window->Enter({{"ecGMHHome", "$210,000"}});
+    QCOMPARE(desk.Open.FieldText("ecGMHHome"), "abc");
+}
+
+void InsightTest::tablesAreSortedAndRestored() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::WhichLoan);
+    const QString first = desk.Cell(0, 0);
+    auto& view = desk.Find<SheetView>("AnswerTable");
+    constexpr int incomeColumn = 2;
+    view.sortByColumn(incomeColumn, Qt::AscendingOrder);
+    // By the number: "* $53,000" comes before "$54,000".
+    double before = 0;
+    for (int row = 0; row < desk.Table().rowCount(); ++row) {
+        const double income = desk.Table().index(row, incomeColumn).data(SheetModel::SortRole).toDouble();
+        QVERIFY(income >= before);
+        before = income;
+    }
+    view.Settle();
+    QCOMPARE(desk.Cell(0, 0), first);
+}
+
+void InsightTest::tablesAreSpokenWithRowAndColumn() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::HowFar);
+    const QModelIndex bill = desk.Table().index(desk.RowOf("Annual utility cost"), 1);
+    QCOMPARE(bill.data(Qt::AccessibleTextRole).toString(), "Annual utility cost, Now: $1,700");
+}
+
+void InsightTest::tablesAreCopied() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::HowFar);
+    const Sheet sheet = AnswerOf(InsightQuestion::HowFar, desk.Open.State).Table;
+    const QStringList lines = SheetAsRange(sheet).split('\n');
+    QCOMPARE(lines.first(), "GREENMARK Home\tNow\tPays Up To\tChange");
+    // Numbers without signs, so that a spreadsheet can calculate with them.
+    QVERIFY2(lines[1].section('\t', 2, 2).toInt() > 206000, qPrintable(lines[1]));
+    QVERIFY(SheetAsText(sheet).startsWith(QString::fromStdString(sheet.Sentence)));
+    auto& view = desk.Find<SheetView>("AnswerTable");
+    view.setCurrentIndex(desk.Table().index(0, 1));
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), "$206,000");
+}
+
+void InsightTest::theMapsCellsAreReachedByKeys() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::PriceAndSavings);
+    auto& picture = desk.Find<AnswerPicture>("AnswerPicture");
+    picture.setFocus();
+    QTest::keyClick(&picture, Qt::Key_Right);
+    const QString words = desk.Find<QLabel>("CellText").text();
+    QVERIFY2(words.startsWith("A price difference of $"), qPrintable(words));
+    QCOMPARE(picture.accessibleDescription(), words);
+    for (int step = 0; step < 100; ++step)
+        QTest::keyClick(&picture, Qt::Key_Left);
+    QVERIFY(desk.Find<QLabel>("CellText").text().startsWith("A price difference of $0 and"));
+}
+
+void InsightTest::aCellOfTheMapIsEntered() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::PriceAndSavings);
+    auto& picture = desk.Find<AnswerPicture>("AnswerPicture");
+    const ChartGrid grid = picture.Shown().Grid;
+    emit picture.CellChosen(30, 35);
+    // Base price and bill are $200,000 and $2,400.
+    const auto number = [&](const char* field) {
+        return desk.Open.FieldText(field).remove('$').remove(',').toDouble();
+    };
+    QCOMPARE(number("ecGMHHome"), 200000 + grid.Columns[30]);
+    QCOMPARE(number("ecGMHUtil"), 2400 - grid.Rows[35]);
+    QCOMPARE(static_cast<double>(desk.Open.State.Scenario.NetMonthlyCashFlow),
+             static_cast<double>(*grid.Nets[35][30]));
+}
+
+void InsightTest::picturesAreSaved() {
+    InsightDesk desk;
+    for (const InsightQuestion question : {InsightQuestion::WhatMatters, InsightQuestion::PriceAndSavings}) {
+        desk.Show(question);
+        desk.Open.NameToGive = "/tmp/a.svg";
+        desk.Find<QPushButton>("bSavePicture").click();
+        QVERIFY(desk.Written.contains("<svg"));
+        QVERIFY(!desk.Written.contains("<image"));
+        desk.Open.NameToGive = "/tmp/a.png";
+        desk.Find<QPushButton>("bSavePicture").click();
+        QVERIFY(desk.Written.startsWith("\x89PNG"));
+    }
+    desk.Show(InsightQuestion::HowFar);
+    QVERIFY(!desk.Find<QPushButton>("bSavePicture").isEnabled());
+}
+
+void InsightTest::keysCloseAndHelp() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::HowFar);
+    QTest::keyClick(desk.Window.get(), Qt::Key_F1);
+    QCOMPARE(desk.Helps, 1);
+    QTest::keyClick(desk.Window.get(), Qt::Key_Escape);
+    QVERIFY(!desk.Window->isVisible());
+}
+
+QTEST_MAIN(InsightTest)
+#include "InsightTest.moc"

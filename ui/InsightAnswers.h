@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "engine/Session.h"
+#include "insight/Sheet.h"
+#include "ui/ChartFigures.h"
+#include "ui/InsightQuestions.h"
+
+namespace Ledgrove {
+
+/// The answer to a question of the Insight window.
+struct InsightAnswer {
+    std::string Missing; ///< why there is no answer; empty if there is one
+    Sheet Table;
+    std::optional<ChartFigures> Picture; ///< empty if the table is all
+};
+
+/// Answers one question about the session's inputs, and computes nothing else.
+InsightAnswer AnswerOf(InsightQuestion question, const Session& session);
+
+/// What entering a cell of the map means: the labelled home's price and utility bill that give its price
+/// difference and saving. Empty for a cell that is not possible.
+std::vector<EntryText> EntriesOfCell(const Session& session, const ChartGrid& grid, std::size_t column,
+                                     std::size_t row);
+
+} // namespace Ledgrove

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+// The questions of the Insight window.
+namespace Ledgrove {
+
+enum class InsightQuestion : std::uint8_t { HowFar, WhichLoan, WhoQualifies, WhatMatters, PriceAndSavings };
+
+struct QuestionRow {
+    InsightQuestion Id;
+    std::string_view Words; ///< in people's words
+    int Tab;                ///< the tab of the main window whose link asks it; 0 for none
+};
+
+/// The questions in the order of the window's list.
+inline constexpr std::array InsightQuestions{
+    QuestionRow{InsightQuestion::HowFar, "How far can the price go?", 1},
+    QuestionRow{InsightQuestion::WhichLoan, "Which loan is best?", 2},
+    QuestionRow{InsightQuestion::WhoQualifies, "Do we qualify, and what would help?", 3},
+    QuestionRow{InsightQuestion::WhatMatters, "What matters most?", 4},
+    QuestionRow{InsightQuestion::PriceAndSavings, "Price against savings", 0},
+};
+
+} // namespace Ledgrove

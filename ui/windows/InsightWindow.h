@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "ui/InsightAnswers.h"
+#include "ui/windows/FileQuestions.h"
+
+namespace Ledgrove {
+
+/// What the Insight window needs from the program. The window has no code of the calculation.
+struct InsightContext {
+    std::function<InsightAnswer(InsightQuestion)> Answer;
+    /// What a cell of the map stands for, and what entering it means.
+    std::function<std::string(const ChartGrid&, std::size_t column, std::size_t row)> CellText;
+    std::function<std::vector<EntryText>(const ChartGrid&, std::size_t column, std::size_t row)> CellEntries;
+    /// Enters texts into the main window as if they were typed there.
+    std::function<void(const std::vector<EntryText>&)> Enter;
+    std::function<void()> Help;
+    FileQuestions Questions; ///< asks where to save a picture
+    /// Replaces a whole file; reports a fault to the user.
+    std::function<void(const QString& file, const QByteArray& content)> Write;
+};
+
+/// The window with the answers behind the figures. It has no meta-object, because the program and the library
+/// that makes it would each have their own copy.
+class InsightWindow : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    /// Shows the answer to this question.
+    virtual void Ask(InsightQuestion question) = 0;
+
+    /// Computes the shown answer anew, after an entry in the main window.
+    virtual void Follow() = 0;
+};
+
+/// Makes the window. It is in a separate library that is loaded with the first question, so the program
+/// starts without it.
+class InsightFactory {
+public:
+    virtual ~InsightFactory() = default;
+
+    virtual InsightWindow* Make(InsightContext context) = 0;
+};
+
+} // namespace Ledgrove
+
+#define LEDGROVE_INSIGHT_FACTORY "ledgrove.InsightFactory"
+Q_DECLARE_INTERFACE(Ledgrove::InsightFactory, LEDGROVE_INSIGHT_FACTORY)

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPainter>
+#include <QPalette>
+#include <QRectF>
+#include <optional>
+
+#include "ui/ChartFigures.h"
+
+// Paints the pictures of the Insight window as vectors: on the screen, into a file and on paper.
+namespace Ledgrove {
+
+/// A cell of the map: the index of its price difference and that of its saving.
+struct MapCell {
+    int Column = 0;
+    int Row = 0;
+
+    bool operator==(const MapCell&) const = default;
+};
+
+/// Paints the chart into the rectangle, with the painter's font and the palette's text colour. The chart is a
+/// sensitivity or a map. `cursor` is outlined on a map.
+void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& chart, const QPalette& palette,
+                  const std::optional<MapCell>& cursor = {});
+
+/// The cell of a map painted into this rectangle at this point; empty beside the cells.
+std::optional<MapCell> MapCellAt(const QRectF& place, const QFontMetricsF& metrics, const ChartFigures& chart,
+                                 const QPointF& point);
+
+} // namespace Ledgrove

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QColor>
+#include <QPalette>
+#include <QSet>
+#include <QTimer>
+
+#include "insight/Sheet.h"
+
+namespace Ledgrove {
+
+/// The text of a sheet's cell with the sign of its mark: "* " for the best of a column, "> " for what is
+/// chosen now. Colour is never the only sign.
+QString MarkedText(const SheetCell& cell);
+
+/// What the signs of the sheet's cells mean; empty without signs.
+QString LegendOf(const Sheet& sheet);
+
+/// The ground of what has just changed, with this palette.
+QColor ChangedColour(const QPalette& palette);
+
+/// The whole sheet as aligned lines of text, with its sentence.
+QString SheetAsText(const Sheet& sheet);
+
+/// The table as a spreadsheet takes it from the clipboard: tabs between the cells, numbers without signs.
+QString SheetAsRange(const Sheet& sheet);
+
+/// A sheet as a table for views and screen readers. Cells that a new sheet changes are marked for a moment.
+class SheetModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    /// The value to sort by: the number of a cell, or its text.
+    static constexpr int SortRole = Qt::UserRole;
+
+    explicit SheetModel(QObject* parent = nullptr);
+
+    /// Shows this sheet. If it answers the same question as the one before, marks what changed.
+    void Show(const Sheet& sheet);
+    const Sheet& Shown() const { return m_sheet; }
+    /// What the cell proposes to enter: its own entries, or those of its row's first cell.
+    const std::vector<EntryText>& EntriesAt(const QModelIndex& index) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QString Spoken(const QModelIndex& index) const;
+    void MarkChanges(const Sheet& before);
+    void ForgetChanges();
+
+    Sheet m_sheet;
+    QSet<QPair<int, int>> m_changed;
+    QTimer m_highlight;
+};
+
+} // namespace Ledgrove

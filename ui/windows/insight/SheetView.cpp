@@ -1,0 +1,77 @@
+#include "ui/windows/insight/SheetView.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QSortFilterProxyModel>
+
+#include "ui/windows/insight/SheetModel.h"
+
+namespace Ledgrove {
+
+SheetView::SheetView(SheetModel& model, QWidget* parent)
+    : QTableView(parent)
+    , m_sorted(new QSortFilterProxyModel(this)) {
+    m_sorted->setSourceModel(&model);
+    m_sorted->setSortRole(SheetModel::SortRole);
+    setModel(m_sorted);
+    setObjectName("AnswerTable");
+    setAccessibleName("Answer");
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    horizontalHeader()->setSortIndicatorClearable(true);
+    horizontalHeader()->setHighlightSections(false);
+    setSortingEnabled(true);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setSelectionMode(ContiguousSelection);
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { emit CellChanged(); });
+    connect(this, &QTableView::doubleClicked, this, [this] { emit CellActivated(); });
+}
+
+QModelIndex SheetView::CurrentCell() const {
+    return m_sorted->mapToSource(currentIndex());
+}
+
+void SheetView::Settle() {
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_sorted->sort(-1);
+    resizeColumnsToContents();
+}
+
+QSize SheetView::sizeHint() const {
+    const int rows = verticalHeader()->length() + horizontalHeader()->sizeHint().height() + 2 * frameWidth();
+    return {horizontalHeader()->length() + 2 * frameWidth(), rows};
+}
+
+QSize SheetView::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 7};
+}
+
+void SheetView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        emit CellActivated();
+        return;
+    }
+    if (!event->matches(QKeySequence::Copy))
+        return QTableView::keyPressEvent(event);
+    const QItemSelection chosen = selectionModel()->selection();
+    if (chosen.isEmpty())
+        return;
+    const QItemSelectionRange range = chosen.first();
+    QStringList lines;
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+        QStringList cells;
+        for (int column = range.left(); column <= range.right(); ++column)
+            cells += m_sorted->index(row, column).data().toString();
+        lines += cells.join('\t');
+    }
+    QGuiApplication::clipboard()->setText(lines.join('\n'));
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QTableView>
+
+class QSortFilterProxyModel;
+
+namespace Ledgrove {
+
+class SheetModel;
+
+/// The table of an answer: sorted by a click on a head, a third click restores its own order.
+class SheetView : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit SheetView(SheetModel& model, QWidget* parent = nullptr);
+
+    /// The model's index of the current cell; invalid without one.
+    QModelIndex CurrentCell() const;
+
+    /// Gives each column the width of its contents and restores the sheet's own order.
+    void Settle();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void CellChanged();
+    void CellActivated();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QSortFilterProxyModel* m_sorted;
+};
+
+} // namespace Ledgrove

@@ -1,0 +1,236 @@
+#include "ui/windows/insight/frmInsight.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/windows/Identify.h"
+#include "ui/windows/UsersFolder.h"
+#include "ui/windows/insight/AnswerPicture.h"
+#include "ui/windows/insight/SheetView.h"
+
+namespace Ledgrove {
+
+namespace {
+
+constexpr int highlightMilliseconds = 1500;
+
+QString Words(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// A label that wraps and that a mouse or a screen reader can copy from.
+QLabel* MakeText(const char* control) {
+    auto* label = new QLabel;
+    label->setObjectName(control);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+frmInsight::frmInsight(InsightContext context)
+    : m_context(std::move(context)) {
+    setObjectName("frmInsight");
+    setWindowTitle("Insight");
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(8, 8, 8, 8);
+    row->addWidget(MakeQuestions());
+    row->addWidget(MakeAnswer(), 1);
+    m_highlight.setSingleShot(true);
+    m_highlight.setInterval(highlightMilliseconds);
+    connect(&m_highlight, &QTimer::timeout, this, [this] { m_sentence->setAutoFillBackground(false); });
+}
+
+QWidget* frmInsight::MakeQuestions() {
+    m_questions = new QListWidget;
+    Identify(*m_questions, "Questions", "Questions");
+    for (const QuestionRow& row : InsightQuestions)
+        m_questions->addItem(Words(row.Words));
+    m_questions->setWordWrap(true);
+    m_questions->setSpacing(2);
+    m_questions->setFixedWidth(fontMetrics().averageCharWidth() * 24);
+    m_questions->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(m_questions, &QListWidget::currentRowChanged, this, [this](int row) {
+        m_question = InsightQuestions[static_cast<std::size_t>(row)].Id;
+        m_model.Show({});
+        ShowAnswer();
+        m_table->Settle();
+    });
+    return m_questions;
+}
+
+QWidget* frmInsight::MakeAnswer() {
+    auto* answer = new QWidget;
+    auto* column = new QVBoxLayout(answer);
+    column->setContentsMargins(8, 0, 0, 0);
+    m_sentence = MakeText("Sentence");
+    QFont larger = m_sentence->font();
+    larger.setPointSizeF(larger.pointSizeF() * 1.25);
+    m_sentence->setFont(larger);
+    column->addWidget(m_sentence);
+    m_picture = new AnswerPicture([this](const ChartGrid& grid, std::size_t at, std::size_t row) {
+        return Words(m_context.CellText(grid, at, row));
+    });
+    column->addWidget(m_picture, 3);
+    m_cell = MakeText("CellText");
+    column->addWidget(m_cell);
+    m_table = new SheetView(m_model);
+    column->addWidget(m_table, 2);
+    m_legend = MakeText("Legend");
+    column->addWidget(m_legend);
+    column->addLayout(MakeButtons());
+    connect(m_picture, &AnswerPicture::CellSaid, m_cell, &QLabel::setText);
+    connect(m_picture, &AnswerPicture::CellChosen, this, &frmInsight::ChooseMapCell);
+    connect(m_table, &SheetView::CellChanged, this, &frmInsight::OfferEntry);
+    connect(m_table, &SheetView::CellActivated, this, &frmInsight::EnterCell);
+    // On a small screen the answer scrolls.
+    auto* scrolled = new QScrollArea;
+    scrolled->setWidget(answer);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    return scrolled;
+}
+
+QPushButton* frmInsight::AddButton(QLayout& row, const char* control, const QString& caption) {
+    auto* button = new QPushButton(caption);
+    button->setObjectName(control);
+    button->setAutoDefault(true);
+    row.addWidget(button);
+    return button;
+}
+
+QLayout* frmInsight::MakeButtons() {
+    auto* row = new QHBoxLayout;
+    m_enter = AddButton(*row, "bEnter", "&Try It");
+    row->addStretch();
+    m_copy = AddButton(*row, "bCopy", "&Copy");
+    auto* menu = new QMenu(m_copy);
+    menu->addAction("As &Text", this, [this] { Copy(&SheetAsText); });
+    menu->addAction("As &Spreadsheet Range", this, [this] { Copy(&SheetAsRange); });
+    m_copy->setMenu(menu);
+    m_save = AddButton(*row, "bSavePicture", "&Save Picture…");
+    QPushButton* help = AddButton(*row, "bHelp", "&Help");
+    connect(m_enter, &QPushButton::clicked, this, &frmInsight::EnterCell);
+    connect(m_save, &QPushButton::clicked, this, &frmInsight::SavePicture);
+    connect(help, &QPushButton::clicked, this, [this] { m_context.Help(); });
+    return row;
+}
+
+void frmInsight::Ask(InsightQuestion question) {
+    for (std::size_t row = 0; row < InsightQuestions.size(); ++row) {
+        if (InsightQuestions[row].Id == question)
+            m_questions->setCurrentRow(static_cast<int>(row));
+    }
+    m_questions->setFocus(Qt::OtherFocusReason);
+}
+
+void frmInsight::Follow() {
+    if (!isVisible())
+        return;
+    const QString before = m_sentence->text();
+    ShowAnswer();
+    if (m_sentence->text() != before)
+        MarkSentence();
+}
+
+void frmInsight::ShowAnswer() {
+    const InsightAnswer answer = m_context.Answer(m_question);
+    const bool hasAnswer = answer.Missing.empty();
+    m_sentence->setText(Words(hasAnswer ? answer.Table.Sentence : answer.Missing));
+    m_table->setVisible(hasAnswer);
+    m_copy->setEnabled(hasAnswer);
+    m_picture->setVisible(answer.Picture.has_value());
+    m_cell->setVisible(answer.Picture && answer.Picture->Kind == ChartKind::NetMap);
+    m_save->setEnabled(answer.Picture.has_value());
+    if (answer.Picture)
+        m_picture->Show(*answer.Picture);
+    if (hasAnswer)
+        m_model.Show(answer.Table);
+    m_legend->setText(LegendOf(answer.Table));
+    m_legend->setVisible(!m_legend->text().isEmpty());
+    SetSpokenName(*m_table, Words(answer.Table.Title));
+    OfferEntry();
+}
+
+/// For a moment, because a person looks at the main window while typing there.
+void frmInsight::MarkSentence() {
+    QPalette marked = m_sentence->palette();
+    marked.setColor(QPalette::Window, ChangedColour(palette()));
+    m_sentence->setPalette(marked);
+    m_sentence->setAutoFillBackground(true);
+    m_highlight.start();
+}
+
+void frmInsight::OfferEntry() {
+    const auto& entries = m_model.EntriesAt(m_table->CurrentCell());
+    const bool isOption = !entries.empty() && entries.front().Control == "cboStdMortOption";
+    m_enter->setText(isOption ? "&Use These Options" : "&Try It");
+    m_enter->setEnabled(!entries.empty() && m_table->isVisible());
+    m_enter->setToolTip(entries.empty() ? "Choose a row with a value to try." : "");
+}
+
+void frmInsight::EnterCell() {
+    // The answer changes while the texts are entered.
+    const std::vector<EntryText> entries = m_model.EntriesAt(m_table->CurrentCell());
+    if (!entries.empty())
+        m_context.Enter(entries);
+}
+
+void frmInsight::ChooseMapCell(std::size_t column, std::size_t row) {
+    const auto entries = m_context.CellEntries(m_picture->Shown().Grid, column, row);
+    if (!entries.empty())
+        m_context.Enter(entries);
+}
+
+void frmInsight::Copy(QString (*form)(const Sheet&)) {
+    QGuiApplication::clipboard()->setText(form(m_model.Shown()));
+}
+
+void frmInsight::SavePicture() {
+    const QString folder = UsersFolder(QStandardPaths::PicturesLocation);
+    const QString name = QString::fromStdString(m_picture->Shown().Title).toLower().replace(' ', '-');
+    const QString file = m_context.Questions.SaveName(
+        *this, {"Save Picture", folder + '/' + name + ".png", "Pictures (*.png *.svg)", ".png"});
+    if (!file.isEmpty())
+        m_context.Write(file,
+                        file.endsWith(".svg", Qt::CaseInsensitive) ? m_picture->AsSvg() : m_picture->AsPng());
+}
+
+void frmInsight::GiveNaturalSize() {
+    const QRect room = screen()->availableGeometry();
+    const int letter = fontMetrics().averageCharWidth();
+    const int line = fontMetrics().height();
+    // The window manager adds a frame.
+    resize(std::min(letter * 175, room.width() - 2 * line), std::min(line * 42, room.height() - 3 * line));
+}
+
+void frmInsight::showEvent(QShowEvent* event) {
+    if (!std::exchange(m_isSized, true))
+        GiveNaturalSize();
+    InsightWindow::showEvent(event);
+    ShowAnswer();
+}
+
+void frmInsight::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else if (event->key() == Qt::Key_F1)
+        m_context.Help();
+    else
+        InsightWindow::keyPressEvent(event);
+}
+
+} // namespace Ledgrove

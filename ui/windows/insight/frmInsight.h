@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QTimer>
+
+#include "ui/windows/InsightWindow.h"
+#include "ui/windows/insight/SheetModel.h"
+
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+namespace Ledgrove {
+
+class AnswerPicture;
+class SheetView;
+
+/// The Insight window: on the left the questions, on the right the answer as a sentence, a picture and a
+/// table.
+class frmInsight : public InsightWindow {
+    Q_OBJECT
+
+public:
+    explicit frmInsight(InsightContext context);
+
+    void Ask(InsightQuestion question) override;
+    void Follow() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QWidget* MakeQuestions();
+    QWidget* MakeAnswer();
+    QLayout* MakeButtons();
+    QPushButton* AddButton(QLayout& row, const char* control, const QString& caption);
+    void ShowAnswer();
+    void MarkSentence();
+    void OfferEntry();
+    void EnterCell();
+    void ChooseMapCell(std::size_t column, std::size_t row);
+    void Copy(QString (*form)(const Sheet&));
+    void SavePicture();
+    void GiveNaturalSize();
+
+    InsightContext m_context;
+    InsightQuestion m_question = InsightQuestion::HowFar;
+    SheetModel m_model;
+    QTimer m_highlight;
+    QListWidget* m_questions = nullptr;
+    QLabel* m_sentence = nullptr;
+    AnswerPicture* m_picture = nullptr;
+    QLabel* m_cell = nullptr;
+    SheetView* m_table = nullptr;
+    QLabel* m_legend = nullptr;
+    QPushButton* m_enter = nullptr;
+    QPushButton* m_copy = nullptr;
+    QPushButton* m_save = nullptr;
+    bool m_isSized = false;
+};
+
+} // namespace Ledgrove
