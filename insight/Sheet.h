@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -42,6 +43,8 @@ struct Sheet {
     std::string Sentence;           ///< the answer in words; may be several sentences
     std::vector<std::string> Heads; ///< of the columns
     std::vector<std::vector<SheetCell>> Rows;
+    /// The columns after the first that hold sentences: they begin on the left.
+    std::vector<std::size_t> Words = {};
 };
 
 /// A text cell.

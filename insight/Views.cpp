@@ -33,4 +33,8 @@ const NetMap& InsightViews::MapView() {
     return Once(m_map, [this] { return ComputeMap(m_insight, BreakevenView()); });
 }
 
+const Explanation& InsightViews::ExplanationView() {
+    return Once(m_explanation, [this] { return ComputeExplanation(m_insight); });
+}
+
 } // namespace Ledgrove

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "insight/Breakeven.h"
+#include "insight/Explain.h"
 #include "insight/Insight.h"
 #include "insight/Map.h"
 #include "insight/Options.h"
@@ -25,6 +26,7 @@ public:
     const OptionTable& OptionsView();
     const Sensitivity& SensitivityView();
     const NetMap& MapView();
+    const Explanation& ExplanationView();
 
 private:
     const Insight& m_insight;
@@ -34,6 +36,7 @@ private:
     std::optional<OptionTable> m_options;
     std::optional<Sensitivity> m_sensitivity;
     std::optional<NetMap> m_map;
+    std::optional<Explanation> m_explanation;
 };
 
 } // namespace Ledgrove
