@@ -60,8 +60,11 @@ Lines LinesOf(const Sheet& sheet) {
     return lines;
 }
 
-/// The first column stands on the left, the others on the right.
-void AppendLines(std::string& out, const Lines& lines) {
+/// The first column and the columns of words stand on the left, the others on the right.
+void AppendLines(std::string& out, const Lines& lines, const std::vector<std::size_t>& words) {
+    const auto isLeft = [&words](std::size_t column) {
+        return column == 0 || std::find(words.begin(), words.end(), column) != words.end();
+    };
     std::vector<std::size_t> widths(lines.front().size());
     for (const auto& line : lines) {
         for (std::size_t i = 0; i < line.size(); ++i)
@@ -71,7 +74,8 @@ void AppendLines(std::string& out, const Lines& lines) {
         std::string text;
         for (std::size_t i = 0; i < line.size(); ++i) {
             const std::string blanks(widths[i] - CharacterCount(line[i]), ' ');
-            text += i == 0 ? line[i] + blanks : "  " + blanks + line[i];
+            text += i == 0 ? "" : "  ";
+            text += isLeft(i) ? line[i] + blanks : blanks + line[i];
         }
         text.erase(text.find_last_not_of(' ') + 1);
         out.append(text).append("\n");
@@ -83,7 +87,7 @@ void AppendLines(std::string& out, const Lines& lines) {
 void AppendSheetText(std::string& out, const Sheet& sheet) {
     AppendWrapped(out, sheet.Sentence);
     out += '\n';
-    AppendLines(out, LinesOf(sheet));
+    AppendLines(out, LinesOf(sheet), sheet.Words);
     if (HasMark(sheet, CellMark::Best))
         out += "* the best of its column\n";
     if (HasMark(sheet, CellMark::Current))

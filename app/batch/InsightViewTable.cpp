@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "app/batch/InsightExplainJson.h"
 #include "app/batch/InsightJson.h"
 
 namespace Ledgrove {
@@ -26,6 +27,9 @@ const std::array table{
                 [](Views& views) { return SensitivitySheet(views.Of(), views.SensitivityView()); }},
     InsightView{"map", false, [](Writer& json, Views& views) { Json::WriteMap(json, views.MapView()); },
                 [](Views& views) { return MapSheet(views.MapView()); }},
+    InsightView{"explain", false,
+                [](Writer& json, Views& views) { Json::WriteExplanation(json, views.ExplanationView()); },
+                [](Views& views) { return ExplainSheet(views.ExplanationView()); }},
 };
 
 } // namespace

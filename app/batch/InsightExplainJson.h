@@ -1,0 +1,12 @@
+#pragma once
+
+#include "app/batch/JsonValues.h"
+#include "insight/Explain.h"
+
+namespace Ledgrove::Json {
+
+/// Writes one object. Its numbers are exact: an expression that subtracts would magnify what a shorter text
+/// leaves out.
+void WriteExplanation(Writer& json, const Explanation& explanation);
+
+} // namespace Ledgrove::Json
