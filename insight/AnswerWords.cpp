@@ -96,4 +96,9 @@ std::string EdgePhrase(const Answer& answer) {
            ", where mortgage insurance costs more.";
 }
 
+std::string ShareText(double share) {
+    constexpr double wholeError = 1e-9;
+    return Module1::FormatPicture(std::ceil(share * 100 - wholeError), "#0") + "%";
+}
+
 } // namespace Ledgrove

@@ -28,4 +28,7 @@ SheetCell ChangeCell(const std::optional<Answer>& answer);
 /// Why a limit stops at an edge: "one step further puts ..."; empty if it does not.
 std::string EdgePhrase(const Answer& answer);
 
+/// 54% for 0.5335: a share is rounded up, because less is not enough.
+std::string ShareText(double share);
+
 } // namespace Ledgrove

@@ -1,19 +1,11 @@
-#include <cmath>
 #include <utility>
 
-#include "engine/NumberText.h"
 #include "insight/AnswerWords.h"
 #include "insight/Breakeven.h"
 
 namespace Ledgrove {
 
 namespace {
-
-/// 54% for 0.5435; a share is shown rounded up, because less is not enough.
-std::string ShareText(double share) {
-    constexpr double wholeError = 1e-9;
-    return Module1::FormatPicture(std::ceil(share * 100 - wholeError), "#0") + "%";
-}
 
 std::string PriceSentence(const Answer& price) {
     const std::string pays = "The GREENMARK home pays for itself ";

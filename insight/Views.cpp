@@ -37,4 +37,8 @@ const Explanation& InsightViews::ExplanationView() {
     return Once(m_explanation, [this] { return ComputeExplanation(m_insight); });
 }
 
+const Takeaway& InsightViews::TakeawayView() {
+    return Once(m_takeaway, [this] { return ComputeTakeaway(m_insight, BreakevenView(), QualifyView()); });
+}
+
 } // namespace Ledgrove

@@ -9,6 +9,7 @@
 #include "insight/Options.h"
 #include "insight/Qualify.h"
 #include "insight/Sensitivity.h"
+#include "insight/Takeaway.h"
 
 namespace Ledgrove {
 
@@ -27,6 +28,7 @@ public:
     const Sensitivity& SensitivityView();
     const NetMap& MapView();
     const Explanation& ExplanationView();
+    const Takeaway& TakeawayView();
 
 private:
     const Insight& m_insight;
@@ -37,6 +39,7 @@ private:
     std::optional<Sensitivity> m_sensitivity;
     std::optional<NetMap> m_map;
     std::optional<Explanation> m_explanation;
+    std::optional<Takeaway> m_takeaway;
 };
 
 } // namespace Ledgrove

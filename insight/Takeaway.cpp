@@ -1,0 +1,247 @@
+#include "insight/Takeaway.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "insight/AnswerWords.h"
+
+namespace Ledgrove {
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+/// Amounts below it show as $0.
+constexpr double leastShown = 0.5;
+
+/// How far a person can go to make a condition hold.
+constexpr double ratePoints = 1;
+constexpr double downPoints = 10;
+constexpr double priceShare = 0.10;
+constexpr double buyerShare = 0.20; ///< of the income and of the debt
+
+/// "a, b and c"
+std::string Joined(const Texts& texts, std::string_view last) {
+    std::string result;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i > 0)
+            result += i + 1 < texts.size() ? ", " : last;
+        result += texts[i];
+    }
+    return result;
+}
+
+/// Whether the change is at most this part of the value now, or this many points.
+bool IsWithin(const Answer& answer, double most, bool isShare) {
+    constexpr double error = 1e-9; // 0.3 points may be a little more in binary numbers
+    const double now = answer.ToValue - *answer.Change;
+    return std::fabs(*answer.Change) <= (isShare ? most * now : most) + error;
+}
+
+bool IsFoundNearest(const std::optional<Answer>& answer) {
+    return answer && answer->Kind == AnswerKind::Nearest && answer->State == AnswerState::Found;
+}
+
+/// "a price of $199,000 ($7,000 less)"
+std::string GoalText(std::string_view what, const Answer& answer) {
+    return std::string(what) + " of " + *answer.To + " (" + ChangeSize(answer) + " " +
+           std::string(ChangeWord(answer)) + ")";
+}
+
+/// What a person can do about a condition that fails.
+class Goals {
+public:
+    void Add(std::string_view what, const std::optional<Answer>& answer, double most, bool isShare) {
+        if (IsFoundNearest(answer) && IsWithin(*answer, most, isShare))
+            m_texts.push_back(GoalText(what, *answer));
+    }
+
+    /// A fixed down payment is limited by the part of the price.
+    void AddDown(const std::optional<Answer>& answer, double price) {
+        const bool isFixed = answer && answer->Input == "ecFixedDown";
+        Add("a down payment", answer, isFixed ? price * downPoints / 100 : downPoints, false);
+    }
+
+    void AddOptions(const std::vector<OtherOption>& options) {
+        constexpr std::size_t most = 2;
+        Texts names;
+        for (const OtherOption& option : options) {
+            if (option.Missing.empty() && option.Qualifies && names.size() < most)
+                names.emplace_back(option.Labelled.empty() ? option.Base : option.Labelled);
+        }
+        if (!names.empty())
+            m_texts.push_back("the mortgage option " + Joined(names, " or "));
+    }
+
+    bool Empty() const { return m_texts.empty(); }
+    std::string Text() const { return Joined(m_texts, " or "); }
+
+private:
+    Texts m_texts;
+};
+
+/// From the two prices: single precision would round the difference of large ones once more.
+std::string PriceText(const Results& record) {
+    const double difference =
+        static_cast<double>(record.GMHCase.Cost) - static_cast<double>(record.StdCase.Cost);
+    if (std::fabs(difference) < leastShown)
+        return "costs the same as the base home";
+    return "costs " + DollarText(std::fabs(difference)) + (difference > 0 ? " more" : " less");
+}
+
+std::string BillText(const Results& record) {
+    const double saving =
+        static_cast<double>(record.StdCase.UtilAnnual) - static_cast<double>(record.GMHCase.UtilAnnual);
+    const std::string amount = DollarText(std::fabs(saving)) + " a year";
+    if (std::fabs(saving) < leastShown)
+        return "has the same utility bills";
+    return saving > 0 ? "saves " + amount + " in utility bills"
+                      : "costs " + amount + " more in utility bills";
+}
+
+/// What the home costs more and saves.
+std::string CostSentence(const Results& record) {
+    Texts parts{PriceText(record)};
+    const auto cash = static_cast<double>(record.Scenario.ExtraCashToday);
+    if (std::fabs(cash) >= leastShown)
+        parts.push_back("needs " + DollarText(std::fabs(cash)) + (cash > 0 ? " more" : " less") +
+                        " down payment");
+    parts.push_back(BillText(record));
+    return "The GREENMARK home " + Joined(parts, " and ") + ".";
+}
+
+/// What is left each month.
+std::string NetSentence(const Insight& insight) {
+    const auto net = static_cast<double>(insight.ShownNet(insight.Record()));
+    const std::string amount =
+        std::fabs(net) < leastShown ? "less than a dollar" : DollarText(std::fabs(net));
+    const std::string taxes =
+        insight.Now().IncludeTaxes ? ", with income tax included." : ", without income tax.";
+    if (net > 0)
+        return "Each month " + amount + " more is left than with the base home" + taxes;
+    if (net < 0)
+        return "Nothing is left each month: the GREENMARK home costs " + amount +
+               " more a month than the base home" + taxes;
+    return "Nothing is left each month: both homes cost the same a month" + taxes;
+}
+
+/// A condition of its own after a price, or another way to say up to where.
+struct ShareWords {
+    std::string_view Link;
+    std::string Text;
+};
+
+ShareWords WordsOfShare(double share) {
+    const std::string text = ShareText(share);
+    if (text == "0%")
+        return {", and ", "even if none of the expected savings come true"};
+    if (text == "100%")
+        return {", and ", "only if all of the expected savings come true"};
+    return {" or ", "with " + text + " of the expected savings"};
+}
+
+std::string PriceLimitText(const std::optional<Answer>& price) {
+    if (!price || price->State != AnswerState::Found)
+        return {};
+    return *price->Change == 0 ? "at its price of " + *price->To + ", but not at a dollar more"
+                               : "up to " + GoalText("a price", *price);
+}
+
+/// Up to which price, and with which part of the savings, the home pays.
+std::string LimitSentence(const Breakeven& breakeven) {
+    std::string text = PriceLimitText(breakeven.Price);
+    if (breakeven.SavingsShare) {
+        const ShareWords share = WordsOfShare(*breakeven.SavingsShare);
+        if (!text.empty())
+            text += share.Link;
+        text += share.Text;
+    }
+    return text.empty() ? "" : "It still pays each month " + text + ".";
+}
+
+/// What would make the home pay.
+std::string NearestSentence(const Breakeven& breakeven) {
+    Goals goals;
+    goals.Add("a price", breakeven.Price, priceShare, true);
+    goals.Add("an interest rate", breakeven.Rate, ratePoints, false);
+    return goals.Empty() ? "" : "It would pay each month with " + goals.Text() + ".";
+}
+
+std::string BreakevenSentence(const Insight& insight, const Breakeven& breakeven) {
+    return insight.ShownNet(insight.Record()) >= 0 ? LimitSentence(breakeven) : NearestSentence(breakeven);
+}
+
+/// "$7,102"
+std::string RoomAmount(const HomeQualification& home) {
+    return home.Margin < leastShown ? "less than a dollar" : DollarText(home.Margin);
+}
+
+std::string RoomText(const HomeQualification& home) {
+    return "room for " + RoomAmount(home) + " more loan";
+}
+
+std::string ExcessText(const HomeQualification& home) {
+    return home.Margin > -leastShown ? "not less than the largest loan"
+                                     : DollarText(-home.Margin) + " too large";
+}
+
+std::string QualifySentence(const Qualification& qualification) {
+    const HomeQualification& base = qualification.Std;
+    const HomeQualification& labelled = qualification.GMH;
+    if (base.Qualifies && labelled.Qualifies)
+        return "The buyer qualifies for both homes, with " + RoomText(base) + " for the base home and " +
+               RoomAmount(labelled) + " for the GREENMARK home.";
+    if (base.Qualifies)
+        return "The buyer qualifies for the base home, with " + RoomText(base) +
+               ", but not for the GREENMARK home: its mortgage is " + ExcessText(labelled) + ".";
+    if (labelled.Qualifies)
+        return "The buyer qualifies for the GREENMARK home, with " + RoomText(labelled) +
+               ", but not for the base home: its mortgage is " + ExcessText(base) + ".";
+    return "The buyer qualifies for neither home: the mortgage of the base home is " + ExcessText(base) +
+           ", that of the GREENMARK home " + ExcessText(labelled) + ".";
+}
+
+/// What would help a buyer who does not qualify for the home.
+std::string HelpSentence(std::string_view name, const HomeQualification& own, float price) {
+    if (own.Qualifies)
+        return {};
+    Goals goals;
+    goals.AddDown(own.Down, static_cast<double>(price));
+    goals.Add("a price", own.Price, priceShare, true);
+    goals.Add("an income", own.Income, buyerShare, true);
+    goals.Add("a monthly debt", own.Debt, buyerShare, true);
+    goals.Add("an interest rate", own.Rate, ratePoints, false);
+    goals.AddOptions(own.Options);
+    if (goals.Empty())
+        return {};
+    return "The buyer would qualify for the " + std::string(name) + " with " + goals.Text() + ".";
+}
+
+} // namespace
+
+Takeaway ComputeTakeaway(const Insight& insight, const Breakeven& breakeven,
+                         const Qualification& qualification) {
+    const Results& record = insight.Record();
+    Takeaway takeaway;
+    for (std::string& sentence :
+         Texts{CostSentence(record), NetSentence(insight), BreakevenSentence(insight, breakeven),
+               QualifySentence(qualification),
+               HelpSentence("base home", qualification.Std, record.StdCase.Cost),
+               HelpSentence("GREENMARK home", qualification.GMH, record.GMHCase.Cost)}) {
+        if (!sentence.empty())
+            takeaway.Sentences.push_back(std::move(sentence));
+    }
+    return takeaway;
+}
+
+Sheet TakeawaySheet(const Takeaway& takeaway) {
+    Sheet sheet;
+    sheet.Title = "Takeaway";
+    sheet.Heads = {"In Short"};
+    for (const std::string& sentence : takeaway.Sentences)
+        sheet.Rows.push_back({TextCell(sentence)});
+    return sheet;
+}
+
+} // namespace Ledgrove
