@@ -31,6 +31,16 @@ void WriteFigure(Writer& json, const Explanation& explanation, const ExplainedFi
 
 } // namespace
 
+void WriteTakeaway(Writer& json, const Takeaway& takeaway) {
+    json.StartObject();
+    Key(json, "sentences");
+    json.StartArray();
+    for (const std::string& sentence : takeaway.Sentences)
+        Text(json, sentence);
+    json.EndArray();
+    json.EndObject();
+}
+
 void WriteExplanation(Writer& json, const Explanation& explanation) {
     json.StartObject();
     Key(json, "figures");

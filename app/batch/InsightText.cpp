@@ -82,9 +82,17 @@ void AppendLines(std::string& out, const Lines& lines, const std::vector<std::si
     }
 }
 
+/// A sheet of one column holds sentences, which are too long for a table.
+void AppendList(std::string& out, const Sheet& sheet) {
+    for (const auto& row : sheet.Rows)
+        AppendWrapped(out, row.front().Text);
+}
+
 } // namespace
 
 void AppendSheetText(std::string& out, const Sheet& sheet) {
+    if (sheet.Heads.size() == 1)
+        return AppendList(out, sheet);
     AppendWrapped(out, sheet.Sentence);
     out += '\n';
     AppendLines(out, LinesOf(sheet), sheet.Words);

@@ -13,6 +13,9 @@ using Views = InsightViews;
 using Writer = Json::Writer;
 
 const std::array table{
+    InsightView{"takeaway", true,
+                [](Writer& json, Views& views) { Json::WriteTakeaway(json, views.TakeawayView()); },
+                [](Views& views) { return TakeawaySheet(views.TakeawayView()); }},
     InsightView{"breakeven", true,
                 [](Writer& json, Views& views) { Json::WriteBreakeven(json, views.BreakevenView()); },
                 [](Views& views) { return BreakevenSheet(views.Of(), views.BreakevenView()); }},

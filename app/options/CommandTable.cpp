@@ -36,8 +36,8 @@ constexpr std::array insightOptions{
         "--format", Value::Choice, "text|json|jsonl",
         "text (default): sentences and tables; json: one object; jsonl: one object per line in and out"},
     OptionRow{"--view", Value::Text, "LIST",
-              "Some of breakeven, options, qualify, sensitivity, map, explain, separated by commas (default: "
-              "all but map and explain)"},
+              "Some of takeaway, breakeven, options, qualify, sensitivity, map, explain, separated by commas "
+              "(default: all but map and explain)"},
     OptionRow{"--by", Value::Text, "PERCENT",
               "How far sensitivity moves each input, above 0 and at most 100 (default: 10)"},
     oneInput,
