@@ -55,12 +55,21 @@ private:
     HomeCode m_code;
 };
 
-std::string SavingsWords(const Results& record) {
-    return Module1::MoneyText(record.GMHCase.PVSavings);
-}
-
-std::string DifferenceWords(const Results& record) {
-    return Module1::MoneyText(record.Scenario.CostDifference);
+/// Whether the savings pay for the upgrade, as the rules decided: "Savings worth $9,229 pay for the price
+/// difference of $6,000".
+std::string UpgradeWords(const Results& record, bool savingsPay) {
+    const float savings = record.GMHCase.PVSavings;
+    const float difference = record.Scenario.CostDifference;
+    if (difference <= 0 && savingsPay)
+        return "The GREENMARK home does not cost more than the base home";
+    std::string worth = Module1::MoneyText(savings);
+    std::string cost = Module1::MoneyText(difference);
+    if (worth == cost) {
+        worth = ValueText(static_cast<double>(savings), CellUnit::Dollars);
+        cost = ValueText(static_cast<double>(difference), CellUnit::Dollars);
+    }
+    return "Savings worth " + worth + (savingsPay ? " pay" : " do not pay") +
+           " for the price difference of " + cost;
 }
 
 /// A figure that a fault, or a home without a price, sets to 0.
@@ -93,8 +102,7 @@ void HomeSteps::DownPayment() {
         return Case(Figure::StdDownPayment, "Scenario.FixedDown", "The fixed amount is in force", labels);
     case DownPaymentBase::BasePrice:
         return Case(Figure::StdDownPayment, "Scenario.PctDown * StdCase.Cost",
-                    "Savings worth " + SavingsWords(m_record) + " pay for the price difference of " +
-                        DifferenceWords(m_record) + ": the percentage is taken of the base home's price",
+                    UpgradeWords(m_record, true) + ": the percentage is taken of the base home's price",
                     labels);
     case DownPaymentBase::OwnPrice:
     case DownPaymentBase::None:
@@ -102,8 +110,7 @@ void HomeSteps::DownPayment() {
     }
     std::string because = "The percentage is taken of the home's own price";
     if (m_labelled && m_option && BenefitOf(*m_option) == EEMBenefit::FinancedUpgrade)
-        because = "Savings worth " + SavingsWords(m_record) + " do not pay for the price difference of " +
-                  DifferenceWords(m_record) + ": the percentage is taken of the home's own price";
+        because = UpgradeWords(m_record, false) + ": the percentage is taken of the home's own price";
     Case(Figure::StdDownPayment, "Scenario.PctDown * @Cost", because, labels);
 }
 
@@ -231,10 +238,17 @@ std::string HomeSteps::RatioBecause() const {
     std::string because = m_decided.MaxPaymentRatio == QualifyingRatio::FrontEnd
                               ? "The front-end ratio allows less"
                               : "The back-end ratio allows less";
-    if (m_decided.MaxPayment == PaymentRule::Stretched)
-        because = "The savings are worth the upgrade, so they count as income. " + because;
-    if (m_decided.MaxPayment == PaymentRule::PlainPartner)
-        because = "The savings are not worth the upgrade: the ratios of the plain option. " + because;
+    switch (m_decided.MaxPayment) {
+    case PaymentRule::Stretched:
+        return UpgradeWords(m_record, true) + ", so the savings count as income. " + because;
+    case PaymentRule::PlainPartner:
+        return UpgradeWords(m_record, false) + ": the ratios of the plain option count. " + because;
+    case PaymentRule::Ordinary:
+    case PaymentRule::None:
+        break;
+    }
+    if (m_labelled && m_option && BenefitOf(*m_option) == EEMBenefit::StretchedPayment)
+        return UpgradeWords(m_record, false) + ", so the savings do not count as income. " + because;
     return because;
 }
 
