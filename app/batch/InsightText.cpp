@@ -10,6 +10,7 @@ namespace Ledgrove {
 namespace {
 
 constexpr std::size_t lineWidth = 100;
+constexpr std::size_t wordsWidth = 36; ///< of a column of words in a table
 
 using Lines = std::vector<std::vector<std::string>>;
 
@@ -20,24 +21,30 @@ bool HasMark(const Sheet& sheet, CellMark mark) {
     });
 }
 
-/// Breaks the sentence at blanks.
-void AppendWrapped(std::string& out, std::string_view sentence) {
+/// The text in lines of at most `width` characters, broken at blanks.
+std::vector<std::string> WrappedLines(std::string_view text, std::size_t width) {
+    std::vector<std::string> lines(1);
     std::size_t column = 0;
-    while (!sentence.empty()) {
-        const std::size_t end = std::min(sentence.find(' '), sentence.size());
-        const std::size_t places = CharacterCount(sentence.substr(0, end));
-        if (column > 0 && column + 1 + places > lineWidth) {
-            out += '\n';
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(' '), text.size());
+        const std::size_t places = CharacterCount(text.substr(0, end));
+        if (column > 0 && column + 1 + places > width) {
+            lines.emplace_back();
             column = 0;
         } else if (column > 0) {
-            out += ' ';
+            lines.back() += ' ';
             ++column;
         }
-        out.append(sentence.substr(0, end));
+        lines.back().append(text.substr(0, end));
         column += places;
-        sentence.remove_prefix(std::min(end + 1, sentence.size()));
+        text.remove_prefix(std::min(end + 1, text.size()));
     }
-    out += '\n';
+    return lines;
+}
+
+void AppendWrapped(std::string& out, std::string_view sentence) {
+    for (const std::string& line : WrappedLines(sentence, lineWidth))
+        out.append(line).append("\n");
 }
 
 std::string MarkedText(const SheetCell& cell, bool hasBest, bool hasCurrent, bool isFirst) {
@@ -58,6 +65,23 @@ Lines LinesOf(const Sheet& sheet) {
             line.push_back(MarkedText(cell, hasBest, hasCurrent, line.empty()));
     }
     return lines;
+}
+
+/// Breaks the cells of the columns of words. What does not fit continues in lines of its own below.
+Lines WithBrokenWords(const Lines& lines, const std::vector<std::size_t>& words) {
+    Lines result;
+    for (const auto& line : lines) {
+        const std::size_t first = result.size();
+        result.push_back(line);
+        for (const std::size_t column : words) {
+            const auto pieces = WrappedLines(line[column], wordsWidth);
+            result.resize(std::max(result.size(), first + pieces.size()),
+                          std::vector<std::string>(line.size()));
+            for (std::size_t i = 0; i < pieces.size(); ++i)
+                result[first + i][column] = pieces[i];
+        }
+    }
+    return result;
 }
 
 /// The first column and the columns of words stand on the left, the others on the right.
@@ -95,7 +119,7 @@ void AppendSheetText(std::string& out, const Sheet& sheet) {
         return AppendList(out, sheet);
     AppendWrapped(out, sheet.Sentence);
     out += '\n';
-    AppendLines(out, LinesOf(sheet), sheet.Words);
+    AppendLines(out, WithBrokenWords(LinesOf(sheet), sheet.Words), sheet.Words);
     if (HasMark(sheet, CellMark::Best))
         out += "* the best of its column\n";
     if (HasMark(sheet, CellMark::Current))

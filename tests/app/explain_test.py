@@ -99,6 +99,12 @@ class Explain(CliTest):
         lines = text.splitlines()
         self.assertTrue(lines[2].startswith("No."))
         self.assertRegex(lines[3], r"^\[1\]   Sticker Price, Base Home .* \$200,000\.00$")
+        self.assertLess(max(map(len, lines)), 200)
+        # A long cell goes on below, in its own column.
+        start = next(number for number, line in enumerate(lines) if "Mortgage Payment (P+I), Base Home" in line)
+        column = lines[start].index("payment on")
+        self.assertEqual(lines[start + 1][:column].strip(), "")
+        self.assertNotEqual(lines[start + 1][column:column + 1].strip(), "")
 
     def test_the_takeaway_comes_first_and_is_plain_text(self):
         home = {"ecStdHome": "200000", "ecGMHHome": "206000", "ecStdUtil": "2400", "ecGMHUtil": "1700"}
