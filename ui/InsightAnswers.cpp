@@ -1,5 +1,7 @@
 #include "ui/InsightAnswers.h"
 
+#include <utility>
+
 #include "insight/Views.h"
 #include "ui/InsightCharts.h"
 
@@ -9,32 +11,61 @@ namespace {
 
 constexpr double by = 10; // percent
 
-InsightAnswer AnswerFrom(InsightQuestion question, InsightViews& views) {
+/// A figure that every comparison has.
+constexpr std::string_view usualFigure = "GMHCase.PITIU";
+
+InsightAnswer ExplanationOf(const Insight& insight, std::string_view asked) {
+    InsightAnswer answer;
+    Explanation chain = ComputeExplanation(insight);
+    const ExplainedFigure* figure = chain.FigureOfLabel(asked);
+    if (!figure)
+        figure = chain.Find(asked);
+    if (!figure)
+        figure = chain.Find(usualFigure);
+    if (figure) {
+        answer.Figure = figure->Figure;
+        answer.Table = ExplainSheet(chain, figure->Figure);
+    }
+    answer.Chain = std::move(chain);
+    return answer;
+}
+
+/// The sentences one below the other.
+InsightAnswer InShort(Sheet sheet) {
+    for (const auto& row : sheet.Rows)
+        sheet.Sentence += (sheet.Sentence.empty() ? "" : "\n\n") + row.front().Text;
+    return {.Table = std::move(sheet)};
+}
+
+InsightAnswer AnswerFrom(InsightQuestion question, InsightViews& views, std::string_view asked) {
     switch (question) {
+    case InsightQuestion::InShort:
+        return InShort(TakeawaySheet(views.TakeawayView()));
     case InsightQuestion::HowFar:
-        return {{}, BreakevenSheet(views.Of(), views.BreakevenView()), {}};
+        return {.Table = BreakevenSheet(views.Of(), views.BreakevenView())};
     case InsightQuestion::WhichLoan:
-        return {{}, OptionsSheet(views.OptionsView()), {}};
+        return {.Table = OptionsSheet(views.OptionsView())};
     case InsightQuestion::WhoQualifies:
-        return {{}, QualifySheet(views.QualifyView()), {}};
+        return {.Table = QualifySheet(views.QualifyView())};
     case InsightQuestion::WhatMatters:
-        return {{},
-                SensitivitySheet(views.Of(), views.SensitivityView()),
-                MakeSensitivityChart(views.Of(), views.SensitivityView())};
+        return {.Table = SensitivitySheet(views.Of(), views.SensitivityView()),
+                .Picture = MakeSensitivityChart(views.Of(), views.SensitivityView())};
     case InsightQuestion::PriceAndSavings:
-        return {{}, MapSheet(views.MapView()), MakeMapChart(views.MapView())};
+        return {.Table = MapSheet(views.MapView()), .Picture = MakeMapChart(views.MapView())};
+    case InsightQuestion::WhereFrom:
+        return ExplanationOf(views.Of(), asked);
     }
     return {};
 }
 
 } // namespace
 
-InsightAnswer AnswerOf(InsightQuestion question, const Session& session) {
+InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::string_view asked) {
     const Insight insight(session.Screen, session);
     if (!insight.Missing().empty())
-        return {insight.Missing(), {}, {}};
+        return {.Missing = insight.Missing()};
     InsightViews views(insight, by);
-    return AnswerFrom(question, views);
+    return AnswerFrom(question, views, asked);
 }
 
 std::vector<EntryText> EntriesOfCell(const Session& session, const ChartGrid& grid, std::size_t column,

@@ -2,9 +2,11 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "engine/Session.h"
+#include "insight/Explain.h"
 #include "insight/Sheet.h"
 #include "ui/ChartFigures.h"
 #include "ui/InsightQuestions.h"
@@ -13,13 +15,17 @@ namespace Ledgrove {
 
 /// The answer to a question of the Insight window.
 struct InsightAnswer {
-    std::string Missing; ///< why there is no answer; empty if there is one
-    Sheet Table;
-    std::optional<ChartFigures> Picture; ///< empty if the table is all
+    std::string Missing = {}; ///< why there is no answer; empty if there is one
+    Sheet Table = {};
+    std::optional<ChartFigures> Picture = {}; ///< empty if the table is all
+    std::optional<Explanation> Chain = {};    ///< of "Where does this number come from?": all figures
+    std::string Figure = {};                  ///< the one that the table derives
 };
 
-/// Answers one question about the session's inputs, and computes nothing else.
-InsightAnswer AnswerOf(InsightQuestion question, const Session& session);
+/// Answers one question about the session's inputs, and computes nothing else. `asked` is the figure that
+/// "Where does this number come from?" is about, by its name ("GMHCase.PITI") or a label that shows it
+/// ("lblGMHPITI"); an unknown one gives the labelled home's payment.
+InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::string_view asked = {});
 
 /// What entering a cell of the map means: the labelled home's price and utility bill that give its price
 /// difference and saving. Empty for a cell that is not possible.

@@ -7,7 +7,15 @@
 // The questions of the Insight window.
 namespace Ledgrove {
 
-enum class InsightQuestion : std::uint8_t { HowFar, WhichLoan, WhoQualifies, WhatMatters, PriceAndSavings };
+enum class InsightQuestion : std::uint8_t {
+    InShort,
+    HowFar,
+    WhichLoan,
+    WhoQualifies,
+    WhatMatters,
+    PriceAndSavings,
+    WhereFrom
+};
 
 struct QuestionRow {
     InsightQuestion Id;
@@ -17,11 +25,13 @@ struct QuestionRow {
 
 /// The questions in the order of the window's list.
 inline constexpr std::array InsightQuestions{
+    QuestionRow{InsightQuestion::InShort, "In short", 0},
     QuestionRow{InsightQuestion::HowFar, "How far can the price go?", 1},
     QuestionRow{InsightQuestion::WhichLoan, "Which loan is best?", 2},
     QuestionRow{InsightQuestion::WhoQualifies, "Do we qualify, and what would help?", 3},
     QuestionRow{InsightQuestion::WhatMatters, "What matters most?", 4},
     QuestionRow{InsightQuestion::PriceAndSavings, "Price against savings", 0},
+    QuestionRow{InsightQuestion::WhereFrom, "Where does this number come from?", 0},
 };
 
 } // namespace Ledgrove

@@ -100,6 +100,7 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     actions.Questions = questions;
     Ledgrove::InsightOpener insight(session, host, questions, QCoreApplication::applicationDirPath());
     actions.Ask = [&insight](Ledgrove::InsightQuestion question) { insight.Ask(question); };
+    actions.Explain = [&insight](const std::string& label) { insight.Explain(label); };
     actions.Charts = [] { return Ledgrove::LoadCharts(QCoreApplication::applicationDirPath()); };
     Ledgrove::CurrentFile* current = nullptr;
     const QString sample = SampleFile(folder);

@@ -28,7 +28,10 @@ void InsightOpener::Follow(frmMain& window) {
 
 InsightContext InsightOpener::Context() {
     InsightContext context;
-    context.Answer = [this](InsightQuestion question) { return AnswerOf(question, m_session); };
+    context.Answer = [this](InsightQuestion question, const std::string& figure) {
+        return AnswerOf(question, m_session, figure);
+    };
+    context.GoTo = [this](const QString& control, const QString& key) { m_main->GoToSource(control, key); };
     context.CellText = &MapCellText;
     context.CellEntries = [this](const ChartGrid& grid, std::size_t column, std::size_t row) {
         return EntriesOfCell(m_session, grid, column, row);
@@ -44,22 +47,39 @@ InsightContext InsightOpener::Context() {
     return context;
 }
 
-void InsightOpener::Ask(InsightQuestion question) {
-    if (!m_window) {
-        QPluginLoader loader(m_folder + "/modules/ledgrove-insight.so");
-        auto* factory = qobject_cast<InsightFactory*>(loader.instance());
-        if (!factory) {
-            const std::string why = loader.errorString().toStdString();
-            m_outside.ShowMessage(
-                {ApplicationTitle, "Insight cannot be opened: " + why, MessageIcon::Exclamation});
-            return;
-        }
+bool InsightOpener::Open() {
+    if (m_window)
+        return true;
+    QPluginLoader loader(m_folder + "/modules/ledgrove-insight.so");
+    auto* factory = qobject_cast<InsightFactory*>(loader.instance());
+    if (factory)
         m_window.reset(factory->Make(Context()));
-    }
-    m_window->show();
-    m_window->Ask(question);
+    else
+        m_outside.ShowMessage({ApplicationTitle,
+                               "Insight cannot be opened: " + loader.errorString().toStdString(),
+                               MessageIcon::Exclamation});
+    return factory;
+}
+
+void InsightOpener::Raise() {
     m_window->raise();
     m_window->activateWindow();
+}
+
+void InsightOpener::Ask(InsightQuestion question) {
+    if (!Open())
+        return;
+    m_window->show();
+    m_window->Ask(question);
+    Raise();
+}
+
+void InsightOpener::Explain(const std::string& label) {
+    if (!Open())
+        return;
+    m_window->show();
+    m_window->Explain(label);
+    Raise();
 }
 
 } // namespace Ledgrove

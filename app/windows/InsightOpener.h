@@ -24,8 +24,13 @@ public:
     /// Opens the window with this question, or brings it to the front. Reports a missing library.
     void Ask(InsightQuestion question);
 
+    /// Opens the window with the explanation of a label's figure; an empty label gives a usual figure.
+    void Explain(const std::string& label);
+
 private:
     InsightContext Context();
+    bool Open();
+    void Raise();
 
     Session& m_session;
     Host& m_outside;

@@ -15,7 +15,10 @@ namespace Ledgrove {
 
 /// What the Insight window needs from the program. The window has no code of the calculation.
 struct InsightContext {
-    std::function<InsightAnswer(InsightQuestion)> Answer;
+    /// `figure` is what "Where does this number come from?" is about; the other questions pass over it.
+    std::function<InsightAnswer(InsightQuestion, const std::string& figure)> Answer;
+    /// Goes to where an input is typed (`control`) or an assumption is kept (`key`).
+    std::function<void(const QString& control, const QString& key)> GoTo;
     /// What a cell of the map stands for, and what entering it means.
     std::function<std::string(const ChartGrid&, std::size_t column, std::size_t row)> CellText;
     std::function<std::vector<EntryText>(const ChartGrid&, std::size_t column, std::size_t row)> CellEntries;
@@ -35,6 +38,9 @@ public:
 
     /// Shows the answer to this question.
     virtual void Ask(InsightQuestion question) = 0;
+
+    /// Shows where a figure comes from, by its name or a label that shows it.
+    virtual void Explain(const std::string& figure) = 0;
 
     /// Computes the shown answer anew, after an entry in the main window.
     virtual void Follow() = 0;

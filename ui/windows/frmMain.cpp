@@ -20,6 +20,7 @@
 #include "ui/windows/Binding.h"
 #include "ui/windows/DownPaymentKeys.h"
 #include "ui/windows/EntryField.h"
+#include "ui/windows/FigureMark.h"
 #include "ui/windows/FormGuard.h"
 #include "ui/windows/MainInputs.h"
 #include "ui/windows/MainKeys.h"
@@ -238,6 +239,22 @@ void frmMain::ConnectInsight() {
         return link->hide();
     connect(link, &QuestionLink::Asked, this,
             [this](InsightQuestion question) { m_shows.Run([&] { m_actions.Ask(question); }); });
+    connect(new FigureMark(*this), &FigureMark::Asked, this, [this](const QString& label) {
+        if (CommitEntry())
+            m_actions.Explain(label.toStdString());
+    });
+}
+
+void frmMain::GoToSource(const QString& control, const QString& key) {
+    raise();
+    activateWindow();
+    if (auto* input = findChild<QWidget*>(control); input && !control.isEmpty())
+        return input->setFocus(Qt::OtherFocusReason);
+    if (key.isEmpty() || !CommitEntry())
+        return;
+    auto* assumptions = findChild<QPushButton*>("Command1");
+    assumptions->setFocus(Qt::OtherFocusReason);
+    assumptions->click();
 }
 
 void frmMain::AskInsight() {

@@ -34,6 +34,8 @@ struct MainActions {
     std::function<ChartSource()> Charts; ///< empty: the tabs have no charts
     /// Opens the Insight window with this question; empty: there is none.
     std::function<void(InsightQuestion)> Ask;
+    /// Explains the figure of a label there; empty label: a usual figure.
+    std::function<void(const std::string& label)> Explain;
     FileQuestions Questions; ///< asks where to save a chart
 };
 
@@ -67,6 +69,9 @@ public:
 
     /// Opens the help at a topic, such as "ctxInsight".
     void OpenHelpAt(const QString& anchor) { m_help.Open(anchor); }
+
+    /// Goes to where an input is typed, or to the dialog that holds an assumption.
+    void GoToSource(const QString& control, const QString& key);
 
     /// Asks the question of the shown tab, or the first one.
     void AskInsight();

@@ -1,5 +1,7 @@
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QEnterEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -7,6 +9,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QToolButton>
+#include <QTreeWidget>
 #include <memory>
 
 #include "DesktopDesk.h"
@@ -32,10 +36,11 @@ struct InsightDesk {
         PutBytes(Open.PathOf("a.ledgrove.json"), sample);
         Open.File->OpenNamed(Open.PathOf("a.ledgrove.json"));
         InsightContext context;
-        context.Answer = [this](InsightQuestion question) {
+        context.Answer = [this](InsightQuestion question, const std::string& figure) {
             ++Answers;
-            return AnswerOf(question, Open.State);
+            return AnswerOf(question, Open.State, figure);
         };
+        context.GoTo = [this](const QString& control, const QString& key) { WentTo = control + '/' + key; };
         context.CellText = &MapCellText;
         context.CellEntries = [this](const ChartGrid& grid, std::size_t column, std::size_t row) {
             return EntriesOfCell(Open.State, grid, column, row);
@@ -51,6 +56,7 @@ struct InsightDesk {
     MainActions Actions() {
         MainActions actions;
         actions.Ask = [this](InsightQuestion question) { Asked.append(question); };
+        actions.Explain = [this](const std::string& label) { Explained.append(label); };
         return actions;
     }
 
@@ -76,6 +82,8 @@ struct InsightDesk {
 
     int Answers = 0;
     int Helps = 0;
+    QString WentTo;
+    QList<std::string> Explained;
     QByteArray Written;
     QList<InsightQuestion> Asked;
     OpenDesktop Open;
@@ -103,6 +111,9 @@ private slots:
     void theMapsCellsAreReachedByKeys();
     void aCellOfTheMapIsEntered();
     void picturesAreSaved();
+    void aFigureLeadsToWhatWasTyped();
+    void aLeafLeadsToItsField();
+    void figuresAreAskedFromTheTabs();
     void keysCloseAndHelp();
 };
 
@@ -297,6 +308,69 @@ void InsightTest::picturesAreSaved() {
     }
     desk.Show(InsightQuestion::HowFar);
     QVERIFY(!desk.Find<QPushButton>("bSavePicture").isEnabled());
+}
+
+void InsightTest::aFigureLeadsToWhatWasTyped() {
+    InsightDesk desk;
+    desk.Window->show();
+    desk.Window->Explain("lblGMHPITI");
+    auto& tree = desk.Find<QTreeWidget>("Chain");
+    QTreeWidgetItem* const root = tree.topLevelItem(0);
+    // The label's own text.
+    QCOMPARE(root->text(1), QString::fromStdString(desk.Open.State.Screen.lblGMHPITI.Text));
+    QVERIFY(root->isExpanded());
+    QVERIFY(root->childCount() >= 3);
+    // Every branch ends at something that was typed or assumed, and none goes around in a circle.
+    QList<std::pair<QTreeWidgetItem*, int>> waiting{{root, 0}};
+    int leaves = 0;
+    while (!waiting.isEmpty()) {
+        const auto [line, depth] = waiting.takeLast();
+        QVERIFY(depth < 30);
+        line->setExpanded(true);
+        QVERIFY(!line->text(2).isEmpty());
+        leaves += line->childCount() == 0 ? 1 : 0;
+        for (int child = 0; child < line->childCount(); ++child)
+            waiting.append({line->child(child), depth + 1});
+    }
+    QVERIFY(leaves >= 4);
+    QCOMPARE(desk.Find<QComboBox>("FigureList").currentData().toString(), "GMHCase.PITI");
+    // An entry keeps the branches open.
+    const QString value = root->text(1);
+    desk.Open.Enter("ecGMHHome", "220000");
+    QVERIFY(tree.topLevelItem(0)->child(0)->isExpanded() ||
+            tree.topLevelItem(0)->child(0)->childCount() == 0);
+    QVERIFY(tree.topLevelItem(0)->text(1) != value);
+}
+
+void InsightTest::aLeafLeadsToItsField() {
+    InsightDesk desk;
+    desk.Window->show();
+    desk.Window->Explain("StdCase.Cost");
+    auto& tree = desk.Find<QTreeWidget>("Chain");
+    QTreeWidgetItem* leaf = tree.topLevelItem(0);
+    while (leaf->childCount() > 0) {
+        leaf = leaf->child(0);
+        leaf->setExpanded(true);
+    }
+    emit tree.itemActivated(leaf, 0);
+    QCOMPARE(desk.WentTo, "ecStdHome/");
+    desk.Open.Window->GoToSource("ecStdHome", "");
+    QCOMPARE(desk.Open.Focused(), "ecStdHome");
+}
+
+void InsightTest::figuresAreAskedFromTheTabs() {
+    InsightDesk desk;
+    desk.Open.Find<QTabWidget>("SSTab1").setCurrentIndex(4);
+    QWidget& figure = desk.Open.Find("lblGMHPITI");
+    QEnterEvent enters(QPointF(2, 2), QPointF(2, 2), figure.mapToGlobal(QPointF(2, 2)));
+    QApplication::sendEvent(&figure, &enters);
+    auto& mark = desk.Open.Find<QToolButton>("bFigure");
+    QVERIFY(mark.isVisible());
+    figure.setAttribute(Qt::WA_UnderMouse);
+    mark.click();
+    QCOMPARE(desk.Explained.last(), std::string("lblGMHPITI"));
+    desk.Open.Press(Qt::Key_F2);
+    QCOMPARE(desk.Explained.size(), 2);
 }
 
 void InsightTest::keysCloseAndHelp() {

@@ -16,6 +16,7 @@
 #include "ui/windows/Identify.h"
 #include "ui/windows/UsersFolder.h"
 #include "ui/windows/insight/AnswerPicture.h"
+#include "ui/windows/insight/ChainView.h"
 #include "ui/windows/insight/SheetView.h"
 
 namespace Ledgrove {
@@ -88,8 +89,15 @@ QWidget* frmInsight::MakeAnswer() {
     column->addWidget(m_cell);
     m_table = new SheetView(m_model);
     column->addWidget(m_table, 2);
+    m_chain = new ChainView;
+    column->addWidget(m_chain, 5);
+    connect(m_chain, &ChainView::LeafChosen, this,
+            [this](const QString& control, const QString& key) { m_context.GoTo(control, key); });
+    connect(m_chain, &ChainView::FigureChosen, this,
+            [this](const QString& figure) { Explain(figure.toStdString()); });
     m_legend = MakeText("Legend");
     column->addWidget(m_legend);
+    column->addStretch(1);
     column->addLayout(MakeButtons());
     connect(m_picture, &AnswerPicture::CellSaid, m_cell, &QLabel::setText);
     connect(m_picture, &AnswerPicture::CellChosen, this, &frmInsight::ChooseMapCell);
@@ -137,6 +145,13 @@ void frmInsight::Ask(InsightQuestion question) {
     m_questions->setFocus(Qt::OtherFocusReason);
 }
 
+void frmInsight::Explain(const std::string& figure) {
+    m_figure = figure;
+    if (m_question == InsightQuestion::WhereFrom && isVisible())
+        ShowAnswer();
+    Ask(InsightQuestion::WhereFrom);
+}
+
 void frmInsight::Follow() {
     if (!isVisible())
         return;
@@ -147,10 +162,14 @@ void frmInsight::Follow() {
 }
 
 void frmInsight::ShowAnswer() {
-    const InsightAnswer answer = m_context.Answer(m_question);
+    const InsightAnswer answer = m_context.Answer(m_question, m_figure);
     const bool hasAnswer = answer.Missing.empty();
     m_sentence->setText(Words(hasAnswer ? answer.Table.Sentence : answer.Missing));
-    m_table->setVisible(hasAnswer);
+    m_chain->setVisible(answer.Chain.has_value());
+    if (answer.Chain)
+        m_chain->Show(*answer.Chain, answer.Figure);
+    // A table of one column repeats the sentences.
+    m_table->setVisible(hasAnswer && !answer.Chain && answer.Table.Heads.size() > 1);
     m_copy->setEnabled(hasAnswer);
     m_picture->setVisible(answer.Picture.has_value());
     m_cell->setVisible(answer.Picture && answer.Picture->Kind == ChartKind::NetMap);
@@ -178,6 +197,7 @@ void frmInsight::OfferEntry() {
     const auto& entries = m_model.EntriesAt(m_table->CurrentCell());
     const bool isOption = !entries.empty() && entries.front().Control == "cboStdMortOption";
     m_enter->setText(isOption ? "&Use These Options" : "&Try It");
+    m_enter->setVisible(m_question != InsightQuestion::WhereFrom);
     m_enter->setEnabled(!entries.empty() && m_table->isVisible());
     m_enter->setToolTip(entries.empty() ? "Choose a row with a value to try." : "");
 }

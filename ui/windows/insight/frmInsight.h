@@ -12,6 +12,7 @@ class QPushButton;
 namespace Ledgrove {
 
 class AnswerPicture;
+class ChainView;
 class SheetView;
 
 /// The Insight window: on the left the questions, on the right the answer as a sentence, a picture and a
@@ -23,6 +24,7 @@ public:
     explicit frmInsight(InsightContext context);
 
     void Ask(InsightQuestion question) override;
+    void Explain(const std::string& figure) override;
     void Follow() override;
 
 protected:
@@ -45,6 +47,7 @@ private:
 
     InsightContext m_context;
     InsightQuestion m_question = InsightQuestion::HowFar;
+    std::string m_figure; ///< that WhereFrom is about
     SheetModel m_model;
     QTimer m_highlight;
     QListWidget* m_questions = nullptr;
@@ -52,6 +55,7 @@ private:
     AnswerPicture* m_picture = nullptr;
     QLabel* m_cell = nullptr;
     SheetView* m_table = nullptr;
+    ChainView* m_chain = nullptr;
     QLabel* m_legend = nullptr;
     QPushButton* m_enter = nullptr;
     QPushButton* m_copy = nullptr;
