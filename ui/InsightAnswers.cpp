@@ -11,8 +11,8 @@ namespace {
 
 constexpr double by = 10; // percent
 
-/// A figure that every comparison has.
-constexpr std::string_view usualFigure = "GMHCase.PITIU";
+/// The monthly net, which everything leads to.
+constexpr std::string_view usualLabel = "lblNetCashMo2";
 
 InsightAnswer ExplanationOf(const Insight& insight, std::string_view asked) {
     InsightAnswer answer;
@@ -21,10 +21,13 @@ InsightAnswer ExplanationOf(const Insight& insight, std::string_view asked) {
     if (!figure)
         figure = chain.Find(asked);
     if (!figure)
-        figure = chain.Find(usualFigure);
+        figure = chain.FigureOfLabel(usualLabel);
     if (figure) {
         answer.Figure = figure->Figure;
         answer.Table = ExplainSheet(chain, figure->Figure);
+        answer.Sentence = figure->Caption + ": " + figure->Text + ".";
+        if (!figure->Because.empty())
+            answer.Sentence += " " + figure->Because + ".";
     }
     answer.Chain = std::move(chain);
     return answer;
@@ -65,7 +68,10 @@ InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::st
     if (!insight.Missing().empty())
         return {.Missing = insight.Missing()};
     InsightViews views(insight, by);
-    return AnswerFrom(question, views, asked);
+    InsightAnswer answer = AnswerFrom(question, views, asked);
+    if (answer.Sentence.empty())
+        answer.Sentence = answer.Table.Sentence;
+    return answer;
 }
 
 std::vector<EntryText> EntriesOfCell(const Session& session, const ChartGrid& grid, std::size_t column,

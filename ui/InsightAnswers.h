@@ -15,7 +15,8 @@ namespace Ledgrove {
 
 /// The answer to a question of the Insight window.
 struct InsightAnswer {
-    std::string Missing = {}; ///< why there is no answer; empty if there is one
+    std::string Missing = {};  ///< why there is no answer; empty if there is one
+    std::string Sentence = {}; ///< the answer in words
     Sheet Table = {};
     std::optional<ChartFigures> Picture = {}; ///< empty if the table is all
     std::optional<Explanation> Chain = {};    ///< of "Where does this number come from?": all figures
@@ -24,7 +25,7 @@ struct InsightAnswer {
 
 /// Answers one question about the session's inputs, and computes nothing else. `asked` is the figure that
 /// "Where does this number come from?" is about, by its name ("GMHCase.PITI") or a label that shows it
-/// ("lblGMHPITI"); an unknown one gives the labelled home's payment.
+/// ("lblGMHPITI"); an unknown one gives the monthly net.
 InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::string_view asked = {});
 
 /// What entering a cell of the map means: the labelled home's price and utility bill that give its price

@@ -22,6 +22,14 @@ QString Words(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// Where a leaf comes from, in words.
+QString SourceOf(const ExplainedFigure& leaf) {
+    const QString from = Words(leaf.From);
+    if (!leaf.Place.Control.empty())
+        return "typed: " + from;
+    return leaf.Place.Key.empty() ? from : "assumed: " + from + " in Ledgrove.ini";
+}
+
 /// The names of a line and of those above it: the same figure may stand in several branches.
 QString PathOf(const QTreeWidgetItem* line) {
     QString path;
@@ -61,13 +69,14 @@ const ExplainedFigure* ChainView::Find(const QString& figure) const {
 void ChainView::FillList(const std::string& chosen) {
     const QSignalBlocker nothingChosen(m_list);
     m_list->clear();
+    m_list->setPlaceholderText("Choose a figure");
     for (const ExplainedFigure& figure : m_chain.Figures) {
         if (figure.Labels.empty())
             continue;
         m_list->addItem(Words(figure.Caption) + ": " + Words(figure.Text), Words(figure.Figure));
-        if (figure.Figure == chosen)
-            m_list->setCurrentIndex(m_list->count() - 1);
     }
+    // A figure that no label shows is not in the list.
+    m_list->setCurrentIndex(m_list->findData(Words(chosen)));
 }
 
 void ChainView::Show(const Explanation& chain, const std::string& figure) {
@@ -99,7 +108,7 @@ void ChainView::Show(const Explanation& chain, const std::string& figure) {
 QTreeWidgetItem* ChainView::MakeLine(const ExplainedFigure& figure) const {
     const bool isLeaf = figure.IsLeaf();
     auto* line = new QTreeWidgetItem({Words(figure.Caption), Words(figure.Text),
-                                      isLeaf ? Words(figure.From) : Words(figure.InWords),
+                                      isLeaf ? SourceOf(figure) : Words(figure.InWords),
                                       Words(figure.WithNumbers), Words(figure.Because)});
     line->setData(Caption, nameRole, Words(figure.Figure));
     line->setTextAlignment(Value, Qt::AlignRight | Qt::AlignVCenter);
@@ -121,6 +130,8 @@ void ChainView::Expand(QTreeWidgetItem* line) const {
     for (const std::string& name : figure->Values)
         if (const ExplainedFigure* const part = Find(Words(name)))
             line->addChild(MakeLine(*part));
+    for (int at : {Caption, Value})
+        m_tree->resizeColumnToContents(at);
 }
 
 void ChainView::Activate(QTreeWidgetItem* line) {

@@ -97,7 +97,8 @@ QWidget* frmInsight::MakeAnswer() {
             [this](const QString& figure) { Explain(figure.toStdString()); });
     m_legend = MakeText("Legend");
     column->addWidget(m_legend);
-    column->addStretch(1);
+    m_space = new QWidget;
+    column->addWidget(m_space, 1);
     column->addLayout(MakeButtons());
     connect(m_picture, &AnswerPicture::CellSaid, m_cell, &QLabel::setText);
     connect(m_picture, &AnswerPicture::CellChosen, this, &frmInsight::ChooseMapCell);
@@ -164,7 +165,7 @@ void frmInsight::Follow() {
 void frmInsight::ShowAnswer() {
     const InsightAnswer answer = m_context.Answer(m_question, m_figure);
     const bool hasAnswer = answer.Missing.empty();
-    m_sentence->setText(Words(hasAnswer ? answer.Table.Sentence : answer.Missing));
+    m_sentence->setText(Words(hasAnswer ? answer.Sentence : answer.Missing));
     m_chain->setVisible(answer.Chain.has_value());
     if (answer.Chain)
         m_chain->Show(*answer.Chain, answer.Figure);
@@ -176,8 +177,11 @@ void frmInsight::ShowAnswer() {
     m_save->setEnabled(answer.Picture.has_value());
     if (answer.Picture)
         m_picture->Show(*answer.Picture);
-    if (hasAnswer)
+    if (hasAnswer) {
         m_model.Show(answer.Table);
+        m_table->resizeColumnsToContents();
+    }
+    m_space->setVisible(m_table->isHidden() && m_chain->isHidden());
     m_legend->setText(LegendOf(answer.Table));
     m_legend->setVisible(!m_legend->text().isEmpty());
     SetSpokenName(*m_table, Words(answer.Table.Title));

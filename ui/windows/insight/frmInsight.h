@@ -56,6 +56,7 @@ private:
     QLabel* m_cell = nullptr;
     SheetView* m_table = nullptr;
     ChainView* m_chain = nullptr;
+    QWidget* m_space = nullptr; ///< keeps the buttons down below an answer without a table
     QLabel* m_legend = nullptr;
     QPushButton* m_enter = nullptr;
     QPushButton* m_copy = nullptr;
