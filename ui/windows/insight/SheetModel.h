@@ -38,7 +38,6 @@ public:
 
     /// Shows this sheet. If it answers the same question as the one before, marks what changed.
     void Show(const Sheet& sheet);
-    const Sheet& Shown() const { return m_sheet; }
     /// What the cell proposes to enter: its own entries, or those of its row's first cell.
     const std::vector<EntryText>& EntriesAt(const QModelIndex& index) const;
 

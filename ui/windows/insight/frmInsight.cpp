@@ -177,10 +177,10 @@ void frmInsight::ShowAnswer() {
     m_save->setEnabled(answer.Picture.has_value());
     if (answer.Picture)
         m_picture->Show(*answer.Picture);
-    if (hasAnswer) {
-        m_model.Show(answer.Table);
-        m_table->resizeColumnsToContents();
-    }
+    m_sheet = answer.Table;
+    // A screen reader also finds the cells of a hidden table.
+    m_model.Show(m_table->isHidden() ? Sheet() : m_sheet);
+    m_table->resizeColumnsToContents();
     m_space->setVisible(m_table->isHidden() && m_chain->isHidden());
     m_legend->setText(LegendOf(answer.Table));
     m_legend->setVisible(!m_legend->text().isEmpty());
@@ -220,7 +220,7 @@ void frmInsight::ChooseMapCell(std::size_t column, std::size_t row) {
 }
 
 void frmInsight::Copy(QString (*form)(const Sheet&)) {
-    QGuiApplication::clipboard()->setText(form(m_model.Shown()));
+    QGuiApplication::clipboard()->setText(form(m_sheet));
 }
 
 void frmInsight::SavePicture() {

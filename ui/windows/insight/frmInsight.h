@@ -48,6 +48,7 @@ private:
     InsightContext m_context;
     InsightQuestion m_question = InsightQuestion::HowFar;
     std::string m_figure; ///< that WhereFrom is about
+    Sheet m_sheet;        ///< of the shown answer, also while its table is hidden
     SheetModel m_model;
     QTimer m_highlight;
     QListWidget* m_questions = nullptr;
