@@ -1,8 +1,8 @@
 """The help is correct: its links have targets, it explains every control, and each figure of its worked examples is the
 program's result for the example's inputs.
 
-The help marks what is checked: data-inputs (a comparison in JSON) around an example, data-field, data-label and data-record
-on the figures in it, class="sum" on a sum that must be right as printed, data-default on a value of the settings file, and
+The help marks what is checked: data-inputs (a comparison in JSON) around an example, data-field, data-label, data-record
+and data-insight (the place in the answers) on the figures in it, class="sum" on a sum that must be right as printed, data-default on a value of the settings file, and
 data-control and data-explains for the control or label that a passage explains."""
 import json
 import re
@@ -176,9 +176,44 @@ class Examples(HelpTest):
                 self.assertLessEqual(abs(value - result[record][member]), HALF_A_UNIT * unit,
                                      f"{text} for {result[record][member]}")
 
+    def insight(self, inputs):
+        """All answers of insight; the figures of explain by their names."""
+        views = "breakeven,options,qualify,sensitivity,map,explain"
+        run = subprocess.run([PROGRAM, "insight", "--folder", DATA, "--format", "json", "--view", views],
+                             input=inputs.encode(), capture_output=True, check=True, timeout=60)
+        answers = json.loads(run.stdout)
+        answers["explain"] = {figure["figure"]: figure for figure in answers["explain"]["figures"]}
+        return answers
+
+    @staticmethod
+    def at(answers, place):
+        """The value at "qualify.gmh.income.to"; names of figures have a point of their own."""
+        if place.startswith("explain."):
+            figure, _, member = place.removeprefix("explain.").rpartition(".")
+            return answers["explain"][figure][member]
+        for step in place.split("."):
+            answers = answers[int(step) if isinstance(answers, list) else step]
+        return answers
+
+    def test_answers_of_insight(self):
+        shown = 0
+        for example in self.marked("data-inputs"):
+            marked = self.marked("data-insight", example)
+            answers = self.insight(example.get("data-inputs")) if marked else None
+            for element in marked:
+                value, text = self.at(answers, element.get("data-insight")), words(element)
+                shown += 1
+                with self.subTest(element.get("data-insight")):
+                    if isinstance(value, str):
+                        self.assertEqual(text, value)
+                    else:
+                        number, unit = number_of(text)
+                        self.assertLessEqual(abs(number - value), HALF_A_UNIT * unit, f"{text} for {value}")
+        self.assertGreater(shown, 12)
+
     def test_every_figure_is_inside_an_example(self):
         inside = [element for example in self.marked("data-inputs") for element in example.iter()]
-        for attribute in ("data-field", "data-label", "data-record"):
+        for attribute in ("data-field", "data-label", "data-record", "data-insight"):
             for element in self.marked(attribute):
                 self.assertIn(element, inside, words(element))
 
