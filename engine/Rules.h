@@ -2,6 +2,7 @@
 
 #include "engine/MortgageOption.h"
 #include "engine/TypeDeclarations.h"
+#include "engine/YearSettings.h"
 
 #include <optional>
 
@@ -13,6 +14,7 @@ struct Rules {
     AssumptionSet Assumptions;
     LoanTypeList LoanTypes;
     TaxSchedule TaxBrackets;
+    YearSettings Years; ///< no figure of a record depends on them
 };
 
 } // namespace Ledgrove
