@@ -41,4 +41,20 @@ const Takeaway& InsightViews::TakeawayView() {
     return Once(m_takeaway, [this] { return ComputeTakeaway(m_insight, BreakevenView(), QualifyView()); });
 }
 
+const YearByYear& InsightViews::YearsView() {
+    return Once(m_years, [this] { return ComputeYears(m_insight); });
+}
+
+const EnergyGrowth& InsightViews::EnergyView() {
+    return Once(m_energy, [this] { return ComputeEnergy(YearsView()); });
+}
+
+const TaxCheck& InsightViews::TaxView() {
+    return Once(m_tax, [this] { return ComputeTaxCheck(m_insight, YearsView()); });
+}
+
+const SaleByYear& InsightViews::ExitView() {
+    return Once(m_exit, [this] { return ComputeExit(m_insight, YearsView()); });
+}
+
 } // namespace Ledgrove

@@ -4,12 +4,16 @@
 
 #include "insight/Breakeven.h"
 #include "insight/Explain.h"
+#include "insight/Energy.h"
+#include "insight/Exit.h"
 #include "insight/Insight.h"
 #include "insight/Map.h"
 #include "insight/Options.h"
 #include "insight/Qualify.h"
 #include "insight/Sensitivity.h"
 #include "insight/Takeaway.h"
+#include "insight/TaxCheck.h"
+#include "insight/Years.h"
 
 namespace Ledgrove {
 
@@ -29,6 +33,10 @@ public:
     const NetMap& MapView();
     const Explanation& ExplanationView();
     const Takeaway& TakeawayView();
+    const YearByYear& YearsView();
+    const EnergyGrowth& EnergyView();
+    const TaxCheck& TaxView();
+    const SaleByYear& ExitView();
 
 private:
     const Insight& m_insight;
@@ -40,6 +48,10 @@ private:
     std::optional<NetMap> m_map;
     std::optional<Explanation> m_explanation;
     std::optional<Takeaway> m_takeaway;
+    std::optional<YearByYear> m_years;
+    std::optional<EnergyGrowth> m_energy;
+    std::optional<TaxCheck> m_tax;
+    std::optional<SaleByYear> m_exit;
 };
 
 } // namespace Ledgrove

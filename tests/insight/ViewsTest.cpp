@@ -17,6 +17,10 @@ TEST(InsightViews, ComputeEachViewOnce) {
     EXPECT_EQ(&views.OptionsView(), &views.OptionsView());
     EXPECT_EQ(&views.SensitivityView(), &views.SensitivityView());
     EXPECT_EQ(&views.MapView(), &views.MapView());
+    EXPECT_EQ(&views.YearsView(), &views.YearsView());
+    EXPECT_EQ(&views.EnergyView(), &views.EnergyView());
+    EXPECT_EQ(&views.TaxView(), &views.TaxView());
+    EXPECT_EQ(&views.ExitView(), &views.ExitView());
 }
 
 void ExpectWholeTable(const Sheet& sheet) {
@@ -41,6 +45,11 @@ TEST(InsightViews, AnswerOddComparisons) {
         ExpectWholeTable(OptionsSheet(views.OptionsView()));
         ExpectWholeTable(SensitivitySheet(insight, views.SensitivityView()));
         ExpectWholeTable(MapSheet(views.MapView()));
+        ExpectWholeTable(YearsSheet(views.YearsView()));
+        ExpectWholeTable(YearMonthsSheet(views.YearsView(), 30));
+        ExpectWholeTable(EnergySheet(views.EnergyView()));
+        ExpectWholeTable(TaxCheckSheet(views.TaxView()));
+        ExpectWholeTable(ExitSheet(insight, views.ExitView()));
         ++answered;
     }
     EXPECT_GT(answered, 200);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "insight/Insight.h"
+#include "insight/Sheet.h"
+#include "insight/Years.h"
+
+// The years with other growth of the utility bills.
+namespace Ledgrove {
+
+inline constexpr std::array<double, 7> EnergyRates{0, 0.01, 0.02, 0.03, 0.04, 0.05, 0.06};
+
+struct EnergyGrowth {
+    /// What the buyer is ahead by, in dollars, at the end of each year of the years view, for each rate.
+    std::array<std::vector<double>, EnergyRates.size()> Cumulative;
+    /// The least growth per year, in steps of 0.0001, with which the buyer does not lose in the years in the
+    /// home; empty if 0.20 is not enough.
+    std::optional<double> Needed;
+    int InHome = 1; ///< the years in the home
+};
+
+/// `years` are the insight's; the insight must not be missing.
+EnergyGrowth ComputeEnergy(const YearByYear& years);
+
+Sheet EnergySheet(const EnergyGrowth& energy);
+
+} // namespace Ledgrove

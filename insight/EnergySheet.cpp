@@ -1,0 +1,55 @@
+#include "engine/NumberText.h"
+#include "insight/Energy.h"
+#include "insight/YearsWords.h"
+
+namespace Ledgrove {
+
+namespace {
+
+std::string SentenceOf(const EnergyGrowth& energy) {
+    constexpr double most = 0.10;
+    const std::string ahead = "for the buyer to be ahead after " + YearsText(energy.InHome) + ".";
+    if (!energy.Needed)
+        return "Not even utility bills that rise by 20% a year are enough " + ahead;
+    if (*energy.Needed == 0)
+        return "Utility bills need not rise " + ahead;
+    const std::string growth =
+        *energy.Needed > most
+            ? "more than 10 % a year"
+            : "at least " + Module1::FormatPicture(*energy.Needed * 100, "0.00") + "% a year";
+    return "Utility bills have to rise by " + growth + " " + ahead;
+}
+
+/// The years in the home, and every fifth year.
+std::vector<int> ShownYears(const EnergyGrowth& energy) {
+    constexpr int apart = 5;
+    std::vector<int> shown;
+    for (int year = 1; year <= static_cast<int>(energy.Cumulative.front().size()); ++year) {
+        if (year == energy.InHome || year % apart == 0)
+            shown.push_back(year);
+    }
+    return shown;
+}
+
+} // namespace
+
+Sheet EnergySheet(const EnergyGrowth& energy) {
+    const std::vector<int> shown = ShownYears(energy);
+    Sheet sheet;
+    sheet.Title = "Energy prices";
+    sheet.Sentence =
+        SentenceOf(energy) + " The table shows by how much the buyer is ahead at the end of a year.";
+    sheet.Heads.emplace_back("Bills Rise By");
+    for (const int year : shown)
+        sheet.Heads.push_back("Year " + std::to_string(year));
+    for (std::size_t i = 0; i < EnergyRates.size(); ++i) {
+        const double percent = EnergyRates[i] * 100;
+        auto& cells = sheet.Rows.emplace_back();
+        cells.push_back({RateText(EnergyRates[i]), percent, CellUnit::Percent, CellMark::None});
+        for (const int year : shown)
+            cells.push_back(DollarCell(energy.Cumulative[i][static_cast<std::size_t>(year) - 1]));
+    }
+    return sheet;
+}
+
+} // namespace Ledgrove
