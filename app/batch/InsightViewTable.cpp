@@ -4,6 +4,7 @@
 
 #include "app/batch/InsightExplainJson.h"
 #include "app/batch/InsightJson.h"
+#include "app/batch/InsightYearsJson.h"
 
 namespace Ledgrove {
 
@@ -30,6 +31,15 @@ const std::array table{
                 [](Views& views) { return SensitivitySheet(views.Of(), views.SensitivityView()); }},
     InsightView{"map", false, [](Writer& json, Views& views) { Json::WriteMap(json, views.MapView()); },
                 [](Views& views) { return MapSheet(views.MapView()); }},
+    InsightView{"years", true, [](Writer& json, Views& views) { Json::WriteYears(json, views.YearsView()); },
+                [](Views& views) { return YearsSheet(views.YearsView()); }},
+    InsightView{"energy", true,
+                [](Writer& json, Views& views) { Json::WriteEnergy(json, views.EnergyView()); },
+                [](Views& views) { return EnergySheet(views.EnergyView()); }},
+    InsightView{"tax", true, [](Writer& json, Views& views) { Json::WriteTax(json, views.TaxView()); },
+                [](Views& views) { return TaxCheckSheet(views.TaxView()); }},
+    InsightView{"exit", true, [](Writer& json, Views& views) { Json::WriteExit(json, views.ExitView()); },
+                [](Views& views) { return ExitSheet(views.Of(), views.ExitView()); }},
     InsightView{"explain", false,
                 [](Writer& json, Views& views) { Json::WriteExplanation(json, views.ExplanationView()); },
                 [](Views& views) { return ExplainSheet(views.ExplanationView()); }},

@@ -23,7 +23,8 @@ class Insight(CliTest):
         return json.loads(self.insight("json", json.dumps(inputs), *options).stdout)
 
     def test_the_views_have_their_keys(self):
-        self.assertEqual(list(self.answers(HOME)), ["takeaway", "breakeven", "options", "qualify", "sensitivity"])
+        self.assertEqual(list(self.answers(HOME)),
+                         ["takeaway", "breakeven", "options", "qualify", "sensitivity", "years", "energy", "tax", "exit"])
         chosen = self.answers(HOME, "--view", "map,breakeven,map")
         self.assertEqual(list(chosen), ["breakeven", "map"])
         self.assertEqual([len(chosen["map"][key]) for key in ("price", "savings", "net")], [41, 41, 41])

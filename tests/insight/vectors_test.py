@@ -9,7 +9,7 @@ import sys
 from pathlib import Path
 
 PROGRAM, GOLDEN = sys.argv[1], Path(sys.argv[2])
-VIEWS = ("breakeven", "options", "qualify", "sensitivity")
+VIEWS = ("breakeven", "options", "qualify", "sensitivity", "years", "energy", "tax", "exit")
 OWN = {"sentence"}  # words of the program's own, which the vectors do not have
 
 
@@ -31,6 +31,16 @@ def faults(got, wanted, where):
         yield f"{where}: {got} instead of {wanted}"
 
 
+def named(view, got, wanted):
+    """The part of the answer that the vectors hold: of the energy view a member, of the years and the sale single years."""
+    if view == "energy":
+        return {key: got[key] for key in wanted}
+    if "years" in wanted:
+        numbers = {row["year"] for row in wanted["years"]}
+        return got | {"years": [row for row in got["years"] if row["year"] in numbers]}
+    return got
+
+
 def main():
     vectors = [json.loads(line) for line in (GOLDEN / "insight/vectors.jsonl").read_text().splitlines()]
     lines = "".join(json.dumps(vector["input"]) + "\n" for vector in vectors)
@@ -43,7 +53,8 @@ def main():
         for view in VIEWS:
             if view not in vector["answer"]:
                 continue
-            found = list(faults(got[view], vector["answer"][view], f"line {number}: {view}"))
+            wanted = vector["answer"][view]
+            found = list(faults(named(view, got[view], wanted), wanted, f"line {number}: {view}"))
             passed, failed = passed + (not found), failed + bool(found)
             print("".join(fault + "\n" for fault in found), end="")
     print(f"{passed} passed, {failed} failed")
