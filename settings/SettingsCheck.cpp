@@ -6,8 +6,10 @@
 #include "settings/HouseListFile.h"
 #include "settings/LineSyntax.h"
 #include "settings/LoanTypesFile.h"
+#include "settings/NotesFile.h"
 #include "settings/TaxScheduleFile.h"
 #include "settings/Windows1252.h"
+#include "settings/YearSettingsFile.h"
 
 #include <algorithm>
 #include <array>
@@ -58,6 +60,8 @@ public:
         CheckTaxCats();
         CheckLists();
         CheckLogoOption();
+        CheckYearSettings();
+        CheckNotes();
         std::stable_sort(m_found.begin(), m_found.end(),
                          [](const UnusableLine& a, const UnusableLine& b) { return a.Line < b.Line; });
         return std::move(m_found);
@@ -136,6 +140,24 @@ private:
         const auto option = ToIntegerDown(Trimmed(ValueOf(m_lines[*line].Text, Key::LogoOption)));
         if (!option || *option < 0 || *option > mostOption)
             Add(*line, Key::LogoOption, "is not 0, 1 or 2", "0 (no logo) is in force instead.");
+    }
+
+    void CheckYearSettings() {
+        for (const YearSetting& setting : YearSettingTable) {
+            const auto line = LastLineOf(m_lines, setting.Key);
+            if (line && !ReadYearValue(setting, ValueOf(m_lines[*line].Text, setting.Key)))
+                Add(*line, setting.Key, "is not " + WantedYearValue(setting),
+                    DefaultYearText(setting) + " is in force instead.");
+        }
+    }
+
+    void CheckNotes() {
+        for (const NotedKey& key : NotedKeys) {
+            const auto line = LastLineOf(m_lines, key.Note);
+            if (line && !IsNote(ValueOf(m_lines[*line].Text, key.Note)))
+                Add(*line, key.Note, "does not give a value, a date and a source",
+                    std::string(key.Key) + " is shown without a source.");
+        }
     }
 
     const FileLines& m_lines;

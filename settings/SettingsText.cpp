@@ -5,8 +5,10 @@
 #include "settings/AssumptionsFile.h"
 #include "settings/HeaderSettings.h"
 #include "settings/LineSyntax.h"
+#include "settings/NotesFile.h"
 #include "settings/ValueRules.h"
 #include "settings/Windows1252.h"
+#include "settings/YearSettingsFile.h"
 
 #include <algorithm>
 #include <array>
@@ -119,7 +121,11 @@ std::optional<std::string> CheckText(std::string_view what, std::string_view tex
 std::vector<std::string_view> KnownKeys() {
     std::vector<std::string_view> keys(listKeys.begin(), listKeys.end());
     keys.insert(keys.end(), assumptionKeys.begin(), assumptionKeys.end());
+    for (const YearSetting& setting : YearSettingTable)
+        keys.push_back(setting.Key);
     keys.insert(keys.end(), otherKeys.begin(), otherKeys.end());
+    for (const NotedKey& key : NotedKeys)
+        keys.push_back(key.Note);
     return keys;
 }
 
@@ -142,6 +148,8 @@ Outcome<std::string> SettingText(const SettingsFile& file, std::string_view key)
         return FeatureText(file, &FeatureTexts::Feature2);
     if (Contains(assumptionKeys, key))
         return AssumptionText(file, *lines, key);
+    if (const YearSetting* const setting = FindYearSetting(key))
+        return Module1::YearSettingText(file, *lines, *setting);
     if (Contains(listKeys, key))
         return ListText(*lines, key);
     return LastValue(file, *lines, key);

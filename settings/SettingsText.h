@@ -10,7 +10,8 @@
 // Access to the settings file by key and text, for scripts.
 namespace Ledgrove {
 
-/// Every key that the program reads: the lists, then the assumptions, then the others.
+/// Every key that the program reads: the lists, the assumptions, the others, and the notes on the
+/// assumptions.
 std::vector<std::string_view> KnownKeys();
 
 /// The key's value as the program reads it, trimmed and with its default, in UTF-8. Numbers are plain and in

@@ -3,6 +3,8 @@
 #include "base/Text.h"
 #include "engine/NumberText.h"
 #include "settings/LineSyntax.h"
+#include "settings/NotesFile.h"
+#include "settings/YearSettingsFile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -49,6 +51,13 @@ std::string_view Wanted(Unit unit) {
     return {};
 }
 
+bool IsPercent(std::string_view key) {
+    if (const YearSetting* const setting = FindYearSetting(key))
+        return setting->IsPercent();
+    const NumberRule* const rule = RuleOf(key);
+    return rule && rule->What == Unit::Percent;
+}
+
 bool IsUsable(const NumberRule& rule, const std::string& text) {
     // The readers take commas for thousands separators, so "0,9" would be 9.
     if (text.find(',') != std::string::npos)
@@ -61,11 +70,10 @@ bool IsUsable(const NumberRule& rule, const std::string& text) {
 } // namespace
 
 std::string StoredValue(std::string_view key, std::string_view value) {
-    const NumberRule* const rule = RuleOf(key);
-    if (!rule)
+    if (!RuleOf(key) && !FindYearSetting(key))
         return std::string(value);
     std::string_view number = Trimmed(value);
-    if (rule->What == Unit::Percent && number.ends_with('%'))
+    if (IsPercent(key) && number.ends_with('%'))
         number = Trimmed(number.substr(0, number.size() - 1));
     return std::string(number);
 }
@@ -80,6 +88,16 @@ std::optional<std::string> CheckValue(std::string_view key, std::string_view val
     const NumberRule* const rule = RuleOf(key);
     if (rule && !IsUsable(*rule, StoredValue(key, value)))
         return refuse(Wanted(rule->What));
+    if (const YearSetting* const setting = FindYearSetting(key)) {
+        const bool hasComma = value.find(',') != std::string_view::npos;
+        if (hasComma || !ReadYearValue(*setting, value))
+            return refuse(WantedYearValue(*setting) + ", such as " + DefaultYearText(*setting));
+    }
+    const bool isNoted = std::any_of(NotedKeys.begin(), NotedKeys.end(),
+                                     [key](const NotedKey& noted) { return noted.Note == key; });
+    if (isNoted && !IsNote(value))
+        return refuse("a value, its date (such as 2026-01-31, 2026 or nothing) and its source, separated by "
+                      "\"|\"");
     return std::nullopt;
 }
 

@@ -7,9 +7,11 @@
 #include "settings/HouseListFile.h"
 #include "settings/LineSyntax.h"
 #include "settings/LoanTypesFile.h"
+#include "settings/NotesFile.h"
 #include "settings/Rewrite.h"
 #include "settings/TaxScheduleFile.h"
 #include "settings/Windows1252.h"
+#include "settings/YearSettingsFile.h"
 
 #include <variant>
 
@@ -29,6 +31,9 @@ void ReadAll(const FileLines& lines) {
     Module1::ReadTaxCats(lines, taxes);
     AssumptionSet assumptions;
     Module1::ReadAssumptions(lines, assumptions);
+    const double kept = Module1::ReadYearSettings(lines).PremiumKept;
+    Require(kept >= 0 && kept <= 1, "a setting is in its range");
+    Require(ReadNotes(lines, std::chrono::year(2026) / 1 / 1).size() <= NotedKeys.size(), "a key has a note");
     LoanTypeList loanTypes;
     if (const auto fault = Module1::ReadLoanTypes(AnyFile(), lines, loanTypes))
         Require(Sentence(*fault).size() < 1000, "a sentence stays short");

@@ -3,6 +3,7 @@
 #include "settings/HouseListFile.h"
 #include "settings/LoanTypesFile.h"
 #include "settings/TaxScheduleFile.h"
+#include "settings/YearSettingsFile.h"
 
 #include "TemporaryFolder.h"
 
@@ -99,6 +100,14 @@ TEST_F(ShippedSettingsTest, Assumptions) {
     EXPECT_EQ(assumptions.PMIMult2, 0.0066f);
     EXPECT_EQ(assumptions.PMIMult3, 0.0046f);
     EXPECT_EQ(assumptions.PMIMult4, 0.0023f);
+}
+
+TEST_F(ShippedSettingsTest, SettingsOfTheYears) {
+    const auto lines = File().ReadLines();
+    ASSERT_TRUE(lines);
+    for (const YearSetting& setting : YearSettingTable)
+        EXPECT_TRUE(LastLineOf(*lines, setting.Key)) << setting.Key;
+    EXPECT_EQ(ReadYearSettings(*lines), YearSettings());
 }
 
 TEST_F(ShippedSettingsTest, ThreeSampleHousesWhoseLabelledHomeCostsMoreAndUsesLess) {
