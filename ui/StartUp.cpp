@@ -5,6 +5,7 @@
 #include "settings/HeaderSettings.h"
 #include "settings/LoanTypesFile.h"
 #include "settings/TaxScheduleFile.h"
+#include "settings/YearSettingsFile.h"
 #include "ui/MainScreenRules.h"
 
 namespace Ledgrove::Module1 {
@@ -15,6 +16,8 @@ std::optional<SettingsFault> LoadTables(Session& session, const SettingsFile& fi
     if (auto fault = LoadLoanTypes(file, session.LoanTypes))
         return fault;
     if (auto fault = LoadTaxCats(file, session.TaxBrackets))
+        return fault;
+    if (auto fault = LoadYearSettings(file, session.Years))
         return fault;
     return LoadAssumptions(file, session.Assumptions);
 }

@@ -27,6 +27,7 @@ constexpr const char* settings = "BUILDERNAME= Acme Homes \r\n"
                                  "PVSAVINGS_FLAG=TRUE\r\n"
                                  "YEARS_IN_HOME=7\r\n"
                                  "PMI_MULT1=0.0087\r\n"
+                                 "GROWTH_UTILITIES=3.5\r\n"
                                  "LOANTYPE=1,Conventional,,0.280,0.360,,,,FALSE\r\n"
                                  "LOANTYPE=2,Fannie Mae EEM,,0.300,0.380,,,,TRUE\r\n";
 
@@ -51,6 +52,8 @@ TEST_F(StartUp, ReadsTheTablesAndTheHeader) {
     EXPECT_EQ(m_session.Assumptions.PVRate, 0.0624F);
     EXPECT_TRUE(m_session.Assumptions.UsePVVars);
     EXPECT_EQ(m_session.Assumptions.YearsInHome, 7);
+    EXPECT_EQ(m_session.Years.UtilityGrowth, 0.035);
+    EXPECT_EQ(m_session.Years.SellingCost, 0.06);
     EXPECT_EQ(m_session.Features.Feature1, " Finished basement");
     EXPECT_EQ(m_session.Features.Feature2, "Larger deck");
     EXPECT_EQ(m_session.Screen.lblfeature1.Text, ""); // both amounts are still zero
