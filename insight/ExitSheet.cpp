@@ -11,8 +11,8 @@ std::string MoreOrLess(double amount) {
 
 std::string ResultSentence(const SaleYear& end) {
     return "If the home is sold after " + YearsText(end.Year) + ", the GREENMARK home leaves " +
-           MoreOrLess(end.Difference()) + " from the sale than the base home; with what it costs and saves " +
-           "until then, the buyer has " + MoreOrLess(end.Total()) + ".";
+           MoreOrLess(end.Difference()) + " from the sale; with what it costs and saves " +
+           "until then, the buyer has " + MoreOrLess(end.Total()) + " than with the base home.";
 }
 
 std::string AssumedSentence(const YearSettings& settings) {
@@ -21,7 +21,7 @@ std::string AssumedSentence(const YearSettings& settings) {
                                    ? "home prices rise by " + RateText(settings.Appreciation) + " a year"
                                    : "home prices fall by " + RateText(-settings.Appreciation) + " a year";
     return " This assumes that " + prices + ", that selling costs " + RateText(settings.SellingCost) +
-           " of the price, and that the home keeps " + RateText(settings.PremiumKept) +
+           " of the price, and that the GREENMARK home keeps " + RateText(settings.PremiumKept) +
            " of the price difference.";
 }
 
