@@ -35,9 +35,10 @@ constexpr std::array insightOptions{
     OptionRow{
         "--format", Value::Choice, "text|json|jsonl",
         "text (default): sentences and tables; json: one object; jsonl: one object per line in and out"},
-    OptionRow{"--view", Value::Text, "LIST",
-              "Some of takeaway, breakeven, options, qualify, sensitivity, map, explain, separated by commas "
-              "(default: all but map and explain)"},
+    OptionRow{
+        "--view", Value::Text, "LIST",
+        "Some of takeaway, breakeven, options, qualify, sensitivity, map, years, energy, tax, exit, explain, "
+        "separated by commas (default: all but map and explain)"},
     OptionRow{"--by", Value::Text, "PERCENT",
               "How far sensitivity moves each input, above 0 and at most 100 (default: 10)"},
     oneInput,
