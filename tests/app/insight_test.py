@@ -59,6 +59,23 @@ class Insight(CliTest):
         income = next(row for row in rows["rows"] if row["input"] == "income")
         self.assertEqual((income["low"]["value"], income["high"]["value"]), ("$54,000", "$90,000"))
 
+    def test_the_years_use_the_settings(self):
+        """One is changed for each view."""
+        for key, value in (("GROWTH_UTILITIES", "3"), ("EXIT_SELLING_COST", "50"), ("DEDUCTION_STANDARD", "0")):
+            self.settings_verb("set", key, value)
+        views = self.answers(HOME, "--view", "years,energy,tax,exit")
+        years = views["years"]
+        self.assertEqual(years["growth"], {"utilities": 0.03, "home": 0})
+        self.assertEqual(len(years["years"]), 30)
+        self.assertAlmostEqual(years["years"][2]["std"]["utilities"], 2400 * 1.03 ** 2)
+        self.assertEqual(views["energy"]["rates"], [0, 0.01, 0.02, 0.03, 0.04, 0.05, 0.06])
+        self.assertEqual([len(row) for row in views["energy"]["cumulative"]], [30] * 7)
+        self.assertAlmostEqual(views["energy"]["cumulative"][3][6], years["years"][6]["cumulative"], places=6)
+        self.assertEqual(views["tax"]["itemizes"], {"std": True, "gmh": True})
+        last = views["exit"]["years"][29]
+        self.assertEqual((last["year"], last["std"], last["gmh"]), (30, 200000 * 0.5, 206000 * 0.5))
+        self.assertAlmostEqual(last["total"], last["difference"] + years["years"][29]["cumulative"])
+
     def test_the_text_is_sentences_and_tables(self):
         shown = self.insight("text", json.dumps(HOME), "--view", "breakeven,qualify").stdout.decode()
         self.assertTrue(shown.startswith("The GREENMARK home pays for itself up to a price of $"), shown)
@@ -67,6 +84,11 @@ class Insight(CliTest):
             self.assertEqual(line, line.rstrip())
         self.assertIn("\n* the best of its column\n> chosen now\n",
                       self.insight("text", json.dumps(HOME), "--view", "options").stdout.decode())
+        shown = self.insight("text", json.dumps(HOME), "--view", "years,energy,tax,exit").stdout.decode()
+        self.assertIn("  no PMI from month 133\n", shown)
+        for part in ("the buyer is never behind, and ahead by $", "Utility bills need not rise",
+                     "for a couple filing jointly (tax year 2026)", "If the home is sold after 7 years, the GREENMARK home"):
+            self.assertIn(part, shown.replace("\n", " "))
 
     def test_without_prices_there_is_no_answer(self):
         self.assertEqual(json.loads(self.insight("json", "{}", status=1).stdout),
