@@ -25,10 +25,13 @@ int FHAPremiumMonths(const Results& record, HomeCode code, double loan, int peri
     return loan <= 0.90 * price + tolerance ? std::min(elevenYears, periods) : periods;
 }
 
-/// The law ends the insurance when the loan is scheduled to fall to 78 % of the price.
+/// The law ends the insurance when the loan is scheduled to fall to 78 % of the price. Rounding must not
+/// decide where the balance is just that, as can be without interest.
 int InsuredMonths(const std::vector<double>& balances, double price) {
+    constexpr double rounding = 1e-12;
+    const double most = 0.78 * price * (1 + rounding);
     const auto end = std::find_if(balances.begin(), balances.end() - 1,
-                                  [price](double balance) { return !(balance > 0.78 * price); });
+                                  [most](double balance) { return !(balance > most); });
     return static_cast<int>(end - balances.begin());
 }
 

@@ -143,6 +143,12 @@ TEST(Years, OrdinaryInsuranceEndsAt78PercentOfThePrice) {
     EXPECT_NEAR(years.Years[1].Std.PMI, 4 * 90, 1e-4);
     Testing::ChooseOptions(session, "VA", "VA");
     EXPECT_EQ(YearsOf(session).Std.PMIEnd, 17);
+    // 90 % less 48 of 360 payments are 78 %, whatever the price.
+    Testing::ChooseTerm(session, 30);
+    for (const char* price : {"$229,760", "$150,010", "$333,330", "$81,370"}) {
+        session.Screen.ecStdHome.Text = price;
+        EXPECT_EQ(YearsOf(session).Std.PMIEnd, 49) << price;
+    }
 }
 
 TEST(Years, TheFHAsPremiumEndsAfter11YearsOrWithTheLoan) {
