@@ -1,8 +1,7 @@
 #include "insight/Energy.h"
 
-#include <algorithm>
 #include <cmath>
-#include <ranges>
+#include <span>
 
 namespace Ledgrove {
 
@@ -32,9 +31,15 @@ std::optional<double> NeededGrowth(const YearByYear& years) {
     };
     if (!loses(0))
         return 0.0;
-    const auto all = std::views::iota(1, steps + 1);
-    const auto least = std::ranges::partition_point(all, loses);
-    return least == all.end() ? std::nullopt : std::optional(rateOf(*least));
+    if (loses(steps))
+        return std::nullopt;
+    int losing = 0;
+    int enough = steps;
+    while (enough - losing > 1) {
+        const int middle = (losing + enough) / 2;
+        (loses(middle) ? losing : enough) = middle;
+    }
+    return rateOf(enough);
 }
 
 } // namespace

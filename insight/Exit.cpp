@@ -21,7 +21,7 @@ std::optional<double> LeastShare(const Insight& insight, const YearByYear& years
 
 SaleYear SaleAfter(const Insight& insight, const YearByYear& years, int year, double premiumKept) {
     const YearSettings& settings = insight.By().Years;
-    const double price = insight.Record().StdCase.Cost;
+    const auto price = static_cast<double>(insight.Record().StdCase.Cost);
     const double premium = static_cast<double>(insight.Record().GMHCase.Cost) - price;
     const double left = std::pow(1 + settings.Appreciation, year) * (1 - settings.SellingCost);
     const FlowRow& row = years.Years[static_cast<std::size_t>(year) - 1];

@@ -57,7 +57,7 @@ TaxCheck ComputeTaxCheck(const Insight& insight, const YearByYear& years) {
     const FlowRow& first = years.Years.front();
     TaxCheck tax;
     tax.Shown = insight.Record().Scenario.ShownTaxSavings;
-    tax.Rate = insight.Record().Scenario.MarginalTaxRate;
+    tax.Rate = static_cast<double>(insight.Record().Scenario.MarginalTaxRate);
     tax.StandardDeduction = settings.StandardDeduction;
     tax.Std = TaxOf(years.Std, first.Std, settings, tax.Rate);
     tax.GMH = TaxOf(years.GMH, first.GMH, settings, tax.Rate);

@@ -37,16 +37,19 @@ void AppendYear(YearByYear& years, int number, double& cumulative) {
     year.Cumulative = cumulative;
 }
 
+std::span<const FlowRow> MonthsInHome(const YearByYear& years) {
+    return std::span(years.Months).first(static_cast<std::size_t>(years.InHome) * 12);
+}
+
 std::optional<int> AheadFrom(const YearByYear& years) {
-    const auto end = years.Months.begin() + 12 * years.InHome;
+    const auto months = MonthsInHome(years);
     const auto isBehind = [](const FlowRow& row) { return !(row.Cumulative >= EvenFrom); };
-    const auto lastBehind =
-        std::find_if(std::make_reverse_iterator(end), years.Months.rend(), isBehind).base();
-    if (lastBehind == years.Months.begin())
+    const auto afterLast = std::find_if(months.rbegin(), months.rend(), isBehind).base();
+    if (afterLast == months.begin())
         return -years.ExtraCash >= EvenFrom ? 0 : 1;
-    if (lastBehind == end)
+    if (afterLast == months.end())
         return std::nullopt;
-    return static_cast<int>(lastBehind - years.Months.begin()) + 1;
+    return static_cast<int>(afterLast - months.begin()) + 1;
 }
 
 double DiscountRate(const Insight& insight) {
@@ -60,7 +63,7 @@ std::optional<double> AYear(std::optional<double> monthly) {
 
 void ComputeReturns(const Insight& insight, YearByYear& years) {
     std::vector<double> savings;
-    for (const FlowRow& month : std::span(years.Months).first(static_cast<std::size_t>(12 * years.InHome)))
+    for (const FlowRow& month : MonthsInHome(years))
         savings.push_back(month.Saving);
     const double worth = WorthToday(savings, DiscountRate(insight) / 12) - years.ExtraCash;
     if (std::isfinite(worth))
@@ -78,12 +81,12 @@ YearByYear ComputeYears(const Insight& insight) {
     YearByYear years;
     years.UtilityGrowth = settings.UtilityGrowth;
     years.HomeGrowth = settings.HomeGrowth;
-    years.ExtraCash = insight.Record().Scenario.ExtraCashToday;
+    years.ExtraCash = static_cast<double>(insight.Record().Scenario.ExtraCashToday);
     years.InHome = std::clamp(int{insight.By().Assumptions.YearsInHome}, 1, rows);
     years.Std = PlanOf(insight, HomeCode::Std);
     years.GMH = PlanOf(insight, HomeCode::GMH);
     years.Years.reserve(static_cast<std::size_t>(rows));
-    years.Months.reserve(static_cast<std::size_t>(12 * rows));
+    years.Months.reserve(static_cast<std::size_t>(rows) * 12);
     double cumulative = -years.ExtraCash;
     for (int year = 1; year <= rows; ++year)
         AppendYear(years, year, cumulative);

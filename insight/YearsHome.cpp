@@ -17,10 +17,10 @@ bool IsFHA(std::optional<MortgageOption> option) {
 int FHAPremiumMonths(const Results& record, HomeCode code, double loan, int periods) {
     constexpr int elevenYears = 132;
     constexpr double tolerance = 0.5; // dollars
-    double price = record.Home(code).Cost;
+    auto price = static_cast<double>(record.Home(code).Cost);
     if (code == HomeCode::GMH && record.Decisions.GMH.DownPayment == DownPaymentBase::BasePrice) {
         loan -= static_cast<double>(record.Scenario.PriceDifference);
-        price = record.StdCase.Cost;
+        price = static_cast<double>(record.StdCase.Cost);
     }
     return loan <= 0.90 * price + tolerance ? std::min(elevenYears, periods) : periods;
 }
@@ -57,13 +57,13 @@ HomePlan PlanOf(const Insight& insight, HomeCode code) {
     const double loan = std::max(0.0, static_cast<double>(home.LoanAmount));
     const int periods = 12 * inputs.TermYears;
     HomePlan plan = PlanOfLoan(loan, static_cast<double>(home.IntRate) / 12, periods);
-    plan.Tax = home.TaxMonthly;
-    plan.Insurance = home.InsMonthly;
+    plan.Tax = static_cast<double>(home.TaxMonthly);
+    plan.Insurance = static_cast<double>(home.InsMonthly);
     plan.Utilities = static_cast<double>(home.UtilAnnual) / 12;
     plan.TaxRate = inputs.IncludeTaxes ? static_cast<double>(record.Scenario.MarginalTaxRate) : 0;
     if (loan > 0 && home.PMIMonthly > 0) {
         const auto option = code == HomeCode::GMH ? inputs.GMH.Option : inputs.Std.Option;
-        plan.PMI = home.PMIMonthly;
+        plan.PMI = static_cast<double>(home.PMIMonthly);
         plan.PMIEnd = 1 + (IsFHA(option) ? FHAPremiumMonths(record, code, loan, periods)
                                          : InsuredMonths(plan.Balances, static_cast<double>(home.Cost)));
     }

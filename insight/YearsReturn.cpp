@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
-#include <ranges>
 #include <vector>
 
 namespace Ledgrove {
@@ -18,8 +17,8 @@ struct Valued {
 
 Valued ValueAt(std::span<const double> payments, double factor) {
     Valued valued;
-    for (const double payment : payments | std::views::reverse) {
-        const double later = valued.Sum + payment;
+    for (std::size_t month = payments.size(); month-- > 0;) {
+        const double later = valued.Sum + payments[month];
         valued.Slope = valued.Slope * factor + later;
         valued.Sum = later * factor;
     }
