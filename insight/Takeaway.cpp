@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "insight/AnswerWords.h"
@@ -111,19 +112,78 @@ std::string CostSentence(const Results& record) {
     return "The GREENMARK home " + Joined(parts, " and ") + ".";
 }
 
+/// The monthly net with the tax line as it would really be; empty where the shown line is as good as right.
+std::optional<double> RealNet(const Insight& insight, const TaxCheck& tax) {
+    const bool isRight = std::fabs(tax.Real - static_cast<double>(tax.Shown)) <= leastShown;
+    if (!insight.Now().IncludeTaxes || isRight)
+        return std::nullopt;
+    return static_cast<double>(insight.Record().Scenario.NetBeforeTax) + tax.Real;
+}
+
+/// Whether the tax line decides if anything is left each month.
+bool IsDoubtful(const Insight& insight, const TaxCheck& tax) {
+    const auto real = RealNet(insight, tax);
+    return real && (*real >= 0) != (insight.ShownNet(insight.Record()) >= 0);
+}
+
+/// The end of the sentence about the net.
+std::string RealWords(const Insight& insight, const TaxCheck& tax) {
+    const auto real = RealNet(insight, tax);
+    return real ? "; with the tax line as it would really be, " + DollarText(*real) + "." : ".";
+}
+
+std::string TaxWords(const Insight& insight, const TaxCheck& tax) {
+    return (insight.Now().IncludeTaxes ? ", with income tax included" : ", without income tax") +
+           RealWords(insight, tax);
+}
+
+std::string YearsWords(int years) {
+    return std::to_string(years) + (years == 1 ? " year" : " years");
+}
+
+/// Whether more is left each month without ever making up for the extra down payment.
+bool IsNeverEarnedBack(const Insight& insight, const YearByYear& years) {
+    return insight.ShownNet(insight.Record()) >= 0 && !years.Ahead && years.ExtraCash > leastShown;
+}
+
 /// What is left each month.
-std::string NetSentence(const Insight& insight) {
+std::string NetSentence(const Insight& insight, const YearByYear& years, const TaxCheck& tax) {
     const auto net = static_cast<double>(insight.ShownNet(insight.Record()));
     const std::string amount =
         std::fabs(net) < leastShown ? "less than a dollar" : DollarText(std::fabs(net));
-    const std::string taxes =
-        insight.Now().IncludeTaxes ? ", with income tax included." : ", without income tax.";
+    const std::string taxes = TaxWords(insight, tax);
+    if (net > 0 && IsNeverEarnedBack(insight, years)) {
+        std::string first = amount;
+        if (first.front() == 'l')
+            first.front() = 'L';
+        return first + " more is left each month, but the extra down payment of " +
+               DollarText(years.ExtraCash) + " is not earned back in " + YearsWords(years.InHome) +
+               RealWords(insight, tax);
+    }
     if (net > 0)
         return "Each month " + amount + " more is left than with the base home" + taxes;
     if (net < 0)
         return "Nothing is left each month: the GREENMARK home costs " + amount +
                " more a month than the base home" + taxes;
     return "Nothing is left each month: both homes cost the same a month" + taxes;
+}
+
+/// "3 years and 2 months"
+std::string MonthsWords(int months) {
+    const int years = months / 12;
+    const int rest = months % 12;
+    const std::string inMonths = std::to_string(rest) + (rest == 1 ? " month" : " months");
+    if (years == 0)
+        return inMonths;
+    return YearsWords(years) + (rest == 0 ? "" : " and " + inMonths);
+}
+
+/// When the buyer is ahead; empty if that is never or needs no down payment to be earned back.
+std::string AheadSentence(const YearByYear& years) {
+    if (!years.Ahead || years.ExtraCash <= leastShown)
+        return {};
+    return "The extra down payment of " + DollarText(years.ExtraCash) + " is earned back after " +
+           MonthsWords(*years.Ahead) + ".";
 }
 
 /// A condition of its own after a price, or another way to say up to where.
@@ -168,7 +228,10 @@ std::string NearestSentence(const Breakeven& breakeven) {
     return goals.Empty() ? "" : "It would pay each month with " + goals.Text() + ".";
 }
 
-std::string BreakevenSentence(const Insight& insight, const Breakeven& breakeven) {
+std::string BreakevenSentence(const Insight& insight, const Breakeven& breakeven, const TaxCheck& tax) {
+    // With the tax line as it would really be, the answer would be another one.
+    if (IsDoubtful(insight, tax))
+        return {};
     return insight.ShownNet(insight.Record()) >= 0 ? LimitSentence(breakeven) : NearestSentence(breakeven);
 }
 
@@ -221,12 +284,12 @@ std::string HelpSentence(std::string_view name, const HomeQualification& own, fl
 } // namespace
 
 Takeaway ComputeTakeaway(const Insight& insight, const Breakeven& breakeven,
-                         const Qualification& qualification) {
+                         const Qualification& qualification, const YearByYear& years, const TaxCheck& tax) {
     const Results& record = insight.Record();
     Takeaway takeaway;
     for (std::string& sentence :
-         Texts{CostSentence(record), NetSentence(insight), BreakevenSentence(insight, breakeven),
-               QualifySentence(qualification),
+         Texts{CostSentence(record), NetSentence(insight, years, tax), AheadSentence(years),
+               BreakevenSentence(insight, breakeven, tax), QualifySentence(qualification),
                HelpSentence("base home", qualification.Std, record.StdCase.Cost),
                HelpSentence("GREENMARK home", qualification.GMH, record.GMHCase.Cost)}) {
         if (!sentence.empty())

@@ -7,6 +7,8 @@
 #include "insight/Insight.h"
 #include "insight/Qualify.h"
 #include "insight/Sheet.h"
+#include "insight/TaxCheck.h"
+#include "insight/Years.h"
 
 // The comparison in a few plain sentences for the buyer.
 namespace Ledgrove {
@@ -18,7 +20,7 @@ struct Takeaway {
 
 /// The views are the insight's; the insight must not be missing.
 Takeaway ComputeTakeaway(const Insight& insight, const Breakeven& breakeven,
-                         const Qualification& qualification);
+                         const Qualification& qualification, const YearByYear& years, const TaxCheck& tax);
 
 /// One row a sentence.
 Sheet TakeawaySheet(const Takeaway& takeaway);

@@ -38,7 +38,9 @@ const Explanation& InsightViews::ExplanationView() {
 }
 
 const Takeaway& InsightViews::TakeawayView() {
-    return Once(m_takeaway, [this] { return ComputeTakeaway(m_insight, BreakevenView(), QualifyView()); });
+    return Once(m_takeaway, [this] {
+        return ComputeTakeaway(m_insight, BreakevenView(), QualifyView(), YearsView(), TaxView());
+    });
 }
 
 const YearByYear& InsightViews::YearsView() {

@@ -1,10 +1,12 @@
 #include "insight/Takeaway.h"
 
+#include <cmath>
 #include <regex>
 
 #include <gtest/gtest.h>
 
 #include "insight/OptionPairs.h"
+#include "insight/Views.h"
 #include "tests/insight/SampleComparisons.h"
 #include "tests/insight/SimpleComparison.h"
 
@@ -16,7 +18,8 @@ using Texts = std::vector<std::string>;
 Texts SentencesOf(const Session& session) {
     const Insight insight(session.Screen, session);
     EXPECT_EQ(insight.Missing(), "");
-    return ComputeTakeaway(insight, ComputeBreakeven(insight), ComputeQualification(insight)).Sentences;
+    InsightViews views(insight, 10);
+    return views.TakeawayView().Sentences;
 }
 
 Results ResultsOf(const Session& session) {
@@ -138,11 +141,45 @@ TEST(Takeaway, NamesTheExtraDownPayment) {
               "saves $1,200 a year in utility bills.");
 }
 
+/// 20 % down: $4,800 more loan costs $40 a month, the bills save $100, so $60 a month earn back $1,200 in 20
+/// months.
+TEST(Takeaway, SaysWhenTheExtraDownPaymentIsEarnedBack) {
+    Session session = Testing::SimpleSession();
+    session.Screen.ecPctDown.Text = "20.00%";
+    session.Assumptions.YearsInHome = 7;
+    EXPECT_EQ(SentencesOf(session)[2],
+              "The extra down payment of $1,200 is earned back after 1 year and 8 months.");
+    session.Assumptions.YearsInHome = 1;
+    EXPECT_EQ(SentencesOf(session)[1], "$60 more is left each month, but the extra down payment of $1,200 is "
+                                       "not earned back in 1 year.");
+    EXPECT_TRUE(SentencesOf(session)[2].starts_with("It still pays"));
+}
+
+/// $6,000 at 12 % are about $720 of interest a year, far less than a standard deduction of $32,200: nothing
+/// is really saved, while the tabs show 20 % of it.
+TEST(Takeaway, SaysWhatTheTaxLineWouldReallyBe) {
+    Session session = Testing::SimpleSession();
+    session.Screen.chkDoTax0 = true;
+    session.Screen.ecStdRate.Text = session.Screen.ecGMHRate.Text = "12.000%";
+    const Insight insight(session.Screen, session);
+    InsightViews views(insight, 10);
+    const TaxCheck& tax = views.TaxView();
+    ASSERT_GT(std::fabs(static_cast<double>(tax.Shown) - tax.Real), 0.5);
+    const std::string real =
+        DollarText(static_cast<double>(insight.Record().Scenario.NetBeforeTax) + tax.Real);
+    const std::string sentence = SentencesOf(session)[1];
+    EXPECT_TRUE(sentence.ends_with(", with income tax included; with the tax line as it would really be, " +
+                                   real + "."))
+        << sentence;
+}
+
 TEST(Takeaway, APriceThatDoesNotMatterIsNotNamed) {
     Session session = Testing::SimpleSession();
     session.Screen.ecPctDown.Text = "100.00%";
     const Texts sentences = SentencesOf(session);
-    EXPECT_EQ(sentences[2], "It still pays each month even if none of the expected savings come true.");
+    // $6,000 more down payment at $100 of savings a month.
+    EXPECT_EQ(sentences[2], "The extra down payment of $6,000 is earned back after 5 years.");
+    EXPECT_EQ(sentences[3], "It still pays each month even if none of the expected savings come true.");
     session.Screen.ecGMHUtil.Text = "$2,400"; // no savings, so no share
     EXPECT_EQ(SentencesOf(session).size(), 3U);
 }
@@ -210,10 +247,34 @@ private:
 
     void CheckNet(const std::string& sentence) const {
         const auto net = static_cast<double>(Net(m_insight.Record()));
-        EXPECT_EQ(sentence.starts_with("Each month"), net > 0);
+        InsightViews views(m_insight, 10);
+        const YearByYear& years = views.YearsView();
+        const bool isLost = net > 0 && !years.Ahead && years.ExtraCash > 0.5;
+        EXPECT_EQ(sentence.starts_with("Each month"), net > 0 && !isLost);
+        EXPECT_EQ(sentence.find("is not earned back") != std::string::npos, isLost);
+        const bool isEarned = years.Ahead && years.ExtraCash > 0.5;
+        EXPECT_EQ(m_all.find("is earned back after") != std::string::npos, isEarned);
+        Earned += isEarned ? 1 : 0;
+        Lost += isLost ? 1 : 0;
         const std::string amount = Found(sentence, "(\\$[0-9,]+) more (?:is left|a month)");
         EXPECT_EQ(amount, std::fabs(net) < 0.5 ? "" : Testing::Dollars(std::fabs(net)));
-        EXPECT_EQ(sentence.ends_with("with income tax included."), m_session.Screen.chkDoTax0);
+        EXPECT_EQ(sentence.find("with income tax included") != std::string::npos,
+                  m_session.Screen.chkDoTax0 && !isLost);
+        CheckTax(sentence, views.TaxView(), net);
+    }
+
+    /// The tax line as it would really be is named where it differs, and decides whether the home pays.
+    void CheckTax(const std::string& sentence, const TaxCheck& tax, double net) const {
+        const double differs = std::fabs(tax.Real - static_cast<double>(tax.Shown));
+        const bool isNamed = m_session.Screen.chkDoTax0 && differs > 0.5;
+        EXPECT_EQ(sentence.find("as it would really be") != std::string::npos, isNamed);
+        if (!isNamed)
+            return;
+        const double real = static_cast<double>(m_insight.Record().Scenario.NetBeforeTax) + tax.Real;
+        EXPECT_TRUE(sentence.ends_with("really be, " + DollarText(real) + ".")) << sentence;
+        if ((real >= 0) != (net >= 0)) {
+            EXPECT_EQ(m_all.find("pays each month"), std::string::npos);
+        }
     }
 
     void CheckPrice() {
@@ -314,7 +375,7 @@ private:
     }
 
 public:
-    static inline int Prices = 0, Shares = 0, Goals = 0;
+    static inline int Prices = 0, Shares = 0, Goals = 0, Earned = 0, Lost = 0;
 
 private:
     const Session& m_session;
@@ -337,6 +398,8 @@ TEST(Takeaway, EveryAmountDoesWhatItsSentenceSays) {
     EXPECT_GT(TypedIn::Prices, 100);
     EXPECT_GT(TypedIn::Shares, 50);
     EXPECT_GT(TypedIn::Goals, 100);
+    EXPECT_GT(TypedIn::Earned, 20);
+    EXPECT_GT(TypedIn::Lost, 20);
 }
 
 } // namespace
