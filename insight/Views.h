@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "insight/Breakeven.h"
-#include "insight/Explain.h"
 #include "insight/Energy.h"
 #include "insight/Exit.h"
+#include "insight/Explain.h"
 #include "insight/Insight.h"
 #include "insight/Map.h"
 #include "insight/Options.h"
