@@ -55,6 +55,14 @@ InsightAnswer AnswerFrom(InsightQuestion question, InsightViews& views, std::str
                 .Picture = MakeSensitivityChart(views.Of(), views.SensitivityView())};
     case InsightQuestion::PriceAndSavings:
         return {.Table = MapSheet(views.MapView()), .Picture = MakeMapChart(views.MapView())};
+    case InsightQuestion::YearByYear:
+        return {.Table = YearsSheet(views.YearsView())};
+    case InsightQuestion::EnergyPrices:
+        return {.Table = EnergySheet(views.EnergyView())};
+    case InsightQuestion::TaxSaving:
+        return {.Table = TaxCheckSheet(views.TaxView())};
+    case InsightQuestion::Sale:
+        return {.Table = ExitSheet(views.Of(), views.ExitView())};
     case InsightQuestion::WhereFrom:
         return ExplanationOf(views.Of(), asked);
     }

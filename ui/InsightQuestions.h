@@ -14,6 +14,10 @@ enum class InsightQuestion : std::uint8_t {
     WhoQualifies,
     WhatMatters,
     PriceAndSavings,
+    YearByYear,
+    EnergyPrices,
+    TaxSaving,
+    Sale,
     WhereFrom
 };
 
@@ -31,6 +35,10 @@ inline constexpr std::array InsightQuestions{
     QuestionRow{InsightQuestion::WhoQualifies, "Do we qualify, and what would help?", 3},
     QuestionRow{InsightQuestion::WhatMatters, "What matters most?", 4},
     QuestionRow{InsightQuestion::PriceAndSavings, "Price against savings", 0},
+    QuestionRow{InsightQuestion::YearByYear, "Year by year", 0},
+    QuestionRow{InsightQuestion::EnergyPrices, "If energy prices rise", 0},
+    QuestionRow{InsightQuestion::TaxSaving, "Is the tax saving real?", 0},
+    QuestionRow{InsightQuestion::Sale, "If we sell", 0},
     QuestionRow{InsightQuestion::WhereFrom, "Where does this number come from?", 0},
 };
 

@@ -60,8 +60,9 @@ QWidget* frmInsight::MakeQuestions() {
     for (const QuestionRow& row : InsightQuestions)
         m_questions->addItem(Words(row.Words));
     m_questions->setWordWrap(true);
+    m_questions->setTextElideMode(Qt::ElideNone);
     m_questions->setSpacing(2);
-    m_questions->setFixedWidth(fontMetrics().averageCharWidth() * 24);
+    m_questions->setFixedWidth(fontMetrics().averageCharWidth() * 26);
     m_questions->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_questions, &QListWidget::currentRowChanged, this, [this](int row) {
         m_question = InsightQuestions[static_cast<std::size_t>(row)].Id;
