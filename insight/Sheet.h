@@ -47,6 +47,9 @@ struct Sheet {
     std::vector<std::size_t> Words = {};
 };
 
+/// Whether a cell of the table has this mark.
+bool HasMark(const Sheet& sheet, CellMark mark);
+
 /// A text cell.
 SheetCell TextCell(std::string text, CellMark mark = CellMark::None);
 

@@ -14,13 +14,6 @@ constexpr std::size_t wordsWidth = 36; ///< of a column of words in a table
 
 using Lines = std::vector<std::vector<std::string>>;
 
-bool HasMark(const Sheet& sheet, CellMark mark) {
-    return std::any_of(sheet.Rows.begin(), sheet.Rows.end(), [mark](const auto& row) {
-        return std::any_of(row.begin(), row.end(),
-                           [mark](const SheetCell& cell) { return cell.Mark == mark; });
-    });
-}
-
 /// The text in lines of at most `width` characters, broken at blanks.
 std::vector<std::string> WrappedLines(std::string_view text, std::size_t width) {
     std::vector<std::string> lines(1);
