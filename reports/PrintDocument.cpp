@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Ledgrove {
 
@@ -185,6 +186,20 @@ bool PrintDocument::Picture(const std::filesystem::path& file, const PrintBox& b
     CurrentPage().push_back(PlacedPicture{box, file});
     m_picturesOnPage.push_back(box);
     Covers(box.Y2);
+    return true;
+}
+
+bool PrintDocument::Chart(std::shared_ptr<const ChartFigures> figures, Twips width, Twips height) {
+    if (m_state != State::Open)
+        return false;
+    MakeRoom(height);
+    m_openLine.clear();
+    const Twips left = Geometry.MarginLeft;
+    const PrintBox box{left, CurrentY, left + std::min(width, LineWidth()), CurrentY + height};
+    CurrentPage().push_back(PlacedChart{box, std::move(figures), CurrentStyle()});
+    Covers(box.Y2);
+    CurrentX = left;
+    CurrentY = box.Y2;
     return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -94,12 +95,19 @@ public:
     bool EndTable();
     /// Draws the picture file scaled into the box. Lines of text next to it do not overlap it.
     bool Picture(const std::filesystem::path& file, const PrintBox& box);
+    /// Draws a chart of this height and at most this width at the left margin and CurrentY, and moves
+    /// CurrentY below it. A chart that does not fit the page moves to the next.
+    bool Chart(std::shared_ptr<const ChartFigures> figures, Twips width, Twips height);
     /// Makes CurrentY the start of a section.
     bool AddBookmark(std::string_view title);
 
     /// The height that `write` would use from CurrentY on if the page were endless, up to the last line,
     /// table row or rectangle. Nothing is written to this document.
     Twips HeightOf(const std::function<void(PrintDocument& trial)>& write) const;
+    /// The width of the text with the current attributes.
+    Twips WidthOf(std::string_view text) const { return m_measure.Width(text, CurrentStyle()); }
+    /// What the margins leave of the page's width, in twips.
+    Twips LineWidth() const { return Geometry.PageWidth - Geometry.MarginLeft - Geometry.MarginRight; }
     /// What is left of the page, and what a new page offers, in twips.
     Twips Room() const { return BottomLimit() - CurrentY; }
     Twips PageRoom() const { return BottomLimit() - Geometry.MarginTop; }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -10,6 +11,8 @@
 // The items on the pages of a print document. Positions and sizes are in twips, 1440 per inch, from the
 // top-left corner of the paper; Y grows downward.
 namespace Ledgrove {
+
+struct ChartFigures;
 
 using Twips = int;
 
@@ -69,7 +72,14 @@ struct PlacedPicture {
     std::filesystem::path File;
 };
 
-using PrintItem = std::variant<TextRun, FilledRectangle, RuledLine, PlacedPicture>;
+/// A picture of the insight views, a sensitivity or a map, drawn as lines and text.
+struct PlacedChart {
+    PrintBox Box;
+    std::shared_ptr<const ChartFigures> Figures;
+    TextStyle Style; ///< of its texts
+};
+
+using PrintItem = std::variant<TextRun, FilledRectangle, RuledLine, PlacedPicture, PlacedChart>;
 
 /// In drawing order: later items cover earlier ones.
 using PrintPage = std::vector<PrintItem>;

@@ -1,5 +1,7 @@
 #include "reports/windows/PagePainter.h"
 
+#include "ui/windows/insight/PicturePainter.h"
+
 #include <QPainter>
 #include <cmath>
 
@@ -25,6 +27,16 @@ QRectF RectOf(const PrintBox& box) {
 QSize PixelsOf(const QRectF& box) {
     constexpr int dotsPerInch = 600;
     return (box.size() * dotsPerInch / TwipsPerInch).toSize();
+}
+
+/// The lines of charts are as thin as on a screen with 96 dots per inch.
+constexpr int twipsPerPixel = TwipsPerInch / 96;
+
+QPalette BlackOnWhite() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
 }
 
 /// Draws each kind of item on a page.
@@ -57,6 +69,19 @@ public:
         QRectF target({}, QSizeF(image.size()).scaled(box.size(), Qt::KeepAspectRatio));
         target.moveCenter(box.center());
         m_painter.drawImage(target, image);
+    }
+
+    void operator()(const PlacedChart& chart) {
+        m_painter.save();
+        m_painter.translate(chart.Box.X1, chart.Box.Y1);
+        m_painter.scale(twipsPerPixel, twipsPerPixel);
+        QFont font = PrintFont(chart.Style);
+        font.setPixelSize(font.pixelSize() / twipsPerPixel);
+        m_painter.setFont(font);
+        const QRectF place(0, 0, (chart.Box.X2 - chart.Box.X1) / static_cast<double>(twipsPerPixel),
+                           (chart.Box.Y2 - chart.Box.Y1) / static_cast<double>(twipsPerPixel));
+        PaintPicture(m_painter, place, *chart.Figures, BlackOnWhite());
+        m_painter.restore();
     }
 
 private:

@@ -46,6 +46,23 @@ QFontMetricsF MetricsOf(const QPainter& painter) {
     return QFontMetricsF(painter.font());
 }
 
+/// Paints diagonal lines into the boxes, as one continuous hatch. They are lines and not a brush, because on
+/// paper a brush has the printer's resolution.
+void Hatch(QPainter& painter, const QList<QRectF>& boxes, int opacity) {
+    constexpr double step = 5;
+    QList<QLineF> lines;
+    for (const QRectF& box : boxes) {
+        double sum = std::ceil((box.left() + box.top()) / step) * step; // of x and y, the same along a line
+        for (; sum <= box.right() + box.bottom(); sum += step) {
+            const double left = std::max(box.left(), sum - box.bottom());
+            const double right = std::min(box.right(), sum - box.top());
+            lines.append({left, sum - left, right, sum - right});
+        }
+    }
+    painter.setPen(QPen(QColor(0, 0, 0, opacity), 0.8));
+    painter.drawLines(lines);
+}
+
 /// The bars of what moves the result.
 class BarsPainter {
 public:
@@ -118,8 +135,7 @@ private:
         if (isLow)
             return;
         // The higher value is hatched as well, so that a black and white print tells them apart.
-        m_painter.setBrush(QBrush(QColor(0, 0, 0, 90), Qt::BDiagPattern));
-        m_painter.drawRect(box);
+        Hatch(m_painter, {box}, 90);
     }
 
     void PaintRow(std::size_t row) {
@@ -211,6 +227,8 @@ private:
             for (int column = 0; column < ColumnCount(); ++column)
                 PaintCell(column, row);
         m_painter.restore();
+        // A loss is hatched as well, for people and prints without colours.
+        Hatch(m_painter, Losses(), 70);
         m_painter.setBrush(Qt::NoBrush);
         m_painter.setPen(QPen(m_text, 0.8));
         m_painter.drawRect(m_plot);
@@ -228,9 +246,20 @@ private:
         const double share = end == 0 ? 0 : std::min(std::fabs(amount / end), 1.0);
         m_painter.fillRect(box, amount < 0 ? Between(lossNear, lossFar, share)
                                            : Between(gainNear, gainFar, share));
-        // A loss is hatched as well, for people and prints without colours.
-        if (amount < 0)
-            m_painter.fillRect(box, QBrush(QColor(0, 0, 0, 70), Qt::BDiagPattern));
+    }
+
+    bool IsLoss(int column, int row) const { return Net(column, row) && *Net(column, row) < 0; }
+
+    /// Each row's neighbouring cells with a loss as one box.
+    QList<QRectF> Losses() const {
+        QList<QRectF> boxes;
+        for (int row = 0; row < RowCount(); ++row)
+            for (int column = 0; column < ColumnCount(); ++column)
+                if (IsLoss(column, row) && column > 0 && IsLoss(column - 1, row))
+                    boxes.last().setRight(BoxOf(column, row).right());
+                else if (IsLoss(column, row))
+                    boxes.append(BoxOf(column, row));
+        return boxes;
     }
 
     bool Pays(int column, int row) const {
