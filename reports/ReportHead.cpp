@@ -12,19 +12,19 @@ constexpr Twips pictureWidth = TwipsPerInch + TwipsPerInch / 8 + TwipsPerInch / 
 constexpr Twips pictureHeight = TwipsPerInch + TwipsPerInch / 8;
 constexpr Twips pictureTop = TwipsPerInch / 2;
 
-void WritePictures(PrintDocument& document, const ReportContent& content) {
+void WritePictures(PrintDocument& document, const TitleBlock& title) {
     const PageGeometry& page = document.Geometry;
-    if (!content.Emblem.empty())
-        document.Picture(content.Emblem, {page.MarginLeft, pictureTop, page.MarginLeft + pictureWidth,
-                                          pictureTop + pictureHeight});
+    if (!title.Emblem.empty())
+        document.Picture(title.Emblem, {page.MarginLeft, pictureTop, page.MarginLeft + pictureWidth,
+                                        pictureTop + pictureHeight});
     const Twips right = page.PageWidth - page.MarginRight;
-    if (!content.Logo.empty())
-        document.Picture(content.Logo, {right - pictureWidth, pictureTop, right, pictureTop + pictureHeight});
+    if (!title.Logo.empty())
+        document.Picture(title.Logo, {right - pictureWidth, pictureTop, right, pictureTop + pictureHeight});
 }
 
 /// What PDF readers show in place of the file's name.
-std::string TitleWithNames(const std::string& buyer, const std::string& builder) {
-    std::string title = "Summary Report";
+std::string TitleWithNames(std::string_view begin, const std::string& buyer, const std::string& builder) {
+    std::string title(begin);
     if (!buyer.empty())
         title += " for " + buyer;
     if (!builder.empty())
@@ -68,13 +68,13 @@ std::string InColumns(std::string_view third, std::string_view fifth) {
 
 } // namespace
 
-void WriteTitleBlock(PrintDocument& document, const ReportContent& content) {
-    WritePictures(document, content);
+void WriteTitleBlock(PrintDocument& document, const TitleBlock& title) {
+    WritePictures(document, title);
     document.TextAlign = 1;
     document.TextColor = PrintBlack;
     document.FontSize = 16;
     document.FontBold = false;
-    document.Paragraph("Summary Report for Ledgrove");
+    document.Paragraph(title.Heading);
     document.Paragraph("");
     document.FontSize = 12;
     document.FontBold = false;
@@ -85,9 +85,9 @@ void WriteTitleBlock(PrintDocument& document, const ReportContent& content) {
     document.Text("Standard Home");
     document.Paragraph(" ");
     document.Paragraph(" ");
-    const ReportHeader& header = content.State.Header;
+    const ReportHeader& header = title.Names;
     const std::string builder = PlainName(header.BuilderName);
-    document.PdfTitle = TitleWithNames(PlainName(header.HomeBuyer), builder);
+    document.PdfTitle = TitleWithNames(title.PdfTitle, PlainName(header.HomeBuyer), builder);
     document.Author = builder.empty() ? "Ledgrove" : builder;
     if (!header.BuilderName.empty()) {
         document.Text("Prepared By:  " + header.BuilderName);

@@ -16,6 +16,18 @@ void WriteTitleBar(PrintDocument& document, std::string_view title) {
     document.AddTable("^7560;", title, "", PrintGrey);
 }
 
+void WriteContinuedHeading(PrintDocument& document, std::string_view heading) {
+    document.TableBorder = 0;
+    document.TextAlign = 0;
+    document.FontSize = 12;
+    document.FontBold = true;
+    document.FontItalic = true;
+    document.AddTable("7560;", "", heading);
+    document.FontItalic = false;
+    document.FontBold = false;
+    document.TableBorder = 4;
+}
+
 std::string Row(std::initializer_list<std::string_view> cells) {
     std::string row;
     for (const std::string_view& cell : cells) {

@@ -17,6 +17,9 @@ void BeginSectionBody(PrintDocument& document);
 /// Writes the shaded first line of a section's table.
 void WriteTitleBar(PrintDocument& document, std::string_view title);
 
+/// Writes what stands at the top of a page that a section begins.
+void WriteContinuedHeading(PrintDocument& document, std::string_view heading);
+
 /// The cells as one complete row of the table language.
 std::string Row(std::initializer_list<std::string_view> cells);
 

@@ -29,6 +29,7 @@ namespace Ledgrove::modPrint {
 namespace {
 
 constexpr Twips bannerHeight = 360;
+constexpr std::string_view continuedHeading = " Summary Report for Ledgrove (continued)";
 
 void BeginBanner(PrintDocument& document, std::string_view title) {
     const PageGeometry& page = document.Geometry;
@@ -52,21 +53,9 @@ void MakeRoomFor(PrintDocument& document, const Writer& write) {
         document.NewPage();
 }
 
-void WriteContinuedHeading(PrintDocument& document) {
-    document.TableBorder = 0;
-    document.TextAlign = 0;
-    document.FontSize = 12;
-    document.FontBold = true;
-    document.FontItalic = true;
-    document.AddTable("7560;", "", " Summary Report for Ledgrove (continued)");
-    document.FontItalic = false;
-    document.FontBold = false;
-    document.TableBorder = 4;
-}
-
 void StartContinuedPage(PrintDocument& document) {
     document.NewPage();
-    WriteContinuedHeading(document);
+    WriteContinuedHeading(document, continuedHeading);
 }
 
 /// Whether the next section goes beyond the paper, of which all counts, also the margin at the bottom.
@@ -91,7 +80,7 @@ void WriteSection(PrintDocument& document, const Section& section, const ReportC
     const bool fitsHere = document.HeightOf(write) <= document.Room();
     const auto movedHeight = [&] {
         return document.HeightOf([&](PrintDocument& target) {
-            WriteContinuedHeading(target);
+            WriteContinuedHeading(target, continuedHeading);
             write(target);
         });
     };
@@ -135,7 +124,8 @@ void WriteFirstSection(PrintDocument& document, const ReportContent& content) {
 } // namespace
 
 void WriteReport(PrintDocument& document, const ReportContent& content) {
-    WriteTitleBlock(document, content);
+    WriteTitleBlock(document, {"Summary Report for Ledgrove", "Summary Report", content.State.Header,
+                               content.Emblem, content.Logo});
     document.Paragraph(" ");
     const Writer first = [&](PrintDocument& target) { WriteFirstSection(target, content); };
     MakeRoomFor(document, first);

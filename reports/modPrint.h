@@ -41,12 +41,21 @@ std::filesystem::path LogoPicture(const Session& session, int logoOption);
 
 namespace Ledgrove::modPrint {
 
+/// What stands at the top of the first page.
+struct TitleBlock {
+    std::string_view Heading;  ///< the first line
+    std::string_view PdfTitle; ///< begins the title of a PDF file; the names follow
+    const ReportHeader& Names;
+    std::filesystem::path Emblem; ///< none when empty
+    std::filesystem::path Logo;   ///< none when empty
+};
+
 /// Writes the whole report, with its sections in their fixed order.
 void WriteReport(PrintDocument& document, const ReportContent& content);
 
 // The blocks of the report; each is written to the open document.
 
-void WriteTitleBlock(PrintDocument& document, const ReportContent& content);
+void WriteTitleBlock(PrintDocument& document, const TitleBlock& title);
 
 /// Writes a filled bar with the section's title, which begins with two blanks.
 void WriteBanner(PrintDocument& document, std::string_view title);

@@ -9,8 +9,6 @@ namespace Ledgrove {
 
 namespace {
 
-constexpr double by = 10; // percent
-
 /// The monthly net, which everything leads to.
 constexpr std::string_view usualLabel = "lblNetCashMo2";
 
@@ -75,11 +73,23 @@ InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::st
     const Insight insight(session.Screen, session);
     if (!insight.Missing().empty())
         return {.Missing = insight.Missing()};
-    InsightViews views(insight, by);
+    InsightViews views(insight, UsualBy);
     InsightAnswer answer = AnswerFrom(question, views, asked);
     if (answer.Sentence.empty())
         answer.Sentence = answer.Table.Sentence;
     return answer;
+}
+
+InsightAnswerList AnswersOf(std::span<const InsightQuestion> questions, const Session& session,
+                            std::string_view asked, double by) {
+    const Insight insight(session.Screen, session);
+    if (!insight.Missing().empty())
+        return {.Missing = insight.Missing()};
+    InsightViews views(insight, by);
+    InsightAnswerList list;
+    for (const InsightQuestion question : questions)
+        list.Answers.push_back(AnswerFrom(question, views, asked));
+    return list;
 }
 
 std::vector<EntryText> EntriesOfCell(const Session& session, const ChartGrid& grid, std::size_t column,

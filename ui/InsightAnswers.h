@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,19 @@ struct InsightAnswer {
 /// "Where does this number come from?" is about, by its name ("GMHCase.PITI") or a label that shows it
 /// ("lblGMHPITI"); an unknown one gives the monthly net.
 InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::string_view asked = {});
+
+/// How far the sensitivity moves each input, in percent.
+inline constexpr double UsualBy = 10;
+
+/// The answers to several questions, in their order, or why there are none.
+struct InsightAnswerList {
+    std::string Missing = {};
+    std::vector<InsightAnswer> Answers = {};
+};
+
+/// The same for several questions at once. `by` is the percentage of the sensitivity.
+InsightAnswerList AnswersOf(std::span<const InsightQuestion> questions, const Session& session,
+                            std::string_view asked = {}, double by = UsualBy);
 
 /// What entering a cell of the map means: the labelled home's price and utility bill that give its price
 /// difference and saving. Empty for a cell that is not possible.

@@ -25,21 +25,22 @@ struct QuestionRow {
     InsightQuestion Id;
     std::string_view Words; ///< in people's words
     int Tab;                ///< the tab of the main window whose link asks it; 0 for none
+    std::string_view View;  ///< the name of the view that answers it
 };
 
 /// The questions in the order of the window's list.
 inline constexpr std::array InsightQuestions{
-    QuestionRow{InsightQuestion::InShort, "In short", 0},
-    QuestionRow{InsightQuestion::HowFar, "How far can the price go?", 1},
-    QuestionRow{InsightQuestion::WhichLoan, "Which loan is best?", 2},
-    QuestionRow{InsightQuestion::WhoQualifies, "Do we qualify, and what would help?", 3},
-    QuestionRow{InsightQuestion::WhatMatters, "What matters most?", 4},
-    QuestionRow{InsightQuestion::PriceAndSavings, "Price against savings", 0},
-    QuestionRow{InsightQuestion::YearByYear, "Year by year", 0},
-    QuestionRow{InsightQuestion::EnergyPrices, "If energy prices rise", 0},
-    QuestionRow{InsightQuestion::TaxSaving, "Is the tax saving real?", 0},
-    QuestionRow{InsightQuestion::Sale, "If we sell", 0},
-    QuestionRow{InsightQuestion::WhereFrom, "Where does this number come from?", 0},
+    QuestionRow{InsightQuestion::InShort, "In short", 0, "takeaway"},
+    QuestionRow{InsightQuestion::HowFar, "How far can the price go?", 1, "breakeven"},
+    QuestionRow{InsightQuestion::WhichLoan, "Which loan is best?", 2, "options"},
+    QuestionRow{InsightQuestion::WhoQualifies, "Do we qualify, and what would help?", 3, "qualify"},
+    QuestionRow{InsightQuestion::WhatMatters, "What matters most?", 4, "sensitivity"},
+    QuestionRow{InsightQuestion::PriceAndSavings, "Price against savings", 0, "map"},
+    QuestionRow{InsightQuestion::YearByYear, "Year by year", 0, "years"},
+    QuestionRow{InsightQuestion::EnergyPrices, "If energy prices rise", 0, "energy"},
+    QuestionRow{InsightQuestion::TaxSaving, "Is the tax saving real?", 0, "tax"},
+    QuestionRow{InsightQuestion::Sale, "If we sell", 0, "exit"},
+    QuestionRow{InsightQuestion::WhereFrom, "Where does this number come from?", 0, "explain"},
 };
 
 } // namespace Ledgrove

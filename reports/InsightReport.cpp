@@ -1,0 +1,147 @@
+#include "reports/InsightReport.h"
+
+#include "reports/SectionParts.h"
+#include "reports/SheetTable.h"
+#include "reports/modPrint.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Ledgrove {
+
+namespace {
+
+std::string WordsOf(InsightQuestion question) {
+    const auto row = std::find_if(InsightQuestions.begin(), InsightQuestions.end(),
+                                  [question](const QuestionRow& one) { return one.Id == question; });
+    return std::string(row->Words);
+}
+
+InsightSection SectionOf(InsightQuestion question, InsightAnswer answer, bool allFigures) {
+    InsightSection section{WordsOf(question), std::move(answer.Table), {}};
+    if (answer.Picture)
+        section.Picture = std::make_shared<const ChartFigures>(std::move(*answer.Picture));
+    if (answer.Chain && allFigures)
+        section.Answer = ExplainSheet(*answer.Chain);
+    return section;
+}
+
+} // namespace
+
+InsightReport MakeInsightReport(const Session& session, const InsightRequest& request) {
+    auto list = AnswersOf(request.Questions, session, request.Figure.value_or(""), request.By);
+    InsightReport report{std::move(list.Missing),
+                         session.Header,
+                         session.EmblemFile(),
+                         LogoPicture(session, request.LogoOption),
+                         {}};
+    for (std::size_t at = 0; at < list.Answers.size(); ++at)
+        report.Sections.push_back(
+            SectionOf(request.Questions[at], std::move(list.Answers[at]), !request.Figure));
+    return report;
+}
+
+} // namespace Ledgrove
+
+namespace Ledgrove::modPrint {
+
+namespace {
+
+constexpr std::string_view continuedHeading = " Insight for Ledgrove (continued)";
+constexpr int sentenceFont = 10;
+constexpr int chartFont = 9;
+constexpr Twips sentenceGap = 120;
+constexpr Twips widestChart = 10800; ///< as on letter paper in portrait
+
+void BeginSentences(PrintDocument& document) {
+    BeginSectionBody(document);
+    document.TextAlign = 0;
+    document.FontBold = false;
+    document.FontSize = sentenceFont;
+}
+
+/// A table of one column is a list of sentences.
+bool IsList(const InsightSection& section) {
+    return section.Answer.Heads.size() == 1;
+}
+
+void WriteSentences(PrintDocument& document, const InsightSection& section) {
+    BeginSentences(document);
+    if (!IsList(section))
+        document.Paragraph(section.Answer.Sentence);
+    else
+        for (const auto& row : section.Answer.Rows) {
+            document.Paragraph(row.front().Text);
+            document.CurrentY += sentenceGap;
+        }
+    document.CurrentY += sentenceGap;
+}
+
+Twips ChartHeight(const ChartFigures& chart) {
+    constexpr Twips mapHeight = 7200;
+    constexpr Twips aroundBars = 1300; ///< title, legend and scale
+    constexpr Twips rowHeight = 380;
+    if (chart.Kind == ChartKind::NetMap)
+        return mapHeight;
+    return aroundBars + rowHeight * static_cast<Twips>(std::max<std::size_t>(chart.Categories.size(), 1));
+}
+
+/// Everything above the table.
+void WriteTop(PrintDocument& document, const InsightSection& section) {
+    document.Paragraph("");
+    WriteBanner(document, "  " + section.Question);
+    WriteSentences(document, section);
+    if (!section.Picture)
+        return;
+    document.FontSize = chartFont;
+    document.Chart(section.Picture, widestChart, ChartHeight(*section.Picture));
+    document.CurrentY += 2 * sentenceGap;
+}
+
+void WriteWhole(PrintDocument& document, const InsightSection& section) {
+    WriteTop(document, section);
+    if (!IsList(section))
+        WriteSheetTable(document, section.Answer);
+}
+
+/// What must not be torn off: the top, and the first two rows of a table that begins below it.
+InsightSection BeginningOf(const InsightSection& section) {
+    InsightSection beginning = section;
+    auto& rows = beginning.Answer.Rows;
+    const std::size_t kept = section.Picture ? 0 : 2;
+    if (!IsList(section) && rows.size() > kept)
+        rows.resize(kept);
+    return beginning;
+}
+
+void WriteSection(PrintDocument& document, const InsightSection& section, bool isFirst) {
+    const auto heightOf = [&document](const InsightSection& what, bool isMoved) {
+        return document.HeightOf([&](PrintDocument& trial) {
+            if (isMoved)
+                WriteContinuedHeading(trial, continuedHeading);
+            WriteWhole(trial, what);
+        });
+    };
+    const bool fitsHere = heightOf(section, false) <= document.Room();
+    const bool fitsOnePage = fitsHere || (!isFirst && heightOf(section, true) <= document.PageRoom());
+    const bool isLow = !isFirst && document.Room() < document.PageRoom() / 2;
+    const bool moves =
+        !fitsHere && (fitsOnePage || isLow || heightOf(BeginningOf(section), false) > document.Room());
+    if (moves) {
+        document.NewPage();
+        WriteContinuedHeading(document, continuedHeading);
+    }
+    document.KeepTables = fitsOnePage || section.Picture;
+    WriteWhole(document, section);
+    document.KeepTables = true;
+}
+
+} // namespace
+
+void WriteInsight(PrintDocument& document, const InsightReport& report) {
+    WriteTitleBlock(document, {"Insight for Ledgrove", "Insight", report.Names, report.Emblem, report.Logo});
+    for (const InsightSection& section : report.Sections)
+        WriteSection(document, section, &section == &report.Sections.front());
+}
+
+} // namespace Ledgrove::modPrint
