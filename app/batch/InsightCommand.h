@@ -44,6 +44,9 @@ public:
     std::string ReadViews(const std::string& list, const WordFault& fault);
     std::string ReadBy(const std::string& percent);
 
+    const ChosenViews& Views() const { return m_views; }
+    double By() const { return m_by; }
+
     /// Answers the comparison in `file` ("-" is standard input), or each line of it for jsonl, with the
     /// settings in `folder`. Writes the answers to standard output and returns the exit status.
     int Run(const std::filesystem::path& folder, const std::string& file) const;

@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "app/batch/CompareCommand.h"
-#include "app/batch/InsightCommand.h"
 #include "app/batch/SettingsCommand.h"
 #include "app/cli/CommandWords.h"
 #include "app/options/CommandLine.h"
 #include "app/options/CommandTable.h"
+#include "app/options/InsightOptions.h"
 #include "base/ProgramFolder.h"
 #include "base/SystemError.h"
 #include "base/Text.h"
@@ -23,19 +23,18 @@ namespace {
 
 using namespace Ledgrove;
 
-/// Commands that need Qt are separate programs in the same folder, named after the command, which is the
-/// first word.
-int HandOver(const std::vector<std::string>& words) {
-    const std::string& verb = words.front();
-    const std::string program = (ProgramFolder() / ("ledgrove-" + verb)).string();
+/// What needs Qt is done by separate programs in the same folder. They get the words with the command in
+/// front; `needing` names the command or option in a message.
+int HandOver(const std::string& name, const std::string& needing, const std::vector<std::string>& words) {
+    const std::string program = (ProgramFolder() / name).string();
     std::vector<char*> arguments;
     for (const std::string& word : words)
         arguments.push_back(const_cast<char*>(word.c_str())); // execv does not change them
     arguments.push_back(nullptr);
     ::execv(program.c_str(), arguments.data());
     const int error = errno;
-    return Complain(Quoted(program) + " cannot be started (" + Describe(error) + "). The command " +
-                        Quoted(verb) + " needs that program in the folder of ledgrove-cli.",
+    return Complain(Quoted(program) + " cannot be started (" + Describe(error) + "). The " + needing +
+                        " needs that program in the folder of ledgrove-cli.",
                     CannotRun);
 }
 
@@ -111,14 +110,13 @@ std::string ChoiceFault(const CLI::App& compare, const CompareRequest& request) 
     return {};
 }
 
-CLI::App* AddInsight(CLI::App& app, std::string& folder, InsightCommand& insight, std::string& file) {
-    CLI::App* const added = AddCommand(app, "insight", "ledgrove-cli insight");
-    CommandOptions options(*added, "ledgrove-cli insight", folder);
-    options.Read("--format", [&](const std::string& name) { return insight.ReadFormat(name, UnknownWord); });
-    options.Read("--view", [&](const std::string& list) { return insight.ReadViews(list, UnknownWord); });
-    options.Read("--by", [&](const std::string& percent) { return insight.ReadBy(percent); });
-    options.Take("FILE", file);
-    return added;
+int AnswerQuestions(const CLI::App& app, const std::filesystem::path& folder,
+                    const InsightArguments& arguments, const std::vector<std::string>& words) {
+    if (const std::string fault = InsightChoiceFault(app); !fault.empty())
+        return Complain(fault, CannotRun);
+    if (app.count("--output") > 0)
+        return HandOver("ledgrove-report", "option --output", words);
+    return arguments.Command.Run(folder, arguments.Input);
 }
 
 struct SettingsActions {
@@ -162,7 +160,7 @@ int main(int argc, char** argv) {
         return Complain(fault, CannotRun);
     // The other programs parse their own arguments.
     if (words.front() == "report" || words.front() == "chart")
-        return HandOver(words);
+        return HandOver("ledgrove-" + words.front(), "command " + Quoted(words.front()), words);
     CLI::App app(SummaryOf("ledgrove-cli"), "ledgrove-cli");
     std::string folder = ProgramFolder().string();
     const CommandOptions common(app, "ledgrove-cli", folder);
@@ -170,9 +168,9 @@ int main(int argc, char** argv) {
     SettingsRequest setting;
     CompareRequest request;
     const CLI::App* compare = AddCompare(app, folder, request);
-    InsightCommand insight;
-    std::string insightFile = "-";
-    const CLI::App* const answers = AddInsight(app, folder, insight, insightFile);
+    InsightArguments insight;
+    CLI::App* const answers = AddCommand(app, "insight", "ledgrove-cli insight");
+    AddInsightOptions(*answers, folder, insight, "ledgrove-cli");
     AddCommand(app, "report", "ledgrove-cli report");
     AddCommand(app, "chart", "ledgrove-cli chart");
     const SettingsActions settings = AddSettings(app, folder, setting);
@@ -183,7 +181,7 @@ int main(int argc, char** argv) {
         return fault.empty() ? Compare(folder, request) : Complain(fault, CannotRun);
     }
     if (*answers)
-        return insight.Run(folder, insightFile);
+        return AnswerQuestions(*answers, folder, insight, words);
     if (*settings.Get)
         return PrintSetting(folder, setting.Key);
     if (*settings.Set)

@@ -11,6 +11,15 @@ constexpr OptionRow oneInput{
     "FILE", Value::File, "",
     "File with the inputs, as for \"compare --format json\"; standard input if none or \"-\""};
 
+constexpr OptionRow paperRow{"--paper", Value::Choice, "letter|a4|legal", "The paper (default: letter)"};
+constexpr OptionRow orientationRow{"--orientation", Value::Choice, "portrait|landscape",
+                                   "The orientation (default: portrait)"};
+constexpr OptionRow logoRow{"--logo", Value::Choice, "none|generic|user",
+                            "The logo (default: as in Ledgrove.ini)"};
+constexpr OptionRow builderRow{"--builder", Value::Text, "NAME",
+                               "Name after \"Prepared By:\" (default: as in Ledgrove.ini)"};
+constexpr OptionRow buyerRow{"--buyer", Value::Text, "NAME", "Name after \"Prepared For:\""};
+
 constexpr std::array windowOptions{
     OptionRow{"FILE", Value::File, "", "A comparison to open (*.ledgrove.json)"},
 };
@@ -41,6 +50,13 @@ constexpr std::array insightOptions{
         "separated by commas (default: all but map and explain)"},
     OptionRow{"--by", Value::Text, "PERCENT",
               "How far sensitivity moves each input, above 0 and at most 100 (default: 10)"},
+    OptionRow{"--output", Value::Output, "OUT.pdf",
+              "Write the answers as PDF instead, *.pdf; \"-\" is standard output"},
+    paperRow,
+    orientationRow,
+    logoRow,
+    builderRow,
+    buyerRow,
     oneInput,
 };
 
@@ -49,11 +65,11 @@ constexpr std::array reportOptions{
               true},
     OptionRow{"--sections", Value::Text, "LIST",
               "cashflow,morehome,affordability,summary,assumptions, all (default) or none"},
-    OptionRow{"--paper", Value::Choice, "letter|a4|legal", "The paper (default: letter)"},
-    OptionRow{"--orientation", Value::Choice, "portrait|landscape", "The orientation (default: portrait)"},
-    OptionRow{"--logo", Value::Choice, "none|generic|user", "The logo (default: as in Ledgrove.ini)"},
-    OptionRow{"--builder", Value::Text, "NAME", "Name after \"Prepared By:\" (default: as in Ledgrove.ini)"},
-    OptionRow{"--buyer", Value::Text, "NAME", "Name after \"Prepared For:\""},
+    paperRow,
+    orientationRow,
+    logoRow,
+    builderRow,
+    buyerRow,
     oneInput,
 };
 

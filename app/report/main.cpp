@@ -1,38 +1,25 @@
-// `ledgrove-cli report` starts this program, because layout and painting need Qt, which ledgrove-cli does not
-// use.
+// `ledgrove-cli report` and `ledgrove-cli insight --output` start this program, because layout and painting
+// need Qt, which ledgrove-cli does not use.
 
-#include <optional>
 #include <sstream>
 #include <string>
+#include <string_view>
 
 #include <QGuiApplication>
 
-#include "app/batch/OneComparison.h"
-#include "app/batch/OutputTarget.h"
 #include "app/options/CommandLine.h"
+#include "app/options/InsightOptions.h"
+#include "app/report/PdfCommand.h"
 #include "app/windows/Offscreen.h"
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
 #include "reports/ReportChoices.h"
-#include "reports/windows/LogoFault.h"
-#include "reports/windows/NameFault.h"
+#include "reports/windows/InsightFile.h"
 #include "reports/windows/ReportFile.h"
-#include "settings/HeaderSettings.h"
 
 namespace {
 
 using namespace Ledgrove;
-
-struct Arguments {
-    std::string Folder = ProgramFolder().string();
-    std::string Output;
-    ReportSections Sections = AllSections;
-    ReportPaper Paper;
-    std::optional<int> LogoOption; ///< empty: as in the settings file
-    std::optional<std::string> Builder;
-    std::string Buyer;
-    std::string Input = "-";
-};
 
 /// Sets `sections` and returns an empty text, or returns a message for an unknown name.
 std::string ReadSections(const std::string& names, ReportSections& sections) {
@@ -49,95 +36,73 @@ std::string ReadSections(const std::string& names, ReportSections& sections) {
     return {};
 }
 
-std::string ReadPaper(const std::string& name, PaperSize& size) {
-    const auto named = PaperNamed(name);
-    if (!named)
-        return "The paper must be letter, a4 or legal.";
-    size = *named;
-    return {};
-}
-
-std::string ReadOrientation(const std::string& name, PageOrientation& orientation) {
-    const auto named = OrientationNamed(name);
-    if (!named)
-        return "The orientation must be portrait or landscape.";
-    orientation = *named;
-    return {};
-}
-
-std::string ReadLogo(const std::string& name, std::optional<int>& option) {
-    constexpr std::string_view names[] = {"none", "generic", "user"};
-    for (int index = 0; index < 3; ++index)
-        if (name == names[index])
-            option = index;
-    return option ? "" : "The logo must be none, generic or user.";
-}
-
-void AddOptions(CLI::App& app, Arguments& arguments) {
-    CommandOptions options(app, "ledgrove-cli report", arguments.Folder, "ledgrove-report");
+int Report(const std::vector<std::string>& words) {
+    CLI::App app(SummaryOf("ledgrove-cli report"), "ledgrove-cli report");
+    std::string folder = ProgramFolder().string();
+    PaperArguments arguments;
+    ReportFileRequest request{AllSections, {}, 0, {}};
+    std::string input = "-";
+    CommandOptions options(app, "ledgrove-cli report", folder, "ledgrove-report");
     options.Take("--output", arguments.Output);
     options.Read("--sections",
-                 [&](const std::string& names) { return ReadSections(names, arguments.Sections); });
-    options.Read("--paper", [&](const std::string& name) { return ReadPaper(name, arguments.Paper.Size); });
-    options.Read("--orientation",
-                 [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); });
-    options.Read("--logo", [&](const std::string& name) { return ReadLogo(name, arguments.LogoOption); });
-    options.Take("--builder", arguments.Builder);
-    options.Take("--buyer", arguments.Buyer);
-    options.Take("FILE", arguments.Input);
+                 [&](const std::string& names) { return ReadSections(names, request.Sections); });
+    AddPaperOptions(options, arguments);
+    options.Take("FILE", input);
+    if (const auto status = Parse(app, words))
+        return *status;
+    Session* state = nullptr;
+    PageMaker pages;
+    pages.Prepare = [&](Session& session, int logoOption) {
+        state = &session;
+        request.Paper = arguments.Paper;
+        request.LogoOption = logoOption;
+        return QString();
+    };
+    pages.Make = [&](QByteArray& pdf) { return MakeReport(*state, request, pdf); };
+    pages.Write = [&](const QString& file) {
+        request.File = file;
+        return WriteReportFile(*state, request);
+    };
+    return RunPdfCommand(folder, input, arguments, pages);
 }
 
-/// Letters with their accents as single characters, for which fonts have glyphs.
-std::string Composed(const std::string& name) {
-    return QString::fromStdString(name).normalized(QString::NormalizationForm_C).toStdString();
+/// The questions that these views answer.
+std::vector<InsightQuestion> QuestionsOf(const ChosenViews& views) {
+    std::vector<InsightQuestion> questions;
+    for (const InsightView* const view : views)
+        for (const QuestionRow& row : InsightQuestions)
+            if (row.View == view->Name)
+                questions.push_back(row.Id);
+    return questions;
 }
 
-/// Writes the PDF to a stream. Returns a message if that failed, else "".
-std::string Send(Session& session, const ReportFileRequest& request, const OutputTarget& target) {
-    QByteArray pdf;
-    if (const QString fault = MakeReport(session, request, pdf); !fault.isEmpty())
-        return fault.toStdString();
-    return target.Write({pdf.constData(), static_cast<std::size_t>(pdf.size())});
-}
-
-int Report(const Arguments& arguments) {
-    const OutputTarget target(arguments.Output, arguments.Input);
-    if (!target.Refusal().empty())
-        return Complain(target.Refusal(), CannotRun);
-    if (!target.IsStream() && !QString::fromStdString(arguments.Output).endsWith(".pdf", Qt::CaseInsensitive))
-        return Complain("Name the report's file *.pdf, not " + Quoted(arguments.Output) + ".", CannotRun);
-    OneComparison comparison = CompareOne(arguments.Folder, arguments.Input);
-    if (comparison.Status != AllWell)
-        return Complain(comparison.Complaint, comparison.Status);
-    Session& session = comparison.State;
-    session.Header.HomeBuyer = Composed(arguments.Buyer);
-    if (arguments.Builder)
-        session.Header.BuilderName = Composed(*arguments.Builder);
-    const auto saved = Module1::GetLogoOption(SettingsFile(session.Folder));
-    const int logo = arguments.LogoOption.value_or(saved ? *saved : 0);
-    const ReportFileRequest request{arguments.Sections, arguments.Paper, logo,
-                                    QString::fromStdString(arguments.Output)};
-    const std::string fault =
-        target.IsStream() ? Send(session, request, target) : WriteReportFile(session, request).toStdString();
-    if (!fault.empty())
-        return Complain(fault, CannotRun);
-    for (const std::string& name : {session.Header.BuilderName, session.Header.HomeBuyer})
-        if (const std::string unprinted = NameFault(name); !unprinted.empty())
-            Complain(unprinted, AllWell);
-    if (const std::string missing = LogoFault(session, logo); !missing.empty())
-        Complain(missing, AllWell);
-    return AllWell;
+int AnswerQuestions(const std::vector<std::string>& words) {
+    CLI::App app(SummaryOf("ledgrove-cli insight"), "ledgrove-cli insight");
+    std::string folder = ProgramFolder().string();
+    InsightArguments arguments;
+    AddInsightOptions(app, folder, arguments, "ledgrove-report");
+    if (const auto status = Parse(app, words))
+        return *status;
+    InsightReport report;
+    const ReportPaper& paper = arguments.Pages.Paper;
+    PageMaker pages;
+    pages.Prepare = [&](Session& session, int logoOption) {
+        const InsightCommand& command = arguments.Command;
+        report = MakeInsightReport(session, {QuestionsOf(command.Views()), {}, command.By(), logoOption});
+        return QString::fromStdString(report.Missing);
+    };
+    pages.Make = [&](QByteArray& pdf) { return MakeInsightPdf(report, paper, pdf); };
+    pages.Write = [&](const QString& file) { return WriteInsightPdf(report, paper, file); };
+    return RunPdfCommand(folder, arguments.Input, arguments.Pages, pages);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
+    // ledgrove-cli puts the command in place of the program's name.
+    const bool isInsight = argc > 0 && std::string_view(argv[0]) == "insight";
     WorkOffscreen();
     const QGuiApplication application(argc, argv);
-    CLI::App app(SummaryOf("ledgrove-cli report"), "ledgrove-cli report");
-    Arguments arguments;
-    AddOptions(app, arguments);
-    if (const auto status = Parse(app, WordsOf(argc, argv)))
-        return *status;
-    return Report(arguments);
+    const std::vector<std::string> words = WordsOf(argc, argv);
+    return isInsight ? AnswerQuestions(words) : Report(words);
 }

@@ -1,0 +1,42 @@
+#include "app/options/PaperOptions.h"
+
+namespace Ledgrove {
+
+namespace {
+
+std::string ReadPaper(const std::string& name, PaperSize& size) {
+    const auto named = PaperNamed(name);
+    if (!named)
+        return "The paper must be letter, a4 or legal.";
+    size = *named;
+    return {};
+}
+
+std::string ReadOrientation(const std::string& name, PageOrientation& orientation) {
+    const auto named = OrientationNamed(name);
+    if (!named)
+        return "The orientation must be portrait or landscape.";
+    orientation = *named;
+    return {};
+}
+
+std::string ReadLogo(const std::string& name, std::optional<int>& option) {
+    constexpr std::string_view names[] = {"none", "generic", "user"};
+    for (int index = 0; index < 3; ++index)
+        if (name == names[index])
+            option = index;
+    return option ? "" : "The logo must be none, generic or user.";
+}
+
+} // namespace
+
+void AddPaperOptions(CommandOptions& options, PaperArguments& arguments) {
+    options.Read("--paper", [&](const std::string& name) { return ReadPaper(name, arguments.Paper.Size); });
+    options.Read("--orientation",
+                 [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); });
+    options.Read("--logo", [&](const std::string& name) { return ReadLogo(name, arguments.LogoOption); });
+    options.Take("--builder", arguments.Builder);
+    options.Take("--buyer", arguments.Buyer);
+}
+
+} // namespace Ledgrove

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/options/CommandLine.h"
+#include "reports/ReportChoices.h"
+
+namespace Ledgrove {
+
+/// What the commands that write pages as PDF have in common.
+struct PaperArguments {
+    std::string Output;
+    ReportPaper Paper;
+    std::optional<int> LogoOption;      ///< empty: as in the settings file
+    std::optional<std::string> Builder; ///< empty: as in the settings file
+    std::string Buyer;
+};
+
+/// Adds --paper, --orientation, --logo, --builder and --buyer, which the command's row must have.
+/// `arguments` must outlive the parser.
+void AddPaperOptions(CommandOptions& options, PaperArguments& arguments);
+
+} // namespace Ledgrove
