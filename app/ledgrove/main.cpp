@@ -21,6 +21,7 @@
 #include "app/windows/LoadedPrinters.h"
 #include "app/windows/MainMenu.h"
 #include "reports/windows/HelpPrint.h"
+#include "reports/windows/InsightPrint.h"
 #include "reports/windows/PrintAction.h"
 #include "settings/SettingsCheck.h"
 #include "ui/StartUp.h"
@@ -98,7 +99,9 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     };
     const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
     actions.Questions = questions;
-    Ledgrove::InsightOpener insight(session, host, questions, QCoreApplication::applicationDirPath());
+    Ledgrove::InsightOpener insight(session, host, questions,
+                                    Ledgrove::InsightPrintAction(session, host, printers),
+                                    QCoreApplication::applicationDirPath());
     actions.Ask = [&insight](Ledgrove::InsightQuestion question) { insight.Ask(question); };
     actions.Explain = [&insight](const std::string& label) { insight.Explain(label); };
     actions.Charts = [] { return Ledgrove::LoadCharts(QCoreApplication::applicationDirPath()); };

@@ -9,10 +9,12 @@
 
 namespace Ledgrove {
 
-InsightOpener::InsightOpener(Session& session, Host& outside, FileQuestions questions, QString folder)
+InsightOpener::InsightOpener(Session& session, Host& outside, FileQuestions questions, InsightPrinter print,
+                             QString folder)
     : m_session(session)
     , m_outside(outside)
     , m_questions(std::move(questions))
+    , m_print(std::move(print))
     , m_folder(std::move(folder)) {}
 
 InsightOpener::~InsightOpener() = default;
@@ -37,6 +39,7 @@ InsightContext InsightOpener::Context() {
         return EntriesOfCell(m_session, grid, column, row);
     };
     context.Enter = [this](const std::vector<EntryText>& texts) { m_main->Enter(texts); };
+    context.Print = m_print;
     context.Help = [this] { m_main->OpenHelpAt("ctxInsight"); };
     context.Questions = m_questions;
     context.Write = [this](const QString& file, const QByteArray& content) {

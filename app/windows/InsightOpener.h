@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "engine/Session.h"
+#include "reports/windows/InsightPrint.h"
 #include "ui/windows/InsightWindow.h"
 #include "ui/windows/frmMain.h"
 
@@ -15,7 +16,8 @@ class InsightOpener : public QObject {
 
 public:
     /// `session` and `outside` must outlive the object; `folder` is the program's.
-    InsightOpener(Session& session, Host& outside, FileQuestions questions, QString folder);
+    InsightOpener(Session& session, Host& outside, FileQuestions questions, InsightPrinter print,
+                  QString folder);
     ~InsightOpener() override;
 
     /// Connects the main window, whose entries the Insight window follows. It must outlive the object.
@@ -35,6 +37,7 @@ private:
     Session& m_session;
     Host& m_outside;
     FileQuestions m_questions;
+    InsightPrinter m_print;
     QString m_folder;
     frmMain* m_main = nullptr;
     std::unique_ptr<InsightWindow> m_window;

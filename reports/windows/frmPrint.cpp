@@ -44,7 +44,7 @@ int ZoomStepOf(const QKeyEvent& key) {
 } // namespace
 
 frmPrint::frmPrint(PreviewParts parts, Session& session, Host& outside, QWidget* parent)
-    : EntryDialog({"frmPrint", "Summary Report", "ctxPrint"}, session, outside, parent)
+    : EntryDialog({"frmPrint", parts.Title, "ctxPrint"}, session, outside, parent)
     , m_parts(std::move(parts))
     , m_document(m_measure)
     , m_header(new PreviewHeader(LoadPicture(State().EmblemFile())))
@@ -116,6 +116,7 @@ void frmPrint::InitvsPrinter() {
     Trace("In InitvsPrinter");
     PrepareReport(m_document, SheetOf(m_paper, m_orientation),
                   m_parts.Machine.Today().toString("MM/dd/yyyy").toStdString());
+    m_document.Title = m_parts.Title;
     m_previewMode = true;
     m_preview->ShowPage(1);
     Trace("Just did With vsPrinter ..");

@@ -24,6 +24,9 @@ struct InsightContext {
     std::function<std::vector<EntryText>(const ChartGrid&, std::size_t column, std::size_t row)> CellEntries;
     /// Enters texts into the main window as if they were typed there.
     std::function<void(const std::vector<EntryText>&)> Enter;
+    /// Previews the answers to these questions for printing; `figure` is what "Where does this number come
+    /// from?" is about.
+    std::function<void(const std::vector<InsightQuestion>&, const std::string& figure)> Print;
     std::function<void()> Help;
     FileQuestions Questions; ///< asks where to save a picture
     /// Replaces a whole file; reports a fault to the user.

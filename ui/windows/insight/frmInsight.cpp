@@ -126,6 +126,16 @@ QLayout* frmInsight::MakeButtons() {
     auto* row = new QHBoxLayout;
     m_enter = AddButton(*row, "bEnter", "&Try It");
     row->addStretch();
+    m_print = AddButton(*row, "bPrint", "&Print…");
+    auto* pages = new QMenu(m_print);
+    pages->addAction("This &Answer", this, [this] { Print({m_question}); });
+    pages->addAction("A&ll Answers", this, [this] {
+        std::vector<InsightQuestion> all;
+        for (const QuestionRow& question : InsightQuestions)
+            all.push_back(question.Id);
+        Print(all);
+    });
+    m_print->setMenu(pages);
     m_copy = AddButton(*row, "bCopy", "&Copy");
     auto* menu = new QMenu(m_copy);
     menu->addAction("As &Text", this, [this] { Copy(&SheetAsText); });
@@ -172,6 +182,7 @@ void frmInsight::ShowAnswer() {
         m_chain->Show(*answer.Chain, answer.Figure);
     // A table of one column repeats the sentences.
     m_table->setVisible(hasAnswer && !answer.Chain && answer.Table.Heads.size() > 1);
+    m_print->setEnabled(hasAnswer);
     m_copy->setEnabled(hasAnswer);
     m_picture->setVisible(answer.Picture.has_value());
     m_cell->setVisible(answer.Picture && answer.Picture->Kind == ChartKind::NetMap);
@@ -222,6 +233,10 @@ void frmInsight::ChooseMapCell(std::size_t column, std::size_t row) {
 
 void frmInsight::Copy(QString (*form)(const Sheet&)) {
     QGuiApplication::clipboard()->setText(form(m_sheet));
+}
+
+void frmInsight::Print(const std::vector<InsightQuestion>& questions) {
+    m_context.Print(questions, m_figure);
 }
 
 void frmInsight::SavePicture() {

@@ -42,6 +42,7 @@ private:
     void EnterCell();
     void ChooseMapCell(std::size_t column, std::size_t row);
     void Copy(QString (*form)(const Sheet&));
+    void Print(const std::vector<InsightQuestion>& questions);
     void SavePicture();
     void GiveNaturalSize();
 
@@ -60,6 +61,7 @@ private:
     QWidget* m_space = nullptr; ///< keeps the buttons down below an answer without a table
     QLabel* m_legend = nullptr;
     QPushButton* m_enter = nullptr;
+    QPushButton* m_print = nullptr;
     QPushButton* m_copy = nullptr;
     QPushButton* m_save = nullptr;
     bool m_isSized = false;
