@@ -46,6 +46,8 @@ public:
         PaintAll();
     }
 
+    frmMain& Main() { return m_window; }
+    Session& State() { return m_session; }
     QLineEdit& FieldNamed(const QString& name) const { return *m_window.findChild<QLineEdit*>(name); }
 
     /// Replaces the field's text with `text`; the caller sends Enter.

@@ -1,13 +1,16 @@
 """The rows of the table: what each one measures, its floor and its limit."""
 import json
+import os
 import shutil
+import subprocess
+import time
 from dataclasses import dataclass
 from functools import cached_property
 
 import counts
 import desktop_start
 from prices import PriceLists
-from timing import ROOT, NotMeasured, median
+from timing import ROOT, NotMeasured, median, peak_memory
 
 SAMPLE = ROOT / "data/samples/first-home.ledgrove.json"
 MIB = 1024  # in KiB
@@ -204,6 +207,51 @@ class Measurements:
         return Finding(f"opened {ratios[0]:.1f} x, saved {ratios[1]:.1f} x", "10,000 houses", f"{max(ratios):.1f} x", "<= 12 x",
                        max(ratios) <= 12)
 
+    # Insight
+
+    @cached_property
+    def answers(self):
+        """Medians in milliseconds: the usual views, the map."""
+        return self.place.figures("insight_bench")[0]
+
+    def _answered(self, figure, limit):
+        return Finding(f"{figure:.2f} ms", "-", "-", f"<= {limit} ms", figure <= limit)
+
+    def insight_views(self):
+        return self._answered(self.answers[0], 3)
+
+    def insight_map(self):
+        return self._answered(self.answers[1], 2)
+
+    def insight_window(self):
+        questions = self.place.figures("insight_window_bench")
+        half, most, worst = (max(question[column] for question in questions) for column in (1, 2, 3))
+        return Finding(f"median {half:.2f}, 99th {most:.2f}, worst {worst:.2f} ms", "-", "-", "worst <= 16 ms", worst <= 16)
+
+    def insight_jsonl(self):
+        """Twenty times as many lines must not need more memory."""
+        few, many = 200, 4000
+        (_, small), (seconds, large) = (self.answer_lines(lines) for lines in (few, many))
+        rate, grown = many / seconds, (large - small) / MIB
+        return Finding(f"{rate:,.0f}/s, {large / MIB:.1f} MiB, {grown:+.1f} MiB over {few} lines", "-", "-", ">= 400/s, <= +1 MiB",
+                       rate >= 400 and grown <= 1)
+
+    def answer_lines(self, lines):
+        """Seconds and peak KiB of the answers to a list of this length on one core."""
+        command = ["taskset", "-c", str(min(os.sched_getaffinity(0))), self.place.program("ledgrove-cli"), "insight", "--folder",
+                   ROOT / "data", "--format", "jsonl", self.prices.json(lines)]
+        peak = 0
+        start = time.perf_counter()
+        with subprocess.Popen(list(map(str, command)), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, bufsize=1 << 16) as process:
+            count = 0
+            for count, _ in enumerate(process.stdout, 1):
+                if count % 50 == 0:
+                    peak = max(peak, peak_memory(process.pid))
+            elapsed = time.perf_counter() - start
+        if count != lines:
+            raise NotMeasured(f"insight answered {count:,} of {lines:,} lines")
+        return elapsed, peak
+
     # Instructions
 
     def count(self, name):
@@ -238,6 +286,10 @@ ROWS = [
     ("houses-open", "10,000 saved houses, dialog opened and painted", Measurements.houses_open),
     ("houses-save", "10,000 saved houses, saved", Measurements.houses_save),
     ("houses-linear", "100,000 saved houses / 10,000", Measurements.houses_linear),
+    ("insight-views", "insight: all views but map and explain", Measurements.insight_views),
+    ("insight-map", "insight: map", Measurements.insight_map),
+    ("insight-window", "insight: Enter to the answer repainted, 300 times each", Measurements.insight_window),
+    ("insight-jsonl", "insight --format jsonl, one core", Measurements.insight_jsonl),
     ("loop", "ten hours of edits: heap in use", Measurements.loop),
 ]
 ROWS += [(f"count-{name}", f"instructions: {what} / recorded", lambda run, name=name: run.count(name))
