@@ -77,29 +77,30 @@ void WriteSentences(PrintDocument& document, const InsightSection& section) {
     document.CurrentY += sentenceGap;
 }
 
-Twips ChartHeight(const ChartFigures& chart) {
-    constexpr Twips mapHeight = 7200;
+/// A map fills half a page, so that its table has room below it.
+Twips ChartHeight(const ChartFigures& chart, Twips page) {
     constexpr Twips aroundBars = 1300; ///< title, legend and scale
     constexpr Twips rowHeight = 380;
     if (chart.Kind == ChartKind::NetMap)
-        return mapHeight;
+        return page / 2;
     return aroundBars + rowHeight * static_cast<Twips>(std::max<std::size_t>(chart.Categories.size(), 1));
 }
 
 /// Everything above the table.
-void WriteTop(PrintDocument& document, const InsightSection& section) {
+void WriteTop(PrintDocument& document, const InsightSection& section, Twips page) {
     document.Paragraph("");
     WriteBanner(document, "  " + section.Question);
     WriteSentences(document, section);
     if (!section.Picture)
         return;
     document.FontSize = chartFont;
-    document.Chart(section.Picture, widestChart, ChartHeight(*section.Picture));
+    document.Chart(section.Picture, widestChart, ChartHeight(*section.Picture, page));
     document.CurrentY += 2 * sentenceGap;
 }
 
-void WriteWhole(PrintDocument& document, const InsightSection& section) {
-    WriteTop(document, section);
+/// `page` is what a page offers, in twips.
+void WriteWhole(PrintDocument& document, const InsightSection& section, Twips page) {
+    WriteTop(document, section, page);
     if (!IsList(section))
         WriteSheetTable(document, section.Answer);
 }
@@ -119,7 +120,7 @@ void WriteSection(PrintDocument& document, const InsightSection& section, bool i
         return document.HeightOf([&](PrintDocument& trial) {
             if (isMoved)
                 WriteContinuedHeading(trial, continuedHeading);
-            WriteWhole(trial, what);
+            WriteWhole(trial, what, document.PageRoom());
         });
     };
     const bool fitsHere = heightOf(section, false) <= document.Room();
@@ -132,7 +133,7 @@ void WriteSection(PrintDocument& document, const InsightSection& section, bool i
         WriteContinuedHeading(document, continuedHeading);
     }
     document.KeepTables = fitsOnePage || section.Picture;
-    WriteWhole(document, section);
+    WriteWhole(document, section, document.PageRoom());
     document.KeepTables = true;
 }
 

@@ -164,6 +164,15 @@ TEST_P(InsightReportTest, PicturesAreDrawnAndNotFiles) {
     EXPECT_THAT(kinds, ElementsAre(ChartKind::Sensitivity, ChartKind::NetMap));
 }
 
+TEST_P(InsightReportTest, AMapIsAboveItsTable) {
+    Write({{InsightQuestion::InShort, InsightQuestion::PriceAndSavings}});
+    for (std::size_t page = 1; page <= m_document.PageCount(); ++page) {
+        const auto texts = PageTexts(page);
+        EXPECT_EQ(std::ranges::count(texts, "Price difference and savings"),
+                  static_cast<std::ptrdiff_t>(ItemsOf<PlacedChart>(m_document.Page(page)).size()));
+    }
+}
+
 TEST_P(InsightReportTest, TheNamesAreInTheTitle) {
     m_session.Header.HomeBuyer = "Pat Doe";
     m_session.Header.BuilderName = "Acme Homes";
