@@ -67,6 +67,13 @@ InsightAnswer AnswerFrom(InsightQuestion question, InsightViews& views, std::str
     return {};
 }
 
+/// Most answers have the sentence of their table.
+InsightAnswer WithSentence(InsightAnswer answer) {
+    if (answer.Sentence.empty())
+        answer.Sentence = answer.Table.Sentence;
+    return answer;
+}
+
 } // namespace
 
 InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::string_view asked) {
@@ -74,10 +81,7 @@ InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::st
     if (!insight.Missing().empty())
         return {.Missing = insight.Missing()};
     InsightViews views(insight, UsualBy);
-    InsightAnswer answer = AnswerFrom(question, views, asked);
-    if (answer.Sentence.empty())
-        answer.Sentence = answer.Table.Sentence;
-    return answer;
+    return WithSentence(AnswerFrom(question, views, asked));
 }
 
 InsightAnswerList AnswersOf(std::span<const InsightQuestion> questions, const Session& session,
@@ -88,7 +92,7 @@ InsightAnswerList AnswersOf(std::span<const InsightQuestion> questions, const Se
     InsightViews views(insight, by);
     InsightAnswerList list;
     for (const InsightQuestion question : questions)
-        list.Answers.push_back(AnswerFrom(question, views, asked));
+        list.Answers.push_back(WithSentence(AnswerFrom(question, views, asked)));
     return list;
 }
 
