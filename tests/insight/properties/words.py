@@ -23,6 +23,7 @@ def takeaway(case):
         if not any(abs(abs(number(amount)) - abs(value)) <= 0.5001 for value in known):
             case.fault("takeaway: amount", f"{amount} stands in none of the answers: {text}")
     statements(case, text)
+    shares(case, text)
     reach(case, sentences)
     taxes_said(case, text)
     not_earned_back(case, text)
@@ -68,6 +69,22 @@ def statements(case, text):
                           ("It still pays", net >= 0), ("It would pay", net < 0)):
         if words in text and not wanted:
             case.fault("takeaway: statement", f"{words!r} is not so; net {net}, qualifies {yes}: {text}")
+
+
+def shares(case, text):
+    """The price and the part of the savings with which it still pays, and when the extra down payment is earned back."""
+    even, ahead = case.answer["breakeven"], case.answer["years"]["ahead"]
+    share = even["savingsShare"]
+    for price in re.findall(r"(?:still pays each month up to|would pay each month with) a price of (-?\$[\d,]+)", text):
+        case.same("takeaway: price", price, even["price"]["to"])
+    for percent in re.findall(r"with (\d+)% of the expected savings", text):
+        enough = share is not None and share - 1e-9 <= int(percent) / 100 < share + 0.01 + 1e-9
+        case.true("takeaway: share", enough, f"{percent} % for {share}: {text}")
+    if "none of the expected savings" in text:
+        case.true("takeaway: share", share == 0 or even["bill"]["state"] == "always", f"share {share}: {text}")
+    for span in re.findall(r"earned back after ([^.;]+)[.;]", text):
+        months = sum(int(count) * (12 if unit == "year" else 1) for count, unit in re.findall(r"(\d+) (year|month)", span))
+        case.same("takeaway: earned back", months, ahead)
 
 
 def reach(case, sentences):
