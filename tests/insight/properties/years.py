@@ -44,7 +44,7 @@ def pmi_end(case, home, record, balances):
     months = len(balances) - 1
     price, loan = record["Cost"], balances[0]
     option = case.fields["cboStdMortOption" if home == "std" else "cboGMHMortOption"]
-    if record["PMIMonthly"] == 0:
+    if record["PMIMonthly"] == 0 or loan == 0:  # without a loan nothing is insured
         return 1
     if option in BY_BALANCE:
         ends = 0.78 * price + 1e-6  # a balance of just 78 % is not above it
