@@ -21,7 +21,7 @@ constexpr int rounds = 300;
 
 /// Never repeats a price, so that every answer changes.
 QString PriceOf(int round) {
-    return QString::number(206000 + (round % 2 ? 400 : 0) + round);
+    return QString::number(206100 + (round % 2 ? 400 : 0) + round);
 }
 
 /// Counts the paints of the Insight window.
