@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <span>
+#include <vector>
 
 #include "insight/Conditions.h"
 #include "insight/OptionPairs.h"
@@ -45,22 +46,45 @@ private:
     }
 
     /// Whether the input changes a loan anywhere. The ends of the range nearly always show it; the steps
-    /// between make sure.
+    /// between, and those where the worth of the savings crosses the price difference, make sure.
     bool Counts(const Lattice& steps) const {
         constexpr Step parts = 8;
         const Step part = (steps.Most() - steps.Least()) / parts;
-        Inputs inputs = m_insight.Now();
-        const auto changesAt = [&](Step step) {
-            steps.Put(step, inputs);
-            return !SameLoans(m_insight.At(inputs));
-        };
-        if (changesAt(steps.Least()) || changesAt(steps.Most()))
-            return true;
-        for (Step index = 1; index < parts; ++index) {
-            if (changesAt(steps.Least() + part * index))
+        std::vector<Step> tried{steps.Least(), steps.Nearest(static_cast<double>(steps.Least() + 1))};
+        for (Step index = 1; index < parts; ++index)
+            tried.push_back(steps.Least() + part * index);
+        tried.push_back(steps.Nearest(static_cast<double>(steps.Most() - 1)));
+        tried.push_back(steps.Most());
+        for (std::size_t i = 0; i < tried.size(); ++i) {
+            if (ChangesAt(steps, tried[i]) || (i > 0 && ChangesBetween(steps, tried[i - 1], tried[i])))
                 return true;
         }
         return false;
+    }
+
+    Results At(const Lattice& steps, Step step) const {
+        Inputs inputs = m_insight.Now();
+        steps.Put(step, inputs);
+        return m_insight.At(inputs);
+    }
+
+    bool ChangesAt(const Lattice& steps, Step step) const { return !SameLoans(At(steps, step)); }
+
+    bool IsWorth(const Lattice& steps, Step step) const {
+        const Results results = At(steps, step);
+        return results.GMHCase.PVSavings >= results.Scenario.PriceDifference;
+    }
+
+    /// Whether a loan changes on either side of a crossing between the two steps.
+    bool ChangesBetween(const Lattice& steps, Step low, Step high) const {
+        const bool before = IsWorth(steps, low);
+        if (low >= high || before == IsWorth(steps, high))
+            return false;
+        while (high - low > 1) {
+            const Step middle = low + (high - low) / 2;
+            (IsWorth(steps, middle) == before ? low : high) = middle;
+        }
+        return ChangesAt(steps, low) || ChangesAt(steps, high);
     }
 
     std::optional<Answer> Limit(const Lattice& steps, SearchDirections directions) const {

@@ -22,6 +22,14 @@ class Insight(CliTest):
     def answers(self, inputs, *options):
         return json.loads(self.insight("json", json.dumps(inputs), *options).stdout)
 
+    def test_a_bill_that_changes_the_loan_only_between_counts(self):
+        # The loan is the same at $0 and from $1,601 on, and another one from $1 to $1,600.
+        home = {"ecIncome": "143766", "ecMonthlyDebt": "1359", "ecPctDown": "10.00", "ecStdHome": "290852", "ecGMHHome": "277957",
+                "ecGMHUtil": "9179", "ecStdRate": "4.463", "ecGMHRate": "4.463", "cboMortTerm": "10 years",
+                "cboGMHMortOption": "Freddie Mac EEM", "chkDoTax0": False}
+        self.assertEqual(self.answers(home, "--view", "qualify")["qualify"]["gmh"]["bill"],
+                         {"input": "ecGMHUtil", "from": "$9,179", "to": "$91,790", "change": 82611, "state": "always"})
+
     def test_the_views_have_their_keys(self):
         self.assertEqual(list(self.answers(HOME)),
                          ["takeaway", "breakeven", "options", "qualify", "sensitivity", "years", "energy", "tax", "exit"])
