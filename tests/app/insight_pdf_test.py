@@ -15,7 +15,8 @@ SAMPLE = SOURCE / "data/samples/first-home.ledgrove.json"
 PAPERS = {"letter": (612, 792), "a4": (595.3, 841.9), "legal": (612, 1008)}
 QUESTIONS = {"takeaway": "In short", "breakeven": "How far can the price go?", "options": "Which loan is best?",
              "qualify": "Do we qualify, and what would help?", "sensitivity": "What matters most?",
-             "map": "Price against savings", "explain": "Where does this number come from?"}
+             "map": "Price against savings", "years": "Year by year", "energy": "If energy prices rise",
+             "tax": "Is the tax saving real?", "exit": "If we sell", "explain": "Where does this number come from?"}
 
 
 class InsightPdf(unittest.TestCase):
