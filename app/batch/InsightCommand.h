@@ -10,7 +10,7 @@
 
 namespace Ledgrove {
 
-/// Answers the questions behind a comparison, as text or JSON.
+/// Answers the questions that a comparison raises, as text or JSON.
 class InsightAnswers {
 public:
     /// `by` is the percentage of the sensitivity.
@@ -22,7 +22,7 @@ public:
     /// there are answers.
     bool AppendJson(std::string& out, const Session& session) const;
 
-    /// Appends a sheet for each view. Returns why there are no answers, else "".
+    /// Appends a sheet for each view. Returns the reason if a comparison has none, else "".
     std::string AppendText(std::string& out, const Session& session) const;
 
 private:

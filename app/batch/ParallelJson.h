@@ -56,7 +56,7 @@ private:
     MakeLineWork m_makeWork;
     std::size_t m_mostThreads;
     PieceQueue m_queue;
-    std::unique_ptr<LineWork> m_own; ///< used if there are no threads
+    std::unique_ptr<LineWork> m_own; ///< does the work if no thread could be started
     std::unique_ptr<char[]> m_spare; ///< released after a thread has started
     std::vector<std::jthread> m_threads;
 };

@@ -13,7 +13,7 @@ namespace Ledgrove {
 
 /// How a command makes its pages of a comparison. The functions return a message if that failed, else "".
 struct PageMaker {
-    /// Why there are no pages of this session; "" if there are. Called first, once.
+    /// The reason if this session cannot be printed, else "". Called first, once.
     std::function<QString(Session& session, int logoOption)> Prepare;
     std::function<QString(QByteArray& pdf)> Make; ///< in memory
     std::function<QString(const QString& file)> Write;

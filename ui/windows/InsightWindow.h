@@ -33,7 +33,7 @@ struct InsightContext {
     std::function<void(const QString& file, const QByteArray& content)> Write;
 };
 
-/// The window with the answers behind the figures. It has no meta-object, because the program and the library
+/// The window that says what the figures mean. It has no meta-object, because the program and the library
 /// that makes it would each have their own copy.
 class InsightWindow : public QWidget {
 public:

@@ -12,7 +12,7 @@ QuestionLink::QuestionLink(QWidget* parent)
     setObjectName("bQuestion");
     setFlat(true);
     setCursor(Qt::PointingHandCursor);
-    setToolTip("Opens Insight: the answers behind the figures");
+    setToolTip("Opens Insight, which says what the figures mean");
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);
