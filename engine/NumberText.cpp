@@ -180,34 +180,6 @@ void RoundToPlaces(Decimal& decimal, int places) {
     ++decimal.PointAfter;
 }
 
-struct Picture {
-    std::string_view Literal; ///< what stands before the digits, "$" or nothing
-    int RequiredWhole = 0;
-    int RequiredPlaces = 0;
-    int Places = 0;
-    bool Grouped = false;
-};
-
-Picture ReadPicture(std::string_view text) {
-    Picture picture;
-    std::size_t start = 0;
-    while (start < text.size() && text[start] != '#' && text[start] != '0' && text[start] != '.')
-        ++start;
-    picture.Literal = text.substr(0, start);
-    bool afterPoint = false;
-    for (const char c : text.substr(start)) {
-        if (c == '.')
-            afterPoint = true;
-        else if (c == ',')
-            picture.Grouped = true;
-        else if (afterPoint)
-            ++picture.Places;
-        if (c == '0')
-            ++(afterPoint ? picture.RequiredPlaces : picture.RequiredWhole);
-    }
-    return picture;
-}
-
 std::string WriteDecimal(Decimal decimal, bool negative, const Picture& picture) {
     RoundToPlaces(decimal, picture.Places);
     const bool zero = decimal.IsZero();
@@ -290,22 +262,21 @@ std::string ShortestText(float value) {
     return WritePlain(AtShortest(std::fabs(value)), value < 0);
 }
 
-std::string FormatPicture(double value, std::string_view picture) {
+std::string FormatPicture(double value, const Picture& picture) {
     if (!std::isfinite(value))
         return {};
-    const Picture parts = ReadPicture(picture);
     const double magnitude = std::fabs(value);
-    const auto decimal = RoundedClearly(magnitude, parts.Places);
-    return WriteDecimal(decimal ? *decimal : AtSignificantDigits(magnitude, 15), value < 0, parts);
+    const auto decimal = RoundedClearly(magnitude, picture.Places);
+    return WriteDecimal(decimal ? *decimal : AtSignificantDigits(magnitude, 15), value < 0, picture);
 }
 
-std::string FormatPicture(float value, std::string_view picture) {
+std::string FormatPicture(float value, const Picture& picture) {
     // From here on a single is a whole number, and the zeros of its shortest text would not be its own
     // digits.
     constexpr float wholeFrom = 16777216.0F;
     if (!(std::fabs(value) < wholeFrom))
         return FormatPicture(static_cast<double>(value), picture);
-    return WriteDecimal(AtShortest(std::fabs(value)), value < 0, ReadPicture(picture));
+    return WriteDecimal(AtShortest(std::fabs(value)), value < 0, picture);
 }
 
 } // namespace Ledgrove::Module1

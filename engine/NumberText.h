@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "engine/Picture.h"
+
 // Converts numbers to text and text to numbers under one fixed convention ("$", "," grouping, "." decimal
 // point), whatever the machine's locale.
 namespace Ledgrove::Module1 {
@@ -42,12 +44,12 @@ std::string ShortestText(float value);
 /// that is not finite gives an empty text.
 ///     (1234.5, "$#,##0") -> "$1,235"    (-0.4, "$#,##0") -> "$0"    (6.5, "#0.000") -> "6.500"
 ///     (0, "#") -> ""    (-1234, "###,##0") -> "-1,234"    (0.125, "0.00") -> "0.13"
-std::string FormatPicture(double value, std::string_view picture);
+std::string FormatPicture(double value, const Picture& picture);
 
 /// The same for a single, taken at its shortest decimal text (from 2^24 on, where singles are whole numbers,
 /// as it is).
 ///     (0.145F, "0.00") -> "0.15", although that single lies below 0.145
-std::string FormatPicture(float value, std::string_view picture);
+std::string FormatPicture(float value, const Picture& picture);
 
 /// A dollar amount through "$##,###,##0"; "FormatError" when the amount is not finite.
 ///     1465.06 -> "$1,465"    -47.97 -> "-$48"    -0.4 -> "$0"

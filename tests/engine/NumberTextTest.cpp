@@ -96,7 +96,7 @@ TEST(FormatPicture, AgreesWithIndependentImplementations) {
     const auto rows = Ledgrove::Testing::ReadReferenceTable("pictures.csv");
     ASSERT_EQ(rows.size(), 5440U);
     for (const auto& row : rows)
-        ASSERT_EQ(FormatPicture(std::stod(row[1]), row[0]), row[2])
+        ASSERT_EQ(FormatPicture(std::stod(row[1]), std::string_view(row[0])), row[2])
             << row[1] << " with the format " << row[0];
 }
 
