@@ -9,6 +9,8 @@ namespace Ledgrove {
 
 namespace {
 
+constexpr SearchDirections upThenDown{Direction::Up, Direction::Down};
+
 std::optional<double> SavingsShareOf(const Insight& insight, const std::optional<Answer>& bill) {
     const double base = insight.Steps(Varied::StdBill).Now();
     const double saving = base - insight.Steps(Varied::GMHBill).Now();
@@ -19,15 +21,19 @@ std::optional<double> SavingsShareOf(const Insight& insight, const std::optional
 
 } // namespace
 
+std::optional<Answer> BreakevenPrice(const Insight& insight) {
+    return LimitOrNearest(insight, insight.Steps(Varied::GMHPrice), upThenDown,
+                          NetCondition(insight.Now().IncludeTaxes));
+}
+
 Breakeven ComputeBreakeven(const Insight& insight) {
-    constexpr SearchDirections upThenDown{Direction::Up, Direction::Down};
     const Lattice price = insight.Steps(Varied::GMHPrice);
     const NetCondition shownNet(insight.Now().IncludeTaxes);
     const auto limit = [&](const Lattice& steps, const Condition& condition) {
         return LimitOrNearest(insight, steps, upThenDown, condition);
     };
     Breakeven result;
-    result.Price = limit(price, shownNet);
+    result.Price = BreakevenPrice(insight);
     result.PriceBeforeTax = limit(price, NetCondition(false));
     result.SavingsPrice = limit(price, SavingsCondition());
     result.Bill = limit(insight.Steps(Varied::GMHBill), shownNet);

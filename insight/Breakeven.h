@@ -21,6 +21,9 @@ struct Breakeven {
     std::optional<double> SavingsShare;
 };
 
+/// `Breakeven::Price` alone. The insight must not be missing.
+std::optional<Answer> BreakevenPrice(const Insight& insight);
+
 /// The insight must not be missing.
 Breakeven ComputeBreakeven(const Insight& insight);
 

@@ -1,5 +1,6 @@
 #include "insight/OptionPairs.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "insight/Insight.h"
@@ -28,6 +29,22 @@ Inputs WithOptions(Inputs inputs, const OptionPair& pair) {
     inputs.Std.Option = OptionOfCode(pair.Base.Code);
     inputs.GMH.Option = OptionOfCode(pair.Labelled.Code);
     return inputs;
+}
+
+void ChoosePair(MainScreen& screen, const OptionPair& pair) {
+    screen.cboStdMortOption.Items = BaseOptionItems();
+    screen.cboStdMortOption.Selected = screen.cboStdMortOption.IndexOf(pair.Base.Text);
+    screen.cboGMHMortOption.Items = LabelledOptionItems(OptionOfCode(pair.Base.Code));
+    screen.cboGMHMortOption.Selected = screen.cboGMHMortOption.IndexOf(pair.Labelled.Text);
+}
+
+std::optional<OptionPair> ChosenPair(const MainScreen& screen) {
+    const auto pairs = OptionPairs();
+    const auto found = std::find_if(pairs.begin(), pairs.end(), [&screen](const OptionPair& pair) {
+        return pair.Base.Text == screen.cboStdMortOption.Text() &&
+               pair.Labelled.Text == screen.cboGMHMortOption.Text();
+    });
+    return found == pairs.end() ? std::nullopt : std::optional(*found);
 }
 
 std::string HomeFault(const Results& results, const OptionPair& pair, HomeCode home) {

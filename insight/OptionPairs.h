@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 
@@ -20,6 +21,12 @@ std::span<const OptionPair> OptionPairs();
 
 /// The inputs with other options.
 Inputs WithOptions(Inputs inputs, const OptionPair& pair);
+
+/// Chooses a pair in the lists of the screen.
+void ChoosePair(MainScreen& screen, const OptionPair& pair);
+
+/// The pair that is chosen in the lists of the screen; empty if none is.
+std::optional<OptionPair> ChosenPair(const MainScreen& screen);
 
 /// Why the monthly costs of a home are unknown with this pair; empty if they are known.
 std::string HomeFault(const Results& results, const OptionPair& pair, HomeCode home);
