@@ -31,6 +31,12 @@ House& SelectedHouse(HouseScenarios& dialog) {
     return dialog.Houses[static_cast<std::size_t>(dialog.Selected)];
 }
 
+House HouseOnScreen(std::string_view name, const MainScreen& screen) {
+    return {std::string(name), ParseFieldValue(screen.ecStdHome.Text, 1),
+            ParseFieldValue(screen.ecStdUtil.Text, 1), ParseFieldValue(screen.ecGMHHome.Text, 1),
+            ParseFieldValue(screen.ecGMHUtil.Text, 1)};
+}
+
 /// The question about implausible amounts in the fields; empty if they look plausible.
 std::string EditQuestion(const HouseScenarios& dialog) {
     const std::string remarks = CheckHousePair(
@@ -101,11 +107,7 @@ bool AddHouse(HouseScenarios& dialog, const Session& session, Host& host, std::s
         host.ShowMessage({ApplicationTitle, complaint});
         return false;
     }
-    const MainScreen& screen = session.Screen;
-    dialog.Houses.push_back({std::string(name), ParseFieldValue(screen.ecStdHome.Text, 1),
-                             ParseFieldValue(screen.ecStdUtil.Text, 1),
-                             ParseFieldValue(screen.ecGMHHome.Text, 1),
-                             ParseFieldValue(screen.ecGMHUtil.Text, 1)});
+    dialog.Houses.push_back(HouseOnScreen(name, session.Screen));
     SelectHouse(dialog, static_cast<int>(dialog.Houses.size()) - 1);
     return true;
 }
@@ -153,7 +155,10 @@ void CloseHouseScenarios(const HouseScenarios& dialog, const Session& session, H
 void ChooseHouse(const HouseScenarios& dialog, Session& session) {
     if (!dialog.HasSelection())
         return;
-    const House& house = dialog.Houses[static_cast<std::size_t>(dialog.Selected)];
+    TakeHouse(dialog.Houses[static_cast<std::size_t>(dialog.Selected)], session);
+}
+
+void TakeHouse(const House& house, Session& session) {
     MainScreen& screen = session.Screen;
     screen.lblHomeName.Text = house.Name;
     SetFieldText(session, screen.ecStdHome, FormatPicture(house.StdCost, dollars));
@@ -161,6 +166,11 @@ void ChooseHouse(const HouseScenarios& dialog, Session& session) {
     SetFieldText(session, screen.ecGMHHome, FormatPicture(house.GMHCost, dollars));
     SetFieldText(session, screen.ecGMHUtil, FormatPicture(house.GMHUtil, dollars));
     session.ChosenHouse = house;
+}
+
+void NameHouse(std::string_view name, Session& session) {
+    session.Screen.lblHomeName.Text = name;
+    session.ChosenHouse = HouseOnScreen(name, session.Screen);
 }
 
 } // namespace Ledgrove::Module1

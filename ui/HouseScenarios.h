@@ -76,6 +76,12 @@ std::optional<SettingsFault> SaveHouseScenarios(const HouseScenarios& dialog, co
 /// the dialog closes, and a chosen house reaches the main screen.
 void CloseHouseScenarios(const HouseScenarios& dialog, const Session& session, Host& host);
 
+/// Copies a house to the main screen, which remembers it.
+void TakeHouse(const House& house, Session& session);
+
+/// Gives the amounts that the main screen has the name of a house, and remembers them.
+void NameHouse(std::string_view name, Session& session);
+
 /// Copies the selected house to the main screen, which remembers it. Does nothing without a selection.
 void ChooseHouse(const HouseScenarios& dialog, Session& session);
 

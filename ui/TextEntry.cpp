@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/HouseScenarios.h"
 #include "ui/MainScreenRules.h"
 
 namespace Ledgrove::Module1 {
@@ -21,6 +22,8 @@ Choose ChoiceOf(std::string_view control) {
 void EnterText(EntryContext& context, const EntryText& entry) {
     if (const Choose choose = ChoiceOf(entry.Control))
         return choose(context.State, context.Outside, entry.Text);
+    if (entry.Control == "lblHomeName")
+        return NameHouse(entry.Text, context.State);
     const auto rules = MainEntryRules();
     const auto rule = std::find_if(rules.begin(), rules.end(),
                                    [&](const EntryRule& one) { return one.Name == entry.Control; });

@@ -8,7 +8,8 @@
 namespace Ledgrove::Module1 {
 
 /// Enters texts into the main screen as if a person typed each and left the field, or chose it from its list.
-/// Unknown controls are passed over. The messages of the entries are shown.
+/// "lblHomeName" names the house whose amounts are on the screen. Unknown controls are passed over. The
+/// messages of the entries are shown.
 void EnterTexts(EntryContext& context, std::span<const EntryText> texts);
 
 } // namespace Ledgrove::Module1

@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "app/batch/EntryInputs.h"
-#include "engine/NumberText.h"
 #include "engine/Recalculate.h"
 #include "ui/DataCheck.h"
 #include "ui/Entry.h"
+#include "ui/HouseScenarios.h"
 #include "ui/MainScreenRules.h"
 
 namespace Ledgrove {
@@ -98,14 +98,8 @@ std::optional<Refusal> Comparison::EnterConversion(const InputValue& value) {
 }
 
 void Comparison::NameHouse(const InputValue& name) {
-    if (!name.Present || name.Text.empty())
-        return;
-    const MainScreen& screen = m_state.Screen;
-    m_state.Screen.lblHomeName.Text = name.Text;
-    m_state.ChosenHouse = {name.Text, Module1::ParseFieldValue(screen.ecStdHome.Text, 1),
-                           Module1::ParseFieldValue(screen.ecStdUtil.Text, 1),
-                           Module1::ParseFieldValue(screen.ecGMHHome.Text, 1),
-                           Module1::ParseFieldValue(screen.ecGMHUtil.Text, 1)};
+    if (name.Present && !name.Text.empty())
+        Module1::NameHouse(name.Text, m_state);
 }
 
 std::optional<Refusal> Comparison::PickOptions(const InputRecord& inputs) {

@@ -3,6 +3,7 @@
 #include "tests/engine/TestSession.h"
 #include "tests/settings/TemporaryFolder.h"
 #include "ui/Entry.h"
+#include "ui/TextEntry.h"
 
 #include <gmock/gmock.h>
 
@@ -11,6 +12,15 @@ namespace {
 
 using namespace Module1;
 using Testing::ScriptedHost;
+
+class NoFocus : public EntryFocus {
+public:
+    std::string FocusedControl() const override { return {}; }
+    void ReturnFocusTo(const Field&) override {}
+    void SelectFieldText() override {}
+    void NextField() override {}
+    void PreviousField() override {}
+};
 
 /// A settings file with three houses, and a main screen with different amounts.
 class HouseScenariosTest : public SettingsTest {
@@ -250,6 +260,22 @@ TEST_F(HouseScenariosTest, AnUnwritableOpenMarkIsReportedAndStopsNothing) {
     EXPECT_EQ(m_dialog.Houses.size(), 3U);
     ASSERT_EQ(m_host.Messages.size(), 1U);
     EXPECT_EQ(m_host.Messages[0].Icon, MessageIcon::Exclamation);
+}
+
+/// As the rows of the house range propose it.
+TEST_F(HouseScenariosTest, EnteringTheAmountsAndThenTheNameChoosesTheHouse) {
+    NoFocus focus;
+    EntryContext context{m_session, m_host, focus};
+    EnterTexts(context, std::vector<EntryText>{{"ecStdHome", "$200,000"},
+                                               {"ecStdUtil", "$2,400"},
+                                               {"ecGMHHome", "$206,000"},
+                                               {"ecGMHUtil", "$1,700"},
+                                               {"lblHomeName", "Birch"}});
+    EXPECT_EQ(m_session.Screen.lblHomeName.Text, "Birch");
+    CheckCustomHouse(m_session);
+    EXPECT_EQ(m_session.Screen.lblHomeName.Text, "Birch");
+    EnterTexts(context, std::vector<EntryText>{{"ecGMHHome", "$207,000"}});
+    EXPECT_EQ(m_session.Screen.lblHomeName.Text, "Custom");
 }
 
 } // namespace
