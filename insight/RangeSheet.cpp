@@ -1,0 +1,104 @@
+#include <algorithm>
+
+#include "engine/NumberText.h"
+#include "insight/AnswerWords.h"
+#include "insight/Range.h"
+
+namespace Ledgrove {
+
+namespace {
+
+std::string Count(std::size_t number, const std::string& one, const std::string& more) {
+    return Module1::FormatPicture(static_cast<double>(number), "#,##0") + " " + (number == 1 ? one : more);
+}
+
+template <typename Condition>
+std::size_t RowsWith(const Range& range, Condition condition) {
+    return static_cast<std::size_t>(
+        std::count_if(range.Rows.begin(), range.Rows.end(),
+                      [&](const RangeRow& row) { return row.Missing.empty() && condition(row); }));
+}
+
+std::string SentenceOf(const Range& range) {
+    if (range.Houses == 0)
+        return "There are no saved houses. Add some in the window (\"House Scenarios\").";
+    const std::size_t rows = range.Rows.size();
+    const std::size_t known = RowsWith(range, [](const RangeRow&) { return true; });
+    std::string sentence = Count(range.Houses, "saved house", "saved houses");
+    if (rows > range.Houses)
+        sentence += ", each with " + std::to_string(rows / range.Houses) + " pairs of mortgage options";
+    sentence += ". Of " + Count(known, "row", "rows") + ", the buyer qualifies for the GREENMARK home in " +
+                std::to_string(RowsWith(range, [](const RangeRow& row) { return row.GMH.Qualifies; })) +
+                ", and it pays for itself each month in " +
+                std::to_string(RowsWith(range, [](const RangeRow& row) { return row.ShownNet >= 0; })) + ".";
+    if (known < rows)
+        sentence += " " + Count(rows - known, "row has", "rows have") + " no figures.";
+    return sentence;
+}
+
+SheetCell QualifiesCell(const RangeRow& row) {
+    if (!row.Missing.empty())
+        return TextCell(row.Missing);
+    const CellMark mark = row.GMH.Qualifies ? CellMark::None : CellMark::Bad;
+    if (row.Std.Qualifies)
+        return TextCell(row.GMH.Qualifies ? "both homes" : "the base home only", mark);
+    return TextCell(row.GMH.Qualifies ? "the GREENMARK home only" : "neither home", mark);
+}
+
+/// Entering the amounts comes before the name, because other amounts make the house "Custom".
+std::vector<EntryText> EntriesOf(const RangeRow& row) {
+    const auto dollars = [](float amount) { return Module1::FormatPicture(amount, "$###,##0"); };
+    return {{"ecStdHome", dollars(row.Std.Price)},
+            {"ecStdUtil", dollars(row.Std.Bill)},
+            {"ecGMHHome", dollars(row.GMH.Price)},
+            {"ecGMHUtil", dollars(row.GMH.Bill)},
+            {"lblHomeName", row.House},
+            {"cboStdMortOption", std::string(row.Base)},
+            {"cboGMHMortOption", std::string(row.Labelled)}};
+}
+
+SheetCell PriceCell(const RangeRow& row) {
+    SheetCell cell = AnswerCell(row.Price, "unknown");
+    cell.Entries.clear(); // the row proposes its house
+    return cell;
+}
+
+std::vector<SheetCell> CellsOf(const RangeRow& row, bool limits) {
+    const auto dollars = [](float amount, CellUnit unit = CellUnit::Dollars) {
+        return DollarCell(static_cast<double>(amount), unit);
+    };
+    const bool known = row.Missing.empty();
+    std::vector<SheetCell> cells{TextCell(row.House),
+                                 TextCell(std::string(row.Base) + " / " + std::string(row.Labelled)),
+                                 dollars(row.Std.Price), dollars(row.GMH.Price)};
+    cells.front().Entries = EntriesOf(row);
+    const auto add = [&cells, known](SheetCell cell) {
+        cells.push_back(known ? std::move(cell) : SheetCell());
+    };
+    add(dollars(row.Std.PITIU, CellUnit::DollarsPerMonth));
+    add(dollars(row.GMH.PITIU, CellUnit::DollarsPerMonth));
+    add(dollars(row.ShownNet, CellUnit::DollarsPerMonth));
+    cells.push_back(QualifiesCell(row));
+    add(DollarCell(row.GMH.Margin));
+    if (limits)
+        add(PriceCell(row));
+    return cells;
+}
+
+} // namespace
+
+Sheet RangeSheet(const Range& range) {
+    Sheet sheet;
+    sheet.Title = "House range";
+    sheet.Sentence = SentenceOf(range);
+    sheet.Heads = {"House",        "Base / GREENMARK", "Base Price",          "Price", "Base Monthly Cost",
+                   "Monthly Cost", "Monthly Net",      "Buyer Qualifies For", "Room"};
+    sheet.Words = {1, 7};
+    if (range.HasLimits)
+        sheet.Heads.emplace_back("Pays Up To");
+    for (const RangeRow& row : range.Rows)
+        sheet.Rows.push_back(CellsOf(row, range.HasLimits));
+    return sheet;
+}
+
+} // namespace Ledgrove
