@@ -14,6 +14,7 @@
 #include "app/options/CommandLine.h"
 #include "app/options/CommandTable.h"
 #include "app/options/InsightOptions.h"
+#include "app/options/RangeOptions.h"
 #include "base/ProgramFolder.h"
 #include "base/SystemError.h"
 #include "base/Text.h"
@@ -171,6 +172,9 @@ int main(int argc, char** argv) {
     InsightArguments insight;
     CLI::App* const answers = AddCommand(app, "insight", "ledgrove-cli insight");
     AddInsightOptions(*answers, folder, insight, "ledgrove-cli");
+    RangeArguments range;
+    CLI::App* const rows = AddCommand(app, "range", "ledgrove-cli range");
+    AddRangeOptions(*rows, folder, range, "ledgrove-cli");
     AddCommand(app, "report", "ledgrove-cli report");
     AddCommand(app, "chart", "ledgrove-cli chart");
     const SettingsActions settings = AddSettings(app, folder, setting);
@@ -182,6 +186,8 @@ int main(int argc, char** argv) {
     }
     if (*answers)
         return AnswerQuestions(*answers, folder, insight, words);
+    if (*rows)
+        return range.Command.Run(folder, range.Input);
     if (*settings.Get)
         return PrintSetting(folder, setting.Key);
     if (*settings.Set)

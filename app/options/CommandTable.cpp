@@ -60,6 +60,18 @@ constexpr std::array insightOptions{
     oneInput,
 };
 
+constexpr std::array rangeOptions{
+    OptionRow{
+        "--format", Value::Choice, "text|json|csv",
+        "text (default): a sentence and a table; json: one object; csv: a price list with a heading row"},
+    OptionRow{"--options", Value::Text, "LIST|all",
+              "A row for each of these mortgage options of the labelled home, separated by commas (default: "
+              "the one in the input)"},
+    OptionRow{"--no-limits", Value::None, "",
+              "Without the price up to which each row pays, which takes most of the time"},
+    oneInput,
+};
+
 constexpr std::array reportOptions{
     OptionRow{"--output", Value::Output, "OUT.pdf", "The PDF to write, *.pdf; \"-\" is standard output",
               true},
@@ -107,6 +119,8 @@ constexpr std::array commands{
     CommandRow{"ledgrove-cli insight",
                "Answer the questions that a comparison raises: how far it pays, who qualifies",
                insightOptions, "ledgrove-cli insight --view breakeven,qualify home.ledgrove.json"},
+    CommandRow{"ledgrove-cli range", "List every saved house for a buyer: cost, savings, who qualifies",
+               rangeOptions, "ledgrove-cli range --options all home.ledgrove.json"},
     CommandRow{"ledgrove-cli report", "Write the report of a comparison as PDF", reportOptions,
                "ledgrove-cli report --output comparison.pdf --buyer \"Pat Doe\" home.ledgrove.json"},
     CommandRow{"ledgrove-cli chart", "Write a chart of a comparison as a picture", chartOptions,

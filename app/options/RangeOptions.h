@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "app/batch/RangeCommand.h"
+#include "app/options/CommandLine.h"
+
+namespace Ledgrove {
+
+/// The command line of `range`, which ledgrove-cli and the program that writes its PDF both read.
+struct RangeArguments {
+    RangeCommand Command;
+    std::string Input = "-";
+};
+
+/// Adds the options of `range`. `folder` and `arguments` must outlive the parser.
+void AddRangeOptions(CLI::App& app, std::string& folder, RangeArguments& arguments,
+                     const std::string& program);
+
+} // namespace Ledgrove
