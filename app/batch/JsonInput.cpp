@@ -91,6 +91,9 @@ private:
     bool IsResultMember() {
         constexpr std::string_view members[] = {"labels",  "Scenario", "StdCase",
                                                 "GMHCase", "messages", "dataCheck"};
+        // What a comparison's file keeps beside its inputs.
+        if (m_depth == 1 && m_name == "versions")
+            return true;
         const bool isOne =
             m_depth == 1 && std::find(std::begin(members), std::end(members), m_name) != std::end(members);
         if (isOne)

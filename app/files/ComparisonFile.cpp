@@ -1,5 +1,8 @@
 #include "app/files/ComparisonFile.h"
 
+#include <fstream>
+#include <iterator>
+
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 
@@ -82,25 +85,60 @@ void ShowNotices(const Comparison& comparison, Host& host) {
     }
 }
 
-} // namespace
+using Writer = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
 
-std::string ComparisonText(const MainScreen& screen) {
-    const InputRecord inputs = ScreenInputs(screen);
-    rapidjson::StringBuffer buffer;
-    rapidjson::PrettyWriter<rapidjson::StringBuffer> writer(buffer);
-    writer.SetIndent(' ', 2);
+void WriteText(Writer& writer, std::string_view key, std::string_view text) {
+    writer.Key(key.data(), Length(key));
+    writer.String(text.data(), Length(text));
+}
+
+void WriteInputs(Writer& writer, const InputRecord& inputs) {
     writer.StartObject();
     for (const auto& [input, name] : InputTable) {
         const InputValue& value = inputs[input];
         if (!value.Present)
             continue;
-        writer.Key(name.data(), Length(name));
-        if (value.Kind == InputKind::Text)
-            writer.String(value.Text.data(), Length(value.Text));
-        else
+        if (value.Kind == InputKind::Text) {
+            WriteText(writer, name, value.Text);
+        } else {
+            writer.Key(name.data(), Length(name));
             writer.RawValue(value.Text.data(), value.Text.size(), rapidjson::kNumberType);
+        }
     }
     writer.EndObject();
+}
+
+void WriteWithVersions(Writer& writer, const InputRecord& inputs, const KeptVersions& versions) {
+    writer.StartObject();
+    writer.Key("fields");
+    WriteInputs(writer, inputs);
+    writer.Key("labels");
+    writer.StartObject();
+    writer.Key("versions");
+    writer.StartArray();
+    for (const KeptVersion& version : versions) {
+        writer.StartObject();
+        WriteText(writer, "name", version.Name);
+        WriteText(writer, "kept", version.Kept);
+        writer.Key("fields");
+        WriteInputs(writer, version.Inputs);
+        writer.EndObject();
+    }
+    writer.EndArray();
+    writer.EndObject();
+    writer.EndObject();
+}
+
+} // namespace
+
+std::string ComparisonText(const MainScreen& screen, const KeptVersions& versions) {
+    rapidjson::StringBuffer buffer;
+    Writer writer(buffer);
+    writer.SetIndent(' ', 2);
+    if (versions.empty())
+        WriteInputs(writer, ScreenInputs(screen));
+    else
+        WriteWithVersions(writer, ScreenInputs(screen), versions);
     return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
 }
 
@@ -124,6 +162,21 @@ std::optional<std::string> OpenComparison(const std::filesystem::path& file, Ses
     KeepStartTexts(session.Screen, start.Screen, input.Inputs);
     ShowNotices(comparison, host);
     return std::nullopt;
+}
+
+VersionsOfFile VersionsIn(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    return stream.bad() ? VersionsOfFile() : ReadVersions(text);
+}
+
+InputsResult ComparisonOf(const InputRecord& inputs, const Session& session, const Session& start) {
+    Comparison comparison(FreshSession(session, start));
+    if (const auto refusal = comparison.Run(inputs))
+        return {std::string(InputWords(refusal->Control)) + ' ' + Excerpt(refusal->Value) + ": " +
+                    refusal->Message,
+                {}};
+    return {"", comparison.State()};
 }
 
 } // namespace Ledgrove

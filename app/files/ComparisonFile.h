@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/files/KeptVersions.h"
 #include "engine/Host.h"
 #include "engine/Session.h"
 
@@ -13,8 +14,10 @@ namespace Ledgrove {
 
 inline constexpr std::string_view ComparisonSuffix = ".ledgrove.json";
 
-/// The screen's inputs as one JSON object, one input per line, in the order of entry.
-std::string ComparisonText(const MainScreen& screen);
+/// The screen's inputs as one JSON object, one input per line, in the order of entry. With versions, the
+/// inputs are its "fields", and the versions stand beside them among the "labels", which every reader of
+/// comparisons passes over.
+std::string ComparisonText(const MainScreen& screen, const KeptVersions& versions = {});
 
 /// Resets the inputs to those of `start`, a session after LoadMainScreen, and recalculates. Tables, settings,
 /// the report header and the selected tab do not change.
@@ -24,5 +27,16 @@ void NewComparison(Session& session, const Session& start, Host& host);
 /// file cannot be read or is not a comparison, returns a message and does not change the session.
 std::optional<std::string> OpenComparison(const std::filesystem::path& file, Session& session,
                                           const Session& start, Host& host);
+
+/// The versions in a comparison's file; none if it cannot be read.
+VersionsOfFile VersionsIn(const std::filesystem::path& file);
+
+/// The comparison of these inputs, computed with the session's tables, or a message why it cannot be.
+/// `inputs` may be a version's.
+struct InputsResult {
+    std::string Fault; ///< empty if there is a comparison
+    Session State;
+};
+InputsResult ComparisonOf(const InputRecord& inputs, const Session& session, const Session& start);
 
 } // namespace Ledgrove

@@ -1,13 +1,16 @@
 #include "app/windows/CurrentFile.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <algorithm>
 #include <utility>
 
 #include "app/files/ComparisonFile.h"
 #include "app/files/ScreenInputs.h"
+#include "base/Text.h"
 #include "ui/FirstSteps.h"
 #include "ui/windows/SafeFile.h"
 #include "ui/windows/UsersFolder.h"
@@ -30,6 +33,13 @@ QString DocumentsFolder() {
 
 bool IsUndecodable(const QString& file) {
     return file.contains(QChar::ReplacementCharacter) && !QFileInfo::exists(file);
+}
+
+std::string UnreadableVersions(const QString& file, std::size_t count) {
+    const std::string what = count == 1 ? "A version" : std::to_string(count) + " versions";
+    return what + " in " + Quoted(file.toStdString()) +
+           " cannot be read. The comparison and its other versions are open; the next save leaves out what "
+           "cannot be read.";
 }
 
 } // namespace
@@ -77,7 +87,8 @@ void CurrentFile::New() {
         return;
     NewComparison(m_session, m_start, m_outside);
     m_name.clear();
-    m_saved = ScreenInputs(m_session.Screen);
+    m_versions.clear();
+    TakeSaved();
     m_window.ShowAnew();
     StartEntering();
 }
@@ -100,7 +111,7 @@ void CurrentFile::OpenCopy(const QString& file) {
     if (!MayLoseInputs() || !Load(file))
         return;
     m_name.clear();
-    m_saved = ScreenInputs(m_session.Screen);
+    TakeSaved();
     ShowTitle();
 }
 
@@ -115,8 +126,12 @@ bool CurrentFile::Load(const QString& file) {
         Tell(*fault);
         return false;
     }
+    VersionsOfFile read = VersionsIn(path);
+    m_versions = std::move(read.Versions);
     m_window.ShowAnew();
     StartEntering();
+    if (read.Unreadable > 0)
+        Tell(UnreadableVersions(file, read.Unreadable));
     return true;
 }
 
@@ -133,7 +148,8 @@ bool CurrentFile::SaveAs() {
 bool CurrentFile::Write(const QString& file) {
     if (!m_window.CommitEntry())
         return false;
-    const QString fault = WriteWholeFile(file, QByteArray::fromStdString(ComparisonText(m_session.Screen)));
+    const QString fault =
+        WriteWholeFile(file, QByteArray::fromStdString(ComparisonText(m_session.Screen, m_versions)));
     if (!fault.isEmpty()) {
         Tell(fault.toStdString());
         return false;
@@ -145,8 +161,45 @@ bool CurrentFile::Write(const QString& file) {
 
 void CurrentFile::TakeName(const QString& file) {
     m_name = QFileInfo(file).absoluteFilePath();
-    m_saved = ScreenInputs(m_session.Screen);
+    TakeSaved();
     m_recent.Add(m_name);
+}
+
+void CurrentFile::TakeSaved() {
+    m_saved = ScreenInputs(m_session.Screen);
+    m_savedVersions = m_versions;
+}
+
+bool CurrentFile::KeepVersion() {
+    if (!m_window.CommitEntry())
+        return false;
+    const QString name = AskVersionName();
+    if (name.isEmpty())
+        return false;
+    const QString now = QDateTime::currentDateTime().toString("yyyy-MM-dd hh:mm");
+    m_versions.push_back({name.toStdString(), now.toStdString(), ScreenInputs(m_session.Screen)});
+    ShowTitle();
+    Save();
+    return true;
+}
+
+QString CurrentFile::AskVersionName() {
+    const auto isTaken = [this](const QString& name) {
+        return std::any_of(m_versions.begin(), m_versions.end(), [&name](const KeptVersion& version) {
+            return version.Name == name.toStdString();
+        });
+    };
+    auto number = m_versions.size() + 1;
+    QString name = QString("Version %1").arg(number);
+    while (isTaken(name))
+        name = QString("Version %1").arg(++number);
+    for (;;) {
+        name = m_questions.VersionName(m_window, name).trimmed();
+        if (!isTaken(name))
+            return name;
+        Tell(Quoted(name.toStdString()) + " is already the name of a version. Give this version another "
+                                          "name.");
+    }
 }
 
 void CurrentFile::StartEntering() {
@@ -159,7 +212,7 @@ bool CurrentFile::IsModified() const {
     // A new comparison without any figures needs no question.
     if (m_name.isEmpty() && IsUntouched(m_session.Screen))
         return false;
-    return ScreenInputs(m_session.Screen) != m_saved;
+    return ScreenInputs(m_session.Screen) != m_saved || m_versions != m_savedVersions;
 }
 
 bool CurrentFile::MayLoseInputs() {

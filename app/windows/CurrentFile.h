@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "app/batch/InputRecord.h"
+#include "app/files/KeptVersions.h"
 #include "app/windows/RecentFiles.h"
 #include "engine/Host.h"
 #include "engine/Session.h"
@@ -31,6 +32,11 @@ public:
     const QString& Name() const { return m_name; }
     RecentFiles& Recent() { return m_recent; }
 
+    /// The versions that were kept, oldest first.
+    const KeptVersions& Versions() const { return m_versions; }
+    /// The state that comparisons start from.
+    const Session& Start() const { return m_start; }
+
     /// The suggested name for an export: `name` with this ending, in the comparison's folder.
     QString NameBeside(const QString& ending) const;
 
@@ -45,6 +51,9 @@ public slots:
     /// False if nothing was saved: the user chose no name, or the fault has been reported.
     bool Save();
     bool SaveAs();
+    /// Asks for a name, keeps the inputs under it in the comparison's file, and saves. False if nothing was
+    /// kept. A version that could not be saved stays for the next save.
+    bool KeepVersion();
 
 protected:
     /// Asks before the window closes with unsaved inputs.
@@ -56,6 +65,8 @@ private:
     bool Load(const QString& file);
     bool Write(const QString& file);
     void TakeName(const QString& file);
+    void TakeSaved();
+    QString AskVersionName();
     void StartEntering();
     void ShowTitle();
     void Tell(const std::string& sentence);
@@ -68,6 +79,8 @@ private:
     FileQuestions m_questions;
     QString m_name;
     InputRecord m_saved; ///< the inputs in the file, or those of a new comparison
+    KeptVersions m_versions;
+    KeptVersions m_savedVersions;
 };
 
 } // namespace Ledgrove

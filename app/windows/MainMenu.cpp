@@ -82,6 +82,7 @@ void AddFileMenu(QMenuBar& bar, CurrentFile& file, const ExportContext& context)
     menu.addSeparator();
     AddCommand(menu, "&Save", QKeySequence::Save, [&file] { file.Save(); });
     AddCommand(menu, "Save &As…", QKeySequence("Ctrl+Shift+S"), [&file] { file.SaveAs(); });
+    AddCommand(menu, "&Keep This Version…", QKeySequence("Ctrl+K"), [&file] { file.KeepVersion(); });
     menu.addSeparator();
     // Ctrl+E and Ctrl+Shift+E move to the end of a field.
     AddCommand(menu, "&Export PDF…", QKeySequence("Ctrl+Shift+P"), [context] { ExportPdf(context); });

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include "base/FileKind.h"
@@ -49,10 +51,20 @@ SaveAnswer AskUnsaved(QWidget& above, const QString& name) {
     }
 }
 
+QString AskVersionName(QWidget& above, const QString& suggested) {
+    constexpr int longestName = 80;
+    QInputDialog dialog(&above);
+    dialog.setWindowTitle("Keep This Version");
+    dialog.setLabelText("&Name of this version, such as \"FHA, 10 % down\":");
+    dialog.setTextValue(suggested);
+    dialog.findChild<QLineEdit*>()->setMaxLength(longestName);
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
 } // namespace
 
 FileQuestions AskAtScreen() {
-    return {AskOpenName, AskSaveName, AskUnsaved};
+    return {AskOpenName, AskSaveName, AskUnsaved, AskVersionName};
 }
 
 QString NameToWrite(QWidget& above, const QString& typed, const QString& suffix) {

@@ -25,6 +25,8 @@ struct FileQuestions {
     std::function<QString(QWidget& above, const FileRequest&)> SaveName;
     /// Whether to save the unsaved inputs of `name`.
     std::function<SaveAnswer(QWidget& above, const QString& name)> Unsaved;
+    /// The name for a version of the comparison, "" if it is not to be kept.
+    std::function<QString(QWidget& above, const QString& suggested)> VersionName;
 };
 
 /// The questions as dialogs.

@@ -18,6 +18,10 @@ struct OpenDesktop : SettingsDesk, FormDriver {
             return NameToGive;
         };
         Questions.SaveName = Questions.OpenName;
+        Questions.VersionName = [this](QWidget&, const QString& suggested) {
+            SuggestedVersions += suggested;
+            return VersionNames.isEmpty() ? QString() : VersionNames.takeFirst();
+        };
         Questions.Unsaved = [this](QWidget&, const QString& name) {
             UnsavedNames += name;
             return Answer;
@@ -51,6 +55,8 @@ struct OpenDesktop : SettingsDesk, FormDriver {
     FileRequest Asked;
     SaveAnswer Answer = SaveAnswer::Cancel;
     QStringList UnsavedNames;
+    QStringList VersionNames; ///< to give, one after another; then none
+    QStringList SuggestedVersions;
     FileQuestions Questions;
     RecentFiles Recent;
     std::unique_ptr<frmMain> Window;
