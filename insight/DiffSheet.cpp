@@ -1,0 +1,123 @@
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <utility>
+
+#include "engine/NumberText.h"
+#include "insight/Diff.h"
+#include "insight/ExplainWords.h"
+
+namespace Ledgrove {
+
+namespace {
+
+constexpr std::pair<std::string_view, std::string_view> ownCaptions[] = {
+    {"StdCase.Qualifies", "Buyer Qualifies?, Base Home"},
+    {"GMHCase.Qualifies", "Buyer Qualifies?, GREENMARK Home"},
+    {"Shown.Net", "Monthly Net"},
+    {"Shown.PurchaseToday", "Purchase Today"}};
+
+/// Whether the buyer qualifies is not an amount: a change from "*NO" to "YES" is 100 %.
+bool IsYesOrNo(const DiffFigure& figure) {
+    return figure.Figure.ends_with(".Qualifies");
+}
+
+SheetCell ValueCell(const DiffFigure& figure, double value) {
+    if (IsYesOrNo(figure))
+        return {Module1::FormatPicture(value * 100, "#0") + "%", value, CellUnit::Percent};
+    return {ValueText(value, CellUnit::Dollars), value, CellUnit::Dollars};
+}
+
+SheetCell ChangeCell(const DiffFigure& figure, double change) {
+    // What rounds to $0.00 or 0% has no sign.
+    constexpr double least = 0.005;
+    SheetCell cell = ValueCell(figure, std::fabs(change) < least ? 0 : change);
+    if (change >= least)
+        cell.Text.insert(0, "+");
+    cell.Number = change;
+    return cell;
+}
+
+std::string Count(std::size_t number, const std::string& one, const std::string& more) {
+    return std::to_string(number) + " " + (number == 1 ? one : more);
+}
+
+SheetCell InputCell(const DiffInput& input, const std::string& text) {
+    if (input.Input == "chkDoTax0")
+        return TextCell(text == "true" ? "included" : "not included");
+    return TextCell(text.empty() ? "(empty)" : text);
+}
+
+std::size_t LargestPart(const std::vector<double>& parts) {
+    const auto largest = std::max_element(parts.begin(), parts.end(),
+                                          [](double a, double b) { return std::fabs(a) < std::fabs(b); });
+    return static_cast<std::size_t>(largest - parts.begin());
+}
+
+std::string PartsSentence(const Diff& diff, const DiffFigure& figure) {
+    std::string sentence =
+        DiffCaption(figure.Figure) + " goes from " + figure.TextA + " to " + figure.TextB + ".";
+    if (!figure.Parts)
+        return sentence + " The parts of the change are unknown: some inputs of the one comparison cannot be "
+                          "computed with those of the other.";
+    const std::size_t largest = LargestPart(*figure.Parts);
+    return sentence + " " + std::string(diff.Inputs[largest].Caption) +
+           " contributes the most: " + ChangeCell(figure, (*figure.Parts)[largest]).Text + ".";
+}
+
+} // namespace
+
+std::string DiffCaption(std::string_view figure) {
+    const auto* const own = std::find_if(std::begin(ownCaptions), std::end(ownCaptions),
+                                         [figure](const auto& row) { return row.first == figure; });
+    return own == std::end(ownCaptions) ? CaptionOfFigure(figure) : std::string(own->second);
+}
+
+Sheet DiffInputsSheet(const Diff& diff) {
+    Sheet sheet;
+    sheet.Title = "Inputs that differ";
+    sheet.Sentence = diff.Inputs.empty() ? "Both comparisons have the same inputs."
+                                         : Count(diff.Inputs.size(), "input differs", "inputs differ") + ".";
+    sheet.Heads = {"Input", "A", "B"};
+    for (const DiffInput& input : diff.Inputs)
+        sheet.Rows.push_back(
+            {TextCell(std::string(input.Caption)), InputCell(input, input.A), InputCell(input, input.B)});
+    return sheet;
+}
+
+Sheet DiffFiguresSheet(const Diff& diff) {
+    Sheet sheet;
+    sheet.Title = "Figures that change";
+    sheet.Sentence = diff.Figures.empty()
+                         ? "No figure changes."
+                         : Count(diff.Figures.size(), "figure changes", "figures change") + ".";
+    sheet.Heads = {"Figure", "A", "B", "Change"};
+    for (const DiffFigure& figure : diff.Figures)
+        sheet.Rows.push_back({TextCell(DiffCaption(figure.Figure)), TextCell(figure.TextA),
+                              TextCell(figure.TextB),
+                              IsYesOrNo(figure) ? SheetCell() : ChangeCell(figure, figure.Change())});
+    return sheet;
+}
+
+Sheet DiffPartsSheet(const Diff& diff, const DiffFigure& figure) {
+    Sheet sheet;
+    sheet.Title = "Parts of the change";
+    sheet.Sentence = PartsSentence(diff, figure);
+    sheet.Heads = {"Input", "A", "B", "Change", "Total"};
+    sheet.Rows.push_back({TextCell("In A"), {}, {}, {}, ValueCell(figure, figure.A)});
+    double total = figure.A;
+    for (std::size_t at = 0; figure.Parts && at < diff.Inputs.size(); ++at) {
+        const DiffInput& input = diff.Inputs[at];
+        const double part = (*figure.Parts)[at];
+        total += part;
+        sheet.Rows.push_back(
+            {TextCell(std::string(input.Caption), part == 0 ? CellMark::Idle : CellMark::None),
+             InputCell(input, input.A), InputCell(input, input.B), ChangeCell(figure, part),
+             ValueCell(figure, total)});
+    }
+    sheet.Rows.push_back(
+        {TextCell("In B"), {}, {}, ChangeCell(figure, figure.Change()), ValueCell(figure, figure.B)});
+    return sheet;
+}
+
+} // namespace Ledgrove
