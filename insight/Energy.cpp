@@ -49,7 +49,9 @@ EnergyGrowth ComputeEnergy(const YearByYear& years) {
     for (std::size_t i = 0; i < EnergyRates.size(); ++i)
         view.Cumulative[i] = CumulativeAt(years, EnergyRates[i], static_cast<int>(years.Years.size()));
     view.Needed = NeededGrowth(years);
+    view.ExtraCash = years.ExtraCash;
     view.InHome = years.InHome;
+    view.By = years.By;
     return view;
 }
 

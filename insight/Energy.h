@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "insight/Insight.h"
@@ -20,11 +21,16 @@ struct EnergyGrowth {
     /// The least growth per year, in steps of 0.0001, with which the buyer does not lose in the years in the
     /// home; empty if 0.20 is not enough.
     std::optional<double> Needed;
-    int InHome = 1; ///< the years in the home
+    double ExtraCash = 0; ///< what the labelled home takes more on the first day, in dollars
+    int InHome = 1;       ///< the years in the home
+    YearSettings By;      ///< of the years view; its growth of the utility bills is replaced
 };
 
 /// `years` are the insight's; the insight must not be missing.
 EnergyGrowth ComputeEnergy(const YearByYear& years);
+
+/// "needed: at least 3.42% a year", or that no growth is, or that none is enough.
+std::string NeededText(const EnergyGrowth& energy);
 
 Sheet EnergySheet(const EnergyGrowth& energy);
 

@@ -6,18 +6,19 @@ namespace Ledgrove {
 
 namespace {
 
-std::string SentenceOf(const EnergyGrowth& energy) {
+std::string GrowthNeeded(double growth) {
     constexpr double most = 0.10;
+    return growth > most ? "more than 10 % a year"
+                         : "at least " + Module1::FormatPicture(growth * 100, "0.00") + "% a year";
+}
+
+std::string SentenceOf(const EnergyGrowth& energy) {
     const std::string ahead = "for the buyer to be ahead after " + YearsText(energy.InHome) + ".";
     if (!energy.Needed)
         return "Not even utility bills that rise by 20% a year are enough " + ahead;
     if (*energy.Needed == 0)
         return "Utility bills need not rise " + ahead;
-    const std::string growth =
-        *energy.Needed > most
-            ? "more than 10 % a year"
-            : "at least " + Module1::FormatPicture(*energy.Needed * 100, "0.00") + "% a year";
-    return "Utility bills have to rise by " + growth + " " + ahead;
+    return "Utility bills have to rise by " + GrowthNeeded(*energy.Needed) + " " + ahead;
 }
 
 /// The years in the home, and every fifth year.
@@ -33,12 +34,19 @@ std::vector<int> ShownYears(const EnergyGrowth& energy) {
 
 } // namespace
 
+std::string NeededText(const EnergyGrowth& energy) {
+    if (!energy.Needed)
+        return "not even 20% a year is enough";
+    return *energy.Needed == 0 ? "no growth is needed" : "needed: " + GrowthNeeded(*energy.Needed);
+}
+
 Sheet EnergySheet(const EnergyGrowth& energy) {
     const std::vector<int> shown = ShownYears(energy);
     Sheet sheet;
     sheet.Title = "Energy prices";
     sheet.Sentence =
         SentenceOf(energy) + " The table shows by how much the buyer is ahead at the end of a year.";
+    sheet.Note = HomeGrowthText(energy.By.HomeGrowth);
     sheet.Heads.emplace_back("Bills Rise By");
     for (const int year : shown)
         sheet.Heads.push_back("Year " + std::to_string(year));

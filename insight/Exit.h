@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "insight/Insight.h"
@@ -35,6 +36,9 @@ SaleYear SaleAfter(const Insight& insight, const YearByYear& years, int year, do
 
 /// `years` are the insight's; the insight must not be missing.
 SaleByYear ComputeExit(const Insight& insight, const YearByYear& years);
+
+/// What the sale after the years in the home leaves.
+std::string SaleSentence(const SaleByYear& exit);
 
 Sheet ExitSheet(const Insight& insight, const SaleByYear& exit);
 

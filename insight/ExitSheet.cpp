@@ -9,22 +9,6 @@ std::string MoreOrLess(double amount) {
     return DollarText(amount < 0 ? -amount : amount) + (amount < 0 ? " less" : " more");
 }
 
-std::string ResultSentence(const SaleYear& end) {
-    return "If the home is sold after " + YearsText(end.Year) + ", the GREENMARK home leaves " +
-           MoreOrLess(end.Difference()) + " from the sale; with what it costs and saves " +
-           "until then, the buyer has " + MoreOrLess(end.Total()) + " than with the base home.";
-}
-
-std::string AssumedSentence(const YearSettings& settings) {
-    const std::string prices = settings.Appreciation == 0 ? "home prices stay as they are"
-                               : settings.Appreciation > 0
-                                   ? "home prices rise by " + RateText(settings.Appreciation) + " a year"
-                                   : "home prices fall by " + RateText(-settings.Appreciation) + " a year";
-    return " This assumes that " + prices + ", that selling costs " + RateText(settings.SellingCost) +
-           " of the price, and that the GREENMARK home keeps " + RateText(settings.PremiumKept) +
-           " of the price difference.";
-}
-
 std::string ShareSentence(const SaleByYear& exit) {
     if (!exit.Share)
         return " Not even all of the price difference is enough for the buyer not to lose.";
@@ -42,12 +26,20 @@ SheetCell ProceedsCell(double amount) {
 
 } // namespace
 
+std::string SaleSentence(const SaleByYear& exit) {
+    const SaleYear& end = exit.AtEnd;
+    return "If the home is sold after " + YearsText(end.Year) + ", the GREENMARK home leaves " +
+           MoreOrLess(end.Difference()) + " from the sale; with what it costs and saves " +
+           "until then, the buyer has " + MoreOrLess(end.Total()) + " than with the base home.";
+}
+
 Sheet ExitSheet(const Insight& insight, const SaleByYear& exit) {
     Sheet sheet;
     sheet.Title = "If the home is sold";
-    sheet.Sentence = ResultSentence(exit.AtEnd) + AssumedSentence(insight.By().Years);
+    sheet.Sentence = SaleSentence(exit) + " " + SaleText(insight.By().Years);
     if (insight.Record().Scenario.PriceDifference > 0)
         sheet.Sentence += ShareSentence(exit);
+    sheet.Note = GrowthText(insight.By().Years);
     sheet.Heads = {"After Year", "Base Proceeds", "GREENMARK Proceeds", "Difference", "Saved", "Total"};
     for (const SaleYear& year : exit.Years) {
         sheet.Rows.push_back(

@@ -19,6 +19,7 @@ enum class CellMark : std::uint8_t {
     Best,    ///< the best of its column
     Current, ///< what is chosen now
     Bad,     ///< below 0, or does not qualify
+    Turn,    ///< something changes here for good
     Idle     ///< does not move the result
 };
 
@@ -45,6 +46,7 @@ struct Sheet {
     std::vector<std::vector<SheetCell>> Rows;
     /// The columns after the first that hold sentences: they begin on the left.
     std::vector<std::size_t> Words = {};
+    std::string Note = {}; ///< stands below the table: what the answer assumes, and what it is not
 };
 
 /// Whether a cell of the table has this mark.

@@ -22,8 +22,8 @@ FlowRow MonthRow(const YearByYear& years, int month, double utilityFactor, doubl
 }
 
 void AppendYear(YearByYear& years, int number, double& cumulative) {
-    const double utilityFactor = std::pow(1 + years.UtilityGrowth, number - 1);
-    const double homeFactor = std::pow(1 + years.HomeGrowth, number - 1);
+    const double utilityFactor = std::pow(1 + years.By.UtilityGrowth, number - 1);
+    const double homeFactor = std::pow(1 + years.By.HomeGrowth, number - 1);
     FlowRow& year = years.Years.emplace_back();
     year.Number = number;
     for (int month = 12 * number - 11; month <= 12 * number; ++month) {
@@ -77,10 +77,8 @@ void ComputeReturns(const Insight& insight, YearByYear& years) {
 
 YearByYear ComputeYears(const Insight& insight) {
     const int rows = std::max(leastRows, int{insight.Now().TermYears});
-    const YearSettings& settings = insight.By().Years;
     YearByYear years;
-    years.UtilityGrowth = settings.UtilityGrowth;
-    years.HomeGrowth = settings.HomeGrowth;
+    years.By = insight.By().Years;
     years.ExtraCash = static_cast<double>(insight.Record().Scenario.ExtraCashToday);
     years.InHome = std::clamp(int{insight.By().Assumptions.YearsInHome}, 1, rows);
     years.Std = PlanOf(insight, HomeCode::Std);

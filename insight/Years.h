@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -23,10 +24,9 @@ struct FlowRow {
 };
 
 struct YearByYear {
-    double UtilityGrowth = 0; ///< per year, fraction
-    double HomeGrowth = 0;    ///< of property tax and insurance
-    double ExtraCash = 0;     ///< what the labelled home takes more on the first day, in dollars
-    int InHome = 1;           ///< the years in the home, at least 1 and at most the number of rows
+    YearSettings By;      ///< the settings that the years go by
+    double ExtraCash = 0; ///< what the labelled home takes more on the first day, in dollars
+    int InHome = 1;       ///< the years in the home, at least 1 and at most the number of rows
     HomePlan Std;
     HomePlan GMH;
     std::vector<FlowRow> Years;  ///< as many as the term has, at least 30
@@ -48,9 +48,23 @@ std::span<const FlowRow> MonthsOf(const YearByYear& years, int year);
 /// Where nothing is lost any more: a cumulative amount within half a cent of 0.
 inline constexpr double EvenFrom = -0.005;
 
-Sheet YearsSheet(const YearByYear& years);
+/// Where something changes for good: mortgage insurance ends, or the buyer is ahead from then on.
+struct YearsEvent {
+    int Month = 0;    ///< 0 is today
+    std::string Text; ///< "base: no PMI from month 93"
+};
+
+/// What changes in the months from `first` to `last`, in their order.
+std::vector<YearsEvent> EventsBetween(const YearByYear& years, int first, int last);
+
+enum class FlowColumns : std::uint8_t {
+    Main, ///< what fits on paper
+    All   ///< every figure of both homes
+};
+
+Sheet YearsSheet(const YearByYear& years, FlowColumns columns = FlowColumns::Main);
 
 /// The months of one year, which must have a row, in the columns of YearsSheet.
-Sheet YearMonthsSheet(const YearByYear& years, int year);
+Sheet YearMonthsSheet(const YearByYear& years, int year, FlowColumns columns = FlowColumns::Main);
 
 } // namespace Ledgrove

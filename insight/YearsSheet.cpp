@@ -1,3 +1,4 @@
+#include <array>
 #include <utility>
 
 #include "insight/Years.h"
@@ -42,64 +43,127 @@ bool EndsPMI(const HomePlan& plan, int month) {
     return plan.PMIEnd == month && month > 1 && month <= plan.Periods();
 }
 
-void AppendEvent(std::string& events, const std::string& event) {
-    events += (events.empty() ? "" : "; ") + event;
+/// The months in which PMI ends, as one event if both homes share the month.
+void AddPMIEnds(const YearByYear& years, int month, std::vector<YearsEvent>& events) {
+    const bool std = EndsPMI(years.Std, month);
+    const bool gmh = EndsPMI(years.GMH, month);
+    if (!std && !gmh)
+        return;
+    const std::string what = std && gmh ? "no PMI " : std ? "base: no PMI " : "GREENMARK: no PMI ";
+    events.push_back({month, what + FromMonthText(month)});
 }
 
-/// What changes in the months from `first` to `last`.
-std::string EventsBetween(const YearByYear& years, int first, int last) {
-    std::string events;
-    for (int month = first; month <= last; ++month) {
-        const bool std = EndsPMI(years.Std, month);
-        const bool gmh = EndsPMI(years.GMH, month);
-        const std::string from = " " + FromMonthText(month);
-        if (std || gmh)
-            AppendEvent(events,
-                        std && gmh ? "no PMI" + from : (std ? "base: no PMI" : "GREENMARK: no PMI") + from);
-        if (years.Ahead == month || (years.Ahead == 0 && month == 1))
-            AppendEvent(events, "ahead " + FromMonthText(*years.Ahead));
+/// The events of a row in its last column.
+std::string EventsText(const YearByYear& years, int first, int last) {
+    std::string text;
+    // What holds from today on stands in the first row.
+    for (const YearsEvent& event : EventsBetween(years, first == 1 ? 0 : first, last))
+        text += (text.empty() ? "" : "; ") + event.Text;
+    return text;
+}
+
+/// A figure of one home in a column of its own.
+struct FlowFigure {
+    const char* Head;
+    double HomeFlow::*Member;
+};
+
+constexpr std::array<FlowFigure, 9> flowFigures{{{"Cost", &HomeFlow::Cost},
+                                                 {"Interest", &HomeFlow::Interest},
+                                                 {"Principal", &HomeFlow::Principal},
+                                                 {"Balance", &HomeFlow::Balance},
+                                                 {"PMI", &HomeFlow::PMI},
+                                                 {"Property Tax", &HomeFlow::Tax},
+                                                 {"Insurance", &HomeFlow::Insurance},
+                                                 {"Utilities", &HomeFlow::Utilities},
+                                                 {"Tax Effect", &HomeFlow::TaxEffect}}};
+
+/// The rows of a table while it is being filled.
+class FlowTable {
+public:
+    FlowTable(const char* numbers, FlowColumns columns)
+        : m_columns(columns) {
+        if (columns == FlowColumns::Main) {
+            m_sheet.Heads = {numbers,    "Base Cost", "Interest", "PMI",    "Balance",  "GREENMARK Cost",
+                             "Interest", "PMI",       "Balance",  "Saving", "Ahead By", "What Changes"};
+            m_sheet.Words = {m_sheet.Heads.size() - 1};
+            return;
+        }
+        m_sheet.Heads = {numbers, "Saving", "Ahead By", "What Changes"};
+        m_sheet.Words = {m_sheet.Heads.size() - 1};
+        for (const char* const home : {"Base ", "GREENMARK "})
+            for (const FlowFigure& figure : flowFigures)
+                m_sheet.Heads.push_back(home + std::string(figure.Head));
     }
-    return events;
-}
 
-Sheet EmptySheet(const char* numbers) {
-    Sheet sheet;
-    sheet.Heads = {numbers,    "Base Cost", "Interest", "PMI",    "Balance",  "GREENMARK Cost",
-                   "Interest", "PMI",       "Balance",  "Saving", "Ahead By", "What Changes"};
-    return sheet;
-}
-
-void AppendRow(Sheet& sheet, const FlowRow& row, std::string events) {
-    std::vector<SheetCell> cells{
-        {std::to_string(row.Number), static_cast<double>(row.Number), CellUnit::Text, CellMark::None}};
-    for (const HomeFlow* const home : {&row.Std, &row.GMH}) {
-        for (const double amount : {home->Cost, home->Interest, home->PMI, home->Balance})
-            cells.push_back(DollarCell(amount));
+    void Append(const FlowRow& row, std::string events) {
+        const CellMark mark = events.empty() ? CellMark::None : CellMark::Turn;
+        auto& cells = m_sheet.Rows.emplace_back();
+        cells.push_back({std::to_string(row.Number), static_cast<double>(row.Number), CellUnit::Text, mark});
+        if (m_columns == FlowColumns::Main)
+            AppendMain(row, cells);
+        cells.push_back(DollarCell(row.Saving));
+        cells.push_back(DollarCell(row.Cumulative));
+        cells.push_back(TextCell(std::move(events), mark));
+        if (m_columns == FlowColumns::All)
+            AppendAll(row, cells);
     }
-    cells.push_back(DollarCell(row.Saving));
-    cells.push_back(DollarCell(row.Cumulative));
-    cells.push_back(TextCell(std::move(events)));
-    sheet.Rows.push_back(std::move(cells));
+
+    Sheet& Filled() { return m_sheet; }
+
+private:
+    static void AppendMain(const FlowRow& row, std::vector<SheetCell>& cells) {
+        for (const HomeFlow* const home : {&row.Std, &row.GMH})
+            for (const double amount : {home->Cost, home->Interest, home->PMI, home->Balance})
+                cells.push_back(DollarCell(amount));
+    }
+
+    static void AppendAll(const FlowRow& row, std::vector<SheetCell>& cells) {
+        for (const HomeFlow* const home : {&row.Std, &row.GMH})
+            for (const FlowFigure& figure : flowFigures)
+                cells.push_back(DollarCell(home->*figure.Member));
+    }
+
+    FlowColumns m_columns;
+    Sheet m_sheet;
+};
+
+std::string NoteOf(const YearByYear& years) {
+    return years.Sentence + " " + GrowthText(years.By) +
+           (years.IRRWithSale ? " The return with the sale: " + SaleText(years.By) : "");
 }
 
 } // namespace
 
-Sheet YearsSheet(const YearByYear& years) {
-    Sheet sheet = EmptySheet("Year");
-    sheet.Title = "Year by year";
-    sheet.Sentence =
-        AheadSentence(years) + ReturnSentence(years) + WorthSentence(years) + " " + years.Sentence;
+std::vector<YearsEvent> EventsBetween(const YearByYear& years, int first, int last) {
+    std::vector<YearsEvent> events;
+    for (int month = first; month <= last; ++month) {
+        AddPMIEnds(years, month, events);
+        if (years.Ahead == month)
+            events.push_back({month, "ahead " + FromMonthText(month)});
+    }
+    return events;
+}
+
+Sheet YearsSheet(const YearByYear& years, FlowColumns columns) {
+    FlowTable table("Year", columns);
     for (const FlowRow& row : years.Years)
-        AppendRow(sheet, row, EventsBetween(years, 12 * row.Number - 11, 12 * row.Number));
+        table.Append(row, EventsText(years, 12 * row.Number - 11, 12 * row.Number));
+    Sheet sheet = std::move(table.Filled());
+    sheet.Title = "Year by year";
+    sheet.Sentence = AheadSentence(years) + ReturnSentence(years) + WorthSentence(years);
+    sheet.Note = NoteOf(years);
     return sheet;
 }
 
-Sheet YearMonthsSheet(const YearByYear& years, int year) {
-    Sheet sheet = EmptySheet("Month");
+Sheet YearMonthsSheet(const YearByYear& years, int year, FlowColumns columns) {
+    FlowTable table("Month", columns);
+    for (const FlowRow& row : MonthsOf(years, year))
+        table.Append(row, EventsText(years, row.Number, row.Number));
+    Sheet sheet = std::move(table.Filled());
     sheet.Title = "Month by month";
     sheet.Sentence = "Year " + std::to_string(year) + ", month by month.";
-    for (const FlowRow& row : MonthsOf(years, year))
-        AppendRow(sheet, row, EventsBetween(years, row.Number, row.Number));
+    sheet.Note = NoteOf(years);
     return sheet;
 }
 

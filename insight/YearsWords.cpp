@@ -19,6 +19,35 @@ std::string RateText(double rate) {
     return text + "%";
 }
 
+namespace {
+
+/// "utility bills rise by 2% a year".
+std::string Growing(const std::string& what, double growth) {
+    if (growth == 0)
+        return what + " stay as they are";
+    return what + (growth > 0 ? " rise by " : " fall by ") + RateText(growth < 0 ? -growth : growth) +
+           " a year";
+}
+
+constexpr const char* taxAndInsurance = "property tax and insurance";
+
+} // namespace
+
+std::string GrowthText(const YearSettings& settings) {
+    return "This assumes that " + Growing("utility bills", settings.UtilityGrowth) + " and that " +
+           Growing(taxAndInsurance, settings.HomeGrowth) + ".";
+}
+
+std::string HomeGrowthText(double growth) {
+    return "This assumes that " + Growing(taxAndInsurance, growth) + ".";
+}
+
+std::string SaleText(const YearSettings& settings) {
+    return "This assumes that " + Growing("home prices", settings.Appreciation) + ", that selling costs " +
+           RateText(settings.SellingCost) + " of the price, and that the GREENMARK home keeps " +
+           RateText(settings.PremiumKept) + " of the price difference.";
+}
+
 std::string ReturnText(double rate) {
     const std::string size = rate > 1 ? "over 100 %" : Module1::FormatPicture(rate * 100, "##0.0") + "%";
     return size + " a year on the extra down payment alone";

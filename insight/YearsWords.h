@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "engine/YearSettings.h"
+
 // Years, months and rates in the words of a buyer.
 namespace Ledgrove {
 
@@ -13,6 +15,15 @@ std::string FromMonthText(int month);
 
 /// A fraction: "4.25%", "22%".
 std::string RateText(double rate);
+
+/// What the years assume about bills and taxes, as a sentence.
+std::string GrowthText(const YearSettings& settings);
+
+/// The same about property tax and insurance alone; the argument is their growth a year as a fraction.
+std::string HomeGrowthText(double growth);
+
+/// What a sale assumes, as a sentence.
+std::string SaleText(const YearSettings& settings);
 
 /// A return per year as a fraction, with what it is on.
 std::string ReturnText(double rate);

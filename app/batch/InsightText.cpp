@@ -117,6 +117,8 @@ void AppendSheetText(std::string& out, const Sheet& sheet) {
         out += "* the best of its column\n";
     if (HasMark(sheet, CellMark::Current))
         out += "> chosen now\n";
+    if (!sheet.Note.empty())
+        AppendWrapped(out += '\n', sheet.Note);
 }
 
 } // namespace Ledgrove

@@ -44,8 +44,8 @@ void WriteYears(Writer& json, const YearByYear& years) {
     json.StartObject();
     Key(json, "growth");
     json.StartObject();
-    Member(json, "utilities", years.UtilityGrowth);
-    Member(json, "home", years.HomeGrowth);
+    Member(json, "utilities", years.By.UtilityGrowth);
+    Member(json, "home", years.By.HomeGrowth);
     json.EndObject();
     Key(json, "years");
     json.StartArray();
