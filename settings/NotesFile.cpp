@@ -107,24 +107,35 @@ bool IsSameValue(std::string_view a, std::string_view b) {
     }
 }
 
+AssumptionNote ReadNoteOf(const FileLines& lines, const NotedKey& key, year_month_day today) {
+    AssumptionNote note;
+    const std::string value = ValueNow(lines, key);
+    note.Key = key.Key;
+    note.Value = DecodeWindows1252(value);
+    const auto line = LastLineOf(lines, key.Note);
+    note.IsNoted = line && IsNote(ValueOf(lines[*line].Text, key.Note));
+    if (!note.IsNoted)
+        return note;
+    const NoteParts parts = *PartsOf(ValueOf(lines[*line].Text, key.Note));
+    note.Date = std::string(parts.Date);
+    note.Source = DecodeWindows1252(parts.Source);
+    note.IsOwn = !IsSameValue(value, parts.Value);
+    note.IsOld = !note.IsOwn && IsOlder(parts.Date, today);
+    return note;
+}
+
 } // namespace
 
-std::vector<AssumptionNote> ReadNotes(const FileLines& lines, std::chrono::year_month_day today) {
+std::vector<AssumptionNote> ReadAllNotes(const FileLines& lines, std::chrono::year_month_day today) {
     std::vector<AssumptionNote> notes;
-    for (const NotedKey& key : NotedKeys) {
-        const auto line = LastLineOf(lines, key.Note);
-        if (!line || !IsNote(ValueOf(lines[*line].Text, key.Note)))
-            continue;
-        const NoteParts parts = *PartsOf(ValueOf(lines[*line].Text, key.Note));
-        AssumptionNote& note = notes.emplace_back();
-        const std::string value = ValueNow(lines, key);
-        note.Key = key.Key;
-        note.Value = DecodeWindows1252(value);
-        note.Date = std::string(parts.Date);
-        note.Source = DecodeWindows1252(parts.Source);
-        note.IsOwn = !IsSameValue(value, parts.Value);
-        note.IsOld = !note.IsOwn && IsOlder(parts.Date, today);
-    }
+    for (const NotedKey& key : NotedKeys)
+        notes.push_back(ReadNoteOf(lines, key, today));
+    return notes;
+}
+
+std::vector<AssumptionNote> ReadNotes(const FileLines& lines, std::chrono::year_month_day today) {
+    std::vector<AssumptionNote> notes = ReadAllNotes(lines, today);
+    std::erase_if(notes, [](const AssumptionNote& note) { return !note.IsNoted; });
     return notes;
 }
 

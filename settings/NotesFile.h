@@ -16,6 +16,7 @@ namespace Ledgrove {
 struct AssumptionNote {
     std::string_view Key; ///< of the assumption, "PMI_MULT1"
     std::string Value;    ///< now; the lines of a list joined by ";", "" without a line
+    bool IsNoted = false; ///< the file has a note that can be read; without one, nothing below is known
     std::string Date;     ///< of the shipped value: "2018-07-09", "2018-07", "2018", or "" if unknown
     std::string Source;   ///< of the shipped value
     bool IsOwn = false;   ///< the value is not the shipped one, so that date and source are not its own
@@ -54,6 +55,9 @@ inline constexpr std::array<NotedKey, 22> NotedKeys{{{"LOANTYPE", "NOTE_LOANTYPE
 /// The notes of the file in the order of NotedKeys, of each key the last. A note that cannot be read is left
 /// out.
 std::vector<AssumptionNote> ReadNotes(const FileLines& lines, std::chrono::year_month_day today);
+
+/// One for each of NotedKeys, also for keys without a note.
+std::vector<AssumptionNote> ReadAllNotes(const FileLines& lines, std::chrono::year_month_day today);
 
 /// Whether a note's value has three parts, of which the second is a date or empty.
 bool IsNote(std::string_view value);

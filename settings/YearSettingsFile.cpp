@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace Ledgrove {
 
@@ -42,6 +43,14 @@ std::optional<double> ReadYearValue(const YearSetting& setting, std::string_view
 
 std::string DefaultYearText(const YearSetting& setting) {
     return PlainNumber(YearSettings().*setting.Value * setting.Divisor);
+}
+
+std::string ShownYearValue(const YearSetting& setting, const YearSettings& settings) {
+    const double number = settings.*setting.Value * setting.Divisor;
+    if (setting.IsPercent())
+        return Module1::FormatPicture(number, "0.00######") + '%';
+    const bool isWhole = number == std::floor(number);
+    return Module1::FormatPicture(number, isWhole ? "$#,###,###,##0" : "$#,###,###,##0.00");
 }
 
 std::string WantedYearValue(const YearSetting& setting) {
@@ -85,10 +94,11 @@ std::optional<SettingsFault> LoadYearSettings(const SettingsFile& file, YearSett
     return std::nullopt;
 }
 
-std::optional<SettingsFault> WriteYearSettings(SettingsDraft& draft, const YearSettingTexts& texts) {
+std::optional<SettingsFault> WriteYearSettings(SettingsDraft& draft,
+                                               std::span<const YearSettingEntry> texts) {
     RewritePlan plan;
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        plan.Rules.push_back(ReplaceOrAppend(YearSettingTable[i].Key, WithoutSigns(texts[i])));
+    for (const YearSettingEntry& text : texts)
+        plan.Rules.push_back(ReplaceOrAppend(text.Setting->Key, WithoutSigns(text.Text)));
     return draft.Apply(std::move(plan));
 }
 

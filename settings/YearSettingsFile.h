@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -48,6 +49,9 @@ std::optional<double> ReadYearValue(const YearSetting& setting, std::string_view
 /// The value without a line, as plain text in the file's unit.
 std::string DefaultYearText(const YearSetting& setting);
 
+/// The value in force as a field shows it: "6.00%", "$32,200". A percentage has at least two decimals.
+std::string ShownYearValue(const YearSetting& setting, const YearSettings& settings);
+
 /// What the value has to be: "a percentage from 0 to 100".
 std::string WantedYearValue(const YearSetting& setting);
 
@@ -61,11 +65,14 @@ YearSettings ReadYearSettings(const FileLines& lines);
 /// The same from the file; on a fault the settings do not change.
 std::optional<SettingsFault> LoadYearSettings(const SettingsFile& file, YearSettings& settings);
 
-/// The texts of the settings in the order of the table, as fields show them: "6.00%", "$32,200".
-using YearSettingTexts = std::array<std::string, YearSettingTable.size()>;
+/// A setting with its new text, as a field shows it: "6.00%", "$32,200".
+struct YearSettingEntry {
+    const YearSetting* Setting = nullptr;
+    std::string Text;
+};
 
-/// Replaces or appends the keys, without "%", "$" and commas.
-std::optional<SettingsFault> WriteYearSettings(SettingsDraft& draft, const YearSettingTexts& texts);
+/// Replaces or appends these keys, without "%", "$" and commas, and changes no other line.
+std::optional<SettingsFault> WriteYearSettings(SettingsDraft& draft, std::span<const YearSettingEntry> texts);
 
 /// The key's value in force, plain and in the file's unit. A last line that cannot be used is a fault.
 Outcome<std::string> YearSettingText(const SettingsFile& file, const FileLines& lines,

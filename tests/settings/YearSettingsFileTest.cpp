@@ -86,14 +86,41 @@ TEST_F(YearSettingsFileTest, SetTakesWhatTheReaderUses) {
 
 TEST_F(YearSettingsFileTest, SavesOnlyItsKeys) {
     Given("EXIT_SELLING_COST=6.00\nOTHER=x\r\nPMI_MULT1=0.0087\rEXIT_SELLING_COST=7");
-    const YearSettingTexts texts{"3.00%",   "0.00%",   "1.50%", "50%", "5.50%",
+    const char* const shown[] = {"3.00%",   "0.00%",   "1.50%", "50%", "5.50%",
                                  "$16,100", "$10,000", "$0",    "$0",  "$750,000"};
+    std::vector<YearSettingEntry> texts;
+    for (std::size_t i = 0; i < YearSettingTable.size(); ++i)
+        texts.push_back({&YearSettingTable[i], shown[i]});
     ASSERT_EQ(Save([&](SettingsDraft& draft) { return WriteYearSettings(draft, texts); }), std::nullopt);
     EXPECT_EQ(Bytes(), "EXIT_SELLING_COST=5.50\r\nOTHER=x\r\nPMI_MULT1=0.0087\rEXIT_SELLING_COST=5.50\r\n"
                        "GROWTH_UTILITIES=3.00\r\nGROWTH_HOME=0.00\r\nEXIT_APPRECIATION=1.50\r\n"
                        "EXIT_PREMIUM_KEPT=50\r\nDEDUCTION_STANDARD=16100\r\nDEDUCTION_SALT_CAP=10000\r\n"
                        "DEDUCTION_STATE_TAX=0\r\nDEDUCTION_OTHER=0\r\nDEDUCTION_DEBT_CAP=750000\r\n");
     EXPECT_EQ(Load(), (YearSettings{0.03, 0, 0.015, 0.5, 0.055, 16100, 10000, 0, 0, 750000}));
+}
+
+TEST_F(YearSettingsFileTest, LeavesTheOtherKeysAsTheyAre) {
+    Given("GROWTH_HOME= 1.5%\nGROWTH_UTILITIES=0.00");
+    const YearSettingEntry text{FindYearSetting("GROWTH_UTILITIES"), "2.50%"};
+    ASSERT_EQ(Save([&](SettingsDraft& draft) { return WriteYearSettings(draft, {{text}}); }), std::nullopt);
+    EXPECT_EQ(Bytes(), "GROWTH_HOME= 1.5%\nGROWTH_UTILITIES=2.50\r\n");
+}
+
+TEST(YearSettings, AreShownAsInAField) {
+    YearSettings settings;
+    settings.UtilityGrowth = 0.055;
+    settings.HomeGrowth = -0.0125;
+    settings.Appreciation = 0.01375;
+    settings.StateTax = 4000.5;
+    const auto shown = [&settings](std::string_view key) {
+        return ShownYearValue(*FindYearSetting(key), settings);
+    };
+    EXPECT_EQ(shown("GROWTH_UTILITIES"), "5.50%");
+    EXPECT_EQ(shown("GROWTH_HOME"), "-1.25%");
+    EXPECT_EQ(shown("EXIT_APPRECIATION"), "1.375%");
+    EXPECT_EQ(shown("EXIT_PREMIUM_KEPT"), "100.00%");
+    EXPECT_EQ(shown("DEDUCTION_STANDARD"), "$32,200");
+    EXPECT_EQ(shown("DEDUCTION_STATE_TAX"), "$4,000.50");
 }
 
 TEST(KnownKeys, NoneBeginsWithAnother) {
