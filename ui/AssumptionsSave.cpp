@@ -4,6 +4,7 @@
 #include "settings/LineSyntax.h"
 #include "settings/LoanTypesFile.h"
 #include "settings/Rewrite.h"
+#include "settings/YearSettingsFile.h"
 #include "ui/AssumptionsScreen.h"
 
 #include <algorithm>
@@ -231,6 +232,8 @@ std::optional<SettingsFault> ConfirmAssumptions(const AssumptionsScreen& dialog,
     session.TaxBrackets = std::move(saved.TaxBrackets);
     session.Assumptions = saved.Assumptions;
     session.LoanTypes = std::move(saved.LoanTypes);
+    // An editor may have changed them since the start.
+    session.Years = ReadYearSettings(draft.Lines());
     // The results still come from the old tables, so the recalculation must not be skipped.
     session.From.reset();
     Recalculate(session, host);

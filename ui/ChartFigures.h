@@ -14,7 +14,8 @@ enum class ChartKind {
     Affordability, ///< the mortgage next to the largest loan that the buyer qualifies for
     Savings,       ///< Summary: the savings of the labelled home over the years
     Sensitivity,   ///< what moves the result: bars on both sides of the monthly net as it is now
-    NetMap         ///< the monthly net for many price differences and yearly savings
+    NetMap,        ///< the monthly net for many price differences and yearly savings
+    Curves         ///< amounts over the years, one curve or several
 };
 
 /// The chart of a tab of the main screen; empty for a tab without a chart.
@@ -56,6 +57,25 @@ struct ChartGrid {
     bool operator==(const ChartGrid&) const = default;
 };
 
+/// A labelled point of a curve.
+struct CurveMark {
+    double At = 0; ///< in years
+    double Value = 0;
+    std::string Text;
+
+    bool operator==(const CurveMark&) const = default;
+};
+
+/// Where the values of curves stand. The series have the same places.
+struct ChartCurves {
+    double First = 0;                ///< of the first value, in years
+    double Step = 1;                 ///< from value to value, in years
+    std::vector<CurveMark> Marks;    ///< in the order of their years
+    std::optional<std::size_t> Main; ///< the series that is drawn thicker
+
+    bool operator==(const ChartCurves&) const = default;
+};
+
 struct ChartFigures {
     ChartKind Kind = ChartKind::MonthlyCost;
     std::string Title;
@@ -65,6 +85,7 @@ struct ChartFigures {
     std::vector<ChartMark> Marks;
     double Middle = 0; ///< where the bars of the sensitivity begin
     ChartGrid Grid;    ///< of the map
+    ChartCurves Curves;
     double Lowest = 0; ///< the lower end of the dollar axis; `Highest` is the upper end
     double Highest = 0;
     std::vector<ChartTick> Ticks; ///< round amounts within the axis, including 0

@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "insight/Views.h"
+#include "ui/AssumptionList.h"
 #include "ui/InsightCharts.h"
+#include "ui/YearCharts.h"
 
 namespace Ledgrove {
 
@@ -38,8 +40,20 @@ InsightAnswer InShort(Sheet sheet) {
     return {.Table = std::move(sheet)};
 }
 
-InsightAnswer AnswerFrom(InsightQuestion question, InsightViews& views, std::string_view asked) {
-    switch (question) {
+InsightAnswer YearsAnswer(const YearByYear& years, int year, FlowColumns columns) {
+    const auto rows = static_cast<int>(years.Years.size());
+    const int shown = year >= 1 && year <= rows ? year : 0;
+    InsightAnswer answer{.Table =
+                             shown == 0 ? YearsSheet(years, columns) : YearMonthsSheet(years, shown, columns),
+                         .Picture = MakeYearsChart(years)};
+    answer.Sentence = YearsSheet(years).Sentence;
+    answer.Years = rows;
+    answer.Year = shown;
+    return answer;
+}
+
+InsightAnswer AnswerFrom(const InsightAsk& ask, InsightViews& views, FlowColumns columns) {
+    switch (ask.Question) {
     case InsightQuestion::InShort:
         return InShort(TakeawaySheet(views.TakeawayView()));
     case InsightQuestion::HowFar:
@@ -54,15 +68,18 @@ InsightAnswer AnswerFrom(InsightQuestion question, InsightViews& views, std::str
     case InsightQuestion::PriceAndSavings:
         return {.Table = MapSheet(views.MapView()), .Picture = MakeMapChart(views.MapView())};
     case InsightQuestion::YearByYear:
-        return {.Table = YearsSheet(views.YearsView())};
+        return YearsAnswer(views.YearsView(), ask.Year, columns);
     case InsightQuestion::EnergyPrices:
-        return {.Table = EnergySheet(views.EnergyView())};
+        return {.Table = EnergySheet(views.EnergyView()),
+                .Picture = MakeEnergyChart(views.YearsView(), views.EnergyView())};
     case InsightQuestion::TaxSaving:
         return {.Table = TaxCheckSheet(views.TaxView())};
     case InsightQuestion::Sale:
-        return {.Table = ExitSheet(views.Of(), views.ExitView())};
+        return {.Table = ExitSheet(views.Of(), views.ExitView()), .Picture = MakeSaleChart(views.ExitView())};
     case InsightQuestion::WhereFrom:
-        return ExplanationOf(views.Of(), asked);
+        return ExplanationOf(views.Of(), ask.Figure);
+    case InsightQuestion::Assumed:
+        break; // needs no view
     }
     return {};
 }
@@ -74,25 +91,57 @@ InsightAnswer WithSentence(InsightAnswer answer) {
     return answer;
 }
 
+InsightAnswer Assumed(const Session& session, const YearSettings& years) {
+    return WithSentence({.Table = AssumptionSheet(AllAssumptionKeys(), session, years)});
+}
+
+/// The session's rules with other settings of the views over the years.
+Rules RulesWith(const Session& session, const YearSettings& years) {
+    Rules rules = session;
+    rules.Years = years;
+    return rules;
+}
+
 } // namespace
 
-InsightAnswer AnswerOf(InsightQuestion question, const Session& session, std::string_view asked) {
-    const Insight insight(session.Screen, session);
+InsightAnswer AnswerOf(const InsightAsk& ask, const Session& session, const YearSettings& years) {
+    if (ask.Question == InsightQuestion::Assumed)
+        return Assumed(session, years);
+    const Rules rules = RulesWith(session, years);
+    const Insight insight(session.Screen, rules);
     if (!insight.Missing().empty())
         return {.Missing = insight.Missing()};
     InsightViews views(insight, UsualBy);
-    return WithSentence(AnswerFrom(question, views, asked));
+    return WithSentence(AnswerFrom(ask, views, FlowColumns::All));
 }
 
-InsightAnswerList AnswersOf(std::span<const InsightQuestion> questions, const Session& session,
-                            std::string_view asked, double by) {
-    const Insight insight(session.Screen, session);
+InsightAnswer AnswerOf(const InsightAsk& ask, const Session& session) {
+    return AnswerOf(ask, session, session.Years);
+}
+
+InsightAnswer AnswerOf(const InsightAsk& ask, const Session& session, const TriedSettings& settings) {
+    InsightAnswer answer = AnswerOf(ask, session, settings.InForce());
+    if (!answer.Missing.empty())
+        return answer;
+    answer.Fields = FieldsOf(ask.Question, settings);
+    const std::string tried = TriedElsewhere(ask.Question, settings);
+    if (!tried.empty())
+        answer.Table.Note += (answer.Table.Note.empty() ? "" : " ") + tried;
+    return answer;
+}
+
+InsightAnswerList AnswersOf(std::span<const InsightAsk> asks, const Session& session,
+                            const YearSettings& years, double by) {
+    const Rules rules = RulesWith(session, years);
+    const Insight insight(session.Screen, rules);
     if (!insight.Missing().empty())
         return {.Missing = insight.Missing()};
     InsightViews views(insight, by);
     InsightAnswerList list;
-    for (const InsightQuestion question : questions)
-        list.Answers.push_back(WithSentence(AnswerFrom(question, views, asked)));
+    for (const InsightAsk& ask : asks)
+        list.Answers.push_back(ask.Question == InsightQuestion::Assumed
+                                   ? Assumed(session, years)
+                                   : WithSentence(AnswerFrom(ask, views, FlowColumns::Main)));
     return list;
 }
 

@@ -18,6 +18,7 @@ enum class InsightQuestion : std::uint8_t {
     EnergyPrices,
     TaxSaving,
     Sale,
+    Assumed,
     WhereFrom
 };
 
@@ -25,7 +26,7 @@ struct QuestionRow {
     InsightQuestion Id;
     std::string_view Words; ///< in people's words
     int Tab;                ///< the tab of the main window whose link asks it; 0 for none
-    std::string_view View;  ///< the name of the view that answers it
+    std::string_view View;  ///< the name of the view that answers it; empty if none does
 };
 
 /// The questions in the order of the window's list.
@@ -40,6 +41,7 @@ inline constexpr std::array InsightQuestions{
     QuestionRow{InsightQuestion::EnergyPrices, "If energy prices rise", 0, "energy"},
     QuestionRow{InsightQuestion::TaxSaving, "Is the tax saving real?", 0, "tax"},
     QuestionRow{InsightQuestion::Sale, "If we sell", 0, "exit"},
+    QuestionRow{InsightQuestion::Assumed, "What is assumed", 0, ""},
     QuestionRow{InsightQuestion::WhereFrom, "Where does this number come from?", 0, "explain"},
 };
 
