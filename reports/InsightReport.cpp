@@ -3,6 +3,7 @@
 #include "reports/SectionParts.h"
 #include "reports/SheetTable.h"
 #include "reports/modPrint.h"
+#include "ui/AssumptionList.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,10 +27,18 @@ InsightSection SectionOf(InsightQuestion question, InsightAnswer answer, bool al
     return section;
 }
 
+std::vector<InsightAsk> AsksOf(const InsightRequest& request) {
+    std::vector<InsightAsk> asks;
+    for (const InsightQuestion question : request.Questions)
+        asks.push_back({question, request.Figure.value_or(""), request.Year});
+    return asks;
+}
+
 } // namespace
 
 InsightReport MakeInsightReport(const Session& session, const InsightRequest& request) {
-    auto list = AnswersOf(request.Questions, session, request.Figure.value_or(""), request.By);
+    const YearSettings years = request.Years.value_or(session.Years);
+    auto list = AnswersOf(AsksOf(request), session, years, request.By);
     InsightReport report{std::move(list.Missing),
                          session.Header,
                          session.EmblemFile(),
@@ -38,6 +47,11 @@ InsightReport MakeInsightReport(const Session& session, const InsightRequest& re
     for (std::size_t at = 0; at < list.Answers.size(); ++at)
         report.Sections.push_back(
             SectionOf(request.Questions[at], std::move(list.Answers[at]), !request.Figure));
+    const bool hasAll = std::ranges::count(request.Questions, InsightQuestion::Assumed) > 0;
+    if (report.Missing.empty() && !hasAll)
+        report.Sections.push_back({WordsOf(InsightQuestion::Assumed),
+                                   AssumptionSheet(KeysUsedBy(request.Questions, session), session, years),
+                                   {}});
     return report;
 }
 
@@ -77,12 +91,14 @@ void WriteSentences(PrintDocument& document, const InsightSection& section) {
     document.CurrentY += sentenceGap;
 }
 
-/// A map fills half a page, so that its table has room below it.
+/// A map fills half a page and curves a third, so that the table has room below.
 Twips ChartHeight(const ChartFigures& chart, Twips page) {
     constexpr Twips aroundBars = 1300; ///< title, legend and scale
     constexpr Twips rowHeight = 380;
     if (chart.Kind == ChartKind::NetMap)
         return page / 2;
+    if (chart.Kind == ChartKind::Curves)
+        return page / 3;
     return aroundBars + rowHeight * static_cast<Twips>(std::max<std::size_t>(chart.Categories.size(), 1));
 }
 
@@ -103,6 +119,11 @@ void WriteWhole(PrintDocument& document, const InsightSection& section, Twips pa
     WriteTop(document, section, page);
     if (!IsList(section))
         WriteSheetTable(document, section.Answer);
+    if (section.Answer.Note.empty())
+        return;
+    BeginSentences(document);
+    document.Paragraph(section.Answer.Note);
+    document.CurrentY += sentenceGap;
 }
 
 /// What must not be torn off: the top, and the first two rows of a table that begins below it.

@@ -18,6 +18,8 @@ struct InsightRequest {
     std::optional<std::string> Figure = {}; ///< that the explanation is about; empty for all figures
     double By = UsualBy;                    ///< the percentage of the sensitivity
     int LogoOption = 0;
+    std::optional<YearSettings> Years = {}; ///< of the views over the years; empty for the session's
+    int Year = 0;                           ///< whose months "Year by year" lists; 0 for all years
 };
 
 /// A question with its answer.
@@ -35,7 +37,8 @@ struct InsightReport {
     std::vector<InsightSection> Sections;
 };
 
-/// Answers the questions about the session's inputs, with the session's header.
+/// Answers the questions about the session's inputs, with the session's header. Ends with the assumptions
+/// that the answers use, unless a question is about all of them.
 InsightReport MakeInsightReport(const Session& session, const InsightRequest& request);
 
 } // namespace Ledgrove

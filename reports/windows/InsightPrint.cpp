@@ -1,17 +1,15 @@
 #include "reports/windows/InsightPrint.h"
 
 #include "reports/HeaderOptions.h"
-#include "reports/InsightReport.h"
 #include "reports/windows/frmPrint.h"
 #include "ui/windows/HelpWindow.h"
 
 namespace Ledgrove {
 
-void PreviewInsight(Session& session, Host& outside, const PrintOutside& machine,
-                    const std::vector<InsightQuestion>& questions, const std::string& figure,
+void PreviewInsight(Session& session, Host& outside, const PrintOutside& machine, InsightRequest request,
                     QWidget* above) {
-    const InsightReport report =
-        MakeInsightReport(session, {questions, figure, UsualBy, Module1::StoredLogoOption(session)});
+    request.LogoOption = Module1::StoredLogoOption(session);
+    const InsightReport report = MakeInsightReport(session, request);
     if (!report.Missing.empty()) {
         outside.ShowMessage({ApplicationTitle, report.Missing, MessageIcon::Exclamation});
         return;
@@ -21,9 +19,8 @@ void PreviewInsight(Session& session, Host& outside, const PrintOutside& machine
 }
 
 InsightPrinter InsightPrintAction(Session& session, Host& outside, PrintServer& printers) {
-    return [&](const std::vector<InsightQuestion>& questions, const std::string& figure) {
-        PreviewInsight(session, outside, RealOutside(printers, "Insight.pdf"), questions, figure,
-                       ActiveForm());
+    return [&](const InsightRequest& request) {
+        PreviewInsight(session, outside, RealOutside(printers, "Insight.pdf"), request, ActiveForm());
     };
 }
 
