@@ -4,7 +4,8 @@
 #include <QPushButton>
 #include <utility>
 
-#include "ui/InsightCharts.h"
+#include "app/windows/InsightAnswering.h"
+#include "app/windows/TaxLineTip.h"
 #include "ui/windows/SafeFile.h"
 
 namespace Ledgrove {
@@ -13,6 +14,7 @@ InsightOpener::InsightOpener(Session& session, Host& outside, FileQuestions ques
                              QString folder)
     : m_session(session)
     , m_outside(outside)
+    , m_settings(session)
     , m_questions(std::move(questions))
     , m_print(std::move(print))
     , m_folder(std::move(folder)) {}
@@ -21,7 +23,9 @@ InsightOpener::~InsightOpener() = default;
 
 void InsightOpener::Follow(frmMain& window) {
     m_main = &window;
+    PointOutTaxLine(window, m_session);
     connect(&window, &frmMain::Refreshed, this, [this] {
+        PointOutTaxLine(*m_main, m_session);
         if (m_window)
             m_window->Follow();
     });
@@ -30,16 +34,13 @@ void InsightOpener::Follow(frmMain& window) {
 
 InsightContext InsightOpener::Context() {
     InsightContext context;
-    context.Answer = [this](InsightQuestion question, const std::string& figure) {
-        return AnswerOf(question, m_session, figure);
+    ConnectAnswers(context, {m_session, m_settings, m_outside}, m_print);
+    context.Keep = [this, keep = context.Keep](InsightQuestion question) {
+        keep(question);
+        PointOutTaxLine(*m_main, m_session);
     };
     context.GoTo = [this](const QString& control, const QString& key) { m_main->GoToSource(control, key); };
-    context.CellText = &MapCellText;
-    context.CellEntries = [this](const ChartGrid& grid, std::size_t column, std::size_t row) {
-        return EntriesOfCell(m_session, grid, column, row);
-    };
     context.Enter = [this](const std::vector<EntryText>& texts) { m_main->Enter(texts); };
-    context.Print = m_print;
     context.Help = [this] { m_main->OpenHelpAt("ctxInsight"); };
     context.Questions = m_questions;
     context.Write = [this](const QString& file, const QByteArray& content) {

@@ -5,6 +5,7 @@
 
 #include "engine/Session.h"
 #include "reports/windows/InsightPrint.h"
+#include "ui/TriedSettings.h"
 #include "ui/windows/InsightWindow.h"
 #include "ui/windows/frmMain.h"
 
@@ -36,6 +37,7 @@ private:
 
     Session& m_session;
     Host& m_outside;
+    TriedSettings m_settings;
     FileQuestions m_questions;
     InsightPrinter m_print;
     QString m_folder;

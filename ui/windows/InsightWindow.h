@@ -15,8 +15,12 @@ namespace Ledgrove {
 
 /// What the Insight window needs from the program. The window has no code of the calculation.
 struct InsightContext {
-    /// `figure` is what "Where does this number come from?" is about; the other questions pass over it.
-    std::function<InsightAnswer(InsightQuestion, const std::string& figure)> Answer;
+    std::function<InsightAnswer(const InsightAsk&)> Answer;
+    /// Tries a text for a setting of the answers. Returns a sentence if it cannot be used, else "".
+    std::function<std::string(std::string_view key, const std::string& text)> Try;
+    /// Saves the tried settings of a question's fields, or goes back to the kept ones.
+    std::function<void(InsightQuestion)> Keep;
+    std::function<void(InsightQuestion)> GoBack;
     /// Goes to where an input is typed (`control`) or an assumption is kept (`key`).
     std::function<void(const QString& control, const QString& key)> GoTo;
     /// What a cell of the map stands for, and what entering it means.
@@ -24,11 +28,12 @@ struct InsightContext {
     std::function<std::vector<EntryText>(const ChartGrid&, std::size_t column, std::size_t row)> CellEntries;
     /// Enters texts into the main window as if they were typed there.
     std::function<void(const std::vector<EntryText>&)> Enter;
-    /// Previews the answers to these questions for printing; `figure` is what "Where does this number come
-    /// from?" is about.
-    std::function<void(const std::vector<InsightQuestion>&, const std::string& figure)> Print;
+    /// Previews the answers to these questions for printing, with the figure and the year of `ask`.
+    std::function<void(const std::vector<InsightQuestion>&, const InsightAsk& ask)> Print;
     std::function<void()> Help;
-    FileQuestions Questions; ///< asks where to save a picture
+    FileQuestions Questions; ///< asks where to save a picture or a table
+    /// The table as a CSV file.
+    std::function<std::string(const Sheet&)> Csv;
     /// Replaces a whole file; reports a fault to the user.
     std::function<void(const QString& file, const QByteArray& content)> Write;
 };

@@ -1,14 +1,13 @@
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QSet>
 #include <memory>
 
-#include "reports/windows/InsightPrint.h"
+#include "app/windows/InsightAnswering.h"
 #include "tests/reports/windows/PrintDesk.h"
-#include "ui/InsightAnswers.h"
-#include "ui/InsightCharts.h"
 #include "ui/windows/insight/frmInsight.h"
 
 using namespace Ledgrove;
@@ -27,13 +26,9 @@ struct PaperDesk : PrintDesk {
         screen.ecStdUtil.Text = "$2,400";
         screen.ecGMHUtil.Text = "$1,700";
         InsightContext context;
-        context.Answer = [this](InsightQuestion question, const std::string& figure) {
-            return AnswerOf(question, State, figure);
-        };
-        context.CellText = &MapCellText;
-        context.Print = [this](const std::vector<InsightQuestion>& questions, const std::string& figure) {
-            PreviewInsight(State, Outside, Machine, questions, figure, Window.get());
-        };
+        ConnectAnswers(context, {State, Settings, Outside}, [this](const InsightRequest& request) {
+            PreviewInsight(State, Outside, Machine, request, Window.get());
+        });
         Window = std::make_unique<frmInsight>(std::move(context));
         Window->show();
     }
@@ -48,6 +43,7 @@ struct PaperDesk : PrintDesk {
             [&act](QWidget& window) { act(static_cast<frmPrint&>(window)); });
     }
 
+    TriedSettings Settings{State};
     std::unique_ptr<frmInsight> Window;
 };
 
@@ -72,7 +68,7 @@ private slots:
     void theChosenFigureIsDerived();
     void thePreviewPrints();
     void withoutAnAnswerThereIsNothingToPrint();
-    void noTwoButtonsHaveTheSameKey();
+    void noTwoControlsHaveTheSameKey();
 };
 
 void InsightPrintTest::thisAnswerIsPreviewed() {
@@ -80,7 +76,7 @@ void InsightPrintTest::thisAnswerIsPreviewed() {
     desk.Window->Ask(InsightQuestion::WhichLoan);
     QVERIFY(desk.Preview(thisAnswer, [](frmPrint& preview) {
         QCOMPARE(preview.windowTitle(), "Insight");
-        QCOMPARE(Sections(preview.Document()), QStringList{"Which loan is best?"});
+        QCOMPARE(Sections(preview.Document()), (QStringList{"Which loan is best?", "What is assumed"}));
         preview.reject();
     }));
 }
@@ -133,15 +129,24 @@ void InsightPrintTest::withoutAnAnswerThereIsNothingToPrint() {
     QVERIFY(!desk.Button("bPrint").isEnabled());
 }
 
-void InsightPrintTest::noTwoButtonsHaveTheSameKey() {
+void InsightPrintTest::noTwoControlsHaveTheSameKey() {
     PaperDesk desk;
-    QSet<QChar> keys;
-    for (const QPushButton* button : desk.Window->findChildren<QPushButton*>()) {
-        const QChar key = button->text().at(button->text().indexOf('&') + 1).toLower();
-        QVERIFY2(!keys.contains(key), qPrintable(button->text()));
-        keys.insert(key);
+    for (const QuestionRow& row : InsightQuestions) {
+        desk.Window->Ask(row.Id);
+        QSet<QChar> keys;
+        const auto add = [&keys](const QString& caption) {
+            const QChar key = caption.at(caption.indexOf('&') + 1).toLower();
+            QVERIFY2(caption.contains('&') && !keys.contains(key), qPrintable(caption));
+            keys.insert(key);
+        };
+        for (const QPushButton* button : desk.Window->findChildren<QPushButton*>())
+            if (button->isVisible())
+                add(button->text());
+        for (const QLabel* label : desk.Window->findChildren<QLabel*>())
+            if (label->isVisible() && label->buddy())
+                add(label->text());
+        QVERIFY(keys.size() >= 5);
     }
-    QCOMPARE(keys.size(), 5);
 }
 
 QTEST_MAIN(InsightPrintTest)

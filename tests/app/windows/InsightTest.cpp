@@ -14,8 +14,7 @@
 #include <memory>
 
 #include "DesktopDesk.h"
-#include "ui/InsightAnswers.h"
-#include "ui/InsightCharts.h"
+#include "app/windows/InsightAnswering.h"
 #include "ui/windows/QuestionLink.h"
 #include "ui/windows/insight/AnswerPicture.h"
 #include "ui/windows/insight/SheetModel.h"
@@ -36,15 +35,13 @@ struct InsightDesk {
         PutBytes(Open.PathOf("a.ledgrove.json"), sample);
         Open.File->OpenNamed(Open.PathOf("a.ledgrove.json"));
         InsightContext context;
-        context.Answer = [this](InsightQuestion question, const std::string& figure) {
+        ConnectAnswers(context, {Open.State, Settings, Open.Outside},
+                       [this](const InsightRequest& request) { Printed = request; });
+        context.Answer = [this, answer = context.Answer](const InsightAsk& ask) {
             ++Answers;
-            return AnswerOf(question, Open.State, figure);
+            return answer(ask);
         };
         context.GoTo = [this](const QString& control, const QString& key) { WentTo = control + '/' + key; };
-        context.CellText = &MapCellText;
-        context.CellEntries = [this](const ChartGrid& grid, std::size_t column, std::size_t row) {
-            return EntriesOfCell(Open.State, grid, column, row);
-        };
         context.Enter = [this](const std::vector<EntryText>& texts) { Open.Window->Enter(texts); };
         context.Help = [this] { ++Helps; };
         context.Questions = Open.Questions;
@@ -86,7 +83,9 @@ struct InsightDesk {
     QList<std::string> Explained;
     QByteArray Written;
     QList<InsightQuestion> Asked;
+    InsightRequest Printed;
     OpenDesktop Open;
+    TriedSettings Settings{Open.State};
     std::unique_ptr<frmInsight> Window;
 };
 
@@ -252,7 +251,7 @@ void InsightTest::tablesAreSpokenWithRowAndColumn() {
 void InsightTest::tablesAreCopied() {
     InsightDesk desk;
     desk.Show(InsightQuestion::HowFar);
-    const Sheet sheet = AnswerOf(InsightQuestion::HowFar, desk.Open.State).Table;
+    const Sheet sheet = AnswerOf({InsightQuestion::HowFar}, desk.Open.State).Table;
     const QStringList lines = SheetAsRange(sheet).split('\n');
     QCOMPARE(lines.first(), "GREENMARK Home\tNow\tPays Up To\tChange");
     // Numbers without signs, so that a spreadsheet can calculate with them.

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/windows/insight/CurvesPainter.h"
+
 namespace Ledgrove {
 
 namespace {
@@ -366,6 +368,8 @@ void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& ch
     const QRectF below = BelowTitle(painter, place, chart);
     if (chart.Kind == ChartKind::NetMap)
         MapPainter(painter, below, chart, palette).Paint(cursor);
+    else if (chart.Kind == ChartKind::Curves)
+        PaintCurves(painter, below, chart, palette);
     else
         BarsPainter(painter, below, chart, palette).Paint();
 }

@@ -28,6 +28,7 @@ QString MarkInWords(CellMark mark) {
     case CellMark::Idle:
         return ", does not move the result";
     case CellMark::Bad:
+    case CellMark::Turn: // the cell's text says what changes
     case CellMark::None:
         break;
     }
@@ -98,8 +99,9 @@ QString SheetAsText(const Sheet& sheet) {
             shown.chop(1);
         text += shown + '\n';
     }
-    const QString legend = LegendOf(sheet);
-    return legend.isEmpty() ? text : text + legend + '\n';
+    if (const QString legend = LegendOf(sheet); !legend.isEmpty())
+        text += legend + '\n';
+    return sheet.Note.empty() ? text : text + '\n' + Words(sheet.Note) + '\n';
 }
 
 QString SheetAsRange(const Sheet& sheet) {
@@ -169,6 +171,11 @@ const std::vector<EntryText>& SheetModel::EntriesAt(const QModelIndex& index) co
                                 : cell.Entries;
 }
 
+bool SheetModel::IsWords(int column) const {
+    return column == 0 || std::find(m_sheet.Words.begin(), m_sheet.Words.end(),
+                                    static_cast<std::size_t>(column)) != m_sheet.Words.end();
+}
+
 int SheetModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_sheet.Rows.size());
 }
@@ -197,10 +204,11 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
         return Spoken(index);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::Alignment(Qt::AlignVCenter) |
-                                   (index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight));
+                                   (IsWords(index.column()) ? Qt::AlignLeft : Qt::AlignRight));
     case Qt::FontRole: {
         QFont font = QGuiApplication::font();
-        font.setBold(cell.Mark == CellMark::Best || cell.Mark == CellMark::Current);
+        font.setBold(cell.Mark == CellMark::Best || cell.Mark == CellMark::Current ||
+                     cell.Mark == CellMark::Turn);
         font.setItalic(cell.Mark == CellMark::Idle);
         return font;
     }
@@ -222,7 +230,7 @@ QVariant SheetModel::headerData(int section, Qt::Orientation orientation, int ro
         return Words(m_sheet.Heads[static_cast<std::size_t>(section)]);
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::Alignment(Qt::AlignVCenter) |
-                                   (section == 0 ? Qt::AlignLeft : Qt::AlignRight));
+                                   (IsWords(section) ? Qt::AlignLeft : Qt::AlignRight));
     return {};
 }
 

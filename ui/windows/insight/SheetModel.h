@@ -41,6 +41,9 @@ public:
     /// What the cell proposes to enter: its own entries, or those of its row's first cell.
     const std::vector<EntryText>& EntriesAt(const QModelIndex& index) const;
 
+    /// Whether the column holds words, which may be long.
+    bool IsWords(int column) const;
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSortFilterProxyModel>
+#include <algorithm>
 
 #include "ui/windows/insight/SheetModel.h"
 
@@ -12,6 +13,7 @@ namespace Ledgrove {
 
 SheetView::SheetView(SheetModel& model, QWidget* parent)
     : QTableView(parent)
+    , m_model(model)
     , m_sorted(new QSortFilterProxyModel(this)) {
     m_sorted->setSourceModel(&model);
     m_sorted->setSortRole(SheetModel::SortRole);
@@ -41,7 +43,44 @@ QModelIndex SheetView::CurrentCell() const {
 void SheetView::Settle() {
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_sorted->sort(-1);
+    FitColumns();
+}
+
+void SheetView::FitColumns() {
+    setWordWrap(false);
     resizeColumnsToContents();
+    BreakWords();
+}
+
+/// The columns of words share the room that the others leave.
+void SheetView::BreakWords() {
+    QHeaderView& heads = *horizontalHeader();
+    const int least = fontMetrics().averageCharWidth() * 20;
+    int others = 0;
+    QList<int> wide;
+    for (int column = 0; column < heads.count(); ++column) {
+        if (m_model.IsWords(column) && heads.sectionSize(column) > least)
+            wide += column;
+        else
+            others += heads.sectionSize(column);
+    }
+    int room = viewport()->width() - others;
+    std::sort(wide.begin(), wide.end(),
+              [&heads](int a, int b) { return heads.sectionSize(a) < heads.sectionSize(b); });
+    for (qsizetype i = 0; i < wide.size(); ++i) {
+        const int share = std::max(least, room / static_cast<int>(wide.size() - i));
+        const int width = std::min(heads.sectionSize(wide[i]), share);
+        if (width < heads.sectionSize(wide[i]))
+            setWordWrap(true);
+        heads.resizeSection(wide[i], width);
+        room -= width;
+    }
+}
+
+void SheetView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        FitColumns();
 }
 
 QSize SheetView::sizeHint() const {

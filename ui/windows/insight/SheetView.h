@@ -18,7 +18,10 @@ public:
     /// The model's index of the current cell; invalid without one.
     QModelIndex CurrentCell() const;
 
-    /// Gives each column the width of its contents and restores the sheet's own order.
+    /// Gives each column the width of its contents. Long words break, so that the table fits if it can.
+    void FitColumns();
+
+    /// The same, and restores the sheet's own order.
     void Settle();
 
     QSize sizeHint() const override;
@@ -30,8 +33,12 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void BreakWords();
+
+    SheetModel& m_model;
     QSortFilterProxyModel* m_sorted;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/windows/insight/frmInsight.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -10,13 +11,17 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "ui/windows/Identify.h"
 #include "ui/windows/UsersFolder.h"
 #include "ui/windows/insight/AnswerPicture.h"
 #include "ui/windows/insight/ChainView.h"
+#include "ui/windows/insight/FlowLayout.h"
+#include "ui/windows/insight/SettingsPanel.h"
 #include "ui/windows/insight/SheetView.h"
 
 namespace Ledgrove {
@@ -37,6 +42,12 @@ QLabel* MakeText(const char* control) {
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+bool ProposesEntries(const Sheet& sheet) {
+    return std::ranges::any_of(sheet.Rows, [](const auto& row) {
+        return std::ranges::any_of(row, [](const SheetCell& cell) { return !cell.Entries.empty(); });
+    });
 }
 
 } // namespace
@@ -82,12 +93,14 @@ QWidget* frmInsight::MakeAnswer() {
     larger.setPointSizeF(larger.pointSizeF() * 1.25);
     m_sentence->setFont(larger);
     column->addWidget(m_sentence);
+    column->addWidget(MakeSettings());
     m_picture = new AnswerPicture([this](const ChartGrid& grid, std::size_t at, std::size_t row) {
         return Words(m_context.CellText(grid, at, row));
     });
     column->addWidget(m_picture, 3);
     m_cell = MakeText("CellText");
     column->addWidget(m_cell);
+    column->addWidget(MakeYearSwitch());
     m_table = new SheetView(m_model);
     column->addWidget(m_table, 2);
     m_chain = new ChainView;
@@ -98,9 +111,11 @@ QWidget* frmInsight::MakeAnswer() {
             [this](const QString& figure) { Explain(figure.toStdString()); });
     m_legend = MakeText("Legend");
     column->addWidget(m_legend);
+    m_note = MakeText("Note");
+    column->addWidget(m_note);
     m_space = new QWidget;
     column->addWidget(m_space, 1);
-    column->addLayout(MakeButtons());
+    column->addWidget(MakeButtons());
     connect(m_picture, &AnswerPicture::CellSaid, m_cell, &QLabel::setText);
     connect(m_picture, &AnswerPicture::CellChosen, this, &frmInsight::ChooseMapCell);
     connect(m_table, &SheetView::CellChanged, this, &frmInsight::OfferEntry);
@@ -114,6 +129,57 @@ QWidget* frmInsight::MakeAnswer() {
     return scrolled;
 }
 
+QWidget* frmInsight::MakeSettings() {
+    m_settings = new SettingsPanel([this](std::string_view key, const std::string& text) {
+        return m_context.Try ? m_context.Try(key, text) : std::string();
+    });
+    connect(m_settings, &SettingsPanel::Tried, this, &frmInsight::ShowAnswer);
+    connect(m_settings, &SettingsPanel::KeepAsked, this, [this] {
+        m_context.Keep(m_question);
+        ShowAnswer();
+    });
+    connect(m_settings, &SettingsPanel::GoBackAsked, this, [this] {
+        m_context.GoBack(m_question);
+        ShowAnswer();
+        m_settings->GiveUpRefused();
+    });
+    return m_settings;
+}
+
+QWidget* frmInsight::MakeYearSwitch() {
+    m_yearSwitch = new QWidget;
+    auto* row = new QHBoxLayout(m_yearSwitch);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* caption = new QLabel("Sho&w:");
+    m_years = new QComboBox;
+    Identify(*m_years, "Years", "Years or months of the table");
+    caption->setBuddy(m_years);
+    row->addWidget(caption);
+    row->addWidget(m_years);
+    row->addStretch();
+    connect(m_years, &QComboBox::activated, this, [this](int year) {
+        m_year = year;
+        ShowAnswer();
+        m_table->Settle();
+    });
+    return m_yearSwitch;
+}
+
+void frmInsight::ShowYears(const InsightAnswer& answer) {
+    m_yearSwitch->setVisible(answer.Years > 0);
+    if (answer.Years == 0)
+        return;
+    const QSignalBlocker nothingChosen(m_years);
+    if (m_years->count() != answer.Years + 1) {
+        m_years->clear();
+        m_years->addItem("All years");
+        for (int year = 1; year <= answer.Years; ++year)
+            m_years->addItem(QString("Year %1, by month").arg(year));
+    }
+    m_year = answer.Year;
+    m_years->setCurrentIndex(m_year);
+}
+
 QPushButton* frmInsight::AddButton(QLayout& row, const char* control, const QString& caption) {
     auto* button = new QPushButton(caption);
     button->setObjectName(control);
@@ -122,10 +188,12 @@ QPushButton* frmInsight::AddButton(QLayout& row, const char* control, const QStr
     return button;
 }
 
-QLayout* frmInsight::MakeButtons() {
-    auto* row = new QHBoxLayout;
+QWidget* frmInsight::MakeButtons() {
+    auto* buttons = new QWidget;
+    auto* row = new FlowLayout(buttons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(6);
     m_enter = AddButton(*row, "bEnter", "&Try It");
-    row->addStretch();
     m_print = AddButton(*row, "bPrint", "&Print…");
     auto* pages = new QMenu(m_print);
     pages->addAction("This &Answer", this, [this] { Print({m_question}); });
@@ -141,12 +209,14 @@ QLayout* frmInsight::MakeButtons() {
     menu->addAction("As &Text", this, [this] { Copy(&SheetAsText); });
     menu->addAction("As &Spreadsheet Range", this, [this] { Copy(&SheetAsRange); });
     m_copy->setMenu(menu);
+    m_export = AddButton(*row, "bExport", "&Export CSV…");
     m_save = AddButton(*row, "bSavePicture", "&Save Picture…");
     QPushButton* help = AddButton(*row, "bHelp", "&Help");
     connect(m_enter, &QPushButton::clicked, this, &frmInsight::EnterCell);
+    connect(m_export, &QPushButton::clicked, this, &frmInsight::ExportTable);
     connect(m_save, &QPushButton::clicked, this, &frmInsight::SavePicture);
     connect(help, &QPushButton::clicked, this, [this] { m_context.Help(); });
-    return row;
+    return buttons;
 }
 
 void frmInsight::Ask(InsightQuestion question) {
@@ -174,7 +244,7 @@ void frmInsight::Follow() {
 }
 
 void frmInsight::ShowAnswer() {
-    const InsightAnswer answer = m_context.Answer(m_question, m_figure);
+    const InsightAnswer answer = m_context.Answer({m_question, m_figure, m_year});
     const bool hasAnswer = answer.Missing.empty();
     m_sentence->setText(Words(hasAnswer ? answer.Sentence : answer.Missing));
     m_chain->setVisible(answer.Chain.has_value());
@@ -182,7 +252,10 @@ void frmInsight::ShowAnswer() {
         m_chain->Show(*answer.Chain, answer.Figure);
     // A table of one column repeats the sentences.
     m_table->setVisible(hasAnswer && !answer.Chain && answer.Table.Heads.size() > 1);
+    m_settings->Show(answer.Fields);
+    ShowYears(answer);
     m_print->setEnabled(hasAnswer);
+    m_export->setEnabled(!m_table->isHidden());
     m_copy->setEnabled(hasAnswer);
     m_picture->setVisible(answer.Picture.has_value());
     m_cell->setVisible(answer.Picture && answer.Picture->Kind == ChartKind::NetMap);
@@ -192,10 +265,12 @@ void frmInsight::ShowAnswer() {
     m_sheet = answer.Table;
     // A screen reader also finds the cells of a hidden table.
     m_model.Show(m_table->isHidden() ? Sheet() : m_sheet);
-    m_table->resizeColumnsToContents();
+    m_table->FitColumns();
     m_space->setVisible(m_table->isHidden() && m_chain->isHidden());
     m_legend->setText(LegendOf(answer.Table));
     m_legend->setVisible(!m_legend->text().isEmpty());
+    m_note->setText(Words(answer.Table.Note));
+    m_note->setVisible(!m_note->text().isEmpty());
     SetSpokenName(*m_table, Words(answer.Table.Title));
     OfferEntry();
 }
@@ -213,7 +288,7 @@ void frmInsight::OfferEntry() {
     const auto& entries = m_model.EntriesAt(m_table->CurrentCell());
     const bool isOption = !entries.empty() && entries.front().Control == "cboStdMortOption";
     m_enter->setText(isOption ? "&Use These Options" : "&Try It");
-    m_enter->setVisible(m_question != InsightQuestion::WhereFrom);
+    m_enter->setVisible(ProposesEntries(m_sheet));
     m_enter->setEnabled(!entries.empty() && m_table->isVisible());
     m_enter->setToolTip(entries.empty() ? "Choose a row with a value to try." : "");
 }
@@ -236,7 +311,18 @@ void frmInsight::Copy(QString (*form)(const Sheet&)) {
 }
 
 void frmInsight::Print(const std::vector<InsightQuestion>& questions) {
-    m_context.Print(questions, m_figure);
+    // All answers together have the years.
+    m_context.Print(questions, {m_question, m_figure, questions.size() == 1 ? m_year : 0});
+}
+
+void frmInsight::ExportTable() {
+    const QString folder = UsersFolder(QStandardPaths::DocumentsLocation);
+    const QString name = Words(m_sheet.Title).toLower().replace(' ', '-');
+    const QString file =
+        m_context.Questions.SaveName(*this, {"Export CSV", folder + '/' + name + ".csv",
+                                             "Tables for spreadsheets (*.csv);;All files (*)", ".csv"});
+    if (!file.isEmpty())
+        m_context.Write(file, QByteArray::fromStdString(m_context.Csv(m_sheet)));
 }
 
 void frmInsight::SavePicture() {

@@ -5,6 +5,7 @@
 #include "ui/windows/InsightWindow.h"
 #include "ui/windows/insight/SheetModel.h"
 
+class QComboBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -13,6 +14,7 @@ namespace Ledgrove {
 
 class AnswerPicture;
 class ChainView;
+class SettingsPanel;
 class SheetView;
 
 /// The Insight window: on the left the questions, on the right the answer as a sentence, a picture and a
@@ -34,35 +36,45 @@ protected:
 private:
     QWidget* MakeQuestions();
     QWidget* MakeAnswer();
-    QLayout* MakeButtons();
+    QWidget* MakeSettings();
+    QWidget* MakeYearSwitch();
+    QWidget* MakeButtons();
     QPushButton* AddButton(QLayout& row, const char* control, const QString& caption);
     void ShowAnswer();
+    void ShowYears(const InsightAnswer& answer);
     void MarkSentence();
     void OfferEntry();
     void EnterCell();
     void ChooseMapCell(std::size_t column, std::size_t row);
     void Copy(QString (*form)(const Sheet&));
     void Print(const std::vector<InsightQuestion>& questions);
+    void ExportTable();
     void SavePicture();
     void GiveNaturalSize();
 
     InsightContext m_context;
     InsightQuestion m_question = InsightQuestion::HowFar;
     std::string m_figure; ///< that WhereFrom is about
+    int m_year = 0;       ///< whose months YearByYear lists; 0 for all years
     Sheet m_sheet;        ///< of the shown answer, also while its table is hidden
     SheetModel m_model;
     QTimer m_highlight;
     QListWidget* m_questions = nullptr;
     QLabel* m_sentence = nullptr;
+    SettingsPanel* m_settings = nullptr;
     AnswerPicture* m_picture = nullptr;
     QLabel* m_cell = nullptr;
+    QWidget* m_yearSwitch = nullptr;
+    QComboBox* m_years = nullptr;
     SheetView* m_table = nullptr;
     ChainView* m_chain = nullptr;
     QWidget* m_space = nullptr; ///< keeps the buttons down below an answer without a table
     QLabel* m_legend = nullptr;
+    QLabel* m_note = nullptr;
     QPushButton* m_enter = nullptr;
     QPushButton* m_print = nullptr;
     QPushButton* m_copy = nullptr;
+    QPushButton* m_export = nullptr;
     QPushButton* m_save = nullptr;
     bool m_isSized = false;
 };
