@@ -36,7 +36,8 @@ public:
     /// Back to the kept values of these keys.
     void Forget(const std::vector<std::string_view>& keys);
 
-    /// Saves what is tried of these keys, as one save; without any, does nothing. If that fails, the values stay tried.
+    /// Saves what is tried of these keys, as one save; without any, does nothing. If that fails, the values
+    /// stay tried.
     std::optional<SettingsFault> Keep(const std::vector<std::string_view>& keys);
 
 private:

@@ -74,6 +74,24 @@ TEST(TaxCheck, SaysWhenTheTaxLineWouldReallyBe0) {
     EXPECT_THAT(tax.Sentence, HasSubstr("would really be $0 a month, not the $"));
 }
 
+TEST(TaxCheck, SaysWhoseTheStandardDeductionIs) {
+    Session session = LargeSession();
+    session.Years.StandardDeduction = 16'100;
+    EXPECT_THAT(TaxOf(session).Sentence, HasSubstr("$16,100 for a single filer (tax year 2026)"));
+    session.Years.StandardDeduction = 24'150;
+    EXPECT_THAT(TaxOf(session).Sentence, HasSubstr("$24,150 for a head of household (tax year 2026)"));
+}
+
+TEST(TaxCheck, TheNoteNamesTheOtherSettings) {
+    Session session = LargeSession();
+    session.Years.StateTax = 5'000;
+    session.Years.OtherDeductions = 300;
+    EXPECT_EQ(
+        TaxCheckSheet(TaxOf(session)).Note,
+        "This assumes $5,000 of state income tax and $300 of other deductions a year. At most $40,400 of "
+        "state and local taxes can be deducted, and the interest on at most $750,000 of a loan.");
+}
+
 TEST(TaxCheck, SaysWhichHomeItemizes) {
     Session session = LargeSession();
     // $44,760 of interest and $10,000 of tax; $44,760 and $12,000.

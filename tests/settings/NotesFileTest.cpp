@@ -51,6 +51,14 @@ TEST(Notes, ANumberMayBeWrittenInAnotherWay) {
     EXPECT_TRUE(NoteOf("PVSAVINGS_FLAG=TRUE\nNOTE_PVSAVINGS_FLAG=FALSE||s\n").IsOwn);
 }
 
+TEST(Notes, AllKeysAreListedAlsoWithoutANote) {
+    const auto notes = ReadAllNotes(SplitLines("ASSUMPTION1=0.9\nNOTE_ASSUMPTION1=0.90|2024|s\n"), today);
+    ASSERT_EQ(notes.size(), NotedKeys.size());
+    for (const AssumptionNote& note : notes)
+        EXPECT_EQ(note.IsNoted, note.Key == "ASSUMPTION1") << note.Key;
+    EXPECT_EQ(notes.back().Value, "750000"); // in force without a line
+}
+
 TEST(Notes, AListIsOneValue) {
     const std::string list = "TAXCAT=57000,10\nTAXCAT=-1,35.00%\n";
     const AssumptionNote note = NoteOf(list + "NOTE_TAXCAT=57000,10;-1,35|2026|s\n");

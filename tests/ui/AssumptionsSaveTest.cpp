@@ -210,5 +210,13 @@ TEST_F(AssumptionsSaveTest, NothingIsSavedWhenOneWriterRefuses) {
     EXPECT_EQ(m_session.TaxBrackets[0].HighEnd, 57000);
 }
 
+TEST_F(AssumptionsSaveTest, OKTakesTheYearSettingsOfTheFileIntoTheSession) {
+    StartShipped();
+    ChangedMeanwhile("GROWTH_UTILITIES=0.00", "GROWTH_UTILITIES=2.00");
+    ASSERT_FALSE(Confirm());
+    EXPECT_EQ(m_session.Years.UtilityGrowth, 0.02);
+    EXPECT_THAT(Bytes(), HasSubstr("GROWTH_UTILITIES=2.00"));
+}
+
 } // namespace
 } // namespace Ledgrove
