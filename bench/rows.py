@@ -173,6 +173,11 @@ class Measurements:
         own, floor = self.milliseconds(20, [*report, SAMPLE], [self.place.program("plain_pdf"), self.place.folder / "plain.pdf"])
         return at_most(own, floor, 1.5, "ms")
 
+    def brief(self):
+        brief = [self.place.program("ledgrove-cli"), "brief", "--folder", ROOT / "data", "--output", self.place.folder / "brief.pdf"]
+        own, floor = self.milliseconds(20, [*brief, SAMPLE], [self.place.program("plain_pdf"), self.place.folder / "plain.pdf"])
+        return at_most(own, floor, 2, "ms")
+
     # Reports and dialogs
 
     def _milliseconds_at_most(self, program, limit):
@@ -281,6 +286,7 @@ ROWS = [
     ("csv", "compare --format csv / --format jsonl, one core", Measurements.csv),
     ("one", "one comparison, whole process / one line printed", Measurements.one),
     ("pdf", "report as PDF, whole process / three plain pages", Measurements.pdf),
+    ("brief", "buyer's brief as PDF, whole process / three plain pages", Measurements.brief),
     ("composing", "composing the report", Measurements.composing),
     ("preview", "preview of page 1", Measurements.preview),
     ("houses-open", "10,000 saved houses, dialog opened and painted", Measurements.houses_open),

@@ -68,6 +68,12 @@ std::string InColumns(std::string_view third, std::string_view fifth) {
 
 } // namespace
 
+void SetPdfNames(PrintDocument& document, std::string_view begin, const ReportHeader& names) {
+    const std::string builder = PlainName(names.BuilderName);
+    document.PdfTitle = TitleWithNames(begin, PlainName(names.HomeBuyer), builder);
+    document.Author = builder.empty() ? "Ledgrove" : builder;
+}
+
 void WriteTitleBlock(PrintDocument& document, const TitleBlock& title) {
     WritePictures(document, title);
     document.TextAlign = 1;
@@ -86,9 +92,7 @@ void WriteTitleBlock(PrintDocument& document, const TitleBlock& title) {
     document.Paragraph(" ");
     document.Paragraph(" ");
     const ReportHeader& header = title.Names;
-    const std::string builder = PlainName(header.BuilderName);
-    document.PdfTitle = TitleWithNames(title.PdfTitle, PlainName(header.HomeBuyer), builder);
-    document.Author = builder.empty() ? "Ledgrove" : builder;
+    SetPdfNames(document, title.PdfTitle, header);
     if (!header.BuilderName.empty()) {
         document.Text("Prepared By:  " + header.BuilderName);
         document.Paragraph("");

@@ -11,6 +11,9 @@ namespace Ledgrove::modPrint {
 inline constexpr std::string_view MoneyPicture = "$#,##0";
 inline constexpr std::string_view ThreeColumns = "2880|>2340|>2340;";
 
+/// Sets what PDF readers show in place of the file's name, `begin` with the names, and the author.
+void SetPdfNames(PrintDocument& document, std::string_view begin, const ReportHeader& names);
+
 /// Sets font, colour and border for the body of a section.
 void BeginSectionBody(PrintDocument& document);
 

@@ -160,8 +160,10 @@ int main(int argc, char** argv) {
     if (const std::string fault = CommandFault(words); !fault.empty())
         return Complain(fault, CannotRun);
     // The other programs parse their own arguments.
-    if (words.front() == "report" || words.front() == "chart")
-        return HandOver("ledgrove-" + words.front(), "command " + Quoted(words.front()), words);
+    const std::string& command = words.front();
+    if (command == "report" || command == "brief" || command == "chart")
+        return HandOver(command == "chart" ? "ledgrove-chart" : "ledgrove-report",
+                        "command " + Quoted(command), words);
     CLI::App app(SummaryOf("ledgrove-cli"), "ledgrove-cli");
     std::string folder = ProgramFolder().string();
     const CommandOptions common(app, "ledgrove-cli", folder);
@@ -176,6 +178,7 @@ int main(int argc, char** argv) {
     CLI::App* const rows = AddCommand(app, "range", "ledgrove-cli range");
     AddRangeOptions(*rows, folder, range, "ledgrove-cli");
     AddCommand(app, "report", "ledgrove-cli report");
+    AddCommand(app, "brief", "ledgrove-cli brief");
     AddCommand(app, "chart", "ledgrove-cli chart");
     const SettingsActions settings = AddSettings(app, folder, setting);
     if (const auto status = Parse(app, ParserWords(words)))

@@ -20,6 +20,7 @@
 #include "app/windows/LastChoices.h"
 #include "app/windows/LoadedPrinters.h"
 #include "app/windows/MainMenu.h"
+#include "reports/windows/BriefPrint.h"
 #include "reports/windows/HelpPrint.h"
 #include "reports/windows/InsightPrint.h"
 #include "reports/windows/PrintAction.h"
@@ -97,6 +98,7 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
         Ledgrove::PrintHelpDocument(document, above, host,
                                     Ledgrove::RealOutside(printers, "Ledgrove Help.pdf"));
     };
+    const auto brief = Ledgrove::BriefAction(session, host, printers);
     const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
     actions.Questions = questions;
     Ledgrove::InsightOpener insight(session, host, questions,
@@ -114,7 +116,7 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
     current = new Ledgrove::CurrentFile(window, session, host, Ledgrove::RecentFiles(store), questions);
     window.show();
-    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions, choices});
+    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions, choices, brief});
     constexpr std::size_t mostLines = 5;
     const auto unusable = Ledgrove::CheckSettings(Ledgrove::SettingsFile(folder));
     if (!unusable.empty())

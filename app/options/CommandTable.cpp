@@ -85,6 +85,16 @@ constexpr std::array reportOptions{
     oneInput,
 };
 
+constexpr std::array briefOptions{
+    OptionRow{"--output", Value::Output, "OUT.pdf", "The PDF to write, *.pdf; \"-\" is standard output",
+              true},
+    paperRow,
+    logoRow,
+    builderRow,
+    buyerRow,
+    oneInput,
+};
+
 constexpr std::array chartOptions{
     OptionRow{"--output", Value::Output, "OUT",
               "The picture to write, *.png or *.svg; \"-\" is standard output", true},
@@ -123,6 +133,8 @@ constexpr std::array commands{
                rangeOptions, "ledgrove-cli range --options all home.ledgrove.json"},
     CommandRow{"ledgrove-cli report", "Write the report of a comparison as PDF", reportOptions,
                "ledgrove-cli report --output comparison.pdf --buyer \"Pat Doe\" home.ledgrove.json"},
+    CommandRow{"ledgrove-cli brief", "Write a comparison on one page for the buyer, as PDF", briefOptions,
+               "ledgrove-cli brief --output brief.pdf --buyer \"Pat Doe\" home.ledgrove.json"},
     CommandRow{"ledgrove-cli chart", "Write a chart of a comparison as a picture", chartOptions,
                "ledgrove-cli chart --output savings.png home.ledgrove.json"},
     CommandRow{"ledgrove-cli settings",

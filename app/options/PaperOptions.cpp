@@ -30,13 +30,17 @@ std::string ReadLogo(const std::string& name, std::optional<int>& option) {
 
 } // namespace
 
-void AddPaperOptions(CommandOptions& options, PaperArguments& arguments) {
+void AddPageOptions(CommandOptions& options, PaperArguments& arguments) {
     options.Read("--paper", [&](const std::string& name) { return ReadPaper(name, arguments.Paper.Size); });
-    options.Read("--orientation",
-                 [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); });
     options.Read("--logo", [&](const std::string& name) { return ReadLogo(name, arguments.LogoOption); });
     options.Take("--builder", arguments.Builder);
     options.Take("--buyer", arguments.Buyer);
+}
+
+void AddPaperOptions(CommandOptions& options, PaperArguments& arguments) {
+    AddPageOptions(options, arguments);
+    options.Read("--orientation",
+                 [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); });
 }
 
 } // namespace Ledgrove

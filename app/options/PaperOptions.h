@@ -17,8 +17,11 @@ struct PaperArguments {
     std::string Buyer;
 };
 
-/// Adds --paper, --orientation, --logo, --builder and --buyer, which the command's row must have.
-/// `arguments` must outlive the parser.
+/// Adds --paper, --logo, --builder and --buyer, which the command's row must have. `arguments` must outlive
+/// the parser.
+void AddPageOptions(CommandOptions& options, PaperArguments& arguments);
+
+/// The same with --orientation.
 void AddPaperOptions(CommandOptions& options, PaperArguments& arguments);
 
 } // namespace Ledgrove

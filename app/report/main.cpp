@@ -1,5 +1,5 @@
-// `ledgrove-cli report` and `ledgrove-cli insight --output` start this program, because layout and painting
-// need Qt, which ledgrove-cli does not use.
+// `ledgrove-cli report`, `brief` and `insight --output` start this program, because layout and painting need
+// Qt, which ledgrove-cli does not use.
 
 #include <sstream>
 #include <string>
@@ -14,6 +14,7 @@
 #include "base/ProgramFolder.h"
 #include "base/Text.h"
 #include "reports/ReportChoices.h"
+#include "reports/windows/BriefFile.h"
 #include "reports/windows/InsightFile.h"
 #include "reports/windows/ReportFile.h"
 
@@ -96,13 +97,37 @@ int AnswerQuestions(const std::vector<std::string>& words) {
     return RunPdfCommand(folder, arguments.Input, arguments.Pages, pages);
 }
 
+int WriteBuyersBrief(const std::vector<std::string>& words) {
+    CLI::App app(SummaryOf("ledgrove-cli brief"), "ledgrove-cli brief");
+    std::string folder = ProgramFolder().string();
+    PaperArguments arguments;
+    std::string input = "-";
+    CommandOptions options(app, "ledgrove-cli brief", folder, "ledgrove-report");
+    options.Take("--output", arguments.Output);
+    AddPageOptions(options, arguments);
+    options.Take("FILE", input);
+    if (const auto status = Parse(app, words))
+        return *status;
+    Brief brief;
+    PageMaker pages;
+    pages.Prepare = [&](Session& session, int logoOption) {
+        brief = MakeBrief(session, logoOption, PrintDate());
+        return QString::fromStdString(brief.Missing);
+    };
+    pages.Make = [&](QByteArray& pdf) { return MakeBriefPdf(brief, arguments.Paper, pdf); };
+    pages.Write = [&](const QString& file) { return WriteBriefPdf(brief, arguments.Paper, file); };
+    return RunPdfCommand(folder, input, arguments, pages);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     // ledgrove-cli puts the command in place of the program's name.
-    const bool isInsight = argc > 0 && std::string_view(argv[0]) == "insight";
+    const std::string_view command = argc > 0 ? argv[0] : "";
     WorkOffscreen();
     const QGuiApplication application(argc, argv);
     const std::vector<std::string> words = WordsOf(argc, argv);
-    return isInsight ? AnswerQuestions(words) : Report(words);
+    if (command == "insight")
+        return AnswerQuestions(words);
+    return command == "brief" ? WriteBuyersBrief(words) : Report(words);
 }

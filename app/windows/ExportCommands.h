@@ -14,6 +14,7 @@ struct ExportContext {
     const CurrentFile& File;
     FileQuestions Questions;
     LastChoices Choices;
+    std::function<void()> Brief = {}; ///< previews the buyer's brief
 };
 
 /// Asks for the paper and a file name, and writes the whole report there.

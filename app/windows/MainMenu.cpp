@@ -89,6 +89,10 @@ void AddFileMenu(QMenuBar& bar, CurrentFile& file, const ExportContext& context)
     AddCommand(menu, "Export &CSV…", QKeySequence("Ctrl+Shift+X"), [context] { ExportCsv(context); });
     menu.addSeparator();
     AddButtonCommand(menu, window, "bPrint", "&Print Reports…", QKeySequence::Print);
+    AddCommand(menu, "&Buyer's Brief…", QKeySequence("Ctrl+B"), [context] {
+        if (context.Window.CommitEntry())
+            context.Brief();
+    })->setEnabled(static_cast<bool>(context.Brief));
     menu.addSeparator();
     AddCommand(menu, "&Quit", QKeySequence("Ctrl+Q"), [&window] { window.close(); });
 }

@@ -4,14 +4,12 @@
 #include "reports/windows/PdfOutput.h"
 #include "reports/windows/ReportFile.h"
 
-#include <QDate>
-
 namespace Ledgrove {
 
 namespace {
 
 void Compose(PrintDocument& document, const InsightReport& report, const ReportPaper& paper) {
-    PrepareReport(document, GeometryOf(paper), QDate::currentDate().toString("MM/dd/yyyy").toStdString());
+    PrepareReport(document, GeometryOf(paper), PrintDate());
     document.Title = "Insight";
     document.Start();
     modPrint::WriteInsight(document, report);

@@ -3,9 +3,11 @@
 #include "reports/windows/PagePainter.h"
 #include "reports/windows/PdfOutput.h"
 
-#include <QDate>
-
 namespace Ledgrove {
+
+std::string PrintDate(const QDate& date) {
+    return date.toString("MM/dd/yyyy").toStdString();
+}
 
 std::string ReportFooter(std::string_view date) {
     return "Printed on " + std::string(date) + "||Page %d";
@@ -25,8 +27,7 @@ namespace {
 
 std::optional<SettingsFault> Compose(PrintDocument& document, Session& session,
                                      const ReportFileRequest& request) {
-    PrepareReport(document, GeometryOf(request.Paper),
-                  QDate::currentDate().toString("MM/dd/yyyy").toStdString());
+    PrepareReport(document, GeometryOf(request.Paper), PrintDate());
     AssumptionsScreen assumptions;
     if (auto fault = Module1::FillAssumptions(assumptions, session))
         return fault;

@@ -4,6 +4,7 @@
 #include "reports/PrintDocument.h"
 #include "reports/ReportChoices.h"
 
+#include <QDate>
 #include <QString>
 
 namespace Ledgrove {
@@ -15,6 +16,9 @@ struct ReportFileRequest {
     int LogoOption = 0;
     QString File; ///< of the PDF
 };
+
+/// A date as the pages show it, "11/20/2026"; today's without an argument.
+std::string PrintDate(const QDate& date = QDate::currentDate());
 
 /// The footer of every report; `date` in its printed form, such as "11/20/2026".
 std::string ReportFooter(std::string_view date);

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "ui/windows/insight/CurvesPainter.h"
+#include "ui/windows/insight/StackPainter.h"
 
 namespace Ledgrove {
 
@@ -33,6 +34,8 @@ double TitleHeight(const QFontMetricsF& metrics) {
 
 /// Paints the title; returns the rectangle below it.
 QRectF BelowTitle(QPainter& painter, const QRectF& place, const ChartFigures& chart) {
+    if (chart.Title.empty())
+        return place;
     painter.save();
     QFont bold = painter.font();
     bold.setBold(true);
@@ -370,6 +373,8 @@ void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& ch
         MapPainter(painter, below, chart, palette).Paint(cursor);
     else if (chart.Kind == ChartKind::Curves)
         PaintCurves(painter, below, chart, palette);
+    else if (chart.Kind == ChartKind::MonthlyCost)
+        PaintStacks(painter, below, chart, palette);
     else
         BarsPainter(painter, below, chart, palette).Paint();
 }
