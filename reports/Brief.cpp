@@ -8,6 +8,7 @@
 #include "ui/MainScreenRules.h"
 #include "ui/YearCharts.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -29,9 +30,20 @@ std::shared_ptr<const ChartFigures> CostChart(const Session& session) {
     return chart;
 }
 
+/// Names the amount after so many years beside the curve.
+void MarkYear(ChartFigures& chart, const YearByYear& years, int year) {
+    const double amount = years.Years[static_cast<std::size_t>(year) - 1].Cumulative;
+    chart.Curves.Marks.push_back(
+        {static_cast<double>(year), amount, YearsText(year) + ": " + DollarText(amount)});
+}
+
 std::shared_ptr<const ChartFigures> SavingsChart(const YearByYear& years) {
     auto chart = std::make_shared<ChartFigures>(MakeYearsChart(years));
     chart->Title.clear();
+    MarkYear(*chart, years, years.InHome);
+    if (years.InHome != ChartYears)
+        MarkYear(*chart, years, ChartYears);
+    std::ranges::stable_sort(chart->Curves.Marks, {}, &CurveMark::At);
     return chart;
 }
 

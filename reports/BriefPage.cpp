@@ -26,7 +26,7 @@ constexpr double firstShare = 0.52; ///< of the width, for the first of two colu
 constexpr Twips logoWidth = 2000;
 constexpr Twips logoHeight = 1000;
 constexpr Twips leastChart = 2300;
-constexpr Twips highestChart = 3900;
+constexpr Twips highestChart = 4600;
 
 /// How the page is set: the type, the height of the charts, and how many lines a name may take.
 struct BriefSetting {
@@ -174,8 +174,8 @@ void WriteRows(PrintDocument& document, const std::array<BriefRow, Count>& rows)
 
 void WriteAssumptions(PrintDocument& document, const Brief& brief) {
     const Twips room = document.LineWidth();
-    const Twips value = room * 33 / 100;
-    const Twips date = room * 26 / 100;
+    const Twips value = room * 31 / 100;
+    const Twips date = room * 29 / 100;
     const std::string format =
         std::to_string(room - value - date) + '|' + std::to_string(value) + '|' + std::to_string(date) + ';';
     bool isAnyOld = false;

@@ -78,7 +78,7 @@ public:
         const auto bars = static_cast<double>(m_chart.Categories.size());
         const double table = RowHeight() * static_cast<double>(m_chart.Series.size() + 1);
         const double barHeight =
-            std::clamp((m_place.height() - table) / std::max(bars, 1.0) - line * 1.7, line * 0.8, line * 1.8);
+            std::clamp((m_place.height() - table) / std::max(bars, 1.0) - line * 1.7, line * 0.8, line * 2.6);
         double top = m_place.top();
         for (std::size_t home = 0; home < m_chart.Categories.size(); ++home) {
             m_painter.setPen(m_text);
