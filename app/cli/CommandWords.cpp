@@ -51,7 +51,8 @@ std::string CommandFault(const std::vector<std::string>& words) {
         return std::find(known.begin(), known.end(), word) != known.end();
     };
     if (words.empty())
-        return "Give a command: compare, insight, range, report, brief, chart or settings. \"ledgrove-cli "
+        return "Give a command: compare, insight, range, diff, report, brief, chart or settings. "
+               "\"ledgrove-cli --help\" explains them.";
                "--help\" "
                "explains them.";
     if (LooksLikeOption(words.front()))

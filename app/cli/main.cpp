@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/batch/CompareCommand.h"
+#include "app/batch/DiffCommand.h"
 #include "app/batch/SettingsCommand.h"
 #include "app/cli/CommandWords.h"
 #include "app/options/CommandLine.h"
@@ -120,6 +121,22 @@ int AnswerQuestions(const CLI::App& app, const std::filesystem::path& folder,
     return arguments.Command.Run(folder, arguments.Input);
 }
 
+struct DiffRequest {
+    DiffCommand Command;
+    std::string A;
+    std::string B;
+};
+
+CLI::App* AddDiff(CLI::App& app, std::string& folder, DiffRequest& request) {
+    CLI::App* const diff = AddCommand(app, "diff", "ledgrove-cli diff");
+    CommandOptions options(*diff, "ledgrove-cli diff", folder);
+    options.Read("--format",
+                 [&](const std::string& name) { return request.Command.ReadFormat(name, UnknownWord); });
+    options.Take("A", request.A);
+    options.Take("B", request.B);
+    return diff;
+}
+
 struct SettingsActions {
     CLI::App* Get;
     CLI::App* Set;
@@ -177,6 +194,8 @@ int main(int argc, char** argv) {
     RangeArguments range;
     CLI::App* const rows = AddCommand(app, "range", "ledgrove-cli range");
     AddRangeOptions(*rows, folder, range, "ledgrove-cli");
+    DiffRequest diff;
+    CLI::App* const differences = AddDiff(app, folder, diff);
     AddCommand(app, "report", "ledgrove-cli report");
     AddCommand(app, "brief", "ledgrove-cli brief");
     AddCommand(app, "chart", "ledgrove-cli chart");
@@ -191,6 +210,8 @@ int main(int argc, char** argv) {
         return AnswerQuestions(*answers, folder, insight, words);
     if (*rows)
         return range.Command.Run(folder, range.Input);
+    if (*differences)
+        return diff.Command.Run(folder, diff.A, diff.B);
     if (*settings.Get)
         return PrintSetting(folder, setting.Key);
     if (*settings.Set)

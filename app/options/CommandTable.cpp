@@ -72,6 +72,13 @@ constexpr std::array rangeOptions{
     oneInput,
 };
 
+constexpr std::array diffOptions{
+    OptionRow{"--format", Value::Choice, "text|json", "text (default): tables for people; json: one object"},
+    OptionRow{"A", Value::File, "", "File with the inputs of the first comparison; \"-\" is standard input",
+              true},
+    OptionRow{"B", Value::File, "", "The same for the second comparison", true},
+};
+
 constexpr std::array reportOptions{
     OptionRow{"--output", Value::Output, "OUT.pdf", "The PDF to write, *.pdf; \"-\" is standard output",
               true},
@@ -131,6 +138,9 @@ constexpr std::array commands{
                insightOptions, "ledgrove-cli insight --view breakeven,qualify home.ledgrove.json"},
     CommandRow{"ledgrove-cli range", "List every saved house for a buyer: cost, savings, who qualifies",
                rangeOptions, "ledgrove-cli range --options all home.ledgrove.json"},
+    CommandRow{"ledgrove-cli diff",
+               "Show what differs between two comparisons, and how much each input contributes", diffOptions,
+               "ledgrove-cli diff before.json after.json"},
     CommandRow{"ledgrove-cli report", "Write the report of a comparison as PDF", reportOptions,
                "ledgrove-cli report --output comparison.pdf --buyer \"Pat Doe\" home.ledgrove.json"},
     CommandRow{"ledgrove-cli brief", "Write a comparison on one page for the buyer, as PDF", briefOptions,
