@@ -33,7 +33,10 @@ std::string SentenceOf(const Range& range) {
                 std::to_string(RowsWith(range, [](const RangeRow& row) { return row.ShownNet >= 0; })) + ".";
     if (known < rows)
         sentence += " " + Count(rows - known, "row has", "rows have") + " no figures.";
-    return sentence;
+    // The heads are short, so that a row fits on a line.
+    return sentence +
+           " Price, cost and room are those of the GREENMARK home, \"Base\" those of the base home; "
+           "costs and net are a month's.";
 }
 
 SheetCell QualifiesCell(const RangeRow& row) {
@@ -70,7 +73,7 @@ std::vector<SheetCell> CellsOf(const RangeRow& row, bool limits) {
     const bool known = row.Missing.empty();
     std::vector<SheetCell> cells{TextCell(row.House),
                                  TextCell(std::string(row.Base) + " / " + std::string(row.Labelled)),
-                                 dollars(row.Std.Price), dollars(row.GMH.Price)};
+                                 QualifiesCell(row), dollars(row.Std.Price), dollars(row.GMH.Price)};
     cells.front().Entries = EntriesOf(row);
     const auto add = [&cells, known](SheetCell cell) {
         cells.push_back(known ? std::move(cell) : SheetCell());
@@ -78,7 +81,6 @@ std::vector<SheetCell> CellsOf(const RangeRow& row, bool limits) {
     add(dollars(row.Std.PITIU, CellUnit::DollarsPerMonth));
     add(dollars(row.GMH.PITIU, CellUnit::DollarsPerMonth));
     add(dollars(row.ShownNet, CellUnit::DollarsPerMonth));
-    cells.push_back(QualifiesCell(row));
     add(DollarCell(row.GMH.Margin));
     if (limits)
         add(PriceCell(row));
@@ -91,9 +93,10 @@ Sheet RangeSheet(const Range& range) {
     Sheet sheet;
     sheet.Title = "House range";
     sheet.Sentence = SentenceOf(range);
-    sheet.Heads = {"House",        "Base / GREENMARK", "Base Price",          "Price", "Base Monthly Cost",
-                   "Monthly Cost", "Monthly Net",      "Buyer Qualifies For", "Room"};
-    sheet.Words = {1, 7};
+    sheet.Heads = {"House", "Base / GREENMARK", "Qualifies For", "Base Price",
+                   "Price", "Base Cost",        "Cost",          "Net",
+                   "Room"};
+    sheet.Words = {1, 2};
     if (range.HasLimits)
         sheet.Heads.emplace_back("Pays Up To");
     for (const RangeRow& row : range.Rows)

@@ -145,11 +145,13 @@ TEST(RangeSheet, SaysInWordsWhoQualifies) {
     const Sheet sheet = RangeSheet(RangeOf(session, houses));
     std::vector<std::string> words;
     for (const auto& row : sheet.Rows)
-        words.push_back(row[7].Text);
+        words.push_back(row[2].Text);
     EXPECT_THAT(words,
                 ElementsAre("both homes", "the base home only", "Enter the price of the GREENMARK home."));
-    EXPECT_EQ(sheet.Sentence, "3 saved houses. Of 2 rows, the buyer qualifies for the GREENMARK home in 1, "
-                              "and it pays for itself each month in 1. 1 row has no figures.");
+    EXPECT_THAT(
+        sheet.Sentence,
+        testing::StartsWith("3 saved houses. Of 2 rows, the buyer qualifies for the GREENMARK home in 1, "
+                            "and it pays for itself each month in 1. 1 row has no figures. "));
     for (const auto& row : sheet.Rows)
         EXPECT_EQ(row.size(), sheet.Heads.size());
 }
