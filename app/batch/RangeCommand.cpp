@@ -67,13 +67,8 @@ std::string RangeCommand::ReadOptions(const std::string& list, const WordFault& 
     return {};
 }
 
-std::string RangeCommand::Compute(const Session& session, Range& range) const {
-    HouseList houses;
-    if (const auto fault = Module1::LoadHomeList(SettingsFile(session.Folder), houses))
-        return Sentence(*fault);
-    if (auto rows = ComputeHouseRange(session, houses, {m_pairs, !WithoutLimits}))
-        range = std::move(*rows);
-    return {};
+Range RangeCommand::Compute(const Session& session, const HouseList& houses) const {
+    return ComputeHouseRange(session, houses, {m_pairs, !WithoutLimits}).value_or(Range());
 }
 
 int RangeCommand::Write(const Range& range) const {
@@ -100,6 +95,9 @@ int RangeCommand::Run(const std::filesystem::path& folder, const std::string& fi
     if (const auto fault = Module1::LoadMainScreen(start, host, folder))
         return Complain(Sentence(*fault), CannotRun);
     WarnOfSettings(folder);
+    HouseList houses;
+    if (const std::string fault = LoadHouses(folder, houses); !fault.empty())
+        return Complain(fault, CannotRun);
     if (file == "-")
         SayIfTerminal(STDIN_FILENO);
     Comparison comparison(start);
@@ -114,9 +112,12 @@ int RangeCommand::Run(const std::filesystem::path& folder, const std::string& fi
     }
     if (read.Refused)
         return Complain((name.empty() ? "" : name + ": ") + RefusalSentence(*read.Refused), SomeRefused);
-    Range range;
-    const std::string fault = Compute(comparison.State(), range);
-    return fault.empty() ? Write(range) : Complain(fault, CannotRun);
+    return Write(Compute(comparison.State(), houses));
+}
+
+std::string LoadHouses(const std::filesystem::path& folder, HouseList& houses) {
+    const auto fault = Module1::LoadHomeList(SettingsFile(folder), houses);
+    return fault ? Sentence(*fault) : "";
 }
 
 int TellRowsWithout(const Range& range) {

@@ -19,9 +19,8 @@ public:
 
     bool WithoutLimits = false;
 
-    /// The rows of the houses in the session's settings file. Returns a message if the file cannot be read,
-    /// else "".
-    std::string Compute(const Session& session, Range& range) const;
+    /// The rows of the houses for the session's buyer.
+    Range Compute(const Session& session, const HouseList& houses) const;
 
     /// Writes the range of the comparison in `file` ("-" is standard input) with the settings in `folder` to
     /// standard output. Returns the exit status.
@@ -35,6 +34,9 @@ private:
     Format m_format = Format::Text;
     std::vector<OptionPair> m_pairs; ///< empty for the pair of the comparison
 };
+
+/// Reads the saved houses. Returns a message if that failed, else "".
+std::string LoadHouses(const std::filesystem::path& folder, HouseList& houses);
 
 /// Says on standard error how many rows have no figures, and names the first. Returns the exit status.
 int TellRowsWithout(const Range& range);

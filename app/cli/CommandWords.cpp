@@ -53,8 +53,6 @@ std::string CommandFault(const std::vector<std::string>& words) {
     if (words.empty())
         return "Give a command: compare, insight, range, diff, report, brief, chart or settings. "
                "\"ledgrove-cli --help\" explains them.";
-               "--help\" "
-               "explains them.";
     if (LooksLikeOption(words.front()))
         return {};
     if (!isKnown(words.front(), Commands()))

@@ -112,9 +112,11 @@ std::string ChoiceFault(const CLI::App& compare, const CompareRequest& request) 
     return {};
 }
 
-int AnswerQuestions(const CLI::App& app, const std::filesystem::path& folder,
-                    const InsightArguments& arguments, const std::vector<std::string>& words) {
-    if (const std::string fault = InsightChoiceFault(app); !fault.empty())
+/// Runs a command that prints, or that writes PDF with --output.
+template <typename Arguments>
+int PrintOrWrite(const CLI::App& app, const std::filesystem::path& folder, const Arguments& arguments,
+                 const std::vector<std::string>& words) {
+    if (const std::string fault = PaperChoiceFault(app); !fault.empty())
         return Complain(fault, CannotRun);
     if (app.count("--output") > 0)
         return HandOver("ledgrove-report", "option --output", words);
@@ -207,9 +209,9 @@ int main(int argc, char** argv) {
         return fault.empty() ? Compare(folder, request) : Complain(fault, CannotRun);
     }
     if (*answers)
-        return AnswerQuestions(*answers, folder, insight, words);
+        return PrintOrWrite(*answers, folder, insight, words);
     if (*rows)
-        return range.Command.Run(folder, range.Input);
+        return PrintOrWrite(*rows, folder, range, words);
     if (*differences)
         return diff.Command.Run(folder, diff.A, diff.B);
     if (*settings.Get)

@@ -69,6 +69,13 @@ constexpr std::array rangeOptions{
               "the one in the input)"},
     OptionRow{"--no-limits", Value::None, "",
               "Without the price up to which each row pays, which takes most of the time"},
+    OptionRow{"--output", Value::Output, "OUT.pdf",
+              "Write the list as PDF instead, *.pdf; \"-\" is standard output"},
+    paperRow,
+    OptionRow{"--orientation", Value::Choice, "portrait|landscape", "The orientation (default: landscape)"},
+    logoRow,
+    builderRow,
+    buyerRow,
     oneInput,
 };
 

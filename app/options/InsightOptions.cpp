@@ -16,15 +16,4 @@ void AddInsightOptions(CLI::App& app, std::string& folder, InsightArguments& arg
     options.Take("FILE", arguments.Input);
 }
 
-std::string InsightChoiceFault(const CLI::App& app) {
-    const bool writesPages = app.count("--output") > 0;
-    if (writesPages && app.count("--format") > 0)
-        return "--output writes the answers as PDF, and --format prints them. Give one of them.";
-    for (const char* option : {"--paper", "--orientation", "--logo", "--builder", "--buyer"})
-        if (!writesPages && app.count(option) > 0)
-            return std::string(option) +
-                   " is for the PDF that --output names. Give --output OUT.pdf as well.";
-    return {};
-}
-
 } // namespace Ledgrove

@@ -18,7 +18,4 @@ struct InsightArguments {
 void AddInsightOptions(CLI::App& app, std::string& folder, InsightArguments& arguments,
                        const std::string& program);
 
-/// Why the options that were given do not fit each other, as a message; empty if they do.
-std::string InsightChoiceFault(const CLI::App& app);
-
 } // namespace Ledgrove

@@ -43,4 +43,15 @@ void AddPaperOptions(CommandOptions& options, PaperArguments& arguments) {
                  [&](const std::string& name) { return ReadOrientation(name, arguments.Paper.Orientation); });
 }
 
+std::string PaperChoiceFault(const CLI::App& app) {
+    const bool writesPages = app.count("--output") > 0;
+    if (writesPages && app.count("--format") > 0)
+        return "--output writes the answers as PDF, and --format prints them. Give one of them.";
+    for (const char* option : {"--paper", "--orientation", "--logo", "--builder", "--buyer"})
+        if (!writesPages && app.count(option) > 0)
+            return std::string(option) +
+                   " is for the PDF that --output names. Give --output OUT.pdf as well.";
+    return {};
+}
+
 } // namespace Ledgrove

@@ -24,4 +24,8 @@ void AddPageOptions(CommandOptions& options, PaperArguments& arguments);
 /// The same with --orientation.
 void AddPaperOptions(CommandOptions& options, PaperArguments& arguments);
 
+/// For a command that prints or writes PDF: why the options that were given do not fit each other, as a
+/// message; empty if they do.
+std::string PaperChoiceFault(const CLI::App& app);
+
 } // namespace Ledgrove

@@ -11,6 +11,9 @@ void AddRangeOptions(CLI::App& app, std::string& folder, RangeArguments& argumen
     options.Read("--options",
                  [&command](const std::string& list) { return command.ReadOptions(list, UnknownWord); });
     options.Flag("--no-limits", command.WithoutLimits);
+    arguments.Pages.Paper.Orientation = PageOrientation::Landscape;
+    options.Take("--output", arguments.Pages.Output);
+    AddPaperOptions(options, arguments.Pages);
     options.Take("FILE", arguments.Input);
 }
 

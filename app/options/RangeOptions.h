@@ -3,13 +3,14 @@
 #include <string>
 
 #include "app/batch/RangeCommand.h"
-#include "app/options/CommandLine.h"
+#include "app/options/PaperOptions.h"
 
 namespace Ledgrove {
 
 /// The command line of `range`, which ledgrove-cli and the program that writes its PDF both read.
 struct RangeArguments {
     RangeCommand Command;
+    PaperArguments Pages; ///< in landscape without --orientation
     std::string Input = "-";
 };
 

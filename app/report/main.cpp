@@ -1,5 +1,5 @@
-// `ledgrove-cli report`, `brief` and `insight --output` start this program, because layout and painting need
-// Qt, which ledgrove-cli does not use.
+// `ledgrove-cli report`, `brief`, and --output of `insight` and `range` start this program, because layout and
+// painting need Qt, which ledgrove-cli does not use.
 
 #include <sstream>
 #include <string>
@@ -7,8 +7,10 @@
 
 #include <QGuiApplication>
 
+#include "app/batch/ExitStatus.h"
 #include "app/options/CommandLine.h"
 #include "app/options/InsightOptions.h"
+#include "app/options/RangeOptions.h"
 #include "app/report/PdfCommand.h"
 #include "app/windows/Offscreen.h"
 #include "base/ProgramFolder.h"
@@ -16,6 +18,7 @@
 #include "reports/ReportChoices.h"
 #include "reports/windows/BriefFile.h"
 #include "reports/windows/InsightFile.h"
+#include "reports/windows/RangeFile.h"
 #include "reports/windows/ReportFile.h"
 
 namespace {
@@ -119,6 +122,31 @@ int WriteBuyersBrief(const std::vector<std::string>& words) {
     return RunPdfCommand(folder, input, arguments, pages);
 }
 
+int ListHouses(const std::vector<std::string>& words) {
+    CLI::App app(SummaryOf("ledgrove-cli range"), "ledgrove-cli range");
+    std::string folder = ProgramFolder().string();
+    RangeArguments arguments;
+    AddRangeOptions(app, folder, arguments, "ledgrove-report");
+    if (const auto status = Parse(app, words))
+        return *status;
+    HouseList houses;
+    if (const std::string fault = LoadHouses(folder, houses); !fault.empty())
+        return Complain(fault, CannotRun);
+    Range range;
+    RangeReport report;
+    const ReportPaper& paper = arguments.Pages.Paper;
+    PageMaker pages;
+    pages.Prepare = [&](Session& session, int logoOption) {
+        range = arguments.Command.Compute(session, houses);
+        report = MakeRangeReport(session, range, logoOption);
+        return QString();
+    };
+    pages.Make = [&](QByteArray& pdf) { return MakeRangePdf(report, paper, pdf); };
+    pages.Write = [&](const QString& file) { return WriteRangePdf(report, paper, file); };
+    const int status = RunPdfCommand(folder, arguments.Input, arguments.Pages, pages);
+    return status == AllWell ? TellRowsWithout(range) : status;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -129,5 +157,7 @@ int main(int argc, char** argv) {
     const std::vector<std::string> words = WordsOf(argc, argv);
     if (command == "insight")
         return AnswerQuestions(words);
+    if (command == "range")
+        return ListHouses(words);
     return command == "brief" ? WriteBuyersBrief(words) : Report(words);
 }
