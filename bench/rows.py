@@ -233,6 +233,20 @@ class Measurements:
         half, most, worst = (max(question[column] for question in questions) for column in (1, 2, 3))
         return Finding(f"median {half:.2f}, 99th {most:.2f}, worst {worst:.2f} ms", "-", "-", "worst <= 16 ms", worst <= 16)
 
+    @cached_property
+    def ranges(self):
+        """Milliseconds: the range with limits, without them, the diff."""
+        return self.place.figures("range_bench")[0]
+
+    def range_limits(self):
+        return self._answered(self.ranges[0], 4000)
+
+    def range_figures(self):
+        return self._answered(self.ranges[1], 300)
+
+    def diff(self):
+        return self._answered(self.ranges[2], 10)
+
     def insight_jsonl(self):
         """Five times as many lines must not need more memory."""
         few, many = 4000, 20_000
@@ -296,6 +310,9 @@ ROWS = [
     ("insight-map", "insight: map", Measurements.insight_map),
     ("insight-window", "insight: Enter to the answer repainted, 300 times each", Measurements.insight_window),
     ("insight-jsonl", "insight --format jsonl, one core", Measurements.insight_jsonl),
+    ("range-limits", "10,000 saved houses with 7 loans and their limits", Measurements.range_limits),
+    ("range", "the same without limits", Measurements.range_figures),
+    ("diff", "diff of comparisons that differ in every input", Measurements.diff),
     ("loop", "ten hours of edits: heap in use", Measurements.loop),
 ]
 ROWS += [(f"count-{name}", f"instructions: {what} / recorded", lambda run, name=name: run.count(name))
