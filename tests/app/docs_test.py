@@ -74,7 +74,7 @@ class Examples(unittest.TestCase):
 
     def test_every_verb_and_option_is_described(self):
         text = (SOURCE / "docs/cli.md").read_text()
-        for verb in ("compare", "insight", "report", "chart", "settings"):
+        for verb in ("compare", "insight", "range", "diff", "report", "chart", "settings"):
             self.assertIn(f"\n## {verb}\n", text)
             help_text = self.run_shell(f"ledgrove-cli {verb} --help").stdout
             for option in set(re.findall(r"--[a-z]+", help_text)) - {"--help", "--version"}:

@@ -16,7 +16,7 @@ PAGES = Path(sys.argv.pop(1)).resolve()
 from cli_desk import PROGRAM, SOURCE, CliTest  # noqa: E402
 
 PROGRAM = PROGRAM.resolve()
-COMMANDS = ["compare", "insight", "report", "chart", "settings get", "settings set", "settings check", "settings houses"]
+COMMANDS = ["compare", "insight", "range", "diff", "report", "chart", "settings get", "settings set", "settings check", "settings houses"]
 
 
 def shown_help(command):
