@@ -15,7 +15,8 @@ enum class ChartKind {
     Savings,       ///< Summary: the savings of the labelled home over the years
     Sensitivity,   ///< what moves the result: bars on both sides of the monthly net as it is now
     NetMap,        ///< the monthly net for many price differences and yearly savings
-    Curves         ///< amounts over the years, one curve or several
+    Curves,        ///< amounts over the years, one curve or several
+    Waterfall      ///< how inputs lead a figure from one comparison to another, a bar for each
 };
 
 /// The chart of a tab of the main screen; empty for a tab without a chart.
