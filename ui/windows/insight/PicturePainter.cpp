@@ -1,5 +1,7 @@
 #include "ui/windows/insight/PicturePainter.h"
 
+#include "ui/windows/insight/WaterfallPainter.h"
+
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
@@ -375,6 +377,8 @@ void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& ch
         PaintCurves(painter, below, chart, palette);
     else if (chart.Kind == ChartKind::MonthlyCost)
         PaintStacks(painter, below, chart, palette);
+    else if (chart.Kind == ChartKind::Waterfall)
+        PaintWaterfall(painter, below, chart, palette);
     else
         BarsPainter(painter, below, chart, palette).Paint();
 }

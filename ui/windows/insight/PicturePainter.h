@@ -19,7 +19,7 @@ struct MapCell {
 };
 
 /// Paints the chart into the rectangle, with the painter's font and the palette's text colour. The chart is a
-/// sensitivity, a map, curves or monthly costs. `cursor` is outlined on a map.
+/// sensitivity, a map, curves, monthly costs or a waterfall. `cursor` is outlined on a map.
 void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& chart, const QPalette& palette,
                   const std::optional<MapCell>& cursor = {});
 
