@@ -24,7 +24,7 @@ bool IsYesOrNo(const DiffFigure& figure) {
 
 SheetCell ValueCell(const DiffFigure& figure, double value) {
     if (IsYesOrNo(figure))
-        return {Module1::FormatPicture(value * 100, "#0") + "%", value, CellUnit::Percent};
+        return {Module1::FormatPicture(value * 100, "#0") + "%", value * 100, CellUnit::Percent};
     return {ValueText(value, CellUnit::Dollars), value, CellUnit::Dollars};
 }
 
@@ -34,7 +34,6 @@ SheetCell ChangeCell(const DiffFigure& figure, double change) {
     SheetCell cell = ValueCell(figure, std::fabs(change) < least ? 0 : change);
     if (change >= least)
         cell.Text.insert(0, "+");
-    cell.Number = change;
     return cell;
 }
 

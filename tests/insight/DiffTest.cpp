@@ -256,5 +256,18 @@ TEST(DiffSheet, ThePartsLeadFromAToB) {
               "Cost, GREENMARK Home contributes the most: +$100.00.");
 }
 
+TEST(DiffSheet, WhetherTheBuyerQualifiesIsSharedInPercent) {
+    const Session a = Testing::SimpleSession();
+    Session b = a;
+    b.Screen.ecIncome.Text = "$45,000";
+    b.Screen.ecMonthlyDebt.Text = "$500";
+    const Diff diff = DiffOf(a, b);
+    const Sheet sheet = DiffPartsSheet(diff, *diff.FigureOfLabel("lblStdQual"));
+    EXPECT_EQ(sheet.Rows[0][4].Text, "100%");
+    EXPECT_EQ(sheet.Rows[1][3].Text, "-50%");
+    EXPECT_EQ(sheet.Rows[1][3].Number, -50);
+    EXPECT_EQ(sheet.Rows[3][4].Text, "0%");
+}
+
 } // namespace
 } // namespace Ledgrove
