@@ -116,12 +116,7 @@ InsightCommand::InsightCommand()
     , m_by(usualBy) {}
 
 std::string InsightCommand::ReadFormat(const std::string& name, const WordFault& fault) {
-    const std::vector<std::string> names{"text", "json", "jsonl"};
-    const auto found = std::find(names.begin(), names.end(), name);
-    if (found == names.end())
-        return fault("format", name, names);
-    m_format = static_cast<Format>(found - names.begin());
-    return {};
+    return ReadFormatName(name, {"text", "json", "jsonl"}, m_format, fault);
 }
 
 std::string InsightCommand::ReadViews(const std::string& list, const WordFault& fault) {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "app/batch/InsightViewTable.h"
 #include "app/batch/ParallelJson.h"
+#include "app/batch/WordFault.h"
 
 namespace Ledgrove {
 
@@ -33,10 +33,6 @@ private:
 /// The command `ledgrove-cli insight`.
 class InsightCommand {
 public:
-    /// The message about a word that is not one of `known`.
-    using WordFault = std::function<std::string(const std::string& what, const std::string& word,
-                                                const std::vector<std::string>& known)>;
-
     InsightCommand();
 
     // Each reads the text of an option. Returns a message if the text cannot be used, else "".
