@@ -83,7 +83,7 @@ class Words(CliTest):
 
     def test_an_unknown_command_is_named_and_the_nearest_offered(self):
         self.assertEqual(self.said("reprot"), 'ledgrove-cli: "reprot" is not a command. Did you mean "report"?\n')
-        self.assertIn("The commands are compare, insight, range, diff, report, chart and settings.", self.said("bogus"))
+        self.assertIn("The commands are compare, insight, range, diff, report, brief, chart and settings.", self.said("bogus"))
         self.assertIn('"gt" is not a command. Did you mean "get"?', self.said("settings", "--folder", self.folder, "gt"))
         self.assertIn('"setings" is not a command. Did you mean "settings"?', self.said("help", "setings"))
         self.assertIn("Give a command", self.said())
