@@ -19,6 +19,10 @@ QUESTIONS = {"takeaway": "In short", "breakeven": "How far can the price go?", "
              "tax": "Is the tax saving real?", "exit": "If we sell", "explain": "Where does this number come from?"}
 
 
+# Every list of answers ends with what they assume.
+ASSUMED = "What is assumed"
+
+
 class InsightPdf(unittest.TestCase):
     def setUp(self):
         self.folder = Path(tempfile.mkdtemp())
@@ -54,13 +58,13 @@ class InsightPdf(unittest.TestCase):
 class Pages(InsightPdf):
     def test_without_a_list_there_are_all_views_but_map_and_explain(self):
         self.write()
-        self.assertEqual(self.outline(), [QUESTIONS[view] for view in QUESTIONS if view not in ("map", "explain")])
+        self.assertEqual(self.outline(), [QUESTIONS[view] for view in QUESTIONS if view not in ("map", "explain")] + [ASSUMED])
 
     def test_each_view_is_a_section_on_every_paper(self):
         for paper, (width, height) in PAPERS.items():
             for orientation in ("portrait", "landscape"):
                 self.write("--view", ",".join(QUESTIONS), "--paper", paper, "--orientation", orientation)
-                self.assertEqual(self.outline(), list(QUESTIONS.values()))
+                self.assertEqual(self.outline(), list(QUESTIONS.values()) + [ASSUMED])
                 size = re.search(r"Page size: +([\d.]+) x ([\d.]+)", self.tool("pdfinfo", self.pdf))
                 wanted = (width, height) if orientation == "portrait" else (height, width)
                 for found, want in zip(map(float, size.groups()), wanted):
@@ -86,6 +90,21 @@ class Pages(InsightPdf):
         self.assertEqual([int(number) for number in numbers], list(range(1, len(figures) + 1)))
         for page in self.pages():
             self.assertRegex(page, r"No\. +Figure +Formula +With Numbers +Value +Why")
+
+    def test_the_assumptions_of_the_answers_are_at_the_end(self):
+        self.write("--view", "exit")
+        printed = re.sub(r"\s+", " ", self.text())
+        for words in ("Cost of selling, of the price", "6.00%", "a sample value without a published source: ask your agent",
+                      "older than two years", "Growth of utility bills, a year"):
+            self.assertIn(words, printed)
+        self.assertNotIn("Standard deduction", printed)
+        self.run_cli("settings", "set", "--folder", self.folder, "EXIT_SELLING_COST", "5")
+        self.write("--view", "exit")
+        self.assertRegex(re.sub(r"\s+", " ", self.text()), r"Cost of selling, of the price 5\.00% your own")
+
+    def test_the_sentence_about_the_summary_is_printed(self):
+        self.write("--view", "years")
+        self.assertIn("The expected savings on the Summary tab differ", re.sub(r"\s+", " ", self.text()))
 
     def test_by_moves_the_inputs_as_in_the_text(self):
         self.write("--view", "sensitivity", "--by", "25")

@@ -122,6 +122,7 @@ QWidget* frmInsight::MakeAnswer() {
     connect(m_table, &SheetView::CellActivated, this, &frmInsight::EnterCell);
     // On a small screen the answer scrolls.
     auto* scrolled = new QScrollArea;
+    scrolled->setObjectName("Scrolled");
     scrolled->setWidget(answer);
     scrolled->setWidgetResizable(true);
     scrolled->setFrameShape(QFrame::NoFrame);

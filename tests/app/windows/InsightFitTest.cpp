@@ -1,0 +1,100 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include "InsightDesk.h"
+#include "tests/ui/windows/FitTest.h"
+#include "ui/windows/insight/AnswerPicture.h"
+
+using namespace Ledgrove;
+
+namespace {
+
+/// The heights of texts that break are settled in several rounds.
+void Settle() {
+    for (int round = 0; round < 5; ++round)
+        QCoreApplication::processEvents();
+}
+
+/// Whether the text of the label has the room that it needs.
+bool HasRoomForText(const QLabel& label) {
+    return label.height() >=
+               (label.wordWrap() ? label.heightForWidth(label.width()) : label.sizeHint().height()) &&
+           (label.wordWrap() || label.width() >= label.sizeHint().width());
+}
+
+/// The first control of the answer that is narrower or lower than it needs, or beyond the width of the
+/// window; "" if none is.
+QString Cut(const QWidget& answer, int width) {
+    for (const QWidget* control : answer.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(control);
+        const bool isControl =
+            label || qobject_cast<const QAbstractButton*>(control) ||
+            qobject_cast<const QLineEdit*>(control) || qobject_cast<const QComboBox*>(control) ||
+            qobject_cast<const AnswerPicture*>(control) || qobject_cast<const SheetView*>(control);
+        if (!isControl || !control->isVisible() || control->window() != answer.window())
+            continue;
+        const int right = control->mapTo(&answer, QPoint(control->width(), 0)).x();
+        if (right > width || control->width() < control->minimumSizeHint().width() ||
+            control->height() < control->minimumSizeHint().height() || (label && !HasRoomForText(*label)))
+            return QString("%1 \"%2\" at %3")
+                .arg(control->objectName(), label ? label->text() : "")
+                .arg(right);
+    }
+    return {};
+}
+
+} // namespace
+
+/// Runs once for each screen; see CMakeLists.txt.
+class InsightFitTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyAnswerFits();
+    void everyAnswerIsReachedByTab();
+};
+
+void InsightFitTest::everyAnswerFits() {
+    InsightDesk desk;
+    desk.Window->show();
+    for (const QuestionRow& row : InsightQuestions) {
+        desk.Window->Ask(row.Id);
+        Settle();
+        const QString question =
+            QString::fromUtf8(row.Words.data(), static_cast<qsizetype>(row.Words.size()));
+        QVERIFY2(IsOnScreen(*desk.Window), qPrintable(question + ": " + PlaceOf(*desk.Window)));
+        const auto& answer = *desk.Window->findChild<QScrollArea*>("Scrolled");
+        // It may scroll downwards only.
+        QVERIFY2(answer.horizontalScrollBar()->maximum() == 0, qPrintable(question));
+        const QString cut = Cut(*answer.widget(), answer.viewport()->width());
+        QVERIFY2(cut.isEmpty(), qPrintable(question + ": " + cut));
+    }
+}
+
+void InsightFitTest::everyAnswerIsReachedByTab() {
+    InsightDesk desk;
+    desk.Window->show();
+    for (const InsightQuestion question : {InsightQuestion::TaxSaving, InsightQuestion::YearByYear}) {
+        desk.Window->Ask(question);
+        Settle();
+        desk.Window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(desk.Window.get()));
+        const QWidget* const first = desk.Window->focusWidget();
+        int stops = 0;
+        do {
+            QTest::keyClick(desk.Window->focusWidget(), Qt::Key_Tab);
+            const QWidget* focused = desk.Window->focusWidget();
+            QVERIFY2(!focused->visibleRegion().isEmpty(), qPrintable(focused->objectName()));
+            ++stops;
+        } while (desk.Window->focusWidget() != first && stops < 40);
+        QVERIFY(stops >= 9);
+        QVERIFY(stops < 40);
+    }
+}
+
+QTEST_MAIN(InsightFitTest)
+#include "InsightFitTest.moc"
