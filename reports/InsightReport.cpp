@@ -91,14 +91,15 @@ void WriteSentences(PrintDocument& document, const InsightSection& section) {
     document.CurrentY += sentenceGap;
 }
 
-/// A map fills half a page and curves a third, so that the table has room below.
+/// A map fills half a page and curves a quarter, so that the table has room below.
 Twips ChartHeight(const ChartFigures& chart, Twips page) {
     constexpr Twips aroundBars = 1300; ///< title, legend and scale
     constexpr Twips rowHeight = 380;
+    constexpr Twips leastCurves = 3200;
     if (chart.Kind == ChartKind::NetMap)
         return page / 2;
     if (chart.Kind == ChartKind::Curves)
-        return page / 3;
+        return std::max(leastCurves, page / 4);
     return aroundBars + rowHeight * static_cast<Twips>(std::max<std::size_t>(chart.Categories.size(), 1));
 }
 

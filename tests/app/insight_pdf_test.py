@@ -94,13 +94,13 @@ class Pages(InsightPdf):
     def test_the_assumptions_of_the_answers_are_at_the_end(self):
         self.write("--view", "exit")
         printed = re.sub(r"\s+", " ", self.text())
-        for words in ("Cost of selling, of the price", "6.00%", "a sample value without a published source: ask your agent",
-                      "older than two years", "Growth of utility bills, a year"):
+        # The words of a cell may stand on several lines.
+        for words in ("Cost of selling, of", "6.00%", "a sample value without a published source", "older than", "Growth of utility", "2018-07-09"):
             self.assertIn(words, printed)
         self.assertNotIn("Standard deduction", printed)
         self.run_cli("settings", "set", "--folder", self.folder, "EXIT_SELLING_COST", "5")
         self.write("--view", "exit")
-        self.assertRegex(re.sub(r"\s+", " ", self.text()), r"Cost of selling, of the price 5\.00% your own")
+        self.assertRegex(re.sub(r"\s+", " ", self.text()), r"Cost of selling, of 5\.00% your own")
 
     def test_the_sentence_about_the_summary_is_printed(self):
         self.write("--view", "years")

@@ -57,7 +57,7 @@ int FlowLayout::Arrange(const QRect& place, bool moves) const {
             item->hasHeightForWidth() ? item->heightForWidth(width) : item->sizeHint().height();
         if (left > room.left() && left + width > room.right() + 1) {
             left = room.left();
-            top += rowHeight + gap;
+            top += rowHeight + gap / 2;
             rowHeight = 0;
         }
         if (moves)

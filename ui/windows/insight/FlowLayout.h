@@ -4,7 +4,8 @@
 
 namespace Ledgrove {
 
-/// Lays its items out from left to right, and continues in another row where there is no room.
+/// Lays its items out from left to right, and continues in another row where there is no
+/// room. Rows are half as far apart as items.
 class FlowLayout : public QLayout {
 public:
     explicit FlowLayout(QWidget* parent);
