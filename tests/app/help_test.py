@@ -178,7 +178,7 @@ class Examples(HelpTest):
 
     def insight(self, inputs):
         """All answers of insight; the figures of explain by their names."""
-        views = "breakeven,options,qualify,sensitivity,map,explain"
+        views = "breakeven,options,qualify,sensitivity,map,years,energy,tax,exit,explain"
         run = subprocess.run([PROGRAM, "insight", "--folder", DATA, "--format", "json", "--view", views],
                              input=inputs.encode(), capture_output=True, check=True, timeout=60)
         answers = json.loads(run.stdout)
@@ -209,7 +209,7 @@ class Examples(HelpTest):
                     else:
                         number, unit = number_of(text)
                         self.assertLessEqual(abs(number - value), HALF_A_UNIT * unit, f"{text} for {value}")
-        self.assertGreater(shown, 12)
+        self.assertGreater(shown, 26)
 
     def test_every_figure_is_inside_an_example(self):
         inside = [element for example in self.marked("data-inputs") for element in example.iter()]
