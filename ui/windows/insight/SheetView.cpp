@@ -55,7 +55,13 @@ void SheetView::FitColumns() {
 /// The columns of words share the room that the others leave.
 void SheetView::BreakWords() {
     QHeaderView& heads = *horizontalHeader();
-    const int least = fontMetrics().averageCharWidth() * 20;
+    constexpr int narrow = 14, readable = 24; // letters
+    int figures = 0;
+    for (int column = 0; column < heads.count(); ++column)
+        figures += m_model.IsWords(column) ? 0 : heads.sectionSize(column);
+    // A table that is too wide without its words does not fit anyway.
+    const int letters = figures > viewport()->width() ? readable : narrow;
+    const int least = fontMetrics().averageCharWidth() * letters;
     int others = 0;
     QList<int> wide;
     for (int column = 0; column < heads.count(); ++column) {
