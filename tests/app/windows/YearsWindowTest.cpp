@@ -1,13 +1,15 @@
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QSlider>
+#include <QToolButton>
 
 #include "InsightDesk.h"
-#include "app/windows/TaxLineTip.h"
+#include "app/windows/InsightOpener.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/insight/AnswerPicture.h"
 
@@ -62,6 +64,7 @@ private slots:
     void anotherEditorsChangeIsShown();
     void everyAssumptionIsListed();
     void everyQuestionIsSpokenAndSaved();
+    void theFieldsComeBetweenTheQuestionsAndTheAnswer();
     void theTaxLineIsPointedOut();
 };
 
@@ -316,20 +319,36 @@ void YearsWindowTest::everyQuestionIsSpokenAndSaved() {
         QVERIFY2(!field->accessibleName().isEmpty(), qPrintable(field->objectName()));
 }
 
+void YearsWindowTest::theFieldsComeBetweenTheQuestionsAndTheAnswer() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::Sale);
+    desk.Show(InsightQuestion::EnergyPrices);
+    desk.Window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(desk.Window.get()));
+    QStringList stops;
+    for (int stop = 0; stop < 4; ++stop) {
+        stops += desk.Window->focusWidget()->objectName();
+        QTest::keyClick(desk.Window->focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(stops,
+             (QStringList{"Questions", "GROWTH_UTILITIES", "GROWTH_UTILITIESSlider", "AnswerPicture"}));
+}
+
 void YearsWindowTest::theTaxLineIsPointedOut() {
     InsightDesk desk;
     frmMain& main = *desk.Open.Window;
     const auto tip = [&main](const char* label) { return main.findChild<ResultLabel*>(label)->toolTip(); };
-    // The tab shows tax savings of a few dollars, and neither home's interest exceeds the deduction of
-    // $32,200.
+    InsightOpener opener(desk.Open.State, desk.Open.Outside, desk.Open.Questions, {}, "");
+    opener.Follow(main);
+    // The tab shows tax savings of a few dollars, and neither home's interest exceeds the deduction.
     QVERIFY(desk.Open.State.Scenario.ShownTaxSavings > 0.5F);
-    PointOutTaxLine(main, desk.Open.State);
     for (const char* label : {"lblTaxSavMo", "lblTaxSavYr", "lbltaxsavmo2"})
         QCOMPARE(tip(label), "checked: see Insight");
     QCOMPARE(tip("lblUtilSavMo"), "");
-    desk.Open.State.Screen.chkDoTax0 = false;
-    PointOutTaxLine(main, desk.Open.State);
+    QCOMPARE(main.findChild<QToolButton*>("bFigure")->toolTip(), "Where does this number come from? (F2)");
+    main.findChild<QCheckBox*>("chkDoTax0")->click();
     QCOMPARE(tip("lblTaxSavMo"), "");
+    QCOMPARE(tip("lbltaxsavmo2"), "");
 }
 
 QTEST_MAIN(YearsWindowTest)

@@ -63,6 +63,14 @@ void SettingsPanel::Show(const std::vector<SettingField>& fields) {
     setVisible(!fields.empty());
 }
 
+void SettingsPanel::FollowInTabOrder(QWidget& before) const {
+    QWidget* last = &before;
+    for (QWidget* stop : m_stops) {
+        setTabOrder(last, stop);
+        last = stop;
+    }
+}
+
 void SettingsPanel::GiveUpRefused() {
     for (Row& row : m_rows) {
         row.Complaint->clear();
@@ -73,6 +81,7 @@ void SettingsPanel::GiveUpRefused() {
 
 void SettingsPanel::Build(const std::vector<SettingField>& fields) {
     m_rows.clear();
+    m_stops.clear();
     while (QLayoutItem* item = layout()->takeAt(0)) {
         // Later, because one of them may be at work now.
         item->widget()->hide();
@@ -96,6 +105,7 @@ void SettingsPanel::AddRow(const SettingField& field) {
     caption->setBuddy(row.Edit);
     Identify(*row.Edit, Words(field.Key), Words(field.Name));
     row.Edit->setAlignment(Qt::AlignRight);
+    m_stops += row.Edit;
     row.Edit->setFixedWidth(fontMetrics().averageCharWidth() * fieldLetters);
     row.Tried = new QLabel("(not kept)");
     box->layout()->addWidget(caption);
@@ -105,6 +115,7 @@ void SettingsPanel::AddRow(const SettingField& field) {
         row.Shown = field;
         AddSlider(row);
         box->layout()->addWidget(row.Slider);
+        m_stops += row.Slider;
         connect(row.Slider, &QSlider::valueChanged, this,
                 [this, at](int place) { Try(at, m_rows[at].Shown.Slider[static_cast<std::size_t>(place)]); });
     }
@@ -139,6 +150,7 @@ void SettingsPanel::AddChoices(const SettingField& field, qsizetype at) {
         button->setObjectName("Choice");
         button->setAutoDefault(true);
         connect(button, &QPushButton::clicked, this, [this, at, text = choice.Text] { Try(at, text); });
+        m_stops += button;
         layout()->addWidget(button);
     }
 }
@@ -153,6 +165,7 @@ void SettingsPanel::AddButtons() {
     for (QPushButton* button : {m_keep, m_back}) {
         button->setAutoDefault(true);
         layout()->addWidget(button);
+        m_stops += button;
     }
     connect(m_keep, &QPushButton::clicked, this, &SettingsPanel::KeepAsked);
     connect(m_back, &QPushButton::clicked, this, &SettingsPanel::GoBackAsked);

@@ -28,6 +28,9 @@ public:
     /// are shown.
     void Show(const std::vector<SettingField>& fields);
 
+    /// Puts the panel's controls after `before` into the order of Tab, because they come and go.
+    void FollowInTabOrder(QWidget& before) const;
+
     /// Shows the values in force, also in place of refused texts.
     void GiveUpRefused();
 
@@ -58,6 +61,7 @@ private:
 
     TryText m_try;
     QList<Row> m_rows;
+    QList<QWidget*> m_stops; ///< of Tab
     QPushButton* m_keep = nullptr;
     QPushButton* m_back = nullptr;
 };

@@ -254,6 +254,7 @@ void frmInsight::ShowAnswer() {
     // A table of one column repeats the sentences.
     m_table->setVisible(hasAnswer && !answer.Chain && answer.Table.Heads.size() > 1);
     m_settings->Show(answer.Fields);
+    m_settings->FollowInTabOrder(*m_questions);
     ShowYears(answer);
     m_print->setEnabled(hasAnswer);
     m_export->setEnabled(!m_table->isHidden());
