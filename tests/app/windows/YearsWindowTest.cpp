@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -292,6 +293,11 @@ void YearsWindowTest::everyAssumptionIsListed() {
     const int row = desk.RowOf("PMI a year, less than 5% down");
     QCOMPARE(desk.Cell(row, 1), "0.87% of the loan");
     QCOMPARE(desk.Cell(row, 4), "older than two years");
+    // A long text breaks, and its row shows all of it.
+    auto& table = desk.Find<SheetView>("AnswerTable");
+    const int ratios = desk.RowOf("Qualifying ratios of the loan types");
+    QVERIFY(table.rowHeight(ratios) > 2 * table.fontMetrics().height());
+    QVERIFY(table.horizontalHeader()->length() <= table.viewport()->width());
     auto& list = desk.Find<QListWidget>("Questions");
     QCOMPARE(list.currentItem()->text(), "What is assumed");
     QCOMPARE(list.item(list.currentRow() + 1)->text(), "Where does this number come from?");

@@ -206,9 +206,13 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
         return QVariant::fromValue(Qt::Alignment(Qt::AlignVCenter) |
                                    (IsWords(index.column()) ? Qt::AlignLeft : Qt::AlignRight));
     case Qt::FontRole: {
+        const bool isBold =
+            cell.Mark == CellMark::Best || cell.Mark == CellMark::Current || cell.Mark == CellMark::Turn;
+        // Most cells have the view's font, which is faster to measure.
+        if (!isBold && cell.Mark != CellMark::Idle)
+            return {};
         QFont font = QGuiApplication::font();
-        font.setBold(cell.Mark == CellMark::Best || cell.Mark == CellMark::Current ||
-                     cell.Mark == CellMark::Turn);
+        font.setBold(isBold);
         font.setItalic(cell.Mark == CellMark::Idle);
         return font;
     }

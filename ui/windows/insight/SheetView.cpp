@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSortFilterProxyModel>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "ui/windows/insight/SheetModel.h"
@@ -28,7 +29,7 @@ SheetView::SheetView(SheetModel& model, QWidget* parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     setShowGrid(false);
     setAlternatingRowColors(true);
-    setWordWrap(false);
+    setWordWrap(true);
     setTabKeyNavigation(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setSelectionMode(ContiguousSelection);
@@ -47,7 +48,6 @@ void SheetView::Settle() {
 }
 
 void SheetView::FitColumns() {
-    setWordWrap(false);
     resizeColumnsToContents();
     BreakWords();
 }
@@ -76,11 +76,24 @@ void SheetView::BreakWords() {
     for (qsizetype i = 0; i < wide.size(); ++i) {
         const int share = std::max(least, room / static_cast<int>(wide.size() - i));
         const int width = std::min(heads.sectionSize(wide[i]), share);
-        if (width < heads.sectionSize(wide[i]))
-            setWordWrap(true);
         heads.resizeSection(wide[i], width);
         room -= width;
     }
+}
+
+int SheetView::sizeHintForRow(int row) const {
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.features |= QStyleOptionViewItem::WrapText;
+    int height = 0;
+    for (int column = 0; column < m_sorted->columnCount(); ++column) {
+        if (!m_model.IsWords(column))
+            continue;
+        option.rect = QRect(0, 0, columnWidth(column), 0);
+        const QModelIndex cell = m_sorted->index(row, column);
+        height = std::max(height, itemDelegateForIndex(cell)->sizeHint(option, cell).height());
+    }
+    return height;
 }
 
 void SheetView::resizeEvent(QResizeEvent* event) {

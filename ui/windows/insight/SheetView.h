@@ -32,6 +32,8 @@ signals:
     void CellActivated();
 
 protected:
+    /// Only columns of words can need several lines, and measuring a text is slow.
+    int sizeHintForRow(int row) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
