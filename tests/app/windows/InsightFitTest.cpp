@@ -37,9 +37,13 @@ QString Cut(const QWidget& answer, int width) {
             qobject_cast<const AnswerPicture*>(control) || qobject_cast<const SheetView*>(control);
         if (!isControl || !control->isVisible() || control->window() != answer.window())
             continue;
+        const auto* list = qobject_cast<const QComboBox*>(control);
+        const bool isCutList =
+            list && list->objectName() == "Years" && list->width() < list->sizeHint().width();
         const int right = control->mapTo(&answer, QPoint(control->width(), 0)).x();
         if (right > width || control->width() < control->minimumSizeHint().width() ||
-            control->height() < control->minimumSizeHint().height() || (label && !HasRoomForText(*label)))
+            control->height() < control->minimumSizeHint().height() || (label && !HasRoomForText(*label)) ||
+            isCutList)
             return QString("%1 \"%2\" at %3")
                 .arg(control->objectName(), label ? label->text() : "")
                 .arg(right);
@@ -55,6 +59,7 @@ class InsightFitTest : public QObject {
 
 private slots:
     void everyAnswerFits();
+    void aComplaintFits();
     void everyAnswerIsReachedByTab();
 };
 
@@ -73,6 +78,23 @@ void InsightFitTest::everyAnswerFits() {
         const QString cut = Cut(*answer.widget(), answer.viewport()->width());
         QVERIFY2(cut.isEmpty(), qPrintable(question + ": " + cut));
     }
+}
+
+void InsightFitTest::aComplaintFits() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::TaxSaving);
+    for (const char* key : {"DEDUCTION_OTHER", "DEDUCTION_DEBT_CAP"}) {
+        auto& field = desk.Find<QLineEdit>(key);
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, "ten thousand");
+        QTest::keyClick(&field, Qt::Key_Return);
+    }
+    Settle();
+    const auto& answer = *desk.Window->findChild<QScrollArea*>("Scrolled");
+    QCOMPARE(answer.horizontalScrollBar()->maximum(), 0);
+    const QString cut = Cut(*answer.widget(), answer.viewport()->width());
+    QVERIFY2(cut.isEmpty(), qPrintable(cut));
 }
 
 void InsightFitTest::everyAnswerIsReachedByTab() {

@@ -17,6 +17,7 @@ namespace Ledgrove {
 namespace {
 
 constexpr int fieldLetters = 12;
+constexpr int complaintLetters = 40; ///< of a line
 
 QString Words(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -123,6 +124,7 @@ void SettingsPanel::AddRow(const SettingField& field) {
     row.Complaint = new QLabel;
     row.Complaint->setObjectName("Complaint");
     row.Complaint->setWordWrap(true);
+    row.Complaint->setMinimumWidth(fontMetrics().averageCharWidth() * complaintLetters);
     row.Complaint->setTextFormat(Qt::PlainText);
     row.Complaint->setTextInteractionFlags(Qt::TextSelectableByMouse);
     row.Complaint->hide();

@@ -26,7 +26,6 @@ SheetView::SheetView(SheetModel& model, QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     setSortingEnabled(true);
     verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     setShowGrid(false);
     setAlternatingRowColors(true);
     setWordWrap(true);
@@ -50,6 +49,7 @@ void SheetView::Settle() {
 void SheetView::FitColumns() {
     resizeColumnsToContents();
     BreakWords();
+    resizeRowsToContents();
 }
 
 /// The columns of words share the room that the others leave.
@@ -89,7 +89,7 @@ int SheetView::sizeHintForRow(int row) const {
     for (int column = 0; column < m_sorted->columnCount(); ++column) {
         if (!m_model.IsWords(column))
             continue;
-        option.rect = QRect(0, 0, columnWidth(column), 0);
+        option.rect = QRect(0, 0, columnWidth(column), 1); // an empty one would not break the text
         const QModelIndex cell = m_sorted->index(row, column);
         height = std::max(height, itemDelegateForIndex(cell)->sizeHint(option, cell).height());
     }

@@ -154,12 +154,14 @@ QWidget* frmInsight::MakeYearSwitch() {
     auto* caption = new QLabel("Sho&w:");
     m_years = new QComboBox;
     Identify(*m_years, "Years", "Years or months of the table");
+    m_years->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     caption->setBuddy(m_years);
     row->addWidget(caption);
     row->addWidget(m_years);
     row->addStretch();
     connect(m_years, &QComboBox::activated, this, [this](int year) {
         m_year = year;
+        m_model.Show({});
         ShowAnswer();
         m_table->Settle();
     });
