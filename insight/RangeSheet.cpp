@@ -8,8 +8,12 @@ namespace Ledgrove {
 
 namespace {
 
+std::string Number(std::size_t number) {
+    return Module1::FormatPicture(static_cast<double>(number), "#,##0");
+}
+
 std::string Count(std::size_t number, const std::string& one, const std::string& more) {
-    return Module1::FormatPicture(static_cast<double>(number), "#,##0") + " " + (number == 1 ? one : more);
+    return Number(number) + " " + (number == 1 ? one : more);
 }
 
 template <typename Condition>
@@ -28,15 +32,12 @@ std::string SentenceOf(const Range& range) {
     if (rows > range.Houses)
         sentence += ", each with " + std::to_string(rows / range.Houses) + " pairs of mortgage options";
     sentence += ". Of " + Count(known, "row", "rows") + ", the buyer qualifies for the GREENMARK home in " +
-                std::to_string(RowsWith(range, [](const RangeRow& row) { return row.GMH.Qualifies; })) +
+                Number(RowsWith(range, [](const RangeRow& row) { return row.GMH.Qualifies; })) +
                 ", and it pays for itself each month in " +
-                std::to_string(RowsWith(range, [](const RangeRow& row) { return row.ShownNet >= 0; })) + ".";
+                Number(RowsWith(range, [](const RangeRow& row) { return row.ShownNet >= 0; })) + ".";
     if (known < rows)
         sentence += " " + Count(rows - known, "row has", "rows have") + " no figures.";
-    // The heads are short, so that a row fits on a line.
-    return sentence +
-           " Price, cost and room are those of the GREENMARK home, \"Base\" those of the base home; "
-           "costs and net are a month's.";
+    return sentence;
 }
 
 SheetCell QualifiesCell(const RangeRow& row) {
@@ -97,6 +98,10 @@ Sheet RangeSheet(const Range& range) {
                    "Price", "Base Cost",        "Cost",          "Net",
                    "Room"};
     sheet.Words = {1, 2};
+    // The heads are short, so that a row fits on a line.
+    if (!range.Rows.empty())
+        sheet.Note = "Price, cost and room are those of the GREENMARK home, \"Base\" those of the base home; "
+                     "costs and net are a month's.";
     if (range.HasLimits)
         sheet.Heads.emplace_back("Pays Up To");
     for (const RangeRow& row : range.Rows)

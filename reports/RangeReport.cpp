@@ -61,6 +61,7 @@ void WriteRange(PrintDocument& document, const RangeReport& report) {
     document.FontSize = sentenceFont;
     document.Paragraph(report.Buyer);
     document.Paragraph(report.Houses.Sentence);
+    document.Paragraph(report.Houses.Note);
     document.CurrentY += sentenceGap;
     if (report.Houses.Rows.empty())
         return;

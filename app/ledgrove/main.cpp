@@ -24,6 +24,7 @@
 #include "reports/windows/HelpPrint.h"
 #include "reports/windows/InsightPrint.h"
 #include "reports/windows/PrintAction.h"
+#include "reports/windows/RangePrint.h"
 #include "settings/SettingsCheck.h"
 #include "ui/StartUp.h"
 #include "ui/windows/Dialogs.h"
@@ -102,7 +103,8 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     const Ledgrove::FileQuestions questions = Ledgrove::AskAtScreen();
     actions.Questions = questions;
     Ledgrove::InsightOpener insight(session, host, questions,
-                                    Ledgrove::InsightPrintAction(session, host, printers),
+                                    {Ledgrove::InsightPrintAction(session, host, printers),
+                                     Ledgrove::RangePrintAction(session, host, printers)},
                                     QCoreApplication::applicationDirPath());
     actions.Ask = [&insight](Ledgrove::InsightQuestion question) { insight.Ask(question); };
     actions.Explain = [&insight](const std::string& label) { insight.Explain(label); };

@@ -1,5 +1,5 @@
-// `ledgrove-cli report`, `brief`, and --output of `insight` and `range` start this program, because layout and
-// painting need Qt, which ledgrove-cli does not use.
+// `ledgrove-cli report`, `brief`, and --output of `insight` and `range` start this program, because layout
+// and painting need Qt, which ledgrove-cli does not use.
 
 #include <sstream>
 #include <string>

@@ -5,12 +5,13 @@
 #include <utility>
 
 #include "app/windows/InsightAnswering.h"
+#include "app/windows/ModelsAnswering.h"
 #include "app/windows/TaxLineTip.h"
 #include "ui/windows/SafeFile.h"
 
 namespace Ledgrove {
 
-InsightOpener::InsightOpener(Session& session, Host& outside, FileQuestions questions, InsightPrinter print,
+InsightOpener::InsightOpener(Session& session, Host& outside, FileQuestions questions, Printers print,
                              QString folder)
     : m_session(session)
     , m_outside(outside)
@@ -34,7 +35,8 @@ void InsightOpener::Follow(frmMain& window) {
 
 InsightContext InsightOpener::Context() {
     InsightContext context;
-    ConnectAnswers(context, {m_session, m_settings, m_outside}, m_print);
+    ConnectAnswers(context, {m_session, m_settings, m_outside}, m_print.Answers);
+    context.Models = MakeModelsContext(m_session, m_print.Houses);
     context.Keep = [this, keep = context.Keep](InsightQuestion question) {
         keep(question);
         PointOutTaxLine(*m_main, m_session);

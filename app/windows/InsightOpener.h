@@ -5,6 +5,7 @@
 
 #include "engine/Session.h"
 #include "reports/windows/InsightPrint.h"
+#include "reports/windows/RangePrint.h"
 #include "ui/TriedSettings.h"
 #include "ui/windows/InsightWindow.h"
 #include "ui/windows/frmMain.h"
@@ -16,9 +17,14 @@ class InsightOpener : public QObject {
     Q_OBJECT
 
 public:
+    /// What the window prints on.
+    struct Printers {
+        InsightPrinter Answers;
+        RangePrinter Houses;
+    };
+
     /// `session` and `outside` must outlive the object; `folder` is the program's.
-    InsightOpener(Session& session, Host& outside, FileQuestions questions, InsightPrinter print,
-                  QString folder);
+    InsightOpener(Session& session, Host& outside, FileQuestions questions, Printers print, QString folder);
     ~InsightOpener() override;
 
     /// Connects the main window, whose entries the Insight window follows. It must outlive the object.
@@ -39,7 +45,7 @@ private:
     Host& m_outside;
     TriedSettings m_settings;
     FileQuestions m_questions;
-    InsightPrinter m_print;
+    Printers m_print;
     QString m_folder;
     frmMain* m_main = nullptr;
     std::unique_ptr<InsightWindow> m_window;

@@ -57,6 +57,7 @@ frmPrint::frmPrint(PreviewParts parts, Session& session, Host& outside, QWidget*
     BuildControls();
     Connect();
     Load();
+    m_orientations->setCurrentIndex(static_cast<int>(m_parts.Orientation));
     Present();
     m_preview->setFocus();
     m_place = new NormalPlace(*this);

@@ -18,7 +18,8 @@ struct PreviewParts {
     /// Writes the report to the open document; called for each composition.
     std::function<void(PrintDocument&)> WriteReport;
     const PrintOutside& Machine;
-    const char* Title = "Summary Report"; ///< of the window and of the print job
+    const char* Title = "Summary Report";                    ///< of the window and of the print job
+    PageOrientation Orientation = PageOrientation::Portrait; ///< to begin with
 };
 
 /// Shows the report in a preview and prints it from there. The document lives as long as the window.

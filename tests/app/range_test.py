@@ -113,7 +113,8 @@ class Range(CliTest):
         shown = self.range("text", BUYER, "--options", "VA").stdout.decode()
         self.assertTrue(shown.startswith("3 saved houses. Of 3 rows, the buyer qualifies"), shown)
         self.assertIn("Qualifies For", shown)
-        table = shown.split("\n\n", 1)[1].splitlines()
+        table = shown.split("\n\n")[1].splitlines()
+        self.assertIn("those of the base home", shown.split("\n\n")[2])
         self.assertEqual(len(table), 4)
         self.assertEqual(len({line.index("VA / VA") for line in table[1:]}), 1)
 

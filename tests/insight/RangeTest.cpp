@@ -151,7 +151,7 @@ TEST(RangeSheet, SaysInWordsWhoQualifies) {
     EXPECT_THAT(
         sheet.Sentence,
         testing::StartsWith("3 saved houses. Of 2 rows, the buyer qualifies for the GREENMARK home in 1, "
-                            "and it pays for itself each month in 1. 1 row has no figures. "));
+                            "and it pays for itself each month in 1. 1 row has no figures."));
     for (const auto& row : sheet.Rows)
         EXPECT_EQ(row.size(), sheet.Heads.size());
 }

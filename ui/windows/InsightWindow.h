@@ -10,6 +10,7 @@
 
 #include "ui/InsightAnswers.h"
 #include "ui/windows/FileQuestions.h"
+#include "ui/windows/ModelsContext.h"
 
 namespace Ledgrove {
 
@@ -30,6 +31,7 @@ struct InsightContext {
     std::function<void(const std::vector<EntryText>&)> Enter;
     /// Previews the answers to these questions for printing, with the figure and the year of `ask`.
     std::function<void(const std::vector<InsightQuestion>&, const InsightAsk& ask)> Print;
+    ModelsContext Models;
     std::function<void()> Help;
     FileQuestions Questions; ///< asks where to save a picture or a table
     /// The table as a CSV file.

@@ -5,6 +5,7 @@
 
 #include "DesktopDesk.h"
 #include "app/windows/InsightAnswering.h"
+#include "app/windows/ModelsAnswering.h"
 #include "ui/windows/insight/SheetView.h"
 #include "ui/windows/insight/frmInsight.h"
 
@@ -31,6 +32,8 @@ struct InsightDesk {
         context.GoTo = [this](const QString& control, const QString& key) { WentTo = control + '/' + key; };
         context.Enter = [this](const std::vector<EntryText>& texts) { Open.Window->Enter(texts); };
         context.Help = [this] { ++Helps; };
+        context.Models =
+            MakeModelsContext(Open.State, [this](const Range& range) { PrintedHouses = range.Rows.size(); });
         context.Questions = Open.Questions;
         context.Write = [this](const QString&, const QByteArray& content) { Written = content; };
         Window = std::make_unique<frmInsight>(std::move(context));
@@ -66,6 +69,7 @@ struct InsightDesk {
 
     int Answers = 0;
     int Helps = 0;
+    std::size_t PrintedHouses = 0; ///< rows of the printed list
     QString WentTo;
     QList<std::string> Explained;
     QByteArray Written;

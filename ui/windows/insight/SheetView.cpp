@@ -48,6 +48,14 @@ void SheetView::Settle() {
 
 void SheetView::FitColumns() {
     resizeColumnsToContents();
+    // Measuring every row of a long list would take seconds.
+    constexpr int mostMeasured = 1000;
+    const bool isLong = m_sorted->rowCount() > mostMeasured;
+    setWordWrap(!isLong);
+    if (isLong) {
+        verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+        return;
+    }
     BreakWords();
     resizeRowsToContents();
 }
@@ -61,11 +69,13 @@ void SheetView::BreakWords() {
         figures += m_model.IsWords(column) ? 0 : heads.sectionSize(column);
     // A table that is too wide without its words does not fit anyway.
     const int letters = figures > viewport()->width() ? readable : narrow;
-    const int least = fontMetrics().averageCharWidth() * letters;
+    const auto least = [&](int column) {
+        return std::max(fontMetrics().averageCharWidth() * letters, heads.sectionSizeHint(column));
+    };
     int others = 0;
     QList<int> wide;
     for (int column = 0; column < heads.count(); ++column) {
-        if (m_model.IsWords(column) && heads.sectionSize(column) > least)
+        if (m_model.IsWords(column) && heads.sectionSize(column) > least(column))
             wide += column;
         else
             others += heads.sectionSize(column);
@@ -74,7 +84,7 @@ void SheetView::BreakWords() {
     std::sort(wide.begin(), wide.end(),
               [&heads](int a, int b) { return heads.sectionSize(a) < heads.sectionSize(b); });
     for (qsizetype i = 0; i < wide.size(); ++i) {
-        const int share = std::max(least, room / static_cast<int>(wide.size() - i));
+        const int share = std::max(least(wide[i]), room / static_cast<int>(wide.size() - i));
         const int width = std::min(heads.sectionSize(wide[i]), share);
         heads.resizeSection(wide[i], width);
         room -= width;

@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -19,8 +20,10 @@
 #include "ui/windows/Identify.h"
 #include "ui/windows/UsersFolder.h"
 #include "ui/windows/insight/AnswerPicture.h"
+#include "ui/windows/insight/AnswerText.h"
 #include "ui/windows/insight/ChainView.h"
 #include "ui/windows/insight/FlowLayout.h"
+#include "ui/windows/insight/ModelsView.h"
 #include "ui/windows/insight/SettingsPanel.h"
 #include "ui/windows/insight/SheetView.h"
 
@@ -32,16 +35,6 @@ constexpr int highlightMilliseconds = 1500;
 
 QString Words(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// A label that wraps and that a mouse or a screen reader can copy from.
-QLabel* MakeText(const char* control) {
-    auto* label = new QLabel;
-    label->setObjectName(control);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setTextFormat(Qt::PlainText);
-    return label;
 }
 
 bool ProposesEntries(const Sheet& sheet) {
@@ -59,7 +52,10 @@ frmInsight::frmInsight(InsightContext context)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 8, 8, 8);
     row->addWidget(MakeQuestions());
-    row->addWidget(MakeAnswer(), 1);
+    m_pages = new QStackedWidget;
+    m_pages->addWidget(MakeAnswer());
+    m_pages->addWidget(MakeModels());
+    row->addWidget(m_pages, 1);
     m_highlight.setSingleShot(true);
     m_highlight.setInterval(highlightMilliseconds);
     connect(&m_highlight, &QTimer::timeout, this, [this] { m_sentence->setAutoFillBackground(false); });
@@ -70,35 +66,51 @@ QWidget* frmInsight::MakeQuestions() {
     Identify(*m_questions, "Questions", "Questions");
     for (const QuestionRow& row : InsightQuestions)
         m_questions->addItem(Words(row.Words));
+    m_questions->addItem("All our models");
     m_questions->setWordWrap(true);
     m_questions->setTextElideMode(Qt::ElideNone);
     m_questions->setSpacing(2);
     m_questions->setFixedWidth(fontMetrics().averageCharWidth() * 26);
     m_questions->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(m_questions, &QListWidget::currentRowChanged, this, [this](int row) {
-        m_question = InsightQuestions[static_cast<std::size_t>(row)].Id;
-        m_model.Show({});
-        ShowAnswer();
-        m_table->Settle();
-    });
+    connect(m_questions, &QListWidget::currentRowChanged, this, &frmInsight::Choose);
     return m_questions;
+}
+
+void frmInsight::Choose(int row) {
+    const bool isModels = row == static_cast<int>(InsightQuestions.size());
+    m_pages->setCurrentWidget(isModels ? static_cast<QWidget*>(m_models) : m_pages->widget(0));
+    if (isModels) {
+        m_models->Restart();
+        return;
+    }
+    m_models->GiveUp();
+    m_question = InsightQuestions[static_cast<std::size_t>(row)].Id;
+    m_model.Show({});
+    ShowAnswer();
+    m_table->Settle();
+}
+
+QWidget* frmInsight::MakeModels() {
+    m_models = new ModelsView(m_context.Models,
+                              [this](const std::vector<EntryText>& texts) { m_context.Enter(texts); });
+    connect(m_models, &ModelsView::HelpAsked, this, [this] { m_context.Help(); });
+    connect(m_models, &ModelsView::ExportAsked, this, [this] { ExportTable(m_models->Shown()); });
+    return m_models;
 }
 
 QWidget* frmInsight::MakeAnswer() {
     auto* answer = new QWidget;
     auto* column = new QVBoxLayout(answer);
     column->setContentsMargins(8, 0, 0, 0);
-    m_sentence = MakeText("Sentence");
-    QFont larger = m_sentence->font();
-    larger.setPointSizeF(larger.pointSizeF() * 1.25);
-    m_sentence->setFont(larger);
+    m_sentence = MakeAnswerText("Sentence");
+    MakeLarger(*m_sentence);
     column->addWidget(m_sentence);
     column->addWidget(MakeSettings());
     m_picture = new AnswerPicture([this](const ChartGrid& grid, std::size_t at, std::size_t row) {
         return Words(m_context.CellText(grid, at, row));
     });
     column->addWidget(m_picture, 3);
-    m_cell = MakeText("CellText");
+    m_cell = MakeAnswerText("CellText");
     column->addWidget(m_cell);
     column->addWidget(MakeYearSwitch());
     m_table = new SheetView(m_model);
@@ -109,9 +121,9 @@ QWidget* frmInsight::MakeAnswer() {
             [this](const QString& control, const QString& key) { m_context.GoTo(control, key); });
     connect(m_chain, &ChainView::FigureChosen, this,
             [this](const QString& figure) { Explain(figure.toStdString()); });
-    m_legend = MakeText("Legend");
+    m_legend = MakeAnswerText("Legend");
     column->addWidget(m_legend);
-    m_note = MakeText("Note");
+    m_note = MakeAnswerText("Note");
     column->addWidget(m_note);
     m_space = new QWidget;
     column->addWidget(m_space, 1);
@@ -216,7 +228,7 @@ QWidget* frmInsight::MakeButtons() {
     m_save = AddButton(*row, "bSavePicture", "&Save Picture…");
     QPushButton* help = AddButton(*row, "bHelp", "&Help");
     connect(m_enter, &QPushButton::clicked, this, &frmInsight::EnterCell);
-    connect(m_export, &QPushButton::clicked, this, &frmInsight::ExportTable);
+    connect(m_export, &QPushButton::clicked, this, [this] { ExportTable(m_sheet); });
     connect(m_save, &QPushButton::clicked, this, &frmInsight::SavePicture);
     connect(help, &QPushButton::clicked, this, [this] { m_context.Help(); });
     return buttons;
@@ -240,6 +252,10 @@ void frmInsight::Explain(const std::string& figure) {
 void frmInsight::Follow() {
     if (!isVisible())
         return;
+    if (m_pages->currentWidget() == m_models) {
+        m_models->Restart();
+        return;
+    }
     const QString before = m_sentence->text();
     ShowAnswer();
     if (m_sentence->text() != before)
@@ -319,14 +335,14 @@ void frmInsight::Print(const std::vector<InsightQuestion>& questions) {
     m_context.Print(questions, {m_question, m_figure, questions.size() == 1 ? m_year : 0});
 }
 
-void frmInsight::ExportTable() {
+void frmInsight::ExportTable(const Sheet& sheet) {
     const QString folder = UsersFolder(QStandardPaths::DocumentsLocation);
-    const QString name = Words(m_sheet.Title).toLower().replace(' ', '-');
+    const QString name = Words(sheet.Title).toLower().replace(' ', '-');
     const QString file =
         m_context.Questions.SaveName(*this, {"Export CSV", folder + '/' + name + ".csv",
                                              "Tables for spreadsheets (*.csv);;All files (*)", ".csv"});
     if (!file.isEmpty())
-        m_context.Write(file, QByteArray::fromStdString(m_context.Csv(m_sheet)));
+        m_context.Write(file, QByteArray::fromStdString(m_context.Csv(sheet)));
 }
 
 void frmInsight::SavePicture() {
@@ -351,7 +367,15 @@ void frmInsight::showEvent(QShowEvent* event) {
     if (!std::exchange(m_isSized, true))
         GiveNaturalSize();
     InsightWindow::showEvent(event);
-    ShowAnswer();
+    if (m_pages->currentWidget() == m_models)
+        m_models->Restart();
+    else
+        ShowAnswer();
+}
+
+void frmInsight::hideEvent(QHideEvent* event) {
+    InsightWindow::hideEvent(event);
+    m_models->GiveUp();
 }
 
 void frmInsight::keyPressEvent(QKeyEvent* event) {

@@ -9,11 +9,13 @@ class QComboBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QStackedWidget;
 
 namespace Ledgrove {
 
 class AnswerPicture;
 class ChainView;
+class ModelsView;
 class SettingsPanel;
 class SheetView;
 
@@ -31,11 +33,14 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QWidget* MakeQuestions();
     QWidget* MakeAnswer();
+    QWidget* MakeModels();
+    void Choose(int row);
     QWidget* MakeSettings();
     QWidget* MakeYearSwitch();
     QWidget* MakeButtons();
@@ -48,7 +53,7 @@ private:
     void ChooseMapCell(std::size_t column, std::size_t row);
     void Copy(QString (*form)(const Sheet&));
     void Print(const std::vector<InsightQuestion>& questions);
-    void ExportTable();
+    void ExportTable(const Sheet& sheet);
     void SavePicture();
     void GiveNaturalSize();
 
@@ -60,6 +65,8 @@ private:
     SheetModel m_model;
     QTimer m_highlight;
     QListWidget* m_questions = nullptr;
+    QStackedWidget* m_pages = nullptr;
+    ModelsView* m_models = nullptr;
     QLabel* m_sentence = nullptr;
     SettingsPanel* m_settings = nullptr;
     AnswerPicture* m_picture = nullptr;

@@ -1,0 +1,55 @@
+#include "app/windows/ModelsAnswering.h"
+
+#include <utility>
+
+#include "settings/HouseListFile.h"
+#include "ui/HouseRangeRun.h"
+
+namespace Ledgrove {
+
+namespace {
+
+/// The list that is being computed, and the last one that was finished.
+struct ModelsWork {
+    std::unique_ptr<HouseRangeRun> Run;
+    Range Last;
+};
+
+std::string Begin(ModelsWork& work, const Session& session, bool allOptions) {
+    work.Run.reset();
+    HouseList houses;
+    if (const auto fault = Module1::LoadHomeList(SettingsFile(session.Folder), houses))
+        return Sentence(*fault);
+    RangeChoice choice;
+    if (allOptions)
+        choice.Pairs.assign(OptionPairs().begin(), OptionPairs().end());
+    work.Run = std::make_unique<HouseRangeRun>(session, std::move(houses), std::move(choice));
+    return {};
+}
+
+ModelsState Look(ModelsWork& work, int milliseconds) {
+    if (!work.Run)
+        return {0, 0, true, {}};
+    HouseRangeRun& run = *work.Run;
+    ModelsState state{run.Done(), run.Total(), run.Finishes(std::chrono::milliseconds(milliseconds))};
+    if (state.IsFinished && run.Result()) {
+        work.Last = *run.Result();
+        state.Houses = std::make_shared<const Sheet>(RangeSheet(work.Last));
+    }
+    return state;
+}
+
+} // namespace
+
+ModelsContext MakeModelsContext(const Session& session, RangePrinter print) {
+    auto work = std::make_shared<ModelsWork>();
+    return {[work, &session](bool allOptions) { return Begin(*work, session, allOptions); },
+            [work](int milliseconds) { return Look(*work, milliseconds); },
+            [work] {
+                if (work->Run)
+                    work->Run->Cancel();
+            },
+            [work, print = std::move(print)] { print(work->Last); }};
+}
+
+} // namespace Ledgrove
