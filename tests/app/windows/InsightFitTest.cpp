@@ -59,6 +59,7 @@ class InsightFitTest : public QObject {
 
 private slots:
     void everyAnswerFits();
+    void theListOfHousesFits();
     void aComplaintFits();
     void everyAnswerIsReachedByTab();
 };
@@ -78,6 +79,19 @@ void InsightFitTest::everyAnswerFits() {
         const QString cut = Cut(*answer.widget(), answer.viewport()->width());
         QVERIFY2(cut.isEmpty(), qPrintable(question + ": " + cut));
     }
+}
+
+void InsightFitTest::theListOfHousesFits() {
+    InsightDesk desk;
+    desk.Window->show();
+    auto& list = desk.Find<QListWidget>("Questions");
+    list.setCurrentRow(list.count() - 1);
+    QTRY_VERIFY(desk.Find<SheetView>("ModelsTable").model()->rowCount() > 0);
+    Settle();
+    QVERIFY2(IsOnScreen(*desk.Window), qPrintable(PlaceOf(*desk.Window)));
+    const auto& models = desk.Find<QWidget>("Models");
+    const QString cut = Cut(models, models.width());
+    QVERIFY2(cut.isEmpty(), qPrintable(cut));
 }
 
 void InsightFitTest::aComplaintFits() {
