@@ -1,5 +1,6 @@
 // The time to answer the questions of one comparison, with the answers as JSON. Prints the medians of many
-// runs in milliseconds: of all usual views, and of the map alone with the break-even that its scales need.
+// runs in milliseconds: of all usual views, of the map alone with the break-even that its scales need, of the
+// years, and of the energy prices.
 
 #include "app/batch/Comparison.h"
 #include "app/batch/InsightCommand.h"
@@ -46,6 +47,7 @@ int main() {
     Session session = Bench::SampleSession();
     CollectingHost host;
     Module1::Recalculate(session, host);
-    std::printf("%.3f %.3f\n", MedianTime({DefaultViews(), by}, session),
-                MedianTime({ViewNamed("map"), by}, session));
+    std::printf("%.3f %.3f %.3f %.3f\n", MedianTime({DefaultViews(), by}, session),
+                MedianTime({ViewNamed("map"), by}, session), MedianTime({ViewNamed("years"), by}, session),
+                MedianTime({ViewNamed("energy"), by}, session));
 }

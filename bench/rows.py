@@ -41,6 +41,9 @@ def rate_at_least(figure, floor, limit, floor_name=""):
     return Finding(f"{figure:,.0f}/s", f"{floor_name}{floor:,.0f}/s", f"{ratio:.2f} x", f">= {limit} x", ratio >= limit)
 
 
+VIEWS = "takeaway,breakeven,options,qualify,sensitivity,map,years,energy,tax,exit,explain"
+
+
 class Measurements:
     """One run. It measures once what several rows share."""
 
@@ -216,7 +219,7 @@ class Measurements:
 
     @cached_property
     def answers(self):
-        """Medians in milliseconds: the usual views, the map."""
+        """Medians in milliseconds: the usual views, the map, the years, the energy prices."""
         return self.place.figures("insight_bench")[0]
 
     def _answered(self, figure, limit):
@@ -227,6 +230,12 @@ class Measurements:
 
     def insight_map(self):
         return self._answered(self.answers[1], 2)
+
+    def insight_years(self):
+        return self._answered(self.answers[2], 0.2)
+
+    def insight_energy(self):
+        return self._answered(self.answers[3], 2)
 
     def insight_window(self):
         questions = self.place.figures("insight_window_bench")
@@ -255,10 +264,15 @@ class Measurements:
         return Finding(f"{rate:,.0f}/s, {large / MIB:.1f} MiB, {grown:+.1f} MiB over {few:,} lines", "-", "-", ">= 400/s, <= +1 MiB",
                        rate >= 400 and grown <= 1)
 
-    def answer_lines(self, lines):
+    def insight_all(self):
+        lines = 4000
+        seconds, _ = self.answer_lines(lines, "--view", VIEWS)
+        return Finding(f"{lines / seconds:,.0f}/s", "-", "-", ">= 250/s", lines / seconds >= 250)
+
+    def answer_lines(self, lines, *options):
         """Seconds and peak KiB of the answers to a list of this length on one core."""
         command = ["taskset", "-c", str(min(os.sched_getaffinity(0))), self.place.program("ledgrove-cli"), "insight", "--folder",
-                   ROOT / "data", "--format", "jsonl", self.prices.json(lines)]
+                   ROOT / "data", "--format", "jsonl", *options, self.prices.json(lines)]
         peak = 0
         start = time.perf_counter()
         with subprocess.Popen(list(map(str, command)), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, bufsize=1 << 16) as process:
@@ -308,8 +322,11 @@ ROWS = [
     ("houses-linear", "100,000 saved houses / 10,000", Measurements.houses_linear),
     ("insight-views", "insight: all views but map and explain", Measurements.insight_views),
     ("insight-map", "insight: map", Measurements.insight_map),
+    ("insight-years", "insight: years", Measurements.insight_years),
+    ("insight-energy", "insight: energy", Measurements.insight_energy),
     ("insight-window", "insight: Enter to the answer repainted, 300 times each", Measurements.insight_window),
     ("insight-jsonl", "insight --format jsonl, one core", Measurements.insight_jsonl),
+    ("insight-all", "insight --format jsonl with every view, one core", Measurements.insight_all),
     ("range-limits", "10,000 saved houses with 7 loans and their limits", Measurements.range_limits),
     ("range", "the same without limits", Measurements.range_figures),
     ("diff", "diff of comparisons that differ in every input", Measurements.diff),

@@ -15,16 +15,8 @@ using namespace Ledgrove;
 namespace {
 
 /// The Insight window with a comparison and a scripted computer.
-struct PaperDesk : PrintDesk {
+struct PaperDesk : ComparisonDesk {
     PaperDesk() {
-        AddPrinters();
-        MainScreen& screen = State.Screen;
-        screen.ecIncome.Text = "$72,000";
-        screen.ecPctDown.Text = "10.00%";
-        screen.ecStdHome.Text = "$200,000";
-        screen.ecGMHHome.Text = "$206,000";
-        screen.ecStdUtil.Text = "$2,400";
-        screen.ecGMHUtil.Text = "$1,700";
         InsightContext context;
         ConnectAnswers(context, {State, Settings, Outside}, [this](const InsightRequest& request) {
             PreviewInsight(State, Outside, Machine, request, Window.get());

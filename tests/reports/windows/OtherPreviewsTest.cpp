@@ -12,19 +12,8 @@ using namespace Ledgrove;
 
 namespace {
 
-/// A comparison and a scripted computer.
-struct PaperDesk : PrintDesk {
-    PaperDesk() {
-        AddPrinters();
-        MainScreen& screen = State.Screen;
-        screen.ecIncome.Text = "$72,000";
-        screen.ecPctDown.Text = "10.00%";
-        screen.ecStdHome.Text = "$200,000";
-        screen.ecGMHHome.Text = "$206,000";
-        screen.ecStdUtil.Text = "$2,400";
-        screen.ecGMHUtil.Text = "$1,700";
-        Module1::Recalculate(State, Outside);
-    }
+struct PaperDesk : ComparisonDesk {
+    PaperDesk() { Module1::Recalculate(State, Outside); }
 
     bool PreviewBrief(const std::function<void(frmPrint&)>& act) {
         return WhileOpen(

@@ -52,6 +52,17 @@ void PrintDesk::Bring(const QString& file) const {
         qFatal("%s is not shipped", qPrintable(file));
 }
 
+ComparisonDesk::ComparisonDesk() {
+    AddPrinters();
+    MainScreen& screen = State.Screen;
+    screen.ecIncome.Text = "$72,000";
+    screen.ecPctDown.Text = "10.00%";
+    screen.ecStdHome.Text = "$200,000";
+    screen.ecGMHHome.Text = "$206,000";
+    screen.ecStdUtil.Text = "$2,400";
+    screen.ecGMHUtil.Text = "$1,700";
+}
+
 OpenPreview::OpenPreview(int pages, const Prepare& prepare)
     : Pages(pages) {
     if (prepare)

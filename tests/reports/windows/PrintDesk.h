@@ -55,6 +55,11 @@ struct PrintDesk : SettingsDesk {
     PrintOutside Machine;
 };
 
+/// The same with printers and a comparison whose figures are not yet computed.
+struct ComparisonDesk : PrintDesk {
+    ComparisonDesk();
+};
+
 /// The open preview of a report with this number of pages. Its pages say "Sheet 1" and so on.
 struct OpenPreview : PrintDesk, FormDriver {
     using Prepare = std::function<void(OpenPreview&)>;
