@@ -15,16 +15,23 @@ struct ModelsWork {
     Range Last;
 };
 
-std::string Begin(ModelsWork& work, const Session& session, bool allOptions) {
+std::string Begin(ModelsWork& work, const Session& session, const std::vector<std::size_t>& pairs) {
     work.Run.reset();
     HouseList houses;
     if (const auto fault = Module1::LoadHomeList(SettingsFile(session.Folder), houses))
         return Sentence(*fault);
     RangeChoice choice;
-    if (allOptions)
-        choice.Pairs.assign(OptionPairs().begin(), OptionPairs().end());
+    for (const std::size_t pair : pairs)
+        choice.Pairs.push_back(OptionPairs()[pair]);
     work.Run = std::make_unique<HouseRangeRun>(session, std::move(houses), std::move(choice));
     return {};
+}
+
+std::vector<std::string> PairNames() {
+    std::vector<std::string> names;
+    for (const OptionPair& pair : OptionPairs())
+        names.push_back(std::string(pair.Base.Text) + " / " + std::string(pair.Labelled.Text));
+    return names;
 }
 
 ModelsState Look(ModelsWork& work, int milliseconds) {
@@ -43,7 +50,8 @@ ModelsState Look(ModelsWork& work, int milliseconds) {
 
 ModelsContext MakeModelsContext(const Session& session, RangePrinter print) {
     auto work = std::make_shared<ModelsWork>();
-    return {[work, &session](bool allOptions) { return Begin(*work, session, allOptions); },
+    return {PairNames(),
+            [work, &session](const std::vector<std::size_t>& pairs) { return Begin(*work, session, pairs); },
             [work](int milliseconds) { return Look(*work, milliseconds); },
             [work] {
                 if (work->Run)

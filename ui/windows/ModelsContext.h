@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "insight/Sheet.h"
 
@@ -19,9 +20,12 @@ struct ModelsState {
 
 /// What the list of all saved houses needs from the program.
 struct ModelsContext {
-    /// Begins to list every saved house for the buyer on the screen, with the screen's mortgage options or
-    /// with all; an earlier list is given up. Returns a sentence if the houses cannot be read, else "".
-    std::function<std::string(bool allOptions)> Begin;
+    /// The pairs of mortgage options in words, "FHA / FHA EEM".
+    std::vector<std::string> Pairs = {};
+    /// Begins to list every saved house for the buyer on the screen with these pairs, by their index, or with
+    /// the screen's if there are none; an earlier list is given up. Returns a sentence if the houses cannot
+    /// be read, else "".
+    std::function<std::string(const std::vector<std::size_t>& pairs)> Begin;
     /// Waits at most so many milliseconds for the end.
     std::function<ModelsState(int milliseconds)> Look;
     std::function<void()> Cancel;

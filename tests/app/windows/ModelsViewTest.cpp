@@ -1,13 +1,15 @@
+#include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
 #include <QGuiApplication>
 #include <QListWidget>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 
 #include "InsightDesk.h"
 #include "app/windows/ModelsAnswering.h"
 #include "settings/HouseListFile.h"
+#include "ui/windows/insight/PairChoice.h"
 
 using namespace Ledgrove;
 
@@ -18,6 +20,7 @@ private slots:
     void everyHouseHasARow();
     void aHouseIsTakenIntoTheMainWindow();
     void everyPairOfOptionsHasARow();
+    void severalPairsAreChosen();
     void theListFollowsTheMainWindow();
     void aLongListShowsItsProgressAndStops();
     void withoutHousesASentenceSaysSo();
@@ -82,11 +85,33 @@ void ModelsViewTest::everyPairOfOptionsHasARow() {
     ModelsDesk desk;
     desk.ShowModels();
     QTRY_COMPARE(desk.Rows().rowCount(), 2);
-    auto& options = desk.Find<QComboBox>("ModelsOptions");
-    options.setCurrentIndex(1);
-    emit options.activated(1);
+    auto& options = desk.Find<PairChoice>("ModelsOptions");
+    QCOMPARE(options.text(), "Those of the main window");
+    options.menu()->actions()[1]->trigger();
+    QCOMPARE(options.text(), "Every pair of options");
     QTRY_COMPARE(desk.Rows().rowCount(), 14);
     QCOMPARE(desk.RowCell(6, 1), "VA / VA EEM");
+    options.menu()->actions()[0]->trigger();
+    QTRY_COMPARE(desk.Rows().rowCount(), 2);
+}
+
+void ModelsViewTest::severalPairsAreChosen() {
+    ModelsDesk desk;
+    desk.ShowModels();
+    QTRY_COMPARE(desk.Rows().rowCount(), 2);
+    auto& options = desk.Find<PairChoice>("ModelsOptions");
+    options.menu()->popup({});
+    const auto boxes = options.menu()->findChildren<QCheckBox*>();
+    QCOMPARE(boxes.size(), 7);
+    QTest::keyClick(boxes[3], Qt::Key_Space);
+    QCOMPARE(options.text(), "FHA / FHA");
+    QVERIFY(options.menu()->isVisible());
+    QTest::keyClick(boxes[6], Qt::Key_Space);
+    QCOMPARE(options.text(), "2 pairs");
+    options.menu()->close();
+    QTRY_COMPARE(desk.Rows().rowCount(), 4);
+    QCOMPARE(desk.RowCell(0, 1), "FHA / FHA");
+    QCOMPARE(desk.RowCell(1, 1), "VA / VA EEM");
 }
 
 void ModelsViewTest::theListFollowsTheMainWindow() {
@@ -106,9 +131,7 @@ void ModelsViewTest::aLongListShowsItsProgressAndStops() {
     // The real time is not what is tested, so the list never ends by itself.
     desk.ShowModels();
     QTRY_COMPARE_WITH_TIMEOUT(desk.Rows().rowCount(), 4000, 60000);
-    auto& options = desk.Find<QComboBox>("ModelsOptions");
-    options.setCurrentIndex(1);
-    emit options.activated(1);
+    desk.Find<PairChoice>("ModelsOptions").menu()->actions()[1]->trigger();
     desk.Find<QPushButton>("bCancelModels").click();
     QTRY_VERIFY(desk.ModelsSentence().startsWith("The list was cancelled."));
     QCOMPARE(desk.Rows().rowCount(), 0);

@@ -1,7 +1,6 @@
 #include "ui/windows/insight/ModelsView.h"
 
 #include <QClipboard>
-#include <QComboBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
@@ -13,6 +12,7 @@
 #include "ui/windows/Identify.h"
 #include "ui/windows/insight/AnswerText.h"
 #include "ui/windows/insight/FlowLayout.h"
+#include "ui/windows/insight/PairChoice.h"
 #include "ui/windows/insight/SheetView.h"
 
 namespace Ledgrove {
@@ -57,14 +57,13 @@ ModelsView::ModelsView(ModelsContext context, std::function<void(const std::vect
 QLayout* ModelsView::MakeHead() {
     auto* row = new QHBoxLayout;
     auto* caption = new QLabel("&Mortgage options:");
-    m_options = new QComboBox;
-    Identify(*m_options, "ModelsOptions", "Mortgage options");
-    m_options->addItems({"Those of the main window", "Every pair of options"});
+    m_options = new PairChoice(m_context.Pairs);
+    m_options->setObjectName("ModelsOptions");
     caption->setBuddy(m_options);
     row->addWidget(caption);
     row->addWidget(m_options);
     row->addStretch();
-    connect(m_options, &QComboBox::activated, this, [this] { Restart(); });
+    connect(m_options, &PairChoice::Changed, this, &ModelsView::Restart);
     return row;
 }
 
@@ -114,7 +113,7 @@ QWidget* ModelsView::MakeButtons() {
 }
 
 void ModelsView::Restart() {
-    const std::string fault = m_context.Begin(m_options->currentIndex() == 1);
+    const std::string fault = m_context.Begin(m_options->Chosen());
     if (!fault.empty()) {
         m_poll.stop();
         m_sheet = {};

@@ -9,7 +9,6 @@
 #include "ui/windows/ModelsContext.h"
 #include "ui/windows/insight/SheetModel.h"
 
-class QComboBox;
 class QLabel;
 class QLayout;
 class QProgressBar;
@@ -17,6 +16,7 @@ class QPushButton;
 
 namespace Ledgrove {
 
+class PairChoice;
 class SheetView;
 
 /// "All our models": every saved house for the buyer. A long list is computed while the window stays usable.
@@ -57,7 +57,7 @@ private:
     QTimer m_poll;
     QElapsedTimer m_since;
     QLabel* m_sentence = nullptr;
-    QComboBox* m_options = nullptr;
+    PairChoice* m_options = nullptr;
     QWidget* m_progress = nullptr;
     QProgressBar* m_bar = nullptr;
     SheetView* m_table = nullptr;
