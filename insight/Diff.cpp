@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdint>
 
+#include "engine/NumberText.h"
 #include "engine/ShowResults.h"
 #include "insight/DiffFigures.h"
 #include "insight/DiffInputs.h"
@@ -114,6 +115,12 @@ bool Moves(const EnteredInput& input, const Insight& a, const Insight& b) {
     return changed != a.Now();
 }
 
+/// Whether both texts are the same number: a rate that nobody has typed is shown without its format.
+bool IsSameNumber(std::string_view a, std::string_view b) {
+    const auto number = Module1::ReadStrippedNumber(a);
+    return number && number == Module1::ReadStrippedNumber(b);
+}
+
 /// The result labels of a comparison.
 MainScreen LabelsOf(const Insight& insight) {
     MainScreen screen = insight.Screen();
@@ -140,10 +147,11 @@ private:
         for (const EnteredInput& input : EnteredInputs()) {
             std::string a = input.Text(m_a.Screen());
             std::string b = input.Text(m_b.Screen());
-            if (a == b)
+            const bool moves = Moves(input, m_a, m_b);
+            if (a == b || (!moves && IsSameNumber(a, b)))
                 continue;
             // The others would double the mixtures and add nothing.
-            if (Moves(input, m_a, m_b)) {
+            if (moves) {
                 m_places.push_back(m_diff.Inputs.size());
                 m_movers.push_back(&input);
             }

@@ -21,7 +21,7 @@ std::vector<SheetCell> FigureCells(const OptionAnswer& row) {
     };
     const HomeCase& home = row.GMH.Figures;
     const auto income = row.GMH.IncomeToQualify;
-    return {TextCell(row.GMH.Qualifies ? "YES" : "*NO", row.GMH.Qualifies ? CellMark::None : CellMark::Bad),
+    return {TextCell(row.GMH.Qualifies ? "YES" : "NO", row.GMH.Qualifies ? CellMark::None : CellMark::Bad),
             Best(income ? DollarCell(static_cast<double>(*income)) : TextCell("none"), row, BestIn::Income),
             Best(dollars(home.DownPayment), row, BestIn::Cash),
             dollars(home.LoanAmount),

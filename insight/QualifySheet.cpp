@@ -25,7 +25,7 @@ constexpr std::array<QuestionRow, 7> questions{
      {"Term", "term", &HomeQualification::Term}}};
 
 SheetCell QualifiesCell(bool qualifies) {
-    return TextCell(qualifies ? "YES" : "*NO", qualifies ? CellMark::None : CellMark::Bad);
+    return TextCell(qualifies ? "YES" : "NO", qualifies ? CellMark::None : CellMark::Bad);
 }
 
 /// "$93,077 (-$1,923)" for a limit, "needs $113,761 (+$1,761)" for a nearest.

@@ -72,7 +72,7 @@ public:
         }
         if (m_stopped || !GoesOn())
             return std::nullopt;
-        return Range{std::move(m_rows), m_choice.Limits, m_houses.size()};
+        return Range{std::move(m_rows), m_choice.Limits, m_start.Screen.chkDoTax0, m_houses.size()};
     }
 
 private:

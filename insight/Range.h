@@ -39,6 +39,7 @@ struct RangeRow {
 struct Range {
     std::vector<RangeRow> Rows; ///< in the order of the houses, those of a house in the order of the pairs
     bool HasLimits = true;
+    bool WithTaxes = true; ///< the nets include the tax savings
     std::size_t Houses = 0;
 };
 

@@ -100,8 +100,11 @@ Sheet RangeSheet(const Range& range) {
     sheet.Words = {1, 2};
     // The heads are short, so that a row fits on a line.
     if (!range.Rows.empty())
-        sheet.Note = "Price, cost and room are those of the GREENMARK home, \"Base\" those of the base home; "
-                     "costs and net are a month's.";
+        sheet.Note =
+            std::string(
+                "Price, cost and room are those of the GREENMARK home, \"Base\" those of the base home; "
+                "costs and net are a month's. ") +
+            (range.WithTaxes ? "The net includes the tax savings." : "Income tax is not included.");
     if (range.HasLimits)
         sheet.Heads.emplace_back("Pays Up To");
     for (const RangeRow& row : range.Rows)

@@ -137,6 +137,13 @@ std::string TaxWords(const Insight& insight, const TaxCheck& tax) {
            RealWords(insight, tax);
 }
 
+/// The same for a loss. Its sign stands before the one with the real tax line, which has a sign too.
+std::string LossWords(const Insight& insight, const TaxCheck& tax, double net) {
+    if (!RealNet(insight, tax))
+        return TaxWords(insight, tax);
+    return ", with income tax included, a net of " + DollarText(net) + RealWords(insight, tax);
+}
+
 std::string YearsWords(int years) {
     return std::to_string(years) + (years == 1 ? " year" : " years");
 }
@@ -164,7 +171,7 @@ std::string NetSentence(const Insight& insight, const YearByYear& years, const T
         return "Each month " + amount + " more is left than with the base home" + taxes;
     if (net < 0)
         return "Nothing is left each month: the GREENMARK home costs " + amount +
-               " more a month than the base home" + taxes;
+               " more a month than the base home" + LossWords(insight, tax, net);
     return "Nothing is left each month: both homes cost the same a month" + taxes;
 }
 
@@ -178,12 +185,23 @@ std::string MonthsWords(int months) {
     return YearsWords(years) + (rest == 0 ? "" : " and " + inMonths);
 }
 
-/// When the buyer is ahead; empty if that is never or needs no down payment to be earned back.
-std::string AheadSentence(const YearByYear& years) {
-    if (!years.Ahead || years.ExtraCash <= leastShown)
+/// When the buyer is ahead; empty if that is never, or if only the shown tax line makes it so.
+std::string AheadSentence(const Insight& insight, const YearByYear& years, const TaxCheck& tax) {
+    if (!years.Ahead || IsDoubtful(insight, tax))
         return {};
-    return "The extra down payment of " + DollarText(years.ExtraCash) + " is earned back after " +
-           MonthsWords(*years.Ahead) + ".";
+    if (years.ExtraCash > leastShown)
+        return "The extra down payment of " + DollarText(years.ExtraCash) + " is earned back after " +
+               MonthsWords(*years.Ahead) + ".";
+    const double amount = years.Years[static_cast<std::size_t>(years.InHome) - 1].Cumulative;
+    if (amount < leastShown)
+        return {};
+    const std::string end = "by " + DollarText(amount) + " after " + YearsWords(years.InHome) + ".";
+    // Each month may cost more: then the cash that is not paid down makes up for it.
+    if (insight.ShownNet(insight.Record()) < 0 && years.ExtraCash < -leastShown)
+        return "With " + DollarText(-years.ExtraCash) + " less down payment, the buyer is still ahead, " +
+               end;
+    return *years.Ahead == 0 ? "The buyer is ahead from the first day, " + end
+                             : "The buyer is ahead after " + MonthsWords(*years.Ahead) + ", " + end;
 }
 
 /// A condition of its own after a price, or another way to say up to where.
@@ -209,7 +227,7 @@ std::string PriceLimitText(const std::optional<Answer>& price) {
 }
 
 /// Up to which price, and with which part of the savings, the home pays.
-std::string LimitSentence(const Breakeven& breakeven) {
+std::string LimitSentence(const Insight& insight, const Breakeven& breakeven) {
     std::string text = PriceLimitText(breakeven.Price);
     if (breakeven.SavingsShare) {
         const ShareWords share = WordsOfShare(*breakeven.SavingsShare);
@@ -217,7 +235,11 @@ std::string LimitSentence(const Breakeven& breakeven) {
             text += share.Link;
         text += share.Text;
     }
-    return text.empty() ? "" : "It still pays each month " + text + ".";
+    if (text.empty())
+        return {};
+    // Without anything left, it does no more than pay for itself.
+    const bool isEven = insight.ShownNet(insight.Record()) < static_cast<float>(leastShown);
+    return (isEven ? "It pays for itself " : "It still pays each month ") + text + ".";
 }
 
 /// What would make the home pay.
@@ -232,7 +254,8 @@ std::string BreakevenSentence(const Insight& insight, const Breakeven& breakeven
     // With the tax line as it would really be, the answer would be another one.
     if (IsDoubtful(insight, tax))
         return {};
-    return insight.ShownNet(insight.Record()) >= 0 ? LimitSentence(breakeven) : NearestSentence(breakeven);
+    return insight.ShownNet(insight.Record()) >= 0 ? LimitSentence(insight, breakeven)
+                                                   : NearestSentence(breakeven);
 }
 
 /// "$7,102"
@@ -288,7 +311,7 @@ Takeaway ComputeTakeaway(const Insight& insight, const Breakeven& breakeven,
     const Results& record = insight.Record();
     Takeaway takeaway;
     for (std::string& sentence :
-         Texts{CostSentence(record), NetSentence(insight, years, tax), AheadSentence(years),
+         Texts{CostSentence(record), NetSentence(insight, years, tax), AheadSentence(insight, years, tax),
                BreakevenSentence(insight, breakeven, tax), QualifySentence(qualification),
                HelpSentence("base home", qualification.Std, record.StdCase.Cost),
                HelpSentence("GREENMARK home", qualification.GMH, record.GMHCase.Cost)}) {

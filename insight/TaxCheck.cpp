@@ -63,8 +63,10 @@ std::string AssumedText(const YearSettings& settings) {
 std::string SentenceOf(const TaxCheck& tax) {
     const std::string real = DollarText(tax.Real);
     const std::string shown = DollarText(static_cast<double>(tax.Shown));
-    return ReasonText(tax) + ": the tax line would really be " + real + " a month" +
-           (real == shown ? ", as shown." : ", not the " + shown + " shown.");
+    const std::string line = ReasonText(tax) + ": the tax line would really be " + real + " a month";
+    if (!tax.IsIncluded)
+        return line + "; the tabs leave it out, because income tax is not included.";
+    return line + (real == shown ? ", as shown." : ", not the " + shown + " shown.");
 }
 
 } // namespace
@@ -72,6 +74,7 @@ std::string SentenceOf(const TaxCheck& tax) {
 TaxCheck CheckTaxLine(const Insight& insight, const HomePlan& std, const HomePlan& gmh) {
     TaxCheck tax;
     tax.By = insight.By().Years;
+    tax.IsIncluded = insight.Now().IncludeTaxes;
     tax.Shown = insight.Record().Scenario.ShownTaxSavings;
     tax.Rate = static_cast<double>(insight.Record().Scenario.MarginalTaxRate);
     tax.Std = TaxOf(std, tax.By, tax.Rate);

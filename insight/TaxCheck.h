@@ -20,6 +20,7 @@ struct HomeTax {
 };
 
 struct TaxCheck {
+    bool IsIncluded = true; ///< income tax counts in the figures
     float Shown = 0; ///< the tax line as shown, per month
     HomeTax Std;
     HomeTax GMH;

@@ -23,6 +23,9 @@ std::string YearsText(int years) {
 
 std::shared_ptr<const ChartFigures> CostChart(const Session& session) {
     auto chart = std::make_shared<ChartFigures>(MakeChart(ChartKind::MonthlyCost, session));
+    // In a column that adds up, savings have a minus.
+    for (ChartSeries& series : chart->Series)
+        series.Texts.clear();
     const MainScreen& screen = session.Screen;
     chart->Title.clear();
     chart->Categories[0] += ": " + screen.lblStdPITIU.Text + " a month";
@@ -69,7 +72,11 @@ std::string IncomeText(const OptionHome& home) {
 
 std::array<BriefRow, 3> QualifyingOf(const MainScreen& screen, const OptionTable& options) {
     const OptionAnswer& row = options.Rows[static_cast<std::size_t>(options.Current)];
-    return {{{"Buyer qualifies", screen.lblStdQual.Text, screen.lblGMHQual.Text},
+    // A star stands for something else on this page.
+    const auto answer = [](const Label& label) {
+        return label.Text.starts_with('*') ? label.Text.substr(1) : label.Text;
+    };
+    return {{{"Buyer qualifies", answer(screen.lblStdQual), answer(screen.lblGMHQual)},
              {"Largest loan", screen.lblStdMaxHome.Text, screen.lblGMHMaxHome.Text},
              {"Least income, a year", IncomeText(row.Std), IncomeText(row.GMH)}}};
 }
@@ -91,15 +98,38 @@ std::string_view KeyOf(PMIBand band) {
     return {};
 }
 
+/// The keys of the check of the tax line, as far as they count.
+void AddTaxKeys(std::vector<std::string_view>& keys, const Insight& insight, const YearByYear& years) {
+    const YearSettings& by = insight.By().Years;
+    keys.push_back("DEDUCTION_STANDARD");
+    if (by.StateTax != 0)
+        keys.push_back("DEDUCTION_STATE_TAX");
+    if (by.OtherDeductions != 0)
+        keys.push_back("DEDUCTION_OTHER");
+    const Results& record = insight.Record();
+    const auto isAbove = [](const HomeCase& home, double stateTax, double cap) {
+        return 12 * static_cast<double>(home.TaxMonthly) + stateTax > cap;
+    };
+    if (isAbove(record.StdCase, by.StateTax, by.SaltCap) || isAbove(record.GMHCase, by.StateTax, by.SaltCap))
+        keys.push_back("DEDUCTION_SALT_CAP");
+    if (std::max(years.Std.BalanceAfter(0), years.GMH.BalanceAfter(0)) > by.DebtCap)
+        keys.push_back("DEDUCTION_DEBT_CAP");
+}
+
 /// The assumptions that move the figures of this comparison.
-std::vector<std::string_view> KeysThatMatter(const Insight& insight) {
+std::vector<std::string_view> KeysThatMatter(const Insight& insight, const YearByYear& years) {
     const Decisions& decided = insight.Record().Decisions;
-    std::vector<std::string_view> keys{"YEARS_IN_HOME", "ASSUMPTION1", "ASSUMPTION2", "GROWTH_UTILITIES"};
+    std::vector<std::string_view> keys{"YEARS_IN_HOME", "ASSUMPTION1", "ASSUMPTION2", "GROWTH_UTILITIES",
+                                       "GROWTH_HOME"};
     for (const std::string_view key : {KeyOf(decided.Std.PMI), KeyOf(decided.GMH.PMI)})
         if (!key.empty())
             keys.push_back(key);
+    if (insight.By().Assumptions.UsePVVars) {
+        keys.push_back("PVSAVINGS_RATE");
+        keys.push_back("PVSAVINGS_TERM");
+    }
     if (insight.Now().IncludeTaxes)
-        keys.push_back("DEDUCTION_STANDARD");
+        AddTaxKeys(keys, insight, years);
     return keys;
 }
 
@@ -133,7 +163,18 @@ BriefAssumption PartOf(std::string_view key, const Session& session, std::string
     return {std::move(caption), std::move(value), std::move(whole.Date), whole.IsOld};
 }
 
-std::vector<BriefAssumption> AssumptionsOf(const Session& session, const Insight& insight) {
+/// The years that count: none counts as one.
+void NameYears(std::vector<BriefAssumption>& list, const Session& session, const YearByYear& years) {
+    if (session.Assumptions.YearsInHome == years.InHome)
+        return;
+    for (BriefAssumption& one : list)
+        if (one.Value == std::to_string(session.Assumptions.YearsInHome) &&
+            one.Caption == "Years in the home")
+            one.Value += ", counted as " + std::to_string(years.InHome);
+}
+
+std::vector<BriefAssumption> AssumptionsOf(const Session& session, const Insight& insight,
+                                           const YearByYear& years) {
     const MainScreen& screen = session.Screen;
     const Results& record = insight.Record();
     std::vector<BriefAssumption> list;
@@ -146,8 +187,9 @@ std::vector<BriefAssumption> AssumptionsOf(const Session& session, const Insight
         list.push_back(PartOf("LOANTYPE", session,
                               "Qualifying ratios, " + std::string(screen.cboGMHMortOption.Text()),
                               RatiosText(record.GMHCase)));
-    for (const auto& row : AssumptionSheet(KeysThatMatter(insight), session, session.Years).Rows)
+    for (const auto& row : AssumptionSheet(KeysThatMatter(insight, years), session, session.Years).Rows)
         list.push_back(AssumptionOf(row));
+    NameYears(list, session, years);
     if (insight.Now().IncludeTaxes)
         list.push_back(
             PartOf("TAXCAT", session, "Income tax rate", PercentText(record.Scenario.MarginalTaxRate)));
@@ -169,9 +211,13 @@ Brief MakeBrief(const Session& session, int logoOption, std::string date) {
     brief.Sentences = views.TakeawayView().Sentences;
     brief.Cost = CostChart(session);
     brief.Savings = SavingsChart(views.YearsView());
+    brief.SavingsHead = "What is saved over the years";
+    if (std::fabs(views.YearsView().ExtraCash) >= 0.5)
+        brief.SavingsHead += views.YearsView().ExtraCash > 0 ? ", less the extra down payment"
+                                                             : ", with the smaller down payment";
     brief.Figures = FiguresOf(session, views.YearsView());
     brief.Qualifying = QualifyingOf(session.Screen, views.OptionsView());
-    brief.Assumptions = AssumptionsOf(session, insight);
+    brief.Assumptions = AssumptionsOf(session, insight, views.YearsView());
     brief.Disclaimer = Module1::DisclaimerMessage().Text;
     return brief;
 }

@@ -35,6 +35,7 @@ struct Brief {
     std::vector<std::string> Sentences;
     std::shared_ptr<const ChartFigures> Cost;
     std::shared_ptr<const ChartFigures> Savings;
+    std::string SavingsHead; ///< what the curve counts
     std::array<BriefRow, 10> Figures;
     std::array<BriefRow, 3> Qualifying;
     std::vector<BriefAssumption> Assumptions;

@@ -192,7 +192,7 @@ void WriteColumns(PrintDocument& document, const Brief& brief, const BriefSettin
     SideBySide(
         document, firstShare,
         [&] { WriteChart(document, "What both homes cost a month", brief.Cost, setting); },
-        [&] { WriteChart(document, "What is saved over the years", brief.Savings, setting); });
+        [&] { WriteChart(document, brief.SavingsHead, brief.Savings, setting); });
     SideBySide(
         document, firstShare,
         [&] {

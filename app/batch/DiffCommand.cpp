@@ -36,7 +36,7 @@ struct Side {
 };
 
 std::string Named(const Side& side, const std::string& sentence) {
-    return (side.File.empty() ? "" : side.File + ": ") + sentence;
+    return (side.File.empty() ? "standard input" : side.File) + ": " + sentence;
 }
 
 /// {"missing": ...} with the file, as refusals have it.

@@ -111,6 +111,8 @@ void AppendSheetText(std::string& out, const Sheet& sheet) {
     if (sheet.Heads.size() == 1)
         return AppendList(out, sheet);
     AppendWrapped(out, sheet.Sentence);
+    if (sheet.Rows.empty())
+        return;
     out += '\n';
     AppendLines(out, WithBrokenWords(LinesOf(sheet), sheet.Words), sheet.Words);
     if (HasMark(sheet, CellMark::Best))

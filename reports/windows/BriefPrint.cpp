@@ -22,7 +22,9 @@ bool AskForHeader(Session& session, Host& outside, const PrintOutside& machine) 
         outside.ShowMessage({ApplicationTitle, Sentence(*fault), MessageIcon::Exclamation});
         return false;
     }
-    return FrmPrintOptions(record, {session, outside, machine}, ActiveForm()).exec() == QDialog::Accepted;
+    FrmPrintOptions dialog(record, {session, outside, machine}, ActiveForm());
+    dialog.setWindowTitle("Buyer's Brief: Names and Logo");
+    return dialog.exec() == QDialog::Accepted;
 }
 
 } // namespace

@@ -35,6 +35,7 @@ constexpr int twipsPerPixel = TwipsPerInch / 96;
 QPalette BlackOnWhite() {
     QPalette palette;
     palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Window, Qt::white);
     palette.setColor(QPalette::Text, Qt::black);
     return palette;
 }

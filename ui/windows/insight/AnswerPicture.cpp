@@ -25,6 +25,7 @@ constexpr double margin = 12;
 QPalette Paper() {
     QPalette paper;
     paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Window, Qt::white);
     paper.setColor(QPalette::Text, Qt::black);
     return paper;
 }

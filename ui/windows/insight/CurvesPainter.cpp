@@ -31,6 +31,7 @@ public:
         : m_painter(painter)
         , m_chart(chart)
         , m_text(palette.color(QPalette::Text))
+        , m_ground(palette.color(QPalette::Window))
         , m_main(m_text.lightness() < 128 ? mainOnLight : mainOnDark)
         , m_metrics(painter.font()) {
         double ticks = 0;
@@ -140,17 +141,20 @@ private:
                            Qt::AlignCenter, "Years");
     }
 
+    /// No line goes through a label: all lines come first, and each label covers what is under it.
     void PaintFlags() {
         const double line = m_metrics.height();
         const double top = m_plot.top() - line * FlagRows();
+        m_painter.setPen(QPen(m_text, 0.9, Qt::DotLine));
+        for (const Flag& flag : m_flags)
+            m_painter.drawLine(QPointF(flag.X, top + line * flag.Row), QPointF(flag.X, m_plot.bottom()));
+        m_painter.setPen(m_text);
         for (qsizetype i = 0; i < m_flags.size(); ++i) {
             const Flag& flag = m_flags[i];
-            const double rowTop = top + line * flag.Row;
-            m_painter.setPen(QPen(m_text, 0.9, Qt::DotLine));
-            m_painter.drawLine(QPointF(flag.X, rowTop), QPointF(flag.X, m_plot.bottom()));
-            m_painter.setPen(m_text);
-            m_painter.drawText(QPointF(flag.Left, rowTop + m_metrics.ascent()),
-                               Words(m_chart.Curves.Marks[static_cast<std::size_t>(i)].Text));
+            const QString words = Words(m_chart.Curves.Marks[static_cast<std::size_t>(i)].Text);
+            const QRectF place(flag.Left, top + line * flag.Row, m_metrics.horizontalAdvance(words), line);
+            m_painter.fillRect(place, m_ground);
+            m_painter.drawText(QPointF(place.left(), place.top() + m_metrics.ascent()), words);
         }
     }
 
@@ -214,6 +218,7 @@ private:
     QPainter& m_painter;
     const ChartFigures& m_chart;
     QColor m_text;
+    QColor m_ground; ///< that the picture is painted on
     QColor m_main;
     QFontMetricsF m_metrics;
     QRectF m_plot;

@@ -18,7 +18,8 @@ struct MapCell {
     bool operator==(const MapCell&) const = default;
 };
 
-/// Paints the chart into the rectangle, with the painter's font and the palette's text colour. The chart is a
+/// Paints the chart into the rectangle, with the painter's font and the palette's text colour, on its window
+/// colour. The chart is a
 /// sensitivity, a map, curves, monthly costs or a waterfall. `cursor` is outlined on a map.
 void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& chart, const QPalette& palette,
                   const std::optional<MapCell>& cursor = {});
