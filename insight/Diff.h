@@ -52,13 +52,25 @@ Diff ComputeDiff(const Insight& a, const Insight& b);
 /// "Net Monthly Cash Flow with Tax Savings" for the name of a figure.
 std::string DiffCaption(std::string_view figure);
 
+/// What the figure's label shows, with the sign that the labels of the Cash Flow tab leave out.
+std::string TextInA(const DiffFigure& figure);
+std::string TextInB(const DiffFigure& figure);
+
+/// What the tables call the two comparisons.
+struct DiffNames {
+    std::string A = "A"; ///< the head of the column
+    std::string B = "B";
+    std::string InA = "In A"; ///< the row with the total
+    std::string InB = "In B";
+};
+
 /// The inputs that differ.
-Sheet DiffInputsSheet(const Diff& diff);
+Sheet DiffInputsSheet(const Diff& diff, const DiffNames& names = {});
 
 /// The figures that change.
-Sheet DiffFiguresSheet(const Diff& diff);
+Sheet DiffFiguresSheet(const Diff& diff, const DiffNames& names = {});
 
 /// How the inputs lead a figure of the diff from A to B. Inputs that do not move it are marked idle.
-Sheet DiffPartsSheet(const Diff& diff, const DiffFigure& figure);
+Sheet DiffPartsSheet(const Diff& diff, const DiffFigure& figure, const DiffNames& names = {});
 
 } // namespace Ledgrove

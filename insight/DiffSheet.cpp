@@ -28,6 +28,20 @@ SheetCell ValueCell(const DiffFigure& figure, double value) {
     return {ValueText(value, CellUnit::Dollars), value, CellUnit::Dollars};
 }
 
+/// The label's text with a sign: a label of the Cash Flow tab shows a loss without one, under another
+/// caption.
+std::string SignedText(const std::string& text, double value) {
+    constexpr double least = 0.5;
+    return (value <= -least && !text.starts_with('-') ? "-" : "") + text;
+}
+
+/// What the label shows, and the stored amount for spreadsheets.
+SheetCell ShownCell(const DiffFigure& figure, const std::string& text, double value) {
+    if (IsYesOrNo(figure))
+        return TextCell(text);
+    return {SignedText(text, value), value, CellUnit::Dollars};
+}
+
 SheetCell ChangeCell(const DiffFigure& figure, double change) {
     // What rounds to $0.00 or 0% has no sign.
     constexpr double least = 0.005;
@@ -55,7 +69,7 @@ std::size_t LargestPart(const std::vector<double>& parts) {
 
 std::string PartsSentence(const Diff& diff, const DiffFigure& figure) {
     std::string sentence =
-        DiffCaption(figure.Figure) + " goes from " + figure.TextA + " to " + figure.TextB + ".";
+        DiffCaption(figure.Figure) + " goes from " + TextInA(figure) + " to " + TextInB(figure) + ".";
     if (!figure.Parts)
         return sentence + " The parts of the change are unknown: some inputs of the one comparison cannot be "
                           "computed with those of the other.";
@@ -72,38 +86,46 @@ std::string DiffCaption(std::string_view figure) {
     return own == std::end(ownCaptions) ? CaptionOfFigure(figure) : std::string(own->second);
 }
 
-Sheet DiffInputsSheet(const Diff& diff) {
+std::string TextInA(const DiffFigure& figure) {
+    return ShownCell(figure, figure.TextA, figure.A).Text;
+}
+
+std::string TextInB(const DiffFigure& figure) {
+    return ShownCell(figure, figure.TextB, figure.B).Text;
+}
+
+Sheet DiffInputsSheet(const Diff& diff, const DiffNames& names) {
     Sheet sheet;
     sheet.Title = "Inputs that differ";
     sheet.Sentence = diff.Inputs.empty() ? "Both comparisons have the same inputs."
                                          : Count(diff.Inputs.size(), "input differs", "inputs differ") + ".";
-    sheet.Heads = {"Input", "A", "B"};
+    sheet.Heads = {"Input", names.A, names.B};
     for (const DiffInput& input : diff.Inputs)
         sheet.Rows.push_back(
             {TextCell(std::string(input.Caption)), InputCell(input, input.A), InputCell(input, input.B)});
     return sheet;
 }
 
-Sheet DiffFiguresSheet(const Diff& diff) {
+Sheet DiffFiguresSheet(const Diff& diff, const DiffNames& names) {
     Sheet sheet;
     sheet.Title = "Figures that change";
     sheet.Sentence = diff.Figures.empty()
                          ? "No figure changes."
                          : Count(diff.Figures.size(), "figure changes", "figures change") + ".";
-    sheet.Heads = {"Figure", "A", "B", "Change"};
+    sheet.Heads = {"Figure", names.A, names.B, "Change"};
     for (const DiffFigure& figure : diff.Figures)
-        sheet.Rows.push_back({TextCell(DiffCaption(figure.Figure)), TextCell(figure.TextA),
-                              TextCell(figure.TextB),
+        sheet.Rows.push_back({TextCell(DiffCaption(figure.Figure)), ShownCell(figure, figure.TextA, figure.A),
+                              ShownCell(figure, figure.TextB, figure.B),
                               IsYesOrNo(figure) ? SheetCell() : ChangeCell(figure, figure.Change())});
     return sheet;
 }
 
-Sheet DiffPartsSheet(const Diff& diff, const DiffFigure& figure) {
+Sheet DiffPartsSheet(const Diff& diff, const DiffFigure& figure, const DiffNames& names) {
     Sheet sheet;
     sheet.Title = "Parts of the change";
     sheet.Sentence = PartsSentence(diff, figure);
-    sheet.Heads = {"Input", "A", "B", "Change", "Total"};
-    sheet.Rows.push_back({TextCell("In A"), {}, {}, {}, ValueCell(figure, figure.A)});
+    sheet.Heads = {"Input", names.A, names.B, "Change", "Total"};
+    sheet.Rows.push_back({TextCell(names.InA), {}, {}, {}, ValueCell(figure, figure.A)});
     double total = figure.A;
     for (std::size_t at = 0; figure.Parts && at < diff.Inputs.size(); ++at) {
         const DiffInput& input = diff.Inputs[at];
@@ -115,7 +137,7 @@ Sheet DiffPartsSheet(const Diff& diff, const DiffFigure& figure) {
              ValueCell(figure, total)});
     }
     sheet.Rows.push_back(
-        {TextCell("In B"), {}, {}, ChangeCell(figure, figure.Change()), ValueCell(figure, figure.B)});
+        {TextCell(names.InB), {}, {}, ChangeCell(figure, figure.Change()), ValueCell(figure, figure.B)});
     return sheet;
 }
 

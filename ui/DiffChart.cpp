@@ -17,8 +17,8 @@ constexpr double leastPart = 0.005;
 /// The chart while it grows from A to B.
 class Waterfall {
 public:
-    Waterfall(const Diff& diff, const DiffFigure& figure)
-        : m_rows(DiffPartsSheet(diff, figure).Rows) {
+    Waterfall(const Diff& diff, const DiffFigure& figure, const DiffNames& names)
+        : m_rows(DiffPartsSheet(diff, figure, names).Rows) {
         m_chart.Kind = ChartKind::Waterfall;
         m_chart.Title = "What Changes the " + DiffCaption(figure.Figure);
         m_chart.Series = {{"From", {}}, {"To", {}}};
@@ -64,10 +64,11 @@ private:
 
 } // namespace
 
-std::optional<ChartFigures> MakeWaterfall(const Diff& diff, const DiffFigure& figure) {
+std::optional<ChartFigures> MakeWaterfall(const Diff& diff, const DiffFigure& figure,
+                                          const DiffNames& names) {
     if (!figure.Parts || figure.Figure.ends_with(".Qualifies"))
         return std::nullopt;
-    Waterfall chart(diff, figure);
+    Waterfall chart(diff, figure, names);
     chart.AddTotal(figure.A, 0);
     double total = figure.A;
     for (std::size_t at = 0; at < figure.Parts->size(); ++at) {
