@@ -12,10 +12,33 @@
 
 namespace Ledgrove {
 
+namespace {
+
+/// Sorts numbers before words, because a column may hold both.
+class SheetOrder : public QSortFilterProxyModel {
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override {
+        const bool isNumber = IsNumber(left);
+        if (isNumber != IsNumber(right))
+            return isNumber;
+        return QSortFilterProxyModel::lessThan(left, right);
+    }
+
+private:
+    bool IsNumber(const QModelIndex& index) const {
+        return index.data(sortRole()).typeId() == QMetaType::Double;
+    }
+};
+
+} // namespace
+
 SheetView::SheetView(SheetModel& model, QWidget* parent)
     : QTableView(parent)
     , m_model(model)
-    , m_sorted(new QSortFilterProxyModel(this)) {
+    , m_sorted(new SheetOrder(this)) {
     m_sorted->setSourceModel(&model);
     m_sorted->setSortRole(SheetModel::SortRole);
     setModel(m_sorted);
@@ -38,6 +61,11 @@ SheetView::SheetView(SheetModel& model, QWidget* parent)
 
 QModelIndex SheetView::CurrentCell() const {
     return m_sorted->mapToSource(currentIndex());
+}
+
+void SheetView::GoToRow(int row) {
+    if (CurrentCell().row() != row)
+        setCurrentIndex(m_sorted->mapFromSource(m_model.index(row, 0)));
 }
 
 void SheetView::Settle() {

@@ -18,6 +18,9 @@ public:
     /// The model's index of the current cell; invalid without one.
     QModelIndex CurrentCell() const;
 
+    /// Makes the first cell of this row of the model the current one, unless the current one is in the row.
+    void GoToRow(int row);
+
     /// Gives each column the width of its contents. Long words break, so that the table fits if it can.
     void FitColumns();
 
