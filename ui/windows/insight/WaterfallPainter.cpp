@@ -77,12 +77,17 @@ private:
         }
     }
 
+    /// On two lines where the width makes that necessary and the height allows it.
     void PaintCaption(std::size_t row) {
-        const double width = m_plot.left() - m_place.left() - m_metrics.height() / 2;
+        constexpr int flags = Qt::AlignRight | Qt::AlignVCenter | Qt::TextWordWrap;
+        const QString caption = Words(m_chart.Categories[row]);
+        const QRectF place(m_place.left(), Top(row), m_plot.left() - m_place.left() - m_metrics.height() / 2,
+                           m_rowHeight);
+        const QSizeF needed = m_metrics.boundingRect(place, flags, caption).size();
+        const bool fits = needed.height() <= place.height() + 1 && needed.width() <= place.width() + 1;
         m_painter.setPen(m_text);
-        m_painter.drawText(QRectF(m_place.left(), Top(row), width, m_rowHeight),
-                           Qt::AlignRight | Qt::AlignVCenter,
-                           m_metrics.elidedText(Words(m_chart.Categories[row]), Qt::ElideRight, width));
+        m_painter.drawText(place, flags,
+                           fits ? caption : m_metrics.elidedText(caption, Qt::ElideRight, place.width()));
     }
 
     QRectF BoxOf(std::size_t row) const {
