@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ui/InsightAnswers.h"
+#include "ui/windows/ChangesWindow.h"
 #include "ui/windows/FileQuestions.h"
 #include "ui/windows/ModelsContext.h"
 
@@ -56,13 +57,14 @@ public:
     virtual void Follow() = 0;
 };
 
-/// Makes the window. It is in a separate library that is loaded with the first question, so the program
+/// Makes the windows. They are in a separate library that is loaded when one is first needed, so the program
 /// starts without it.
 class InsightFactory {
 public:
     virtual ~InsightFactory() = default;
 
     virtual InsightWindow* Make(InsightContext context) = 0;
+    virtual ChangesWindow* MakeChanges(ChangesContext context) = 0;
 };
 
 } // namespace Ledgrove

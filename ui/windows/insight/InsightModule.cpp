@@ -1,5 +1,6 @@
 #include <QObject>
 
+#include "ui/windows/insight/frmChanges.h"
 #include "ui/windows/insight/frmInsight.h"
 
 namespace Ledgrove {
@@ -12,6 +13,7 @@ class InsightModule : public QObject, public InsightFactory {
 
 public:
     InsightWindow* Make(InsightContext context) override { return new frmInsight(std::move(context)); }
+    ChangesWindow* MakeChanges(ChangesContext context) override { return new frmChanges(std::move(context)); }
 };
 
 } // namespace Ledgrove
