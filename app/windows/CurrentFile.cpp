@@ -31,10 +31,6 @@ QString DocumentsFolder() {
     return UsersFolder(QStandardPaths::DocumentsLocation);
 }
 
-bool IsUndecodable(const QString& file) {
-    return file.contains(QChar::ReplacementCharacter) && !QFileInfo::exists(file);
-}
-
 std::string UnreadableVersions(const QString& file, std::size_t count) {
     const std::string what = count == 1 ? "A version" : std::to_string(count) + " versions";
     return what + " in " + Quoted(file.toStdString()) +
@@ -48,6 +44,10 @@ std::string UndecodableName(const QString& file) {
     return "\"" + file.toStdString() +
            "\" cannot be opened: its name contains characters that are not UTF-8. Rename the file, then open "
            "it.";
+}
+
+bool IsUndecodable(const QString& file) {
+    return file.contains(QChar::ReplacementCharacter) && !QFileInfo::exists(file);
 }
 
 CurrentFile::CurrentFile(frmMain& window, Session& session, Host& outside, RecentFiles recent,
@@ -82,6 +82,11 @@ QString CurrentFile::NameBeside(const QString& ending) const {
     return file.dir().filePath(base + ending);
 }
 
+FileRequest CurrentFile::RequestToOpen(const QString& title) const {
+    const QString start = m_name.isEmpty() ? DocumentsFolder() : QFileInfo(m_name).path();
+    return {title, start, Filter(), Suffix()};
+}
+
 void CurrentFile::New() {
     if (!MayLoseInputs())
         return;
@@ -94,8 +99,7 @@ void CurrentFile::New() {
 }
 
 void CurrentFile::Open() {
-    const QString start = m_name.isEmpty() ? DocumentsFolder() : QFileInfo(m_name).path();
-    const QString file = m_questions.OpenName(m_window, {"Open Comparison", start, Filter(), Suffix()});
+    const QString file = m_questions.OpenName(m_window, RequestToOpen("Open Comparison"));
     if (!file.isEmpty())
         OpenNamed(file);
 }
@@ -179,6 +183,7 @@ bool CurrentFile::KeepVersion() {
     const QString now = QDateTime::currentDateTime().toString("yyyy-MM-dd hh:mm");
     m_versions.push_back({name.toStdString(), now.toStdString(), ScreenInputs(m_session.Screen)});
     ShowTitle();
+    emit VersionKept();
     Save();
     return true;
 }

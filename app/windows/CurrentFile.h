@@ -17,6 +17,9 @@ namespace Ledgrove {
 /// bytes and cannot find the file by it.
 std::string UndecodableName(const QString& file);
 
+/// Whether a window shows this name for a file whose name is not UTF-8.
+bool IsUndecodable(const QString& file);
+
 /// The comparison file that the main window shows: new, open, save, and the question before unsaved inputs
 /// are lost. The window's title shows its name and whether it has changed.
 class CurrentFile : public QObject {
@@ -39,6 +42,8 @@ public:
 
     /// The suggested name for an export: `name` with this ending, in the comparison's folder.
     QString NameBeside(const QString& ending) const;
+    /// What to ask for the name of a comparison: it begins in the folder of this one.
+    FileRequest RequestToOpen(const QString& title) const;
 
 public slots:
     void New();
@@ -54,6 +59,9 @@ public slots:
     /// Asks for a name, keeps the inputs under it in the comparison's file, and saves. False if nothing was
     /// kept. A version that could not be saved stays for the next save.
     bool KeepVersion();
+
+signals:
+    void VersionKept();
 
 protected:
     /// Asks before the window closes with unsaved inputs.
