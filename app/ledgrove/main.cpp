@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "app/options/CommandTable.h"
+#include "app/windows/ChangesOpener.h"
 #include "app/windows/ChartLoader.h"
 #include "app/windows/CurrentFile.h"
 #include "app/windows/InsightOpener.h"
@@ -108,6 +109,9 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
                                     QCoreApplication::applicationDirPath());
     actions.Ask = [&insight](Ledgrove::InsightQuestion question) { insight.Ask(question); };
     actions.Explain = [&insight](const std::string& label) { insight.Explain(label); };
+    Ledgrove::ChangesOpener changes(session, host, questions,
+                                    Ledgrove::ChangesPrintAction(session, host, printers),
+                                    QCoreApplication::applicationDirPath());
     actions.Charts = [] { return Ledgrove::LoadCharts(QCoreApplication::applicationDirPath()); };
     Ledgrove::CurrentFile* current = nullptr;
     const QString sample = SampleFile(folder);
@@ -117,8 +121,10 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
     insight.Follow(window);
     QObject::connect(&window, &Ledgrove::frmMain::Closed, qApp, &QCoreApplication::quit);
     current = new Ledgrove::CurrentFile(window, session, host, Ledgrove::RecentFiles(store), questions);
+    changes.Follow(window, *current);
     window.show();
-    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions, choices, brief});
+    Ledgrove::BuildMainMenu(*current, {window, session, host, *current, questions, choices, brief,
+                                       [&changes] { changes.Open(); }});
     constexpr std::size_t mostLines = 5;
     const auto unusable = Ledgrove::CheckSettings(Ledgrove::SettingsFile(folder));
     if (!unusable.empty())

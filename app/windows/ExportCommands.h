@@ -14,7 +14,8 @@ struct ExportContext {
     const CurrentFile& File;
     FileQuestions Questions;
     LastChoices Choices;
-    std::function<void()> Brief = {}; ///< previews the buyer's brief
+    std::function<void()> Brief = {};   ///< previews the buyer's brief
+    std::function<void()> Compare = {}; ///< opens the window "What changed?"
 };
 
 /// Asks for the paper and a file name, and writes the whole report there.

@@ -83,6 +83,10 @@ void AddFileMenu(QMenuBar& bar, CurrentFile& file, const ExportContext& context)
     AddCommand(menu, "&Save", QKeySequence::Save, [&file] { file.Save(); });
     AddCommand(menu, "Save &As…", QKeySequence("Ctrl+Shift+S"), [&file] { file.SaveAs(); });
     AddCommand(menu, "&Keep This Version…", QKeySequence("Ctrl+K"), [&file] { file.KeepVersion(); });
+    AddCommand(menu, "Compare &With…", QKeySequence("Ctrl+D"), [context] {
+        if (context.Window.CommitEntry())
+            context.Compare();
+    })->setEnabled(static_cast<bool>(context.Compare));
     menu.addSeparator();
     // Ctrl+E and Ctrl+Shift+E move to the end of a field.
     AddCommand(menu, "&Export PDF…", QKeySequence("Ctrl+Shift+P"), [context] { ExportPdf(context); });
