@@ -40,10 +40,10 @@ void ChangesTest::theLastVersionIsComparedWithTheScreen() {
     QVERIFY(desk.From().startsWith("Last (20"));
     QCOMPARE(desk.To(), "The screen");
     QCOMPARE(desk.Open.Asked.Title, "");
-    QCOMPARE(desk.Table("Inputs").rowCount(), 1);
-    QCOMPARE(desk.Cell("Inputs", 0, 0), "Sticker Price, GREENMARK Home");
-    QCOMPARE(desk.Cell("Inputs", 0, 1), "$206,000");
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$204,000");
+    QCOMPARE(desk.Table("InputTable").rowCount(), 1);
+    QCOMPARE(desk.Cell("InputTable", 0, 0), "Sticker Price, GREENMARK Home");
+    QCOMPARE(desk.Cell("InputTable", 0, 1), "$206,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$204,000");
     // Another opening keeps what is chosen.
     desk.Choose("cboFrom", 1);
     desk.Window->close();
@@ -59,7 +59,7 @@ void ChangesTest::withoutAVersionAFileIsAskedFor() {
     QCOMPARE(desk.Open.Asked.Title, "Compare With");
     QCOMPARE(desk.From(), "b.ledgrove.json");
     QCOMPARE(desk.To(), "The screen");
-    QCOMPARE(desk.Cell("Inputs", 0, 1), "$210,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 1), "$210,000");
     QVERIFY(desk.Sentence().startsWith("From \"b.ledgrove.json\" to the screen the monthly net goes from "));
 }
 
@@ -68,7 +68,7 @@ void ChangesTest::withoutAFileNothingIsCompared() {
     desk.Show();
     QCOMPARE(desk.Sentence(), "Nothing differs: From and To are the same comparison. Choose another one for "
                               "either of them.");
-    QVERIFY(!desk.Find<SheetView>("Inputs").isVisible());
+    QVERIFY(!desk.Find<SheetView>("InputTable").isVisible());
     QVERIFY(!desk.Find<QPushButton>("bPrint").isEnabled());
     // A version that is kept later is the usual choice of the next opening.
     desk.Keep("First");
@@ -101,8 +101,8 @@ void ChangesTest::theListsHoldScreenVersionsAndFiles() {
     QCOMPARE(desk.Items("cboTo"), (QStringList{"The screen", "First (" + kept + ")", "b.json"}));
     QCOMPARE(desk.From(), "b.json");
     desk.Choose("cboTo", 0);
-    QCOMPARE(desk.Cell("Inputs", 0, 1), "$210,000");
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$206,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 1), "$210,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$206,000");
 }
 
 void ChangesTest::filesOfTheSameNameShowTheirFolder() {
@@ -165,7 +165,7 @@ void ChangesTest::whatAComparisonLacksIsSaid() {
     desk.Find<QPushButton>("bToFile").click();
     QCOMPARE(desk.Sentence(),
              "\"b.json\" lacks the price of the GREENMARK home, so it has no figures to compare.");
-    for (const char* table : {"Inputs", "Figures", "Parts"}) {
+    for (const char* table : {"InputTable", "FigureTable", "PartTable"}) {
         QVERIFY(!desk.Find<SheetView>(table).isVisible());
         QCOMPARE(desk.Table(table).rowCount(), 0);
     }
@@ -178,7 +178,7 @@ void ChangesTest::equalComparisonsHaveNoTables() {
     desk.Keep("First");
     desk.Show();
     QCOMPARE(desk.Sentence(), "Nothing differs between \"First\" and the screen.");
-    QVERIFY(!desk.Find<SheetView>("Figures").isVisible());
+    QVERIFY(!desk.Find<SheetView>("FigureTable").isVisible());
 }
 
 void ChangesTest::theSentenceHasTheNetsOfTheTabs() {
@@ -199,24 +199,24 @@ void ChangesTest::theChosenFigureShowsItsParts() {
     desk.Keep("First");
     desk.Open.Enter("ecGMHUtil", "1580");
     desk.Show();
-    const int net = desk.RowOf("Figures", "Net Monthly Cash Flow with Tax Savings");
-    QCOMPARE(desk.Find<SheetView>("Figures").currentIndex().row(), net);
+    const int net = desk.RowOf("FigureTable", "Net Monthly Cash Flow with Tax Savings");
+    QCOMPARE(desk.Find<SheetView>("FigureTable").currentIndex().row(), net);
     auto& picture = desk.Find<AnswerPicture>("AnswerPicture");
     QCOMPARE(picture.Shown().Title, "What Changes the Net Monthly Cash Flow with Tax Savings");
-    const int bills = desk.RowOf("Figures", "Monthly Utility Bills, GREENMARK Home");
-    desk.Find<SheetView>("Figures").setCurrentIndex(desk.Table("Figures").index(bills, 0));
+    const int bills = desk.RowOf("FigureTable", "Monthly Utility Bills, GREENMARK Home");
+    desk.Find<SheetView>("FigureTable").setCurrentIndex(desk.Table("FigureTable").index(bills, 0));
     QCOMPARE(picture.Shown().Title, "What Changes the Monthly Utility Bills, GREENMARK Home");
     QVERIFY(picture.isVisible());
     // $1,700 / 12 = $141.67 and $1,580 / 12 = $131.67
-    QCOMPARE(desk.Cell("Parts", 0, 4), "$141.67");
-    QCOMPARE(desk.Cell("Parts", 1, 0), "Annual Utility Cost, GREENMARK Home");
-    QCOMPARE(desk.Cell("Parts", 1, 3), "-$10.00");
-    QCOMPARE(desk.Cell("Parts", 2, 4), "$131.67");
-    QCOMPARE(desk.Find<SheetView>("Parts").accessibleName(),
+    QCOMPARE(desk.Cell("PartTable", 0, 4), "$141.67");
+    QCOMPARE(desk.Cell("PartTable", 1, 0), "Annual Utility Cost, GREENMARK Home");
+    QCOMPARE(desk.Cell("PartTable", 1, 3), "-$10.00");
+    QCOMPARE(desk.Cell("PartTable", 2, 4), "$131.67");
+    QCOMPARE(desk.Find<SheetView>("PartTable").accessibleName(),
              "Parts of the change: Monthly Utility Bills, GREENMARK Home");
     // It stays chosen while the amounts follow: $1,640 / 12 = $136.67.
     desk.Open.Enter("ecGMHUtil", "1640");
-    QCOMPARE(desk.Cell("Parts", 1, 3), "-$5.00");
+    QCOMPARE(desk.Cell("PartTable", 1, 3), "-$5.00");
     desk.Find<QPushButton>("bPrint").click();
     QCOMPARE(desk.Printed.Caption, "Monthly Utility Bills, GREENMARK Home");
     QCOMPARE(desk.Printed.Sentence, desk.Sentence().toStdString());
@@ -227,11 +227,11 @@ void ChangesTest::whoQualifiesHasNoPicture() {
     desk.Keep("First");
     desk.Open.Enter("ecIncome", "30000");
     desk.Show();
-    const int row = desk.RowOf("Figures", "Buyer Qualifies?, Base Home");
-    desk.Find<SheetView>("Figures").setCurrentIndex(desk.Table("Figures").index(row, 0));
+    const int row = desk.RowOf("FigureTable", "Buyer Qualifies?, Base Home");
+    desk.Find<SheetView>("FigureTable").setCurrentIndex(desk.Table("FigureTable").index(row, 0));
     QVERIFY(!desk.Find<AnswerPicture>("AnswerPicture").isVisible());
     QVERIFY(!desk.Find<QPushButton>("bSavePicture").isEnabled());
-    QCOMPARE(desk.Cell("Parts", 1, 3), "-100%");
+    QCOMPARE(desk.Cell("PartTable", 1, 3), "-100%");
 }
 
 void ChangesTest::itFollowsTheMainWindow() {
@@ -239,12 +239,12 @@ void ChangesTest::itFollowsTheMainWindow() {
     desk.Keep("First");
     desk.Show();
     desk.Open.Enter("ecGMHHome", "204000");
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$204,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$204,000");
     desk.Open.Enter("ecGMHHome", "205000");
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$205,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$205,000");
     QVERIFY(desk.Sentence().contains("to " + desk.Net() + ";"));
     desk.Open.Window->Undo();
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$204,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$204,000");
 }
 
 void ChangesTest::newVersionsAppear() {
@@ -256,7 +256,7 @@ void ChangesTest::newVersionsAppear() {
     QCOMPARE(desk.Items("cboTo").size(), 3);
     QVERIFY(desk.Items("cboTo").last().startsWith("Second ("));
     QVERIFY(desk.From().startsWith("First"));
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$204,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$204,000");
 }
 
 void ChangesTest::anotherComparisonHasOtherVersions() {
@@ -271,8 +271,8 @@ void ChangesTest::anotherComparisonHasOtherVersions() {
     desk.Open.File->OpenNamed(desk.Open.PathOf("b.json"));
     QCOMPARE(desk.Items("cboFrom"), (QStringList{"The screen", "Other"}));
     QCOMPARE(desk.From(), "Other");
-    QCOMPARE(desk.Cell("Inputs", 0, 1), "$206,000");
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$210,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 1), "$206,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$210,000");
 }
 
 void ChangesTest::swapExchangesTheSides() {
@@ -283,8 +283,8 @@ void ChangesTest::swapExchangesTheSides() {
     desk.Find<QPushButton>("bSwap").click();
     QCOMPARE(desk.From(), "The screen");
     QVERIFY(desk.To().startsWith("First"));
-    QCOMPARE(desk.Cell("Inputs", 0, 1), "$204,000");
-    QCOMPARE(desk.Cell("Inputs", 0, 2), "$206,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 1), "$204,000");
+    QCOMPARE(desk.Cell("InputTable", 0, 2), "$206,000");
 }
 
 QTEST_MAIN(ChangesTest)

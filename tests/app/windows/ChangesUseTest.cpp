@@ -74,8 +74,8 @@ void ChangesUseTest::everyControlHasANameInWords() {
     QCOMPARE(desk.Find<QComboBox>("cboTo").accessibleDescription(), "To, a comparison");
     QCOMPARE(desk.Find<QPushButton>("bFromFile").accessibleName(), "Other file for From");
     QCOMPARE(desk.Find<QPushButton>("bToFile").accessibleName(), "Other file for To");
-    QCOMPARE(desk.Find<SheetView>("Inputs").accessibleName(), "Inputs that differ");
-    QCOMPARE(desk.Find<SheetView>("Figures").accessibleName(), "Figures that moved");
+    QCOMPARE(desk.Find<SheetView>("InputTable").accessibleName(), "Inputs that differ");
+    QCOMPARE(desk.Find<SheetView>("FigureTable").accessibleName(), "Figures that moved");
     QCOMPARE(SpokenCodeNames(*desk.Window), QStringList());
     const auto& picture = desk.Find<AnswerPicture>("AnswerPicture");
     QCOMPARE(picture.accessibleName(), "What Changes the Net Monthly Cash Flow with Tax Savings");
@@ -88,40 +88,41 @@ void ChangesUseTest::tabGoesFromTopToBottom() {
     desk.Window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(desk.Window.get()));
     const FormDriver form{desk.Window.get()};
-    QCOMPARE(form.TabWalk("cboFrom", 14),
-             (QStringList{"cboFrom", "bFromFile", "cboTo", "bToFile", "bSwap", "Inputs", "Figures",
-                          "AnswerPicture", "Parts", "bPrint", "bCopy", "bSavePicture", "bHelp", "bClose"}));
+    QCOMPARE(
+        form.TabWalk("cboFrom", 14),
+        (QStringList{"cboFrom", "bFromFile", "cboTo", "bToFile", "bSwap", "InputTable", "FigureTable",
+                     "AnswerPicture", "PartTable", "bPrint", "bCopy", "bSavePicture", "bHelp", "bClose"}));
 }
 
 void ChangesUseTest::tablesAreSpokenWithRowAndColumn() {
     ChangedDesk desk;
-    const int row = desk.RowOf("Inputs", "Annual Income");
-    QCOMPARE(desk.Table("Inputs").index(row, 2).data(Qt::AccessibleTextRole).toString(),
+    const int row = desk.RowOf("InputTable", "Annual Income");
+    QCOMPARE(desk.Table("InputTable").index(row, 2).data(Qt::AccessibleTextRole).toString(),
              "Annual Income, To: $62,000");
-    QCOMPARE(desk.Table("Parts").index(1, 0).data(Qt::AccessibleTextRole).toString(),
+    QCOMPARE(desk.Table("PartTable").index(1, 0).data(Qt::AccessibleTextRole).toString(),
              "Annual Income, does not move the result");
 }
 
 void ChangesUseTest::numbersAreSortedAsNumbers() {
     ChangedDesk desk;
-    auto& figures = desk.Find<SheetView>("Figures");
+    auto& figures = desk.Find<SheetView>("FigureTable");
     figures.sortByColumn(1, Qt::AscendingOrder);
     double last = -1e9;
     bool hasWords = false;
-    for (int row = 0; row < desk.Table("Figures").rowCount(); ++row) {
+    for (int row = 0; row < desk.Table("FigureTable").rowCount(); ++row) {
         bool isNumber = false;
-        const double number = desk.Cell("Figures", row, 1).remove('$').remove(',').toDouble(&isNumber);
-        QVERIFY2(!isNumber || (!hasWords && number >= last), qPrintable(desk.Cell("Figures", row, 1)));
+        const double number = desk.Cell("FigureTable", row, 1).remove('$').remove(',').toDouble(&isNumber);
+        QVERIFY2(!isNumber || (!hasWords && number >= last), qPrintable(desk.Cell("FigureTable", row, 1)));
         hasWords = hasWords || !isNumber;
         last = isNumber ? number : last;
     }
     QVERIFY(last > 100'000);
     QVERIFY(hasWords);
     // The chosen figure goes with its row.
-    const int row = desk.RowOf("Figures", "Monthly Utility Bills, GREENMARK Home");
+    const int row = desk.RowOf("FigureTable", "Monthly Utility Bills, GREENMARK Home");
     QCOMPARE(row, -1);
-    const int mortgage = desk.RowOf("Figures", "Mortgage Amount, GREENMARK Home");
-    figures.setCurrentIndex(desk.Table("Figures").index(mortgage, 1));
+    const int mortgage = desk.RowOf("FigureTable", "Mortgage Amount, GREENMARK Home");
+    figures.setCurrentIndex(desk.Table("FigureTable").index(mortgage, 1));
     QCOMPARE(desk.Find<AnswerPicture>("AnswerPicture").Shown().Title,
              "What Changes the Mortgage Amount, GREENMARK Home");
 }

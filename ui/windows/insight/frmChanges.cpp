@@ -1,7 +1,7 @@
 #include "ui/windows/insight/frmChanges.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -64,6 +65,60 @@ QPushButton* AddButton(QLayout& row, const char* control, const QString& caption
     return button;
 }
 
+/// A table that asks for a few rows and takes the room that is left. The other rows scroll within it.
+class ModestTable : public SheetView {
+public:
+    using SheetView::SheetView;
+    QSize sizeHint() const override { return minimumSizeHint(); }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        SheetView::resizeEvent(event);
+        scrollTo(currentIndex());
+    }
+};
+
+/// A picture that asks for no more height than its bars need.
+class ModestPicture : public AnswerPicture {
+public:
+    using AnswerPicture::AnswerPicture;
+    QSize sizeHint() const override { return {minimumSizeHint().width(), minimumHeight()}; }
+};
+
+/// Scrolls what has no room. A control that gets the focus comes into view whole, or its top left part if it
+/// is larger than the view; Qt's own area stops at the current cell of a table.
+class ScrolledAnswer : public QScrollArea {
+public:
+    explicit ScrolledAnswer(QWidget* content) {
+        setObjectName("Scrolled");
+        setWidget(content);
+        setWidgetResizable(true);
+        setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        m_focusChanges = connect(qApp, &QApplication::focusChanged, this,
+                                 [this](QWidget* /*old*/, QWidget* now) { BringIntoView(now); });
+    }
+
+    ~ScrolledAnswer() override {
+        // The focus moves among the controls while they are deleted.
+        disconnect(m_focusChanges);
+    }
+
+protected:
+    bool focusNextPrevChild(bool next) override { return QAbstractScrollArea::focusNextPrevChild(next); }
+
+private:
+    void BringIntoView(const QWidget* control) {
+        // If the controls moved under a pressed mouse button, the release would miss this one.
+        if (!control || !widget()->isAncestorOf(control) || QGuiApplication::mouseButtons() != Qt::NoButton)
+            return;
+        const QRect part(control->mapTo(widget(), QPoint()), control->size().boundedTo(viewport()->size()));
+        ensureVisible(part.center().x(), part.center().y(), part.width() / 2 + 1, part.height() / 2 + 1);
+    }
+
+    QMetaObject::Connection m_focusChanges;
+};
+
 } // namespace
 
 frmChanges::frmChanges(ChangesContext context)
@@ -73,12 +128,7 @@ frmChanges::frmChanges(ChangesContext context)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(8, 8, 8, 8);
     // On a small screen everything but the buttons scrolls.
-    auto* scrolled = new QScrollArea;
-    scrolled->setWidget(MakeAnswer());
-    scrolled->setWidgetResizable(true);
-    scrolled->setFrameShape(QFrame::NoFrame);
-    scrolled->setFocusPolicy(Qt::NoFocus);
-    column->addWidget(scrolled, 1);
+    column->addWidget(new ScrolledAnswer(MakeAnswer()), 1);
     column->addWidget(MakeButtons());
     m_sides->Show(m_context.Choices());
 }
@@ -102,10 +152,10 @@ QWidget* frmChanges::MakeAnswer() {
     m_sentence->setFont(larger);
     column->addWidget(m_sentence);
     m_tables = new QWidget;
-    auto* row = new QHBoxLayout(m_tables);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(MakeTables(), 1);
-    row->addWidget(MakeParts(), 1);
+    m_columns = new QHBoxLayout(m_tables);
+    m_columns->setContentsMargins(0, 0, 0, 0);
+    m_columns->addWidget(MakeTables(), 1);
+    m_columns->addWidget(MakeParts(), 1);
     column->addWidget(m_tables, 1);
     column->addStretch();
     return answer;
@@ -122,13 +172,13 @@ QWidget* frmChanges::MakeTables() {
     auto* side = new QWidget;
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
-    m_inputs = new SheetView(m_inputModel);
-    AddTable(*column, *m_inputs, *new QLabel("&Inputs that differ"), "Inputs");
+    m_inputs = new ModestTable(m_inputModel);
+    AddTable(*column, *m_inputs, *new QLabel("&Inputs that differ"), "InputTable");
     SetSpokenName(*m_inputs, "Inputs that differ");
-    m_figures = new SheetView(m_figureModel);
+    m_figures = new ModestTable(m_figureModel);
     m_figures->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_figuresCaption = new QLabel("Fi&gures that moved");
-    AddTable(*column, *m_figures, *m_figuresCaption, "Figures");
+    AddTable(*column, *m_figures, *m_figuresCaption, "FigureTable");
     column->setStretchFactor(m_figures, 2);
     SetSpokenName(*m_figures, "Figures that moved");
     SetSpokenDescription(*m_figures,
@@ -143,11 +193,11 @@ QWidget* frmChanges::MakeParts() {
     column->setContentsMargins(8, 0, 0, 0);
     m_partsSentence = MakeText("PartsSentence");
     column->addWidget(m_partsSentence);
-    m_picture = new AnswerPicture({});
+    m_picture = new ModestPicture(AnswerPicture::CellWords());
     column->addWidget(m_picture, 3);
-    m_parts = new SheetView(m_partModel);
+    m_parts = new ModestTable(m_partModel);
     m_partsCaption = new QLabel;
-    AddTable(*column, *m_parts, *m_partsCaption, "Parts");
+    AddTable(*column, *m_parts, *m_partsCaption, "PartTable");
     column->setStretchFactor(m_parts, 2);
     m_legend = MakeText("Legend");
     column->addWidget(m_legend);
@@ -211,6 +261,7 @@ void frmChanges::ShowAnswer() {
     m_sentence->setText(Words(m_answer.Missing.empty() ? m_answer.Sentence : m_answer.Missing));
     ShowTables(m_answer);
     ShowParts(m_answer);
+    FitTables();
     OfferCommands(m_answer);
 }
 
@@ -251,6 +302,7 @@ void frmChanges::ChooseFigure() {
     // Another figure's parts are not changes of these.
     m_partModel.Show({});
     ShowParts(m_answer);
+    FitTables();
     OfferCommands(m_answer);
 }
 
@@ -286,6 +338,24 @@ void frmChanges::GiveNaturalSize() {
     const int line = fontMetrics().height();
     // The window manager adds a frame.
     resize(std::min(letter * 175, room.width() - 2 * line), std::min(line * 44, room.height() - 3 * line));
+}
+
+/// In a narrow window the parts stand below the figures. Short tables leave their room to the others.
+void frmChanges::FitTables() {
+    constexpr int letters = 150;
+    const bool isNarrow = width() < fontMetrics().averageCharWidth() * letters;
+    m_columns->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_partsSide->layout()->setContentsMargins(isNarrow ? 0 : 8, 0, 0, 0);
+    for (SheetView* table : {m_inputs, m_parts}) {
+        const int rows =
+            table->SheetView::sizeHint().height() + table->horizontalScrollBar()->sizeHint().height();
+        table->setMaximumHeight(std::max(rows, table->minimumSizeHint().height()));
+    }
+}
+
+void frmChanges::resizeEvent(QResizeEvent* event) {
+    ChangesWindow::resizeEvent(event);
+    FitTables();
 }
 
 void frmChanges::showEvent(QShowEvent* event) {

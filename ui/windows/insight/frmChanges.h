@@ -26,6 +26,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -45,6 +46,7 @@ private:
     void Copy(QString (*form)(const Sheet&));
     void SavePicture();
     void GiveNaturalSize();
+    void FitTables();
 
     ChangesContext m_context;
     ChangesAnswer m_answer; ///< the shown one
@@ -55,6 +57,7 @@ private:
     ChangesSides* m_sides = nullptr;
     QLabel* m_sentence = nullptr;
     QWidget* m_tables = nullptr; ///< everything below the sentence
+    QBoxLayout* m_columns = nullptr;
     SheetView* m_inputs = nullptr;
     QLabel* m_figuresCaption = nullptr;
     SheetView* m_figures = nullptr;
