@@ -1,8 +1,4 @@
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QHeaderView>
 #include <QPushButton>
-#include <QRegularExpression>
 
 #include "ChangesDesk.h"
 #include "ui/windows/insight/AnswerPicture.h"
@@ -29,6 +25,7 @@ private slots:
     void newVersionsAppear();
     void anotherComparisonHasOtherVersions();
     void swapExchangesTheSides();
+    void aMissingLibraryIsReported();
 };
 
 void ChangesTest::theLastVersionIsComparedWithTheScreen() {
@@ -285,6 +282,17 @@ void ChangesTest::swapExchangesTheSides() {
     QVERIFY(desk.To().startsWith("First"));
     QCOMPARE(desk.Cell("InputTable", 0, 1), "$204,000");
     QCOMPARE(desk.Cell("InputTable", 0, 2), "$206,000");
+}
+
+void ChangesTest::aMissingLibraryIsReported() {
+    OpenDesktop open;
+    ChangesOpener opener(open.State, open.Outside, open.Questions, {}, open.FolderPath());
+    opener.Follow(*open.Window, *open.File);
+    opener.Open();
+    const auto texts = open.Outside.TakeTexts();
+    QCOMPARE(texts.size(), std::size_t{1});
+    QVERIFY(texts.front().starts_with("The window \"What changed?\" cannot be opened: "));
+    QCOMPARE(open.Asked.Title, "");
 }
 
 QTEST_MAIN(ChangesTest)

@@ -65,15 +65,18 @@ private:
     }
 
     void PaintTicks() {
+        double end = m_place.left(); // of the amounts so far
         for (const ChartTick& tick : m_chart.Ticks) {
             const double x = At(tick.Value);
             m_painter.setPen(QPen(tick.Value == 0 ? m_text : FaintText(), tick.Value == 0 ? 1.2 : 0.8));
             m_painter.drawLine(QPointF(x, m_plot.top()), QPointF(x, m_plot.bottom()));
-            m_painter.setPen(m_text);
             const QString words = Words(tick.Text);
-            m_painter.drawText(
-                QPointF(x - m_metrics.horizontalAdvance(words) / 2, m_plot.bottom() + m_metrics.ascent() + 2),
-                words);
+            const double begin = x - m_metrics.horizontalAdvance(words) / 2;
+            if (begin < end)
+                continue;
+            m_painter.setPen(m_text);
+            m_painter.drawText(QPointF(begin, m_plot.bottom() + m_metrics.ascent() + 2), words);
+            end = begin + m_metrics.horizontalAdvance(words + ' ');
         }
     }
 
