@@ -2,12 +2,14 @@
 program's result for the example's inputs.
 
 The help marks what is checked: data-inputs (a comparison in JSON) around an example, data-field, data-label, data-record
-and data-insight (the place in the answers) on the figures in it, class="sum" on a sum that must be right as printed, data-default on a value of the settings file, and
-data-control and data-explains for the control or label that a passage explains."""
+and data-insight (the place in the answers) on the figures in it, data-changes on an example for the inputs that another
+comparison has, data-diff (label and member or input) on the figures of their difference, class="sum" on a sum that must be
+right as printed, data-default on a value of the settings file, and data-control and data-explains for the control or label that a passage explains."""
 import json
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
@@ -211,9 +213,32 @@ class Examples(HelpTest):
                         self.assertLessEqual(abs(number - value), HALF_A_UNIT * unit, f"{text} for {value}")
         self.assertGreater(shown, 26)
 
+    def diff(self, inputs, changes):
+        """What differs between two comparisons, by the labels of the figures."""
+        with tempfile.TemporaryDirectory() as folder:
+            other = Path(folder) / "other.json"
+            other.write_text(json.dumps(json.loads(inputs) | json.loads(changes)))
+            run = subprocess.run([PROGRAM, "diff", "--folder", DATA, "--format", "json", "-", other],
+                                 input=inputs.encode(), capture_output=True, check=True, timeout=60)
+        return {figure["label"]: figure | {part["input"]: part["amount"] for part in figure["parts"]}
+                for figure in json.loads(run.stdout)["figures"]}
+
+    def test_differences(self):
+        shown = 0
+        for example in self.marked("data-changes"):
+            figures = self.diff(example.get("data-inputs"), example.get("data-changes"))
+            for element in self.marked("data-diff", example):
+                label, _, member = element.get("data-diff").partition(".")
+                number, unit = number_of(words(element))
+                shown += 1
+                with self.subTest(element.get("data-diff")):
+                    self.assertLessEqual(abs(number - figures[label][member]), HALF_A_UNIT * unit, words(element))
+        self.assertEqual(shown, len(self.marked("data-diff")))
+        self.assertGreater(shown, 6)
+
     def test_every_figure_is_inside_an_example(self):
         inside = [element for example in self.marked("data-inputs") for element in example.iter()]
-        for attribute in ("data-field", "data-label", "data-record", "data-insight"):
+        for attribute in ("data-field", "data-label", "data-record", "data-insight", "data-diff"):
             for element in self.marked(attribute):
                 self.assertIn(element, inside, words(element))
 
