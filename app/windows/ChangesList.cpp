@@ -19,8 +19,8 @@ namespace {
 constexpr const char* screenId = "screen";
 
 /// Ids are never shown. A line break does not occur in what they are made of.
-std::string IdOf(const std::string& file, const std::string& version) {
-    return file + '\n' + version;
+std::string IdOf(const std::string& file, const KeptVersion& version) {
+    return file + '\n' + version.Name + '\n' + version.Kept;
 }
 
 std::string Texted(const KeptVersion& version) {
@@ -49,7 +49,7 @@ ChangesChoices ChangesList::Choices() const {
     for (Compared& compared : All())
         choices.All.push_back(std::move(compared.Choice));
     const KeptVersions& versions = m_current.Versions();
-    choices.Usual = versions.empty() ? screenId : IdOf({}, versions.back().Name);
+    choices.Usual = versions.empty() ? screenId : IdOf({}, versions.back());
     return choices;
 }
 
@@ -63,8 +63,8 @@ ChangesAnswer ChangesList::Answer(const ChangesAsk& ask) const {
     const Compared& from = choice(ask.From);
     const Compared& to = choice(ask.To);
     if (&from == &to)
-        return {.Missing = "Nothing differs: From and To are the same comparison. Choose another one for "
-                           "either of them."};
+        return {.Missing = "Nothing differs, because From and To are the same comparison: choose another one "
+                           "for either of them."};
     const InputsResult a = ComparisonOf(from.Inputs, m_session, m_current.Start());
     const InputsResult b = ComparisonOf(to.Inputs, m_session, m_current.Start());
     if (!a.Fault.empty())
@@ -85,7 +85,7 @@ ChangesList::Added ChangesList::Add(const QString& file) {
     VersionsOfFile versions = VersionsIn(path);
     AddedFile added{QFileInfo(file).absoluteFilePath(), ScreenInputs(read.Screen),
                     std::move(versions.Versions)};
-    const std::string id = IdOf(added.Path.toStdString(), {});
+    const std::string id = added.Path.toStdString();
     std::erase_if(m_files, [&added](const AddedFile& old) { return old.Path == added.Path; });
     m_files.push_back(std::move(added));
     return {{}, versions.Unreadable > 0 ? LeftOut(file, versions.Unreadable) : "", id};
@@ -96,7 +96,8 @@ std::vector<ChangesList::Compared> ChangesList::All() const {
                                "the screen",
                                ScreenInputs(m_session.Screen)}};
     for (const KeptVersion& version : m_current.Versions())
-        all.push_back({{IdOf({}, version.Name), Texted(version), {}}, Quoted(version.Name), version.Inputs});
+        all.push_back(
+            {{IdOf({}, version), Texted(version), Texted(version)}, Quoted(version.Name), version.Inputs});
     for (const AddedFile& file : m_files)
         AppendFile(all, file);
     return all;
@@ -106,11 +107,11 @@ void ChangesList::AppendFile(std::vector<Compared>& all, const AddedFile& file) 
     const std::string path = file.Path.toStdString();
     const std::string tip = QDir::toNativeSeparators(file.Path).toStdString();
     const std::string name = NameOf(file);
-    all.push_back({{IdOf(path, {}), name, tip}, Quoted(name), file.Inputs});
+    all.push_back({{path, name, tip}, Quoted(name), file.Inputs});
     for (const KeptVersion& version : file.Versions) {
         const std::string text = name + ": " + version.Name;
         all.push_back(
-            {{IdOf(path, version.Name), text, tip + ": " + Texted(version)}, Quoted(text), version.Inputs});
+            {{IdOf(path, version), text, tip + ": " + Texted(version)}, Quoted(text), version.Inputs});
     }
 }
 

@@ -36,6 +36,7 @@ void ChangesTest::theLastVersionIsComparedWithTheScreen() {
     desk.Show();
     QVERIFY(desk.From().startsWith("Last (20"));
     QCOMPARE(desk.To(), "The screen");
+    QCOMPARE(desk.Find<QComboBox>("cboFrom").toolTip(), desk.From());
     QCOMPARE(desk.Open.Asked.Title, "");
     QCOMPARE(desk.Table("InputTable").rowCount(), 1);
     QCOMPARE(desk.Cell("InputTable", 0, 0), "Sticker Price, GREENMARK Home");
@@ -63,8 +64,8 @@ void ChangesTest::withoutAVersionAFileIsAskedFor() {
 void ChangesTest::withoutAFileNothingIsCompared() {
     ChangesDesk desk;
     desk.Show();
-    QCOMPARE(desk.Sentence(), "Nothing differs: From and To are the same comparison. Choose another one for "
-                              "either of them.");
+    QCOMPARE(desk.Sentence(), "Nothing differs, because From and To are the same comparison: choose another "
+                              "one for either of them.");
     QVERIFY(!desk.Find<SheetView>("InputTable").isVisible());
     QVERIFY(!desk.Find<QPushButton>("bPrint").isEnabled());
     // A version that is kept later is the usual choice of the next opening.

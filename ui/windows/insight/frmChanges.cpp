@@ -183,6 +183,7 @@ QWidget* frmChanges::MakeTables() {
     SetSpokenName(*m_figures, "Figures that moved");
     SetSpokenDescription(*m_figures,
                          "The parts of the figure in the current row are shown beside the table.");
+    column->addStretch();
     connect(m_figures, &SheetView::CellChanged, this, &frmChanges::ChooseFigure);
     return side;
 }
@@ -201,6 +202,7 @@ QWidget* frmChanges::MakeParts() {
     column->setStretchFactor(m_parts, 2);
     m_legend = MakeText("Legend");
     column->addWidget(m_legend);
+    column->addStretch();
     return m_partsSide;
 }
 
