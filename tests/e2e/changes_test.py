@@ -154,13 +154,22 @@ class Changes(unittest.TestCase):
         self.assertEqual(self.sentence(), 'Nothing differs between "Our offer" and the screen.')
         names = self.items("To, a comparison")
         self.assertEqual([name.partition(" (")[0] for name in names], ["The screen", "Asking price", "Our offer"])
-        # What is typed in the main window shows at once.
-        self.desktop.key("Escape")
-        self.wait_front("doe.ledgrove.json - Ledgrove")
-        self.enter(PRICE, "204000")
+
+    def test_it_follows_the_main_window(self):
+        self.keep_two_prices()
         self.desktop.key("ctrl+d")
-        self.wait_cell(f"{PRICE}, From: $203,000")
-        self.wait_cell(f"{PRICE}, To: $204,000")
+        self.wait_front(TITLE)
+        self.desktop.xdotool("search", "--name", "doe.ledgrove.json - Ledgrove", "windowactivate", "--sync")
+        self.desktop.key("alt+b", "shift+Tab")  # Monthly Debt and the field before it
+        self.program.wait_focus("Annual Income")
+        self.desktop.type("80000")
+        self.desktop.key("Return")
+        self.wait_cell("Annual Income, From: $72,000")
+        self.wait_cell("Annual Income, To: $80,000")
+        self.keep("With a raise")
+        names = wait_for(lambda: [name for name in self.items("To, a comparison") if name.startswith("With a raise (")],
+                         "the new version in the list")
+        self.assertEqual(len(names), 1)
 
 
 if __name__ == "__main__":
