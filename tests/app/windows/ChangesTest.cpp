@@ -14,6 +14,7 @@ private slots:
     void withoutAFileNothingIsCompared();
     void theListsHoldScreenVersionsAndFiles();
     void filesOfTheSameNameShowTheirFolder();
+    void versionsOfTheSameNameAreToldApart();
     void aFaultyFileChangesNothing();
     void unreadableVersionsAreSaid();
     void whatAComparisonLacksIsSaid();
@@ -115,6 +116,24 @@ void ChangesTest::filesOfTheSameNameShowTheirFolder() {
     }
     QCOMPARE(desk.Items("cboFrom").mid(2),
              (QStringList{desk.Open.PathOf("one/b.json"), desk.Open.PathOf("two/b.json")}));
+}
+
+/// Another program may have written them.
+void ChangesTest::versionsOfTheSameNameAreToldApart() {
+    ChangesDesk desk;
+    const QByteArray cheap = QByteArray(ChangesSample).replace("206000", "201000");
+    PutBytes(desk.Open.PathOf("b.json"),
+             QByteArray(R"({"fields": )") + ChangesSample + R"(, "labels": {"versions": [
+                 {"name": "A", "kept": "2026-01-01 10:00", "fields": )" +
+                 ChangesSample + R"(}, {"name": "A", "kept": "2026-01-02 10:00", "fields": )" + cheap +
+                 "}]}}");
+    desk.Open.File->OpenNamed(desk.Open.PathOf("b.json"));
+    desk.Show();
+    QCOMPARE(desk.From(), "A (2026-01-02 10:00)");
+    QCOMPARE(desk.Cell("InputTable", 0, 1), "$201,000");
+    desk.Choose("cboFrom", 1);
+    QCOMPARE(desk.From(), "A (2026-01-01 10:00)");
+    QCOMPARE(desk.Sentence(), "Nothing differs between \"A\" and the screen.");
 }
 
 void ChangesTest::aFaultyFileChangesNothing() {
