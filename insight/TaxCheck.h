@@ -21,7 +21,7 @@ struct HomeTax {
 
 struct TaxCheck {
     bool IsIncluded = true; ///< income tax counts in the figures
-    float Shown = 0; ///< the tax line as shown, per month
+    float Shown = 0;        ///< the tax line as shown, per month
     HomeTax Std;
     HomeTax GMH;
     double Real = 0; ///< the tax line as it would really be, per month

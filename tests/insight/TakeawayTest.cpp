@@ -3,7 +3,7 @@
 #include <cmath>
 #include <regex>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "insight/OptionPairs.h"
 #include "insight/Views.h"
@@ -29,6 +29,8 @@ TEST(Takeaway, SaysWhatTheHomeCostsAndSaves) {
         SentencesOf(Testing::SimpleSession()),
         (Texts{"The GREENMARK home costs $6,000 more and saves $1,200 a year in utility bills.",
                "Each month $50 more is left than with the base home, without income tax.",
+               // 84 x $50
+               "The buyer is ahead from the first day, by $4,200 after 7 years.",
                "It still pays each month up to a price of $132,000 ($6,000 more) or with 50% of the "
                "expected savings.",
                "The buyer qualifies for both homes, with room for $48,000 more loan for the base home and "
@@ -53,16 +55,16 @@ TEST(Takeaway, NamesWhatABuyerWhoDoesNotQualifyCanDo) {
     Session session = Testing::SimpleSession();
     session.Screen.ecIncome.Text = "$40,000"; // allows 933.33 x 120 = $112,000
     const Texts sentences = SentencesOf(session);
-    ASSERT_EQ(sentences.size(), 6U);
-    EXPECT_EQ(sentences[3],
+    ASSERT_EQ(sentences.size(), 7U);
+    EXPECT_EQ(sentences[4],
               "The buyer qualifies for neither home: the mortgage of the base home is $8,000 too "
               "large, that of the GREENMARK home $14,000 too large.");
     // 93.33 % of $120,000 is $111,996; $42,857.14 x 0.28 / 12 x 120 is $120,000.
-    EXPECT_EQ(sentences[4], "The buyer would qualify for the base home with a down payment of 6.67% (6.67 "
+    EXPECT_EQ(sentences[5], "The buyer would qualify for the base home with a down payment of 6.67% (6.67 "
                             "points more), a price of $111,999 ($8,001 less), an income of $42,858 ($2,858 "
                             "more) or the mortgage option FHA or VA.");
     // It would take 11.12 % down or $14,001 less, which is too far.
-    EXPECT_EQ(sentences[5],
+    EXPECT_EQ(sentences[6],
               "The buyer would qualify for the GREENMARK home with an income of $45,001 ($5,001 "
               "more) or the mortgage option Fannie Mae EEM or Freddie Mac EEM.");
 }
@@ -71,14 +73,14 @@ TEST(Takeaway, SaysWhichHomeTheBuyerQualifiesFor) {
     Session session = Testing::SimpleSession();
     session.Screen.ecIncome.Text = "$44,000"; // allows $123,200
     Texts sentences = SentencesOf(session);
-    EXPECT_EQ(sentences[3],
+    EXPECT_EQ(sentences[4],
               "The buyer qualifies for the base home, with room for $3,200 more loan, but not for "
               "the GREENMARK home: its mortgage is $2,800 too large.");
-    EXPECT_TRUE(sentences[4].starts_with("The buyer would qualify for the GREENMARK home with "));
-    EXPECT_EQ(sentences.size(), 5U);
+    EXPECT_TRUE(sentences[5].starts_with("The buyer would qualify for the GREENMARK home with "));
+    EXPECT_EQ(sentences.size(), 6U);
     std::swap(session.Screen.ecStdHome, session.Screen.ecGMHHome);
     sentences = SentencesOf(session);
-    EXPECT_EQ(sentences[3],
+    EXPECT_EQ(sentences[4],
               "The buyer qualifies for the GREENMARK home, with room for $3,200 more loan, but not "
               "for the base home: its mortgage is $2,800 too large.");
 }
@@ -93,7 +95,7 @@ TEST(Takeaway, EqualAmountsHaveWordsOfTheirOwn) {
               "The GREENMARK home costs the same as the base home and has the same utility bills.");
     EXPECT_EQ(sentences[1],
               "Nothing is left each month: both homes cost the same a month, without income tax.");
-    EXPECT_EQ(sentences[2], "It still pays each month at its price of $120,000, but not at a dollar more.");
+    EXPECT_EQ(sentences[2], "It pays for itself at its price of $120,000, but not at a dollar more.");
     EXPECT_EQ(sentences[3],
               "The buyer qualifies for neither home: the mortgage of the base home is not less "
               "than the largest loan, that of the GREENMARK home not less than the largest loan.");
@@ -114,17 +116,18 @@ TEST(Takeaway, WithoutSavingsThereIsNoShare) {
               "The GREENMARK home costs $20,000 less and costs $300 a year more in utility bills.");
     // $20,000 / 120 less $25: $142; $17,000 of price more would take it all.
     EXPECT_EQ(sentences[1], "Each month $142 more is left than with the base home, without income tax.");
-    EXPECT_EQ(sentences[2], "It still pays each month up to a price of $117,000 ($17,000 more).");
+    // 84 x $141.67
+    EXPECT_EQ(sentences[2], "The buyer is ahead from the first day, by $11,900 after 7 years.");
+    EXPECT_EQ(sentences[3], "It still pays each month up to a price of $117,000 ($17,000 more).");
 }
 
 TEST(Takeaway, SaysWhenAllOrNoneOfTheSavingsAreNeeded) {
     Session session = Testing::SimpleSession();
     session.Screen.ecGMHHome.Text = "$132,000";
-    EXPECT_EQ(SentencesOf(session)[2],
-              "It still pays each month at its price of $132,000, but not at a dollar "
-              "more, and only if all of the expected savings come true.");
+    EXPECT_EQ(SentencesOf(session)[2], "It pays for itself at its price of $132,000, but not at a dollar "
+                                       "more, and only if all of the expected savings come true.");
     session.Screen.ecGMHHome.Text = "$120,000";
-    EXPECT_EQ(SentencesOf(session)[2],
+    EXPECT_EQ(SentencesOf(session)[3],
               "It still pays each month up to a price of $132,000 ($12,000 more), and "
               "even if none of the expected savings come true.");
 }
@@ -167,6 +170,35 @@ TEST(Takeaway, SaysWhatTheTaxLineWouldReallyBe) {
     EXPECT_TRUE(sentence.ends_with(", with income tax included; with the tax line as it would really be, " +
                                    real + "."))
         << sentence;
+}
+
+TEST(Takeaway, ALossHasTheSameSignAsTheRealOne) {
+    Session session = Testing::SimpleSession();
+    session.Screen.chkDoTax0 = true;
+    session.Screen.ecStdRate.Text = session.Screen.ecGMHRate.Text = "12.000%";
+    session.Screen.ecGMHHome.Text = "$160,000";
+    const std::string sentence = SentencesOf(session)[1];
+    EXPECT_THAT(sentence,
+                testing::ContainsRegex("costs (\\$[0-9]+) more a month than the base home, with income "
+                                       "tax included, a net of -\\$[0-9]+; with the tax line as it "
+                                       "would really be, -\\$[0-9]+\\.$"));
+}
+
+TEST(Takeaway, LessDownPaymentMakesUpForALoss) {
+    Session session = Testing::SimpleSession();
+    session.Screen.ecPctDown.Text = "20.00%";
+    session.Screen.ecGMHHome.Text = "$110,000";
+    session.Screen.ecGMHUtil.Text = "$4,200"; // $1,800 more a year
+    // 8 % less of $120,000 to pay: $66.67 a month; $150 more for utilities. $2,000 less are paid down.
+    const Texts sentences = SentencesOf(session);
+    EXPECT_EQ(sentences[1], "Nothing is left each month: the GREENMARK home costs $83 more a month than the "
+                            "base home, without income tax.");
+    // $2,000 - 84 x $83.33 is below 0, so the buyer is not ahead after 7 years.
+    EXPECT_FALSE(sentences[2].starts_with("With $2,000 less down payment"));
+    session.Assumptions.YearsInHome = 1;
+    // $2,000 - 12 x $83.33
+    EXPECT_EQ(SentencesOf(session)[2],
+              "With $2,000 less down payment, the buyer is still ahead, by $1,000 after 1 year.");
 }
 
 TEST(Takeaway, APriceThatDoesNotMatterIsNotNamed) {

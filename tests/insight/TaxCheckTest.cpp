@@ -113,7 +113,12 @@ TEST(TaxCheck, UsesTheBracketsRateAlsoWithoutTaxes) {
 }
 
 TEST(TaxCheck, AgreesWithAShown0) {
-    EXPECT_THAT(TaxOf(Testing::SimpleSession()).Sentence, EndsWith("would really be $0 a month, as shown."));
+    Session session = Testing::SimpleSession();
+    EXPECT_THAT(TaxOf(session).Sentence,
+                EndsWith("would really be $0 a month; the tabs leave it out, because "
+                         "income tax is not included."));
+    session.Screen.chkDoTax0 = true;
+    EXPECT_THAT(TaxOf(session).Sentence, EndsWith("would really be $0 a month, as shown."));
 }
 
 TEST(TaxCheck, TheSheetHasBothHomes) {
