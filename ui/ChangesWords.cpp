@@ -60,7 +60,11 @@ std::string SourceOf(const Diff& diff, const DiffFigure& figure) {
     const std::string source(WordsOf(diff.Inputs[largest].Input));
     if (movers == 1)
         return "all of it comes from " + source;
-    const bool isMost = sign * (*figure.Parts)[largest] > sign * figure.Change() / 2;
+    const double part = (*figure.Parts)[largest];
+    if (sign * (part - figure.Change()) >= least)
+        return source + ", moves it most (" + (part < 0 ? "-" : "+") + DollarText(std::fabs(part)) +
+               "), and others work against it";
+    const bool isMost = sign * part > sign * figure.Change() / 2;
     return (isMost ? "most of it comes from " : "the largest part comes from ") + source;
 }
 

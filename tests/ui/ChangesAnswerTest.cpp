@@ -48,8 +48,8 @@ TEST_F(ChangesAnswerTest, AnInputThatWorksAgainstTheChangeIsNotItsSource) {
     m_b.Screen.ecGMHHome.Text = "$132,000"; // -$50
     m_b.Screen.ecGMHUtil.Text = "$900";     // +$25
     m_b.Screen.ecStdUtil.Text = "$2,880";   // +$40
-    EXPECT_EQ(Answer().Sentence, "From A to B the monthly net goes from $50 to $65; most of it comes from "
-                                 "the utility bill, base home.");
+    EXPECT_EQ(Answer().Sentence, "From A to B the monthly net goes from $50 to $65; the utility bill, base "
+                                 "home, moves it most (+$40), and others work against it.");
 }
 
 TEST_F(ChangesAnswerTest, TheLargestPartNeedNotBeMostOfTheChange) {
