@@ -5,8 +5,12 @@ namespace Ledgrove {
 
 namespace {
 
-std::string MoreOrLess(double amount) {
-    return DollarText(amount < 0 ? -amount : amount) + (amount < 0 ? " less" : " more");
+/// "$12 more from the sale than the base home", or "as much" where it would show $0.
+std::string Compared(double amount, const std::string& where, const std::string& whom) {
+    const std::string size = DollarText(amount < 0 ? -amount : amount);
+    if (size == "$0")
+        return "as much" + where + " as " + whom;
+    return size + (amount < 0 ? " less" : " more") + where + " than " + whom;
 }
 
 std::string ShareSentence(const SaleByYear& exit) {
@@ -29,8 +33,9 @@ SheetCell ProceedsCell(double amount) {
 std::string SaleSentence(const SaleByYear& exit) {
     const SaleYear& end = exit.AtEnd;
     return "If the home is sold after " + YearsText(end.Year) + ", the GREENMARK home leaves " +
-           MoreOrLess(end.Difference()) + " from the sale; with what it costs and saves " +
-           "until then, the buyer has " + MoreOrLess(end.Total()) + " than with the base home.";
+           Compared(end.Difference(), " from the sale", "the base home") +
+           "; with what it costs and saves until then, the buyer has " +
+           Compared(end.Total(), "", "with the base home") + ".";
 }
 
 Sheet ExitSheet(const Insight& insight, const SaleByYear& exit) {

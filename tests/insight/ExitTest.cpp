@@ -74,6 +74,15 @@ TEST(Exit, TheYearsInTheHomeMayBeBeyondTheRows) {
     EXPECT_NEAR(exit.AtEnd.Total(), 0.94 * 24'000 + 480 * 60 - 4'800, 1e-6);
 }
 
+TEST(Exit, EqualHomesLeaveAsMuch) {
+    Session session = PaidDownSession("$120,000");
+    session.Screen.ecGMHUtil.Text = session.Screen.ecStdUtil.Text;
+    EXPECT_THAT(
+        SoldOf(session).Table.Sentence,
+        HasSubstr("the GREENMARK home leaves as much from the sale as the base home; with what it costs "
+                  "and saves until then, the buyer has as much as with the base home."));
+}
+
 TEST(Exit, TheSheetSaysWhatTheSaleLeaves) {
     const Sheet sheet = SoldOf(PaidDownSession("$144,000")).Table;
     // 0.94 x $24,000 - $5,760 = $16,800, and $16,800 - $9,840.
