@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "settings/SettingsFault.h"
-#include "ui/windows/EntryField.h"
+#include "ui/windows/StandardEntry.h"
 #include "ui/windows/FormFocus.h"
 #include "ui/windows/HelpWindow.h"
 #include "ui/windows/QtHost.h"

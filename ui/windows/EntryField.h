@@ -3,9 +3,9 @@
 #include <QLineEdit>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "ui/Entry.h"
-#include "ui/windows/RecordShow.h"
 
 namespace Ledgrove {
 
@@ -19,18 +19,6 @@ struct EntryEvents {
     std::function<bool(char)>
         Character; ///< gets a typed character before the field; returns true if it handled the character
 };
-
-/// The entry rules of a field. Some fields use different formats for key presses and for lost focus.
-struct EntryTypes {
-    FieldFormat OnKeyPress;
-    FieldFormat OnLostFocus;
-    Module1::AfterEdit After;
-};
-
-/// The handlers that most fields use. They run the rules in `shows`. The three references must outlive the
-/// field.
-EntryEvents StandardEntryEvents(EntryContext& context, Field& field, const EntryTypes& types,
-                                RecordShow& shows);
 
 /// Shows `text` if it differs. Sends no change event, because nobody typed it.
 void ShowText(QLineEdit& edit, const std::string& text);
@@ -46,6 +34,10 @@ public:
 
     /// Connects the widget to a field of the record. `field` must outlive the widget.
     void Bind(const Field& field, EntryEvents events);
+
+    /// Gives the events to these handlers, in place of those before; for a figure that is in no record.
+    void Handle(EntryEvents events) { m_events = std::move(events); }
+
     bool Shows(const Field& field) const { return m_field == &field; }
 
     /// Shows the current text of the bound field.

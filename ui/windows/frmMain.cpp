@@ -28,6 +28,7 @@
 #include "ui/windows/QuestionLink.h"
 #include "ui/windows/ResultPanels.h"
 #include "ui/windows/ScrolledForm.h"
+#include "ui/windows/StandardEntry.h"
 #include "ui/windows/WelcomeHint.h"
 #include "ui/windows/WindowPlace.h"
 

@@ -10,6 +10,7 @@
 #include "WindowTest.h"
 #include "ui/windows/FormFocus.h"
 #include "ui/windows/FormGuard.h"
+#include "ui/windows/StandardEntry.h"
 
 using namespace Ledgrove;
 using Module1::AfterEdit;
