@@ -23,6 +23,12 @@ bool KeepsCurrentField(Qt::FocusReason reason) {
            reason == Qt::MenuBarFocusReason;
 }
 
+/// Qt would type the letter of an access key that no control has, or whose control is disabled.
+bool IsAccessKey(const QKeyEvent& event) {
+    const bool isAlt = (event.modifiers() & ~Qt::ShiftModifier) == Qt::AltModifier;
+    return isAlt && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 bool IsPlain(const QKeyEvent& event) {
     return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
@@ -122,6 +128,8 @@ void EntryField::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
+    if (IsAccessKey(*event))
+        return event->ignore();
     QLineEdit::keyPressEvent(event);
 }
 

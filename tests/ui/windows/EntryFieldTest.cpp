@@ -110,6 +110,7 @@ private slots:
     void nextPressActsAgain();
     void refusalTouchesNoOtherField();
     void mnemonicOfAButtonActsOnlyAfterCommit();
+    void accessKeysTypeNoLetter();
     void wheelNeverChangesAList();
     void clickAndFocusSelectAll();
     void clickIntoTheMiddleSelectsAllWithoutAClickRule();
@@ -284,6 +285,22 @@ void EntryFieldTest::mnemonicOfAButtonActsOnlyAfterCommit() {
     QTest::keyClick(form.Window.windowHandle(), Qt::Key_O, Qt::AltModifier);
     QTRY_COMPARE(form.OtherClicks, 1);
     QCOMPARE(form.First->text(), "$5");
+}
+
+void EntryFieldTest::accessKeysTypeNoLetter() {
+    RecordingHost host;
+    Form form(host);
+    form.First->setText("5");
+    // No control has the one key, and the other's control is disabled.
+    form.Other->setEnabled(false);
+    for (const char letter : {'z', 'o'}) {
+        QTest::keyClick(form.First, letter, Qt::AltModifier);
+        QTest::keyClick(form.First, letter, Qt::AltModifier | Qt::ShiftModifier);
+    }
+    QCOMPARE(form.First->text(), "5");
+    // Keys that type a sign with AltGr on some keyboards still do.
+    QTest::keyClick(form.First, '6', Qt::GroupSwitchModifier);
+    QVERIFY(form.First->text().endsWith('6'));
 }
 
 void EntryFieldTest::wheelNeverChangesAList() {
