@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QSlider>
 #include <QTabBar>
 #include <QTimer>
 
@@ -66,7 +67,7 @@ bool TakesFocus(QWidget& widget, const QWidget& form) {
 /// Whether the wheel would change a value of the control, instead of scrolling.
 bool ChangesByWheel(const QWidget& widget) {
     return qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QTabBar*>(&widget) ||
-           qobject_cast<const QAbstractSpinBox*>(&widget);
+           qobject_cast<const QAbstractSpinBox*>(&widget) || qobject_cast<const QSlider*>(&widget);
 }
 
 } // namespace
@@ -81,9 +82,10 @@ void FinishPendingPress(PendingPress press) {
     filter->deleteLater();
 }
 
-FormGuard::FormGuard(QWidget& form)
+FormGuard::FormGuard(QWidget& form, WheelChanges wheel)
     : QObject(&form)
-    , m_form(form) {
+    , m_form(form)
+    , m_wheel(wheel) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -95,7 +97,7 @@ bool FormGuard::eventFilter(QObject* watched, QEvent* event) {
         return false;
     if (event->type() == QEvent::Shortcut)
         return widget->focusPolicy() != Qt::NoFocus && !TakesFocus(*widget, m_form);
-    if (!ChangesByWheel(*widget))
+    if (!ChangesByWheel(*widget) || (m_wheel == WheelChanges::Focused && widget->hasFocus()))
         return false;
     // The surroundings may scroll.
     event->ignore();

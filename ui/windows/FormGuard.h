@@ -14,19 +14,23 @@ enum class PendingPress { Allowed, Refused };
 /// afterwards.
 void FinishPendingPress(PendingPress press);
 
+/// Which values the wheel changes, elsewhere it scrolls: none, or that under the pointer if it has the focus.
+enum class WheelChanges { Nothing, Focused };
+
 /// Handles input that would act without moving the focus first: a mnemonic moves the focus to its control and
-/// does nothing if the current field refuses its text. The wheel never changes a value or a tab, because it
-/// is turned to scroll.
+/// does nothing if the current field refuses its text. The wheel changes no value or tab unless `wheel` says
+/// so, because it is turned to scroll.
 class FormGuard : public QObject {
     Q_OBJECT
 
 public:
-    explicit FormGuard(QWidget& form);
+    explicit FormGuard(QWidget& form, WheelChanges wheel = WheelChanges::Nothing);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget& m_form;
+    WheelChanges m_wheel;
 };
 
 } // namespace Ledgrove
