@@ -9,7 +9,7 @@
 #include <QSlider>
 #include <QToolButton>
 
-#include "InsightDesk.h"
+#include "SettingEntry.h"
 #include "app/windows/InsightOpener.h"
 #include "ui/windows/Labels.h"
 #include "ui/windows/insight/AnswerPicture.h"
@@ -17,22 +17,6 @@
 using namespace Ledgrove;
 
 namespace {
-
-/// Types into a field of the settings and leaves it with Enter.
-void EnterSetting(InsightDesk& desk, const char* key, const QString& text) {
-    auto& field = desk.Find<QLineEdit>(key);
-    field.setFocus();
-    field.selectAll();
-    QTest::keyClicks(&field, text);
-    QTest::keyClick(&field, Qt::Key_Return);
-}
-
-QString Complaint(InsightDesk& desk) {
-    for (const QLabel* label : desk.Window->findChildren<QLabel*>("Complaint"))
-        if (label->isVisible())
-            return label->text();
-    return {};
-}
 
 int ColumnOf(InsightDesk& desk, const QString& head) {
     for (int column = 0; column < desk.Table().columnCount(); ++column)

@@ -2,22 +2,26 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "ui/windows/EntryField.h"
 #include "ui/windows/Identify.h"
+#include "ui/windows/insight/AnswerText.h"
 #include "ui/windows/insight/FlowLayout.h"
 
 namespace Ledgrove {
 
+using Module1::EntryOutcome;
+
 namespace {
 
 constexpr int fieldLetters = 12;
-constexpr int complaintLetters = 40; ///< of a line
+constexpr int gap = 10;
 
 QString Words(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -31,36 +35,58 @@ QWidget* MakeBox() {
     return box;
 }
 
+/// Has its place also while it is hidden.
+QLabel* MakeMark() {
+    auto* mark = new QLabel("(not kept)");
+    QSizePolicy policy = mark->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    mark->setSizePolicy(policy);
+    return mark;
+}
+
+/// Keeps the room of a line also while it is empty. A long word does not widen the window.
+QLabel* MakeComplaint() {
+    QLabel* complaint = MakeAnswerText("Complaint");
+    complaint->setMinimumHeight(complaint->fontMetrics().height());
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    complaint->setSizePolicy(policy);
+    return complaint;
+}
+
 } // namespace
 
 SettingsPanel::SettingsPanel(TryText tryText, QWidget* parent)
     : QWidget(parent)
-    , m_try(std::move(tryText)) {
+    , m_try(std::move(tryText))
+    , m_complaint(MakeComplaint()) {
     setObjectName("SettingsPanel");
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(gap / 2);
+    auto* fields = new QWidget;
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
-    auto* flow = new FlowLayout(this);
-    flow->setContentsMargins(0, 0, 0, 0);
-    flow->setSpacing(10);
+    fields->setSizePolicy(policy);
+    m_flow = new FlowLayout(fields);
+    m_flow->setContentsMargins(0, 0, 0, 0);
+    m_flow->setSpacing(gap);
+    column->addWidget(fields);
+    column->addWidget(m_complaint);
 }
 
 void SettingsPanel::Show(const std::vector<SettingField>& fields) {
     const bool isSame =
         std::equal(fields.begin(), fields.end(), m_rows.begin(), m_rows.end(),
                    [](const SettingField& field, const Row& row) {
-                       return field.Key == row.Key && field.Slider.size() == row.Shown.Slider.size();
+                       return field.Key == row.Shown.Key && field.Slider.size() == row.Shown.Slider.size();
                    });
     if (!isSame)
         Build(fields);
     for (std::size_t at = 0; at < fields.size(); ++at)
         Refresh(m_rows[static_cast<qsizetype>(at)], fields[at]);
-    const bool isTried =
-        std::any_of(fields.begin(), fields.end(), [](const SettingField& field) { return field.IsTried; });
-    if (!fields.empty()) {
-        m_keep->setEnabled(isTried);
-        m_back->setEnabled(isTried);
-    }
+    OfferButtons();
     setVisible(!fields.empty());
 }
 
@@ -72,23 +98,26 @@ void SettingsPanel::FollowInTabOrder(QWidget& before) const {
     }
 }
 
-void SettingsPanel::GiveUpRefused() {
+bool SettingsPanel::TakeTyped() {
     for (Row& row : m_rows) {
-        row.Complaint->clear();
-        row.Complaint->hide();
-        row.Edit->setText(Words(row.Shown.Text));
+        if (Take(row))
+            continue;
+        row.Edit->setFocus(Qt::OtherFocusReason);
+        row.Edit->selectAll();
+        return false;
     }
+    return true;
+}
+
+void SettingsPanel::GiveUpTyped() {
+    Complain("");
+    for (Row& row : m_rows)
+        ShowText(*row.Edit, row.Shown.Text);
+    OfferButtons();
 }
 
 void SettingsPanel::Build(const std::vector<SettingField>& fields) {
-    m_rows.clear();
-    m_stops.clear();
-    while (QLayoutItem* item = layout()->takeAt(0)) {
-        // Later, because one of them may be at work now.
-        item->widget()->hide();
-        item->widget()->deleteLater();
-        delete item;
-    }
+    Clear();
     if (fields.empty())
         return;
     for (const SettingField& field : fields)
@@ -96,64 +125,98 @@ void SettingsPanel::Build(const std::vector<SettingField>& fields) {
     AddButtons();
 }
 
+void SettingsPanel::Clear() {
+    Complain("");
+    // A field that is hidden loses the focus.
+    for (const Row& row : m_rows)
+        row.Edit->Handle({});
+    m_rows.clear();
+    m_stops.clear();
+    m_keep = m_back = nullptr;
+    while (QLayoutItem* item = m_flow->takeAt(0)) {
+        // Later, because one of them may be at work now.
+        item->widget()->hide();
+        item->widget()->deleteLater();
+        delete item;
+    }
+}
+
 void SettingsPanel::AddRow(const SettingField& field) {
     const qsizetype at = m_rows.size();
     Row& row = m_rows.emplaceBack();
-    row.Key = field.Key;
+    row.Shown = field;
     QWidget* box = MakeBox();
     auto* caption = new QLabel(Words(field.Caption));
-    row.Edit = new QLineEdit;
+    row.Edit = new EntryField;
     caption->setBuddy(row.Edit);
     Identify(*row.Edit, Words(field.Key), Words(field.Name));
     row.Edit->setAlignment(Qt::AlignRight);
-    m_stops += row.Edit;
     row.Edit->setFixedWidth(fontMetrics().averageCharWidth() * fieldLetters);
-    row.Tried = new QLabel("(not kept)");
+    ShowText(*row.Edit, field.Text);
+    m_stops += row.Edit;
+    row.Tried = MakeMark();
     box->layout()->addWidget(caption);
     box->layout()->addWidget(row.Edit);
     box->layout()->addWidget(row.Tried);
+    m_flow->addWidget(box);
+    HandleEntries(at);
     if (!field.Slider.empty()) {
-        row.Shown = field;
-        AddSlider(row);
+        AddSlider(at);
         box->layout()->addWidget(row.Slider);
-        m_stops += row.Slider;
-        connect(row.Slider, &QSlider::valueChanged, this,
-                [this, at](int place) { Try(at, m_rows[at].Shown.Slider[static_cast<std::size_t>(place)]); });
     }
-    layout()->addWidget(box);
-    row.Complaint = new QLabel;
-    row.Complaint->setObjectName("Complaint");
-    row.Complaint->setWordWrap(true);
-    row.Complaint->setMinimumWidth(fontMetrics().averageCharWidth() * complaintLetters);
-    row.Complaint->setTextFormat(Qt::PlainText);
-    row.Complaint->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    row.Complaint->hide();
-    layout()->addWidget(row.Complaint);
-    // A click on Keep takes what is being typed.
-    connect(row.Edit, &QLineEdit::textEdited, this, [this] { m_keep->setEnabled(true); });
-    connect(row.Edit, &QLineEdit::editingFinished, this, [this, at] { Commit(at); });
-    AddChoices(field, at);
+    AddChoices(at);
 }
 
-void SettingsPanel::AddSlider(Row& row) {
+void SettingsPanel::HandleEntries(qsizetype at) {
+    EntryField* const edit = m_rows[at].Edit;
+    EntryEvents events;
+    events.Click = events.GotFocus = [edit] { edit->selectAll(); };
+    events.KeyPress = [this, at, edit](KeyCode) {
+        const bool isTaken = Take(m_rows[at]);
+        edit->selectAll();
+        return isTaken ? EntryOutcome::Accepted : EntryOutcome::Refused;
+    };
+    events.LostFocus = [this, at, edit] {
+        if (MayLeave(m_rows[at]) || Take(m_rows[at]))
+            return EntryOutcome::Accepted;
+        edit->setFocus(Qt::OtherFocusReason);
+        edit->selectAll();
+        return EntryOutcome::Refused;
+    };
+    events.Change = [this](const std::string&) {
+        m_refused = nullptr;
+        OfferButtons();
+    };
+    edit->Handle(std::move(events));
+}
+
+void SettingsPanel::AddSlider(qsizetype at) {
     constexpr int widthInLetters = 30;
     constexpr int page = 10;
+    Row& row = m_rows[at];
     row.Slider = new QSlider(Qt::Horizontal);
-    Identify(*row.Slider, Words(row.Key) + "Slider", Words(row.Shown.Name));
+    Identify(*row.Slider, Words(row.Shown.Key) + "Slider", Words(row.Shown.Name));
     row.Slider->setRange(0, static_cast<int>(row.Shown.Slider.size()) - 1);
     row.Slider->setPageStep(page);
     row.Slider->setMinimumWidth(fontMetrics().averageCharWidth() * widthInLetters / 2);
     row.Slider->setFixedWidth(fontMetrics().averageCharWidth() * widthInLetters);
+    m_stops += row.Slider;
+    connect(row.Slider, &QSlider::valueChanged, this, [this, at](int place) {
+        Try(m_rows[at], m_rows[at].Shown.Slider[static_cast<std::size_t>(place)]);
+    });
 }
 
-void SettingsPanel::AddChoices(const SettingField& field, qsizetype at) {
-    for (const SettingChoice& choice : field.Choices) {
+void SettingsPanel::AddChoices(qsizetype at) {
+    Row& row = m_rows[at];
+    for (const SettingChoice& choice : row.Shown.Choices) {
         auto* button = new QPushButton(Words(choice.Caption));
         button->setObjectName("Choice");
         button->setAutoDefault(true);
-        connect(button, &QPushButton::clicked, this, [this, at, text = choice.Text] { Try(at, text); });
+        connect(button, &QPushButton::clicked, this,
+                [this, at, text = choice.Text] { Try(m_rows[at], text); });
+        row.Choices += button;
         m_stops += button;
-        layout()->addWidget(button);
+        m_flow->addWidget(button);
     }
 }
 
@@ -166,42 +229,74 @@ void SettingsPanel::AddButtons() {
     m_back->setToolTip("Shows the answer with the values in Ledgrove.ini again");
     for (QPushButton* button : {m_keep, m_back}) {
         button->setAutoDefault(true);
-        layout()->addWidget(button);
+        m_flow->addWidget(button);
         m_stops += button;
     }
-    connect(m_keep, &QPushButton::clicked, this, &SettingsPanel::KeepAsked);
+    connect(m_keep, &QPushButton::clicked, this, [this] {
+        // A screen reader presses the button without moving the focus.
+        if (TakeTyped())
+            emit KeepAsked();
+    });
     connect(m_back, &QPushButton::clicked, this, &SettingsPanel::GoBackAsked);
 }
 
 void SettingsPanel::Refresh(Row& row, const SettingField& field) {
+    const bool isTyped = IsTyped(row);
     row.Shown = field;
     row.Tried->setVisible(field.IsTried);
     if (row.Slider) {
         const QSignalBlocker nothingTried(row.Slider);
         row.Slider->setValue(field.SliderAt);
     }
-    const bool isBeingTyped = row.Edit->hasFocus() && row.Edit->isModified();
-    if (row.Complaint->text().isEmpty() && !isBeingTyped && row.Edit->text() != Words(field.Text))
-        row.Edit->setText(Words(field.Text));
+    if (!isTyped)
+        ShowText(*row.Edit, field.Text);
 }
 
-void SettingsPanel::Commit(qsizetype at) {
-    Row& row = m_rows[at];
-    if (row.Edit->isModified())
-        Try(at, row.Edit->text().toStdString());
-    if (row.Edit->hasFocus())
-        row.Edit->selectAll();
+/// What is typed can be kept, which enters it first. A refused text can only be given up or corrected.
+void SettingsPanel::OfferButtons() {
+    if (!m_keep)
+        return;
+    const bool isChanged = std::any_of(m_rows.begin(), m_rows.end(),
+                                       [this](const Row& row) { return row.Shown.IsTried || IsTyped(row); });
+    m_keep->setEnabled(isChanged && !m_refused);
+    m_back->setEnabled(isChanged);
 }
 
-void SettingsPanel::Try(qsizetype at, const std::string& text) {
-    Row& row = m_rows[at];
-    const std::string complaint = m_try(row.Key, text);
-    row.Complaint->setText(Words(complaint));
-    row.Complaint->setVisible(!complaint.empty());
-    SetSpokenDescription(*row.Edit, Words(complaint));
-    row.Edit->setModified(false);
-    if (complaint.empty())
-        emit Tried();
+bool SettingsPanel::IsTyped(const Row& row) const {
+    return row.Edit->text() != Words(row.Shown.Text);
+}
+
+/// Whether the focus goes to a button that replaces the field's text.
+bool SettingsPanel::MayLeave(const Row& row) const {
+    QWidget* const next = window()->focusWidget();
+    return next == m_back || std::any_of(row.Choices.begin(), row.Choices.end(),
+                                         [next](const QPushButton* choice) { return choice == next; });
+}
+
+bool SettingsPanel::Take(Row& row) {
+    return !IsTyped(row) || Try(row, row.Edit->text().toStdString());
+}
+
+bool SettingsPanel::Try(Row& row, const std::string& text) {
+    const std::string complaint = m_try(row.Shown.Key, text);
+    Complain(complaint);
+    if (!complaint.empty()) {
+        m_refused = row.Edit;
+        SetSpokenDescription(*row.Edit, Words(complaint));
+        OfferButtons();
+        return false;
+    }
+    ShowText(*row.Edit, text);
+    row.Shown.Text = text;
+    emit Tried();
+    return true;
+}
+
+void SettingsPanel::Complain(const std::string& complaint) {
+    m_complaint->setText(Words(complaint));
+    m_refused = nullptr;
+    for (const Row& row : m_rows)
+        SetSpokenDescription(*row.Edit, "");
 }
 
 } // namespace Ledgrove

@@ -1,7 +1,6 @@
 #include "ui/windows/insight/frmInsight.h"
 
 #include <QClipboard>
-#include <QComboBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -10,15 +9,16 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "ui/windows/FormGuard.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/UsersFolder.h"
+#include "ui/windows/insight/AnswerPage.h"
 #include "ui/windows/insight/AnswerPicture.h"
 #include "ui/windows/insight/AnswerText.h"
 #include "ui/windows/insight/ChainView.h"
@@ -26,6 +26,7 @@
 #include "ui/windows/insight/ModelsView.h"
 #include "ui/windows/insight/SettingsPanel.h"
 #include "ui/windows/insight/SheetView.h"
+#include "ui/windows/insight/YearSwitch.h"
 
 namespace Ledgrove {
 
@@ -58,6 +59,7 @@ frmInsight::frmInsight(InsightContext context)
     row->addWidget(m_pages, 1);
     m_highlight.setSingleShot(true);
     m_highlight.setInterval(highlightMilliseconds);
+    new FormGuard(*this, WheelChanges::Focused);
     connect(&m_highlight, &QTimer::timeout, this, [this] { m_sentence->setAutoFillBackground(false); });
 }
 
@@ -77,6 +79,12 @@ QWidget* frmInsight::MakeQuestions() {
 }
 
 void frmInsight::Choose(int row) {
+    if (!m_settings->TakeTyped()) {
+        const QSignalBlocker notChosen(m_questions);
+        m_questions->setCurrentRow(m_row);
+        return;
+    }
+    m_row = row;
     const bool isModels = row == static_cast<int>(InsightQuestions.size());
     m_pages->setCurrentWidget(isModels ? static_cast<QWidget*>(m_models) : m_pages->widget(0));
     if (isModels) {
@@ -88,6 +96,7 @@ void frmInsight::Choose(int row) {
     m_model.Show({});
     ShowAnswer();
     m_table->Settle();
+    m_answer->ShowTop();
 }
 
 QWidget* frmInsight::MakeModels() {
@@ -100,46 +109,48 @@ QWidget* frmInsight::MakeModels() {
 
 QWidget* frmInsight::MakeAnswer() {
     auto* answer = new QWidget;
-    auto* column = new QVBoxLayout(answer);
-    column->setContentsMargins(8, 0, 0, 0);
+    auto* rows = new QVBoxLayout(answer);
+    rows->setContentsMargins(0, 0, 0, 0);
+    m_answer = new AnswerPage;
+    rows->addWidget(m_answer, 1);
+    QVBoxLayout& column = m_answer->Column();
     m_sentence = MakeAnswerText("Sentence");
     MakeLarger(*m_sentence);
-    column->addWidget(m_sentence);
-    column->addWidget(MakeSettings());
+    column.addWidget(m_sentence);
+    column.addWidget(MakeSettings());
     m_picture = new AnswerPicture([this](const ChartGrid& grid, std::size_t at, std::size_t row) {
         return Words(m_context.CellText(grid, at, row));
     });
-    column->addWidget(m_picture, 3);
+    column.addWidget(m_picture, 3);
     m_cell = MakeAnswerText("CellText");
-    column->addWidget(m_cell);
-    column->addWidget(MakeYearSwitch());
+    column.addWidget(m_cell);
+    m_years = new YearSwitch;
+    column.addWidget(m_years);
     m_table = new SheetView(m_model);
-    column->addWidget(m_table, 2);
+    column.addWidget(m_table, 2);
     m_chain = new ChainView;
-    column->addWidget(m_chain, 5);
+    column.addWidget(m_chain, 5);
+    m_legend = MakeAnswerText("Legend");
+    column.addWidget(m_legend);
+    m_note = MakeAnswerText("Note");
+    column.addWidget(m_note);
+    m_space = new QWidget;
+    column.addWidget(m_space, 1);
+    rows->addWidget(MakeButtons()); // the last for Tab
+    ConnectAnswer();
+    return answer;
+}
+
+void frmInsight::ConnectAnswer() {
     connect(m_chain, &ChainView::LeafChosen, this,
             [this](const QString& control, const QString& key) { m_context.GoTo(control, key); });
     connect(m_chain, &ChainView::FigureChosen, this,
             [this](const QString& figure) { Explain(figure.toStdString()); });
-    m_legend = MakeAnswerText("Legend");
-    column->addWidget(m_legend);
-    m_note = MakeAnswerText("Note");
-    column->addWidget(m_note);
-    m_space = new QWidget;
-    column->addWidget(m_space, 1);
-    column->addWidget(MakeButtons());
     connect(m_picture, &AnswerPicture::CellSaid, m_cell, &QLabel::setText);
     connect(m_picture, &AnswerPicture::CellChosen, this, &frmInsight::ChooseMapCell);
+    connect(m_years, &YearSwitch::Chosen, this, &frmInsight::ChooseYear);
     connect(m_table, &SheetView::CellChanged, this, &frmInsight::OfferEntry);
     connect(m_table, &SheetView::CellActivated, this, &frmInsight::EnterCell);
-    // On a small screen the answer scrolls.
-    auto* scrolled = new QScrollArea;
-    scrolled->setObjectName("Scrolled");
-    scrolled->setWidget(answer);
-    scrolled->setWidgetResizable(true);
-    scrolled->setFrameShape(QFrame::NoFrame);
-    scrolled->setFocusPolicy(Qt::NoFocus);
-    return scrolled;
 }
 
 QWidget* frmInsight::MakeSettings() {
@@ -154,45 +165,16 @@ QWidget* frmInsight::MakeSettings() {
     connect(m_settings, &SettingsPanel::GoBackAsked, this, [this] {
         m_context.GoBack(m_question);
         ShowAnswer();
-        m_settings->GiveUpRefused();
+        m_settings->GiveUpTyped();
     });
     return m_settings;
 }
 
-QWidget* frmInsight::MakeYearSwitch() {
-    m_yearSwitch = new QWidget;
-    auto* row = new QHBoxLayout(m_yearSwitch);
-    row->setContentsMargins(0, 0, 0, 0);
-    auto* caption = new QLabel("Sho&w:");
-    m_years = new QComboBox;
-    Identify(*m_years, "Years", "Years or months of the table");
-    m_years->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    caption->setBuddy(m_years);
-    row->addWidget(caption);
-    row->addWidget(m_years);
-    row->addStretch();
-    connect(m_years, &QComboBox::activated, this, [this](int year) {
-        m_year = year;
-        m_model.Show({});
-        ShowAnswer();
-        m_table->Settle();
-    });
-    return m_yearSwitch;
-}
-
-void frmInsight::ShowYears(const InsightAnswer& answer) {
-    m_yearSwitch->setVisible(answer.Years > 0);
-    if (answer.Years == 0)
-        return;
-    const QSignalBlocker nothingChosen(m_years);
-    if (m_years->count() != answer.Years + 1) {
-        m_years->clear();
-        m_years->addItem("All years");
-        for (int year = 1; year <= answer.Years; ++year)
-            m_years->addItem(QString("Year %1, by month").arg(year));
-    }
-    m_year = answer.Year;
-    m_years->setCurrentIndex(m_year);
+void frmInsight::ChooseYear(int year) {
+    m_year = year;
+    m_model.Show({});
+    ShowAnswer();
+    m_table->Settle();
 }
 
 QPushButton* frmInsight::AddButton(QLayout& row, const char* control, const QString& caption) {
@@ -206,7 +188,7 @@ QPushButton* frmInsight::AddButton(QLayout& row, const char* control, const QStr
 QWidget* frmInsight::MakeButtons() {
     auto* buttons = new QWidget;
     auto* row = new FlowLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(8, 0, 0, 0);
     row->setSpacing(6);
     m_enter = AddButton(*row, "bEnter", "&Try It");
     m_print = AddButton(*row, "bPrint", "&Print…");
@@ -235,6 +217,9 @@ QWidget* frmInsight::MakeButtons() {
 }
 
 void frmInsight::Ask(InsightQuestion question) {
+    // Otherwise the list would take the focus from a field that keeps it.
+    if (!m_settings->TakeTyped())
+        return;
     for (std::size_t row = 0; row < InsightQuestions.size(); ++row) {
         if (InsightQuestions[row].Id == question)
             m_questions->setCurrentRow(static_cast<int>(row));
@@ -273,7 +258,9 @@ void frmInsight::ShowAnswer() {
     m_table->setVisible(hasAnswer && !answer.Chain && answer.Table.Heads.size() > 1);
     m_settings->Show(answer.Fields);
     m_settings->FollowInTabOrder(*m_questions);
-    ShowYears(answer);
+    if (answer.Years > 0)
+        m_year = answer.Year;
+    m_years->Show(answer.Years, m_year);
     m_print->setEnabled(hasAnswer);
     m_export->setEnabled(!m_table->isHidden());
     m_copy->setEnabled(hasAnswer);
@@ -360,7 +347,7 @@ void frmInsight::GiveNaturalSize() {
     const int letter = fontMetrics().averageCharWidth();
     const int line = fontMetrics().height();
     // The window manager adds a frame.
-    resize(std::min(letter * 175, room.width() - 2 * line), std::min(line * 42, room.height() - 3 * line));
+    resize(std::min(letter * 175, room.width() - 2 * line), std::min(line * 52, room.height() - 3 * line));
 }
 
 void frmInsight::showEvent(QShowEvent* event) {

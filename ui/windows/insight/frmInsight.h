@@ -5,7 +5,6 @@
 #include "ui/windows/InsightWindow.h"
 #include "ui/windows/insight/SheetModel.h"
 
-class QComboBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -13,11 +12,13 @@ class QStackedWidget;
 
 namespace Ledgrove {
 
+class AnswerPage;
 class AnswerPicture;
 class ChainView;
 class ModelsView;
 class SettingsPanel;
 class SheetView;
+class YearSwitch;
 
 /// The Insight window: on the left the questions, on the right the answer as a sentence, a picture and a
 /// table.
@@ -39,14 +40,14 @@ protected:
 private:
     QWidget* MakeQuestions();
     QWidget* MakeAnswer();
+    void ConnectAnswer();
     QWidget* MakeModels();
     void Choose(int row);
     QWidget* MakeSettings();
-    QWidget* MakeYearSwitch();
+    void ChooseYear(int year);
     QWidget* MakeButtons();
     QPushButton* AddButton(QLayout& row, const char* control, const QString& caption);
     void ShowAnswer();
-    void ShowYears(const InsightAnswer& answer);
     void MarkSentence();
     void OfferEntry();
     void EnterCell();
@@ -60,6 +61,7 @@ private:
     InsightContext m_context;
     InsightQuestion m_question = InsightQuestion::HowFar;
     std::string m_figure; ///< that WhereFrom is about
+    int m_row = 0;        ///< of the list of questions
     int m_year = 0;       ///< whose months YearByYear lists; 0 for all years
     Sheet m_sheet;        ///< of the shown answer, also while its table is hidden
     SheetModel m_model;
@@ -67,15 +69,15 @@ private:
     QListWidget* m_questions = nullptr;
     QStackedWidget* m_pages = nullptr;
     ModelsView* m_models = nullptr;
+    AnswerPage* m_answer = nullptr;
     QLabel* m_sentence = nullptr;
     SettingsPanel* m_settings = nullptr;
     AnswerPicture* m_picture = nullptr;
     QLabel* m_cell = nullptr;
-    QWidget* m_yearSwitch = nullptr;
-    QComboBox* m_years = nullptr;
+    YearSwitch* m_years = nullptr;
     SheetView* m_table = nullptr;
     ChainView* m_chain = nullptr;
-    QWidget* m_space = nullptr; ///< keeps the buttons down below an answer without a table
+    QWidget* m_space = nullptr; ///< the room below an answer without a table
     QLabel* m_legend = nullptr;
     QLabel* m_note = nullptr;
     QPushButton* m_enter = nullptr;
