@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -60,6 +61,8 @@ class InsightFitTest : public QObject {
 private slots:
     void everyAnswerFits();
     void theListOfHousesFits();
+    void theButtonsStayInView();
+    void aQuestionStartsAtItsTop();
     void aComplaintFits();
     void everyAnswerIsReachedByTab();
 };
@@ -92,6 +95,35 @@ void InsightFitTest::theListOfHousesFits() {
     const auto& models = desk.Find<QWidget>("Models");
     const QString cut = Cut(models, models.width());
     QVERIFY2(cut.isEmpty(), qPrintable(cut));
+}
+
+void InsightFitTest::theButtonsStayInView() {
+    InsightDesk desk;
+    desk.Window->show();
+    for (const QuestionRow& row : InsightQuestions) {
+        desk.Window->Ask(row.Id);
+        Settle();
+        for (const char* name : {"bPrint", "bCopy", "bExport", "bSavePicture", "bHelp"})
+            QVERIFY2(IsWholeInView(desk.Find<QPushButton>(name)), name);
+        // The table scrolls by itself, so the page need not.
+        const QString question =
+            QString::fromUtf8(row.Words.data(), static_cast<qsizetype>(row.Words.size()));
+        const int rest = desk.Find<QScrollArea>("Scrolled").verticalScrollBar()->maximum();
+        QVERIFY2(!HasRoom({1366, 768}) || rest == 0, qPrintable(QString("%1: %2").arg(question).arg(rest)));
+    }
+}
+
+void InsightFitTest::aQuestionStartsAtItsTop() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::YearByYear);
+    desk.Window->resize(desk.Window->width(), 200);
+    Settle();
+    QScrollBar& bar = *desk.Find<QScrollArea>("Scrolled").verticalScrollBar();
+    bar.setValue(bar.maximum());
+    QVERIFY(bar.value() > 0);
+    desk.Window->Ask(InsightQuestion::Sale);
+    Settle();
+    QCOMPARE(bar.value(), 0);
 }
 
 void InsightFitTest::aComplaintFits() {
