@@ -19,6 +19,12 @@ std::string PlainNumber(double number) {
     return {text.data(), end};
 }
 
+/// With cents only if there are any.
+std::string DollarsText(double amount) {
+    const bool isWhole = amount == std::floor(amount);
+    return Module1::FormatPicture(amount, isWhole ? "$#,###,###,##0" : "$#,###,###,##0.00");
+}
+
 } // namespace
 
 const YearSetting* FindYearSetting(std::string_view key) {
@@ -49,13 +55,13 @@ std::string ShownYearValue(const YearSetting& setting, const YearSettings& setti
     const double number = settings.*setting.Value * setting.Divisor;
     if (setting.IsPercent())
         return Module1::FormatPicture(number, "0.00######") + '%';
-    const bool isWhole = number == std::floor(number);
-    return Module1::FormatPicture(number, isWhole ? "$#,###,###,##0" : "$#,###,###,##0.00");
+    return DollarsText(number);
 }
 
 std::string WantedYearValue(const YearSetting& setting) {
-    return (setting.IsPercent() ? "a percentage from " : "an amount in dollars from ") +
-           PlainNumber(setting.Least) + " to " + PlainNumber(setting.Most);
+    if (setting.IsPercent())
+        return "a percentage from " + PlainNumber(setting.Least) + " to " + PlainNumber(setting.Most);
+    return "an amount from " + DollarsText(setting.Least) + " to " + DollarsText(setting.Most);
 }
 
 } // namespace Ledgrove

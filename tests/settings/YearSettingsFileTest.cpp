@@ -80,7 +80,7 @@ TEST_F(YearSettingsFileTest, SetTakesWhatTheReaderUses) {
         CheckSetRequest("GROWTH_HOME", "21").value_or(""),
         HasSubstr("\"21\" cannot be used for GROWTH_HOME. Give a percentage from -20 to 20, such as 0."));
     EXPECT_THAT(CheckSetRequest("DEDUCTION_STANDARD", "32,2").value_or(""),
-                HasSubstr("Give an amount in dollars from 0 to 1000000000, such as 32200."));
+                HasSubstr("Give an amount from $0 to $1,000,000,000, such as 32200."));
     EXPECT_THAT(CheckSetRequest("DEDUCTION_ST", "1").value_or(""), HasSubstr("is only the beginning of"));
 }
 

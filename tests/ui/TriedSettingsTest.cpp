@@ -41,8 +41,14 @@ TEST_F(TriedSettingsTest, ARefusedTextLeavesTheValueInForce) {
     EXPECT_EQ(m_settings.Try("GROWTH_UTILITIES", "21"),
               "\"21\" is not a percentage from -20 to 20; 2.00% stays in force.");
     EXPECT_EQ(m_settings.Try("DEDUCTION_OTHER", "ten"),
-              "\"ten\" is not an amount in dollars from 0 to 1000000000; $0 stays in force.");
+              "\"ten\" is not an amount from $0 to $1,000,000,000; $0 stays in force.");
     EXPECT_EQ(m_settings.InForce().UtilityGrowth, 0.02);
+}
+
+TEST_F(TriedSettingsTest, DollarsAreRoundedAsTheAnswersSayThem) {
+    EXPECT_EQ(m_settings.Try("DEDUCTION_DEBT_CAP", "$1,000,000.50"), "");
+    EXPECT_EQ(m_settings.InForce().DebtCap, 1'000'001);
+    EXPECT_EQ(ShownYearValue(*FindYearSetting("DEDUCTION_DEBT_CAP"), m_settings.InForce()), "$1,000,001");
 }
 
 TEST_F(TriedSettingsTest, TheKeptValueIsNotTried) {
