@@ -2,6 +2,8 @@
 
 #include "settings/SettingsFile.h"
 
+#include <cmath>
+
 namespace Ledgrove {
 
 namespace {
@@ -41,10 +43,13 @@ bool TriedSettings::IsTried(const YearSetting& setting) const {
 
 std::string TriedSettings::Try(std::string_view key, std::string_view text) {
     const YearSetting& setting = *FindYearSetting(key);
-    const auto number = ReadYearValue(setting, text);
+    auto number = ReadYearValue(setting, text);
     if (!number)
         return '"' + std::string(text) + "\" is not " + WantedYearValue(setting) + "; " +
                ShownYearValue(setting, InForce()) + " stays in force.";
+    // The answers say whole dollars, so the field has them too.
+    if (!setting.IsPercent())
+        number = std::round(*number);
     TriedOf(setting) = number;
     if (*number / setting.Divisor == m_session.Years.*setting.Value)
         TriedOf(setting).reset();
