@@ -1,5 +1,6 @@
 #include "insight/Energy.h"
 
+#include <algorithm>
 #include <cmath>
 #include <span>
 
@@ -48,6 +49,8 @@ EnergyGrowth ComputeEnergy(const YearByYear& years) {
     EnergyGrowth view;
     for (std::size_t i = 0; i < EnergyRates.size(); ++i)
         view.Cumulative[i] = CumulativeAt(years, EnergyRates[i], static_cast<int>(years.Years.size()));
+    if (std::ranges::count(EnergyRates, years.By.UtilityGrowth) == 0)
+        view.Own = CumulativeAt(years, years.By.UtilityGrowth, static_cast<int>(years.Years.size()));
     view.Needed = NeededGrowth(years);
     view.ExtraCash = years.ExtraCash;
     view.InHome = years.InHome;

@@ -2,6 +2,8 @@
 #include "insight/Energy.h"
 #include "insight/YearsWords.h"
 
+#include <algorithm>
+
 namespace Ledgrove {
 
 namespace {
@@ -21,6 +23,17 @@ std::string SentenceOf(const EnergyGrowth& energy) {
     return "Utility bills have to rise by " + GrowthNeeded(*energy.Needed) + " " + ahead;
 }
 
+/// What the growth in force leads to, if the table has no row of its rate otherwise.
+std::string OwnSentence(const EnergyGrowth& energy) {
+    if (!energy.Own)
+        return {};
+    const double ahead = (*energy.Own)[static_cast<std::size_t>(energy.InHome) - 1];
+    const bool isBehind = ahead < EvenFrom;
+    return " At " + RateText(energy.By.UtilityGrowth) + " a year, as assumed now, the buyer is " +
+           (isBehind ? "behind by " : "ahead by ") + DollarText(isBehind ? -ahead : ahead) + " after " +
+           YearsText(energy.InHome) + ".";
+}
+
 /// The years in the home, and every fifth year.
 std::vector<int> ShownYears(const EnergyGrowth& energy) {
     constexpr int apart = 5;
@@ -30,6 +43,14 @@ std::vector<int> ShownYears(const EnergyGrowth& energy) {
             shown.push_back(year);
     }
     return shown;
+}
+
+std::vector<SheetCell> RowOf(double rate, const char* mark, const std::vector<double>& cumulative,
+                             const std::vector<int>& shown) {
+    std::vector<SheetCell> cells{{RateText(rate) + mark, rate * 100, CellUnit::Percent, CellMark::None}};
+    for (const int year : shown)
+        cells.push_back(DollarCell(cumulative[static_cast<std::size_t>(year) - 1]));
+    return cells;
 }
 
 } // namespace
@@ -44,18 +65,18 @@ Sheet EnergySheet(const EnergyGrowth& energy) {
     const std::vector<int> shown = ShownYears(energy);
     Sheet sheet;
     sheet.Title = "Energy prices";
-    sheet.Sentence =
-        SentenceOf(energy) + " The table shows by how much the buyer is ahead at the end of a year.";
+    sheet.Sentence = SentenceOf(energy) + OwnSentence(energy) +
+                     " The table shows by how much the buyer is ahead at the end of a year.";
     sheet.Note = HomeGrowthText(energy.By.HomeGrowth);
     sheet.Heads.emplace_back("Bills Rise By");
     for (const int year : shown)
         sheet.Heads.push_back("Year " + std::to_string(year));
-    for (std::size_t i = 0; i < EnergyRates.size(); ++i) {
-        const double percent = EnergyRates[i] * 100;
-        auto& cells = sheet.Rows.emplace_back();
-        cells.push_back({RateText(EnergyRates[i]), percent, CellUnit::Percent, CellMark::None});
-        for (const int year : shown)
-            cells.push_back(DollarCell(energy.Cumulative[i][static_cast<std::size_t>(year) - 1]));
+    for (std::size_t i = 0; i < EnergyRates.size(); ++i)
+        sheet.Rows.push_back(RowOf(EnergyRates[i], "", energy.Cumulative[i], shown));
+    if (energy.Own) {
+        const double rate = energy.By.UtilityGrowth;
+        const auto place = std::ranges::count_if(EnergyRates, [rate](double one) { return one < rate; });
+        sheet.Rows.insert(sheet.Rows.begin() + place, RowOf(rate, " now", *energy.Own, shown));
     }
     return sheet;
 }

@@ -105,5 +105,28 @@ TEST(Energy, TheSheetHasARowForEachRate) {
     EXPECT_EQ(sheet.Rows[6][1].Text, "$1,272");
 }
 
+TEST(Energy, TheGrowthInForceHasItsRowAndSentence) {
+    Session session = TwoYearsSession("$126,000");
+    session.Years.UtilityGrowth = 0.025;
+    const Sheet ahead = EnergySheet(EnergyOf(session));
+    ASSERT_EQ(ahead.Rows.size(), 8U);
+    EXPECT_EQ(ahead.Rows[2][0].Text, "2%");
+    EXPECT_EQ(ahead.Rows[3][0].Text, "2.5% now");
+    EXPECT_EQ(ahead.Rows[4][0].Text, "3%");
+    // $1,200 + $1,200 x 1.025 less 24 x $50.
+    EXPECT_EQ(ahead.Rows[3][1].Text, "$1,230");
+    EXPECT_THAT(ahead.Sentence,
+                HasSubstr("At 2.5% a year, as assumed now, the buyer is ahead by $1,230 after 2 years."));
+    session.Years.UtilityGrowth = -0.15;
+    session.Screen.ecGMHHome.Text = "$132,000";
+    const Sheet behind = EnergySheet(EnergyOf(session));
+    EXPECT_EQ(behind.Rows[0][0].Text, "-15% now");
+    // $1,200 + $1,200 x 0.85 less 24 x $100.
+    EXPECT_THAT(behind.Sentence,
+                HasSubstr("At -15% a year, as assumed now, the buyer is behind by $180 after 2 years."));
+    session.Years.UtilityGrowth = 0.03;
+    EXPECT_EQ(EnergySheet(EnergyOf(session)).Rows.size(), 7U);
+}
+
 } // namespace
 } // namespace Ledgrove
