@@ -33,9 +33,12 @@ std::string ReturnSentence(const YearByYear& years) {
 std::string WorthSentence(const YearByYear& years) {
     if (!years.NPV)
         return {};
-    return " The savings of " + YearsText(years.InHome) +
-           (years.ExtraCash > 0 ? ", less the extra down payment," : "") + " are worth " +
-           DollarText(*years.NPV) + " today.";
+    const bool isPaid = years.ExtraCash > 0;
+    if (*years.NPV < EvenFrom)
+        return " In today's money, the buyer loses " + DollarText(-*years.NPV) + " in " +
+               YearsText(years.InHome) + (isPaid ? ", with the extra down payment." : ".");
+    return " The savings of " + YearsText(years.InHome) + (isPaid ? ", less the extra down payment," : "") +
+           " are worth " + DollarText(*years.NPV) + " today.";
 }
 
 /// Whether PMI runs before this month and not in it, although the loan still runs.
@@ -130,7 +133,7 @@ private:
 
 std::string NoteOf(const YearByYear& years) {
     return years.Sentence + " " + GrowthText(years.By) +
-           (years.IRRWithSale ? " The return with the sale: " + SaleText(years.By) : "");
+           (years.IRRWithSale ? " " + SaleText(years.By, "The return with the sale") : "");
 }
 
 } // namespace

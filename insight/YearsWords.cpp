@@ -42,8 +42,8 @@ std::string HomeGrowthText(double growth) {
     return "This assumes that " + Growing(taxAndInsurance, growth) + ".";
 }
 
-std::string SaleText(const YearSettings& settings) {
-    return "This assumes that " + Growing("home prices", settings.Appreciation) + ", that selling costs " +
+std::string SaleText(const YearSettings& settings, const std::string& what) {
+    return what + " assumes that " + Growing("home prices", settings.Appreciation) + ", that selling costs " +
            RateText(settings.SellingCost) + " of the price, and that the GREENMARK home keeps " +
            RateText(settings.PremiumKept) + " of the price difference.";
 }

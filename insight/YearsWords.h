@@ -22,8 +22,8 @@ std::string GrowthText(const YearSettings& settings);
 /// The same about property tax and insurance alone; the argument is their growth a year as a fraction.
 std::string HomeGrowthText(double growth);
 
-/// What a sale assumes, as a sentence.
-std::string SaleText(const YearSettings& settings);
+/// What a sale assumes, as a sentence that begins with `what`: "This", "The return with the sale".
+std::string SaleText(const YearSettings& settings, const std::string& what = "This");
 
 /// A return per year as a fraction, with what it is on.
 std::string ReturnText(double rate);

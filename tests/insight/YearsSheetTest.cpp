@@ -66,6 +66,19 @@ TEST(YearsSheet, TheRowsInWhichSomethingChangesAreMarked) {
     EXPECT_EQ(sheet.Rows[0].front().Mark, CellMark::None);
 }
 
+TEST(YearsSheet, ALossIsCalledALoss) {
+    Session session = PaidDownSession();
+    session.Screen.ecGMHUtil.Text = "$2,400"; // saves nothing
+    // 84 x $40 and $1,200.
+    EXPECT_THAT(
+        YearsSheet(YearsOf(session)).Sentence,
+        HasSubstr("In today's money, the buyer loses $4,560 in 7 years, with the extra down payment."));
+    session = Testing::SimpleSession(); // nothing is paid down: $50 a month more, without savings
+    session.Screen.ecGMHUtil.Text = "$2,400";
+    EXPECT_THAT(YearsSheet(YearsOf(session)).Sentence,
+                HasSubstr("In today's money, the buyer loses $4,200 in 7 years."));
+}
+
 TEST(YearsSheet, TheNoteSaysWhyTheSummaryDiffersAndWhatIsAssumed) {
     Session session = PaidDownSession();
     session.Years.UtilityGrowth = 0.025;
@@ -76,6 +89,7 @@ TEST(YearsSheet, TheNoteSaysWhyTheSummaryDiffersAndWhatIsAssumed) {
                                           "insurance fall by 1% a year."));
         EXPECT_THAT(sheet.Note,
                     HasSubstr("home prices stay as they are, that selling costs 6% of the price"));
+        EXPECT_THAT(sheet.Note, HasSubstr(". The return with the sale assumes that home prices"));
         EXPECT_THAT(sheet.Sentence, Not(HasSubstr("Summary")));
     }
 }
