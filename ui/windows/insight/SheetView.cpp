@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSortFilterProxyModel>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -54,6 +55,8 @@ SheetView::SheetView(SheetModel& model, QWidget* parent)
     setWordWrap(true);
     setTabKeyNavigation(false);
     setHorizontalScrollMode(ScrollPerPixel);
+    // A row of many lines may be higher than the view.
+    setVerticalScrollMode(ScrollPerPixel);
     setSelectionMode(ContiguousSelection);
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { emit CellChanged(); });
     connect(this, &QTableView::doubleClicked, this, [this] { emit CellActivated(); });
@@ -91,14 +94,15 @@ void SheetView::FitColumns() {
 /// The columns of words share the room that the others leave.
 void SheetView::BreakWords() {
     QHeaderView& heads = *horizontalHeader();
-    constexpr int narrow = 14, readable = 24; // letters
+    constexpr int narrow = 14, readable = 24; // letters, unless a word is longer
     int figures = 0;
     for (int column = 0; column < heads.count(); ++column)
         figures += m_model.IsWords(column) ? 0 : heads.sectionSize(column);
     // A table that is too wide without its words does not fit anyway.
     const int letters = figures > viewport()->width() ? readable : narrow;
     const auto least = [&](int column) {
-        return std::max(fontMetrics().averageCharWidth() * letters, heads.sectionSizeHint(column));
+        return std::max(
+            {fontMetrics().averageCharWidth() * letters, heads.sectionSizeHint(column), WidestWord(column)});
     };
     int others = 0;
     QList<int> wide;
@@ -117,6 +121,20 @@ void SheetView::BreakWords() {
         heads.resizeSection(wide[i], width);
         room -= width;
     }
+}
+
+/// The width that the column needs so that no word is cut.
+int SheetView::WidestWord(int column) const {
+    constexpr int longest = 40; // letters; no name of a house is one word of that length
+    int widest = 0;
+    for (int row = 0; row < m_sorted->rowCount(); ++row) {
+        const QString text = m_sorted->index(row, column).data().toString();
+        for (const QStringView word : QStringView(text).split(' ', Qt::SkipEmptyParts))
+            widest = std::max(widest, fontMetrics().horizontalAdvance(word.toString()));
+    }
+    // The style leaves a margin at both sides, and the grid a line.
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    return std::min(widest, fontMetrics().averageCharWidth() * longest) + 2 * margin + 1;
 }
 
 int SheetView::sizeHintForRow(int row) const {

@@ -42,6 +42,7 @@ protected:
 
 private:
     void BreakWords();
+    int WidestWord(int column) const;
 
     SheetModel& m_model;
     QSortFilterProxyModel* m_sorted;
