@@ -63,6 +63,7 @@ private slots:
     void theListOfHousesFits();
     void theButtonsStayInView();
     void aQuestionStartsAtItsTop();
+    void noWordIsCut();
     void aComplaintFits();
     void everyAnswerIsReachedByTab();
 };
@@ -124,6 +125,18 @@ void InsightFitTest::aQuestionStartsAtItsTop() {
     desk.Window->Ask(InsightQuestion::Sale);
     Settle();
     QCOMPARE(bar.value(), 0);
+}
+
+void InsightFitTest::noWordIsCut() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::Assumed);
+    Settle();
+    const auto& table = desk.Find<SheetView>("AnswerTable");
+    for (int row = 0; row < desk.Table().rowCount(); ++row)
+        for (int column = 0; column < desk.Table().columnCount(); ++column)
+            for (const QString& word : desk.Cell(row, column).split(' '))
+                QVERIFY2(table.fontMetrics().horizontalAdvance(word) <= table.columnWidth(column),
+                         qPrintable(word));
 }
 
 void InsightFitTest::aComplaintFits() {
