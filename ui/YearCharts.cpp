@@ -56,7 +56,7 @@ std::string AfterYears(int years, double amount) {
 ChartFigures MakeYearsChart(const YearByYear& years) {
     ChartFigures chart;
     chart.Kind = ChartKind::Curves;
-    chart.Title = "What the Buyer Is Ahead By";
+    chart.Title = "How Far Ahead the Buyer Is";
     chart.Curves.Step = 1.0 / 12;
     ChartSeries ahead{"Ahead by", {-years.ExtraCash}};
     for (const FlowRow& month : years.Months)
@@ -75,7 +75,7 @@ ChartFigures MakeYearsChart(const YearByYear& years) {
 ChartFigures MakeEnergyChart(const YearByYear& years, const EnergyGrowth& energy) {
     ChartFigures chart;
     chart.Kind = ChartKind::Curves;
-    chart.Title = "What the Buyer Is Ahead By If Bills Rise";
+    chart.Title = "How Far Ahead the Buyer Is If Bills Rise";
     for (std::size_t i = 0; i < EnergyRates.size(); ++i) {
         ChartSeries& curve =
             chart.Series.emplace_back(ChartSeries{RateText(EnergyRates[i]), {-energy.ExtraCash}});
@@ -107,7 +107,7 @@ ChartFigures MakeEnergyChart(const YearByYear& years, const EnergyGrowth& energy
 ChartFigures MakeSaleChart(const SaleByYear& sale) {
     ChartFigures chart;
     chart.Kind = ChartKind::Curves;
-    chart.Title = "What the Buyer Has More After a Sale";
+    chart.Title = "How Much More the Buyer Has After a Sale";
     chart.Curves.First = 1;
     ChartSeries total{"Total", {}};
     for (const SaleYear& year : sale.Years)
