@@ -50,6 +50,8 @@ struct InsightDesk {
     void Show(InsightQuestion question) {
         Window->show();
         Window->Ask(question);
+        // The fields of the question before.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     template <typename Widget>

@@ -247,6 +247,9 @@ void SettingsPanel::Refresh(Row& row, const SettingField& field) {
     if (row.Slider) {
         const QSignalBlocker nothingTried(row.Slider);
         row.Slider->setValue(field.SliderAt);
+        // The value may be beyond the slider's ends.
+        row.Slider->setToolTip(Words(field.Text));
+        SetSpokenDescription(*row.Slider, Words(field.Text));
     }
     if (!isTyped)
         ShowText(*row.Edit, field.Text);
