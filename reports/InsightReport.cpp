@@ -127,35 +127,36 @@ void WriteWhole(PrintDocument& document, const InsightSection& section, Twips pa
     document.CurrentY += sentenceGap;
 }
 
+/// Only curves are above tables that may be as long as a page.
+bool MayTearTable(const InsightSection& section) {
+    return !section.Picture || section.Picture->Kind == ChartKind::Curves;
+}
+
 /// What must not be torn off: the top, and the first two rows of a table that begins below it.
 InsightSection BeginningOf(const InsightSection& section) {
     InsightSection beginning = section;
     auto& rows = beginning.Answer.Rows;
-    const std::size_t kept = section.Picture ? 0 : 2;
+    const std::size_t kept = MayTearTable(section) ? 2 : 0;
     if (!IsList(section) && rows.size() > kept)
         rows.resize(kept);
     return beginning;
 }
 
 void WriteSection(PrintDocument& document, const InsightSection& section, bool isFirst) {
-    const auto heightOf = [&document](const InsightSection& what, bool isMoved) {
-        return document.HeightOf([&](PrintDocument& trial) {
-            if (isMoved)
-                WriteContinuedHeading(trial, continuedHeading);
-            WriteWhole(trial, what, document.PageRoom());
-        });
+    const Twips page = document.PageRoom();
+    const auto heightOf = [&document, page](const InsightSection& what) {
+        return document.HeightOf([&](PrintDocument& trial) { WriteWhole(trial, what, page); });
     };
-    const bool fitsHere = heightOf(section, false) <= document.Room();
-    const bool fitsOnePage = fitsHere || (!isFirst && heightOf(section, true) <= document.PageRoom());
-    const bool isLow = !isFirst && document.Room() < document.PageRoom() / 2;
+    const Twips height = heightOf(section);
+    const bool fitsHere = height <= document.Room();
+    const bool fitsOnePage = fitsHere || (!isFirst && height <= page);
+    const bool isLow = !isFirst && document.Room() < page / 2;
     const bool moves =
-        !fitsHere && (fitsOnePage || isLow || heightOf(BeginningOf(section), false) > document.Room());
-    if (moves) {
+        !fitsHere && (fitsOnePage || isLow || heightOf(BeginningOf(section)) > document.Room());
+    if (moves)
         document.NewPage();
-        WriteContinuedHeading(document, continuedHeading);
-    }
-    document.KeepTables = fitsOnePage || section.Picture;
-    WriteWhole(document, section, document.PageRoom());
+    document.KeepTables = fitsOnePage || !MayTearTable(section);
+    WriteWhole(document, section, page);
     document.KeepTables = true;
 }
 
@@ -163,8 +164,10 @@ void WriteSection(PrintDocument& document, const InsightSection& section, bool i
 
 void WriteInsight(PrintDocument& document, const InsightReport& report) {
     WriteTitleBlock(document, {"Insight for Ledgrove", "Insight", report.Names, report.Emblem, report.Logo});
+    document.Heading = [](PrintDocument& page) { WriteContinuedHeading(page, continuedHeading); };
     for (const InsightSection& section : report.Sections)
         WriteSection(document, section, &section == &report.Sections.front());
+    document.Heading = nullptr;
 }
 
 } // namespace Ledgrove::modPrint

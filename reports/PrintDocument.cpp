@@ -73,7 +73,24 @@ bool PrintDocument::NewPage() {
     m_covered = 0;
     CurrentX = Geometry.MarginLeft;
     CurrentY = Geometry.MarginTop;
+    if (Heading && m_pages.size() > 1)
+        WriteHeading();
     return true;
+}
+
+void PrintDocument::WriteHeading() {
+    const PrintAttributes before = *this;
+    // Taken away meanwhile, so that its own height does not count as a heading's.
+    const auto heading = std::exchange(Heading, nullptr);
+    heading(*this);
+    Heading = heading;
+    const Twips below = CurrentY;
+    PrintAttributes::operator=(before);
+    CurrentY = below;
+}
+
+Twips PrintDocument::PageRoom() const {
+    return BottomLimit() - Geometry.MarginTop - (Heading ? HeightOf(Heading) : 0);
 }
 
 PrintDocument::Limits PrintDocument::LineLimits(Twips height) const {

@@ -65,6 +65,9 @@ class PrintDocument : public PrintAttributes {
 public:
     enum class State { NotStarted, Open, Ended };
 
+    /// Writes the heading of every page after the first; none when empty. It leaves the attributes alone.
+    std::function<void(PrintDocument&)> Heading;
+
     /// `measure` must outlive the document.
     explicit PrintDocument(const TextMeasure& measure);
 
@@ -79,6 +82,7 @@ public:
     /// Ends the line after `text`; the pen moves to the left margin of the next line. Text that is too wide
     /// is wrapped, and text that does not fit the page moves to the next. Blank text only moves the pen.
     bool Paragraph(std::string_view text);
+    /// The pen is below the heading of the new page.
     bool NewPage();
     /// Fills the box with BrushColor; the pen does not move.
     bool DrawRectangle(const PrintBox& box);
@@ -108,9 +112,9 @@ public:
     Twips WidthOf(std::string_view text) const { return m_measure.Width(text, CurrentStyle()); }
     /// What the margins leave of the page's width, in twips.
     Twips LineWidth() const { return Geometry.PageWidth - Geometry.MarginLeft - Geometry.MarginRight; }
-    /// What is left of the page, and what a new page offers, in twips.
+    /// What is left of the page, and what a new page offers below its heading, in twips.
     Twips Room() const { return BottomLimit() - CurrentY; }
-    Twips PageRoom() const { return BottomLimit() - Geometry.MarginTop; }
+    Twips PageRoom() const;
 
     std::size_t PageCount() const { return m_pages.size(); }
     /// `number` is counted from 1 and must be at most PageCount().
@@ -124,6 +128,7 @@ private:
     };
 
     TextStyle CurrentStyle() const;
+    void WriteHeading();
     PrintPage& CurrentPage() { return m_pages.back(); }
     Twips BottomLimit() const { return Geometry.PageHeight - Geometry.MarginBottom; }
     Limits LineLimits(Twips height) const;

@@ -116,6 +116,28 @@ TEST_P(InsightReportTest, NoPageEndsWithABannerOrAHead) {
     }
 }
 
+TEST_P(InsightReportTest, EveryFurtherPageBeginsWithTheHeading) {
+    for (const auto& questions : {AllQuestions(), {InsightQuestion::YearByYear}}) {
+        Write({questions});
+        ASSERT_GT(m_document.PageCount(), 1U);
+        for (std::size_t page = 2; page <= m_document.PageCount(); ++page)
+            EXPECT_EQ(PageTexts(page).front(), continuedHeading) << page;
+        EXPECT_EQ(std::ranges::count(PageTexts(1), continuedHeading), 0);
+    }
+}
+
+TEST_P(InsightReportTest, TheYearsBeginBelowTheirCurve) {
+    Write({{InsightQuestion::YearByYear}});
+    ASSERT_FALSE(ItemsOf<PlacedChart>(m_document.Page(1)).empty());
+    const Twips half = m_document.Geometry.PageHeight / 2;
+    const auto runs = ItemsOf<TextRun>(m_document.Page(1));
+    EXPECT_THAT(PageTexts(1), Contains("Year by year")); // the table's title
+    // In portrait, the first page is not left half empty.
+    if (GetParam().Orientation == PageOrientation::Portrait) {
+        EXPECT_GT((runs.end() - 2)->Baseline, half * 3 / 2); // the last is the footer
+    }
+}
+
 TEST_P(InsightReportTest, EveryFigureOfEveryTableIsThere) {
     Write({AllQuestions()});
     const auto texts = AllTexts();
