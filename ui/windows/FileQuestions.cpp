@@ -1,5 +1,6 @@
 #include "ui/windows/FileQuestions.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -7,6 +8,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "base/FileKind.h"
 #include "engine/Host.h"
@@ -58,6 +60,11 @@ QString AskVersionName(QWidget& above, const QString& suggested) {
     dialog.setLabelText("&Name of this version, such as \"FHA, 10 % down\":");
     dialog.setTextValue(suggested);
     dialog.findChild<QLineEdit*>()->setMaxLength(longestName);
+    dialog.adjustSize(); // only now it has buttons
+    QPushButton* const ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    ok->setEnabled(!suggested.trimmed().isEmpty());
+    QObject::connect(&dialog, &QInputDialog::textValueChanged, ok,
+                     [ok](const QString& name) { ok->setEnabled(!name.trimmed().isEmpty()); });
     return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 

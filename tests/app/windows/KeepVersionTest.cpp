@@ -1,3 +1,10 @@
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
 #include "DesktopDesk.h"
 
 using namespace Ledgrove;
@@ -10,6 +17,7 @@ private slots:
     void versionsHaveDifferentNames();
     void aVersionWithoutAFileIsUnsaved();
     void unreadableVersionsAreReported();
+    void aBlankNameIsNotAccepted();
 };
 
 void KeepVersionTest::aKeptVersionIsInTheFile() {
@@ -80,6 +88,32 @@ void KeepVersionTest::unreadableVersionsAreReported() {
         "2 versions in \"" + file +
             "\" cannot be read. The comparison and its other versions are open; the next save leaves out "
             "what cannot be read.");
+}
+
+void KeepVersionTest::aBlankNameIsNotAccepted() {
+    QWidget above;
+    const auto answer = [] {
+        auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        auto* name = dialog->findChild<QLineEdit*>();
+        QVERIFY(ok->isEnabled());
+        for (const char* blank : {"", "   "}) {
+            name->setText(blank);
+            QVERIFY(!ok->isEnabled());
+            QTest::keyClick(name, Qt::Key_Return);
+            QVERIFY(dialog->isVisible());
+        }
+        name->setText("FHA");
+        QVERIFY(ok->isEnabled());
+        ok->click();
+    };
+    QTimer::singleShot(0, &above, answer);
+    // Closes the question if the answer does not.
+    QTimer::singleShot(0, &above, [] {
+        if (auto* left = QApplication::activeModalWidget())
+            left->close();
+    });
+    QCOMPARE(AskAtScreen().VersionName(above, "Version 1"), "FHA");
 }
 
 QTEST_MAIN(KeepVersionTest)
