@@ -66,16 +66,6 @@ struct Form {
     int OtherClicks = 0;
 };
 
-/// Turns the wheel by one notch, towards the user, over the middle of the widget. Returns whether it takes
-/// it.
-bool Takes(QWidget& widget) {
-    const QPointF middle = widget.rect().center();
-    QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&widget, &event);
-    return event.isAccepted();
-}
-
 void Drag(QWidget& widget, QPoint from, QPoint to) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, from);
     QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
@@ -110,8 +100,6 @@ private slots:
     void nextPressActsAgain();
     void refusalTouchesNoOtherField();
     void mnemonicOfAButtonActsOnlyAfterCommit();
-    void accessKeysTypeNoLetter();
-    void wheelNeverChangesAList();
     void clickAndFocusSelectAll();
     void clickIntoTheMiddleSelectsAllWithoutAClickRule();
     void doubleClickSelectsAll();
@@ -285,33 +273,6 @@ void EntryFieldTest::mnemonicOfAButtonActsOnlyAfterCommit() {
     QTest::keyClick(form.Window.windowHandle(), Qt::Key_O, Qt::AltModifier);
     QTRY_COMPARE(form.OtherClicks, 1);
     QCOMPARE(form.First->text(), "$5");
-}
-
-void EntryFieldTest::accessKeysTypeNoLetter() {
-    RecordingHost host;
-    Form form(host);
-    form.First->setText("5");
-    // No control has the one key, and the other's control is disabled.
-    form.Other->setEnabled(false);
-    for (const char letter : {'z', 'o'}) {
-        QTest::keyClick(form.First, letter, Qt::AltModifier);
-        QTest::keyClick(form.First, letter, Qt::AltModifier | Qt::ShiftModifier);
-    }
-    QCOMPARE(form.First->text(), "5");
-    // Keys that type a sign with AltGr on some keyboards still do.
-    QTest::keyClick(form.First, '6', Qt::GroupSwitchModifier);
-    QVERIFY(form.First->text().endsWith('6'));
-}
-
-void EntryFieldTest::wheelNeverChangesAList() {
-    RecordingHost host;
-    Form form(host);
-    form.List->setFocusPolicy(Qt::StrongFocus);
-    // The surroundings get what the list does not take, so they can scroll.
-    QVERIFY(!Takes(*form.List));
-    form.List->setFocus();
-    QVERIFY(!Takes(*form.List));
-    QCOMPARE(form.List->currentIndex(), 0);
 }
 
 void EntryFieldTest::clickAndFocusSelectAll() {
