@@ -29,8 +29,8 @@ public:
 
     bool IsTried(const YearSetting& setting) const;
 
-    /// Tries a typed text; an amount is rounded to whole dollars. A text that cannot be used changes nothing; the result is a sentence about it,
-    /// else "". `key` must be one of the table.
+    /// Tries a typed text; an amount is rounded to whole dollars. A text that cannot be used changes nothing;
+    /// the result is a sentence about it, else "". `key` must be one of the table.
     std::string Try(std::string_view key, std::string_view text);
 
     /// Back to the kept values of these keys.

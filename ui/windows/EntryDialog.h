@@ -5,10 +5,10 @@
 #include <optional>
 
 #include "settings/SettingsFault.h"
-#include "ui/windows/StandardEntry.h"
 #include "ui/windows/FormFocus.h"
 #include "ui/windows/HelpWindow.h"
 #include "ui/windows/QtHost.h"
+#include "ui/windows/StandardEntry.h"
 
 class QLayout;
 class QPushButton;
