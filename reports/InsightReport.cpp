@@ -115,16 +115,25 @@ void WriteTop(PrintDocument& document, const InsightSection& section, Twips page
     document.CurrentY += 2 * sentenceGap;
 }
 
+/// A note that does not fit goes on the next page as a whole.
+void WriteNoteBelow(PrintDocument& document, const std::string& note) {
+    const auto write = [&note](PrintDocument& target) {
+        BeginSentences(target);
+        target.Paragraph(note);
+    };
+    if (document.HeightOf(write) > document.Room())
+        document.NewPage();
+    write(document);
+    document.CurrentY += sentenceGap;
+}
+
 /// `page` is what a page offers, in twips.
 void WriteWhole(PrintDocument& document, const InsightSection& section, Twips page) {
     WriteTop(document, section, page);
     if (!IsList(section))
         WriteSheetTable(document, section.Answer);
-    if (section.Answer.Note.empty())
-        return;
-    BeginSentences(document);
-    document.Paragraph(section.Answer.Note);
-    document.CurrentY += sentenceGap;
+    if (!section.Answer.Note.empty())
+        WriteNoteBelow(document, section.Answer.Note);
 }
 
 /// Only curves are above tables that may be as long as a page.

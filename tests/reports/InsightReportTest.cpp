@@ -138,6 +138,31 @@ TEST_P(InsightReportTest, TheYearsBeginBelowTheirCurve) {
     }
 }
 
+TEST_P(InsightReportTest, NoNoteIsTorn) {
+    Sheet sheet;
+    sheet.Title = "Rows";
+    sheet.Heads = {"Row", "Figure"};
+    for (int word = 1; word <= 60; ++word)
+        sheet.Note += "word" + std::to_string(word) + " ";
+    sheet.Note.pop_back();
+    m_document.Geometry = GeometryOf(GetParam());
+    // Each row moves the note on, so that some of them would tear it.
+    while (sheet.Rows.size() < 60) {
+        sheet.Rows.push_back({TextCell("row"), TextCell("1")});
+        m_document.Start();
+        InsightReport report;
+        report.Sections.push_back({"Question", sheet, {}});
+        modPrint::WriteInsight(m_document, report);
+        for (std::size_t page = 1; page <= m_document.PageCount(); ++page) {
+            const auto has = [texts = TextsOf(m_document.Page(page))](const std::string& word) {
+                return std::ranges::any_of(
+                    texts, [&word](const std::string& text) { return text.find(word) != std::string::npos; });
+            };
+            EXPECT_EQ(has("word1 "), has("word60")) << sheet.Rows.size();
+        }
+    }
+}
+
 TEST_P(InsightReportTest, EveryFigureOfEveryTableIsThere) {
     Write({AllQuestions()});
     const auto texts = AllTexts();
