@@ -13,7 +13,7 @@ namespace Ledgrove {
 struct ChangesSource {
     ChangesList& List;
     const CurrentFile& File;
-    Host& Outside; ///< is told why a file cannot be read or written
+    Host& Outside; ///< shows why a file cannot be read or written
     FileQuestions Questions;
 };
 

@@ -14,7 +14,7 @@ namespace Ledgrove {
 struct AnswerSource {
     Session& State;
     TriedSettings& Settings;
-    Host& Outside; ///< is told why settings could not be saved
+    Host& Outside; ///< shows why settings could not be saved
 };
 
 /// Fills in what the context needs to answer, to try settings, to keep them, and to print.
