@@ -1,7 +1,6 @@
 #include "app/batch/JsonCompare.h"
 
 #include "app/batch/ExitStatus.h"
-#include "app/batch/JsonInput.h"
 #include "app/batch/ObjectInput.h"
 #include "app/batch/TextTable.h"
 #include "base/Text.h"
@@ -11,7 +10,7 @@ namespace Ledgrove {
 std::optional<Refusal> JsonLine::Compare(const InputLine& line) {
     if (line.TooLong)
         return InputTooLong(line.Number);
-    auto refusal = ReadJsonObject(line.Text, m_inputs);
+    auto refusal = m_reader.Read(line.Text, m_inputs);
     if (!refusal)
         refusal = m_comparison.Run(m_inputs);
     if (refusal)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/batch/CompareCommand.h"
+#include "app/batch/JsonInput.h"
 #include "app/batch/JsonText.h"
 
 #include <string>
@@ -29,6 +30,7 @@ private:
 
     Comparison& m_comparison;
     std::string m_file;
+    JsonObjectReader m_reader;
     InputRecord m_inputs;
     ResultJson m_results;
 };

@@ -171,7 +171,21 @@ Refusal MalformedJson(std::string_view json, std::size_t position) {
 
 } // namespace
 
+struct JsonObjectReader::Memory {
+    std::string Copy;
+    rapidjson::Reader Parser;
+};
+
+JsonObjectReader::JsonObjectReader()
+    : m_memory(std::make_unique<Memory>()) {}
+
+JsonObjectReader::~JsonObjectReader() = default;
+
 std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs) {
+    return JsonObjectReader().Read(json, inputs);
+}
+
+std::optional<Refusal> JsonObjectReader::Read(std::string_view json, InputRecord& inputs) {
     inputs.Clear();
     if (IsBlank(json, " \t\r\n"))
         return Refusal{1, "", "",
@@ -184,9 +198,10 @@ std::optional<Refusal> ReadJsonObject(std::string_view json, InputRecord& inputs
     constexpr unsigned plainFlags =
         rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseInsituFlag;
     constexpr unsigned flags = plainFlags | rapidjson::kParseValidateEncodingFlag;
-    std::string copy(json);
+    std::string& copy = m_memory->Copy;
+    copy = json;
     rapidjson::InsituStringStream stream(copy.data());
-    rapidjson::Reader reader;
+    rapidjson::Reader& reader = m_memory->Parser;
     InputHandler handler(inputs, json.find('\\') != json.npos);
     // Most lines are ASCII, which needs no validation: it would take a tenth of the comparison.
     const rapidjson::ParseResult result =
