@@ -36,6 +36,8 @@ void QuestionLink::ShowTab(int tab) {
 QSize QuestionLink::sizeHint() const {
     int width = 0;
     for (const QuestionRow& row : InsightQuestions) {
+        if (row.Tab == 0)
+            continue;
         const QString words = QString::fromUtf8(row.Words.data(), static_cast<qsizetype>(row.Words.size()));
         width = std::max(width, fontMetrics().horizontalAdvance(words));
     }
