@@ -30,7 +30,7 @@ struct RangeRow {
     std::string_view Labelled;
     RangeHome Std;
     RangeHome GMH;
-    std::string Missing;         ///< why there are no figures; empty if there are
+    std::string Missing;         ///< why the figures are unknown; empty if they are known
     float ShownNet = 0;          ///< per month
     float PVSavings = 0;         ///< dollars
     std::optional<Answer> Price; ///< `Breakeven::Price`; empty without limits, or if it is not certain

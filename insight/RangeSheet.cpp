@@ -25,7 +25,7 @@ std::size_t RowsWith(const Range& range, Condition condition) {
 
 std::string SentenceOf(const Range& range) {
     if (range.Houses == 0)
-        return "There are no saved houses. Add some in the window (\"House Scenarios\").";
+        return "No houses are saved. Add some in the window (\"House Scenarios\").";
     const std::size_t rows = range.Rows.size();
     const std::size_t known = RowsWith(range, [](const RangeRow&) { return true; });
     std::string sentence = Count(range.Houses, "saved house", "saved houses");

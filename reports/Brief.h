@@ -28,7 +28,7 @@ struct BriefAssumption {
 };
 
 struct Brief {
-    std::string Missing; ///< why there is no brief; empty if there is one
+    std::string Missing; ///< why the brief cannot be made; empty if it can
     ReportHeader Names;
     std::string Date;
     std::filesystem::path Logo; ///< none when empty

@@ -30,7 +30,7 @@ struct InsightSection {
 };
 
 struct InsightReport {
-    std::string Missing; ///< why there are no answers; empty if there are
+    std::string Missing; ///< why the questions cannot be answered; empty if they can
     ReportHeader Names;
     std::filesystem::path Emblem; ///< picture at the top left; none when empty
     std::filesystem::path Logo;   ///< picture at the top right; none when empty

@@ -7,7 +7,7 @@
 // The range for programs.
 namespace Ledgrove {
 
-/// Appends one object with "rows". A row without figures has "missing"; without limits there is no "price".
+/// Appends one object with "rows". A row without figures has "missing"; without limits, rows lack "price".
 /// No line ending.
 void AppendRangeJson(std::string& out, const Range& range);
 

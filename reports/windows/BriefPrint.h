@@ -9,7 +9,7 @@
 namespace Ledgrove {
 
 /// Opens the report's preview with the buyer's brief above `above`, and prints from there on `machine`.
-/// Reports through `outside` why there is no brief.
+/// Reports through `outside` why the brief cannot be made.
 void PreviewBrief(Session& session, Host& outside, const PrintOutside& machine, QWidget* above);
 
 /// Asks for the names and the logo in the report header's dialog, then opens the preview, both above the

@@ -13,7 +13,7 @@ namespace Ledgrove {
 using InsightPrinter = std::function<void(const InsightRequest&)>;
 
 /// Opens the report's preview with the answers above `above`, and prints from there on `machine`. The logo is
-/// that of the print options. Reports through `outside` why there are no answers.
+/// that of the print options. Reports through `outside` why it cannot answer.
 void PreviewInsight(Session& session, Host& outside, const PrintOutside& machine, InsightRequest request,
                     QWidget* above);
 

@@ -121,7 +121,7 @@ class Range(CliTest):
     def test_no_houses_are_no_rows(self):
         self.save_houses([])
         self.assertEqual(self.rows(BUYER), [])
-        self.assertIn(b"There are no saved houses.", self.range("text", BUYER).stdout)
+        self.assertIn(b"No houses are saved.", self.range("text", BUYER).stdout)
 
     def test_a_refused_input_is_named_as_by_compare(self):
         bad = {"ecIncome": "abc"}

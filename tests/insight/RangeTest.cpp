@@ -135,7 +135,7 @@ TEST(Range, AnEmptyListHasNoRows) {
     const Range range = RangeOf(Testing::SimpleSession(), {});
     EXPECT_TRUE(range.Rows.empty());
     EXPECT_EQ(RangeSheet(range).Sentence,
-              "There are no saved houses. Add some in the window (\"House Scenarios\").");
+              "No houses are saved. Add some in the window (\"House Scenarios\").");
 }
 
 TEST(RangeSheet, SaysInWordsWhoQualifies) {

@@ -99,7 +99,7 @@ TEST_P(RangeReportTest, WithoutHousesThereIsOnlyTheSentence) {
     m_houses.clear();
     Write();
     EXPECT_EQ(m_document.PageCount(), 1U);
-    EXPECT_THAT(PageText(1), HasSubstr("There are no saved houses."));
+    EXPECT_THAT(PageText(1), HasSubstr("No houses are saved."));
 }
 
 } // namespace

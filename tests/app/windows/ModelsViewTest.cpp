@@ -141,7 +141,7 @@ void ModelsViewTest::aLongListShowsItsProgressAndStops() {
 void ModelsViewTest::withoutHousesASentenceSaysSo() {
     ModelsDesk desk{HouseList()};
     desk.ShowModels();
-    QTRY_VERIFY(desk.ModelsSentence().startsWith("There are no saved houses."));
+    QTRY_VERIFY(desk.ModelsSentence().startsWith("No houses are saved."));
     QVERIFY(desk.Find<SheetView>("ModelsTable").isHidden());
 }
 

@@ -65,7 +65,7 @@ void YearsWindowTest::aYearIsListedByMonth() {
     QTest::keyClick(&years, Qt::Key_Down);
     QTest::keyClick(&years, Qt::Key_Down);
     QCOMPARE(desk.Table().rowCount(), 12);
-    // The third year begins with the 25th month. Another year is no change to point out.
+    // The third year begins with the 25th month. Choosing another year is not a change to point out.
     QCOMPARE(desk.Cell(0, 0), "25");
     QVERIFY(!desk.Table().index(0, 1).data(Qt::BackgroundRole).isValid());
     desk.Open.Enter("ecGMHUtil", "1600");
