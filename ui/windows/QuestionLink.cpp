@@ -34,15 +34,8 @@ void QuestionLink::ShowTab(int tab) {
 
 /// The width does not depend on the tab, so that the tabs do not move.
 QSize QuestionLink::sizeHint() const {
-    int width = 0;
-    for (const QuestionRow& row : InsightQuestions) {
-        if (row.Tab == 0)
-            continue;
-        const QString words = QString::fromUtf8(row.Words.data(), static_cast<qsizetype>(row.Words.size()));
-        width = std::max(width, fontMetrics().horizontalAdvance(words));
-    }
     const int line = fontMetrics().height();
-    return {width + line, line + 4};
+    return {m_longest + line, line + 4};
 }
 
 /// On the right of its place, whatever the question's length.
@@ -63,6 +56,20 @@ void QuestionLink::changeEvent(QEvent* event) {
     QPushButton::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         TakeLinkColour();
+    else if (event->type() == QEvent::FontChange)
+        MeasureQuestions();
+}
+
+/// Not in sizeHint, which the tabs ask for some sixty times at the start.
+void QuestionLink::MeasureQuestions() {
+    m_longest = 0;
+    for (const QuestionRow& row : InsightQuestions) {
+        if (row.Tab == 0)
+            continue;
+        const QString words = QString::fromUtf8(row.Words.data(), static_cast<qsizetype>(row.Words.size()));
+        m_longest = std::max(m_longest, fontMetrics().horizontalAdvance(words));
+    }
+    updateGeometry();
 }
 
 void QuestionLink::TakeLinkColour() {

@@ -26,8 +26,10 @@ protected:
 
 private:
     void TakeLinkColour();
+    void MeasureQuestions();
 
     const QuestionRow* m_row = nullptr; ///< nullptr on a tab without a question
+    int m_longest = 0;                  ///< pixels of the longest question in the link's font
 };
 
 } // namespace Ledgrove
