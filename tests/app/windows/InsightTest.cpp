@@ -26,6 +26,7 @@ class InsightTest : public QObject {
 
 private slots:
     void aLinkAsksTheTabsQuestion();
+    void aLinkHasRoomForEachQuestionInAnyFont();
     void nothingIsComputedWhileItIsClosed();
     void itFollowsEachEntry();
     void whatChangedIsMarkedForAMoment();
@@ -60,6 +61,23 @@ void InsightTest::aLinkAsksTheTabsQuestion() {
         QCOMPARE(desk.Asked.last(), question);
     }
     QCOMPARE(link.text(), "What matters most?");
+}
+
+void InsightTest::aLinkHasRoomForEachQuestionInAnyFont() {
+    InsightDesk desk;
+    auto& link = desk.Open.Find<QuestionLink>("bQuestion");
+    for (const int points : {9, 18, 7}) {
+        QFont font = link.font();
+        font.setPointSize(points);
+        link.setFont(font);
+        const QSize room = link.sizeHint();
+        for (int tab = 1; tab <= 4; ++tab) {
+            desk.Open.Find<QTabWidget>("SSTab1").setCurrentIndex(tab);
+            QVERIFY(room.width() >= link.fontMetrics().horizontalAdvance(link.text()));
+            QCOMPARE(link.sizeHint(), room);
+        }
+        QVERIFY(room.height() >= link.fontMetrics().height());
+    }
 }
 
 void InsightTest::nothingIsComputedWhileItIsClosed() {
