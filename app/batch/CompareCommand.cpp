@@ -110,12 +110,14 @@ int PrintResultNames() {
 
 int RunCompare(const CompareRequest& request, const Session& start) {
     Comparison comparison(start);
-    if (request.Format != CompareFormat::Text && !request.Only.empty())
-        comparison.Show(LabelsFor(request.Only));
+    const bool isList = request.Format == CompareFormat::Csv;
+    const ChosenNames results = isList && request.Only.empty() ? MainResults() : request.Only;
+    if (request.Format != CompareFormat::Text)
+        comparison.Show(LabelsFor(results));
     OutputBuffer output(STDOUT_FILENO);
     RunTotal total;
     CsvRun list;
-    list.Results = CsvResults(request.Only);
+    list.Results = CsvResults(results);
     for (const std::string& name : request.Files.empty() ? std::vector<std::string>{"-"} : request.Files) {
         Warnings warnings(name);
         list.Warn = [&](const std::string& sentence) {
