@@ -1,6 +1,8 @@
 #include "app/batch/CsvResults.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 #include "app/batch/CsvText.h"
@@ -43,15 +45,20 @@ constexpr Figure resultColumns[] = {
 constexpr std::array<std::string_view, 4> textColumns{"lblStdQual", "lblGMHQual", "dataCheck", "messages"};
 constexpr std::string_view errorColumn = "error";
 
+bool IsLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
+
 /// A text of several lines as one: tools that read lines must not find half a row.
 std::string OnOneLine(std::string_view text) {
     std::string line;
-    while (!text.empty()) {
-        const std::size_t end = text.find_first_of("\r\n");
-        const std::string_view part = Trimmed(text.substr(0, end));
+    line.reserve(text.size());
+    for (auto begin = text.begin(); begin != text.end();) {
+        const auto end = std::find_if(begin, text.end(), IsLineEnd);
+        const std::string_view part = Trimmed({begin, end});
         if (!part.empty())
             line.append(line.empty() ? "" : " / ").append(part);
-        text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+        begin = end == text.end() ? end : std::next(end);
     }
     return line;
 }
