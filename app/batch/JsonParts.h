@@ -82,14 +82,16 @@ inline void AppendDecimal(std::string& out, std::int64_t digits, int places) {
     for (; places > 0 && digits % 10 == 0; --places)
         digits /= 10;
     std::array<char, 24> text;
-    auto end = std::to_chars(text.data(), text.data() + text.size(), digits / tens[places]).ptr;
-    if (places > 0) {
-        // A leading 1 keeps the leading zeros of the fraction. The point then replaces it.
-        char* const point = end;
-        end = std::to_chars(point, text.data() + text.size(), tens[places] + digits % tens[places]).ptr;
-        *point = '.';
-    }
-    out.append(text.data(), end);
+    const auto append = [&out, &text](std::int64_t number, bool isFraction) {
+        char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+        if (isFraction)
+            text[0] = '.';
+        out.append(text.data(), end);
+    };
+    append(digits / tens[places], false);
+    // A leading 1 keeps the leading zeros of the fraction. The point then replaces it.
+    if (places > 0)
+        append(tens[places] + digits % tens[places], true);
 }
 
 /// Appends the shortest decimal number that reads back as the same single. If two are equally near, chooses
