@@ -58,6 +58,15 @@ void EntryHistory::Note(const Session& session) {
     m_at = m_steps.size() - 1;
 }
 
+Session EntryHistory::Committed(const Session& session) const {
+    Session committed = session;
+    const Step& step = m_steps[m_at];
+    committed.Screen = step.Screen;
+    committed.ChosenHouse = step.Chosen;
+    static_cast<Results&>(committed) = step.Figures;
+    return committed;
+}
+
 void EntryHistory::Undo(Session& session) {
     if (!CanUndo())
         return;

@@ -17,6 +17,9 @@ public:
     /// undone.
     void Note(const Session& session);
 
+    /// The session with the inputs and figures noted last, which what is being typed does not change.
+    Session Committed(const Session& session) const;
+
     bool CanUndo() const { return m_at > 0; }
     bool CanRedo() const { return m_at + 1 < m_steps.size(); }
 

@@ -1,5 +1,7 @@
 #include "ui/MainScreenRules.h"
 
+#include <algorithm>
+
 #include "engine/Recalculate.h"
 #include "ui/DataCheck.h"
 
@@ -52,6 +54,12 @@ void FinishLabelledOption(Session& session, Host& host) {
 }
 
 } // namespace
+
+bool IsRefused(const MainScreen& screen, std::string_view control) {
+    return std::any_of(std::begin(entryRules), std::end(entryRules), [&](const EntryRule& rule) {
+        return rule.Name == control && !FieldComplaint((screen.*rule.Member).Text, rule.Format).empty();
+    });
+}
 
 bool SetBaseOption(MainScreen& screen, std::string_view text) {
     if (!Select(screen.cboStdMortOption, text))

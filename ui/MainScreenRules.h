@@ -33,6 +33,9 @@ inline constexpr std::array<TabPage, TabCount> TabPages{
 
 namespace Ledgrove::Module1 {
 
+/// Whether the edit field of this name would refuse its text. False if there is no such field.
+bool IsRefused(const MainScreen& screen, std::string_view control);
+
 /// Selects a base option, fills the list of the labelled home's options for it and selects the first of them,
 /// without a message or a recalculation. Returns whether the base list has an item with this text.
 bool SetBaseOption(MainScreen& screen, std::string_view text);

@@ -9,6 +9,13 @@ namespace Ledgrove::Module1 {
 
 namespace {
 
+const EntryRule* RuleOf(const EntryText& entry) {
+    const auto rules = MainEntryRules();
+    const auto rule = std::find_if(rules.begin(), rules.end(),
+                                   [&](const EntryRule& one) { return one.Name == entry.Control; });
+    return rule == rules.end() ? nullptr : &*rule;
+}
+
 using Choose = void (*)(Session&, Host&, std::string_view);
 
 Choose ChoiceOf(std::string_view control) {
@@ -24,19 +31,19 @@ void EnterText(EntryContext& context, const EntryText& entry) {
         return choose(context.State, context.Outside, entry.Text);
     if (entry.Control == "lblHomeName")
         return NameHouse(entry.Text, context.State);
-    const auto rules = MainEntryRules();
-    const auto rule = std::find_if(rules.begin(), rules.end(),
-                                   [&](const EntryRule& one) { return one.Name == entry.Control; });
-    if (rule == rules.end())
-        return;
-    Field& field = context.State.Screen.*rule->Member;
-    SetFieldText(context.State, field, entry.Text);
-    LeaveField(context, field, rule->Format, rule->After);
+    if (const EntryRule* rule = RuleOf(entry))
+        LeaveField(context, context.State.Screen.*rule->Member, rule->Format, rule->After);
 }
 
 } // namespace
 
 void EnterTexts(EntryContext& context, std::span<const EntryText> texts) {
+    // All are there before the first is evaluated: a price with the bill of another house may bring a
+    // warning.
+    for (const EntryText& entry : texts) {
+        if (const EntryRule* rule = RuleOf(entry))
+            SetFieldText(context.State, context.State.Screen.*rule->Member, entry.Text);
+    }
     for (const EntryText& entry : texts)
         EnterText(context, entry);
 }

@@ -10,7 +10,7 @@ namespace Ledgrove {
 void ConnectAnswers(InsightContext& context, const AnswerSource& source, InsightPrinter print) {
     context.Answer = [source](const InsightAsk& ask) {
         source.Settings.Reload();
-        return AnswerOf(ask, source.State, source.Settings);
+        return AnswerOf(ask, source.State(), source.Settings);
     };
     context.Try = [source](std::string_view key, const std::string& text) {
         return source.Settings.Try(key, text);
@@ -22,7 +22,7 @@ void ConnectAnswers(InsightContext& context, const AnswerSource& source, Insight
     context.GoBack = [source](InsightQuestion question) { source.Settings.Forget(FieldKeysOf(question)); };
     context.CellText = &MapCellText;
     context.CellEntries = [source](const ChartGrid& grid, std::size_t column, std::size_t row) {
-        return EntriesOfCell(source.State, grid, column, row);
+        return EntriesOfCell(source.State(), grid, column, row);
     };
     context.Print = [source, print = std::move(print)](const std::vector<InsightQuestion>& questions,
                                                        const InsightAsk& ask) {

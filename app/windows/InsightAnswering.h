@@ -10,9 +10,9 @@
 
 namespace Ledgrove {
 
-/// What the Insight window's answers come from. All must outlive the window.
+/// What the Insight window's answers come from. All that it refers to must outlive the window.
 struct AnswerSource {
-    Session& State;
+    std::function<Session()> State; ///< the comparison after its last entry
     TriedSettings& Settings;
     Host& Outside; ///< shows why settings could not be saved
 };

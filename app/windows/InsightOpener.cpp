@@ -35,8 +35,14 @@ void InsightOpener::Follow(frmMain& window) {
 
 InsightContext InsightOpener::Context() {
     InsightContext context;
-    ConnectAnswers(context, {m_session, m_settings, m_outside}, m_print.Answers);
-    context.Models = MakeModelsContext(m_session, m_print.Houses);
+    const auto committed = [this] { return m_main->Committed(); };
+    // What is being typed is entered first, so that the paper and the window agree.
+    const auto print = [this](const InsightRequest& request) {
+        if (m_main->CommitEntry())
+            m_print.Answers(request);
+    };
+    ConnectAnswers(context, {committed, m_settings, m_outside}, print);
+    context.Models = MakeModelsContext(committed, m_print.Houses);
     context.Keep = [this, keep = context.Keep](InsightQuestion question) {
         keep(question);
         PointOutTaxLine(*m_main, m_session);

@@ -48,10 +48,12 @@ ModelsState Look(ModelsWork& work, int milliseconds) {
 
 } // namespace
 
-ModelsContext MakeModelsContext(const Session& session, RangePrinter print) {
+ModelsContext MakeModelsContext(std::function<Session()> state, RangePrinter print) {
     auto work = std::make_shared<ModelsWork>();
     return {PairNames(),
-            [work, &session](const std::vector<std::size_t>& pairs) { return Begin(*work, session, pairs); },
+            [work, state = std::move(state)](const std::vector<std::size_t>& pairs) {
+                return Begin(*work, state(), pairs);
+            },
             [work](int milliseconds) { return Look(*work, milliseconds); },
             [work] {
                 if (work->Run)

@@ -47,9 +47,6 @@ public:
     /// Returns false if the text was refused, after a message.
     bool CommitInPlace();
 
-    /// Whether the text was typed and is not committed yet.
-    bool IsBeingTyped() const { return hasFocus() && isModified(); }
-
     /// Keeps the text; its typing can no longer be undone or redone.
     void ForgetTyping();
 

@@ -56,7 +56,10 @@ public:
 frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* parent)
     : QMainWindow(parent)
     , m_session(session)
-    , m_shows([this] { Refresh(); })
+    , m_shows([this] {
+        NoteEntry();
+        Refresh();
+    })
     , m_host(outside, [this] { Refresh(); })
     , m_focus(*this)
     , m_context{session, m_host, m_focus}
@@ -90,15 +93,21 @@ void frmMain::Refresh() {
     for (ChartPlace* chart : m_charts)
         chart->Refresh();
     m_hint->Refresh();
-    const auto* field = qobject_cast<EntryField*>(focusWidget());
-    if (!field || !field->IsBeingTyped())
-        m_history.Note(m_session);
     emit Refreshed();
 }
 
+/// Not while a message is shown: more texts of the same entry may follow it, or the field may refuse its own.
+void frmMain::NoteEntry() {
+    const auto* field = qobject_cast<EntryField*>(focusWidget());
+    const bool isOpen = field && (field->isModified() ||
+                                  Module1::IsRefused(m_session.Screen, field->objectName().toStdString()));
+    if (!isOpen)
+        m_history.Note(m_session);
+}
+
 void frmMain::ShowAnew() {
-    Refresh();
     m_history.Restart(m_session);
+    Refresh();
 }
 
 void frmMain::Enter(const std::vector<EntryText>& texts) {

@@ -59,6 +59,9 @@ public:
     /// field with the focus refuses its own text.
     void Enter(const std::vector<EntryText>& texts);
 
+    /// The session as after the last entry. A text that is being typed, or is refused, is not in it.
+    Session Committed() const { return m_history.Committed(m_session); }
+
     bool CanUndo() const { return m_history.CanUndo(); }
     bool CanRedo() const { return m_history.CanRedo(); }
 
@@ -104,6 +107,7 @@ private:
     void ConnectWelcome();
     void ConnectInsight();
     void GoTo(const QString& control);
+    void NoteEntry();
     void GoThroughHistory(void (EntryHistory::*step)(Session&));
     void ConnectAction(const char* button, std::function<void()> action);
     void OpenHelp();

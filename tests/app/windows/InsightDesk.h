@@ -23,7 +23,8 @@ struct InsightDesk {
         PutBytes(Open.PathOf("a.ledgrove.json"), insightSample);
         Open.File->OpenNamed(Open.PathOf("a.ledgrove.json"));
         InsightContext context;
-        ConnectAnswers(context, {Open.State, Settings, Open.Outside},
+        const auto committed = [this] { return Open.Window->Committed(); };
+        ConnectAnswers(context, {committed, Settings, Open.Outside},
                        [this](const InsightRequest& request) { Printed = request; });
         context.Answer = [this, answer = context.Answer](const InsightAsk& ask) {
             ++Answers;
@@ -33,7 +34,7 @@ struct InsightDesk {
         context.Enter = [this](const std::vector<EntryText>& texts) { Open.Window->Enter(texts); };
         context.Help = [this] { ++Helps; };
         context.Models =
-            MakeModelsContext(Open.State, [this](const Range& range) { PrintedHouses = range.Rows.size(); });
+            MakeModelsContext(committed, [this](const Range& range) { PrintedHouses = range.Rows.size(); });
         context.Questions = Open.Questions;
         context.Write = [this](const QString&, const QByteArray& content) { Written = content; };
         Window = std::make_unique<frmInsight>(std::move(context));

@@ -18,7 +18,8 @@ namespace {
 struct PaperDesk : ComparisonDesk {
     PaperDesk() {
         InsightContext context;
-        ConnectAnswers(context, {State, Settings, Outside}, [this](const InsightRequest& request) {
+        const auto state = [this] { return State; };
+        ConnectAnswers(context, {state, Settings, Outside}, [this](const InsightRequest& request) {
             PreviewInsight(State, Outside, Machine, request, Window.get());
         });
         Window = std::make_unique<frmInsight>(std::move(context));
