@@ -35,8 +35,11 @@ std::string BillSentence(const Breakeven& breakeven) {
     if (bill.State == AnswerState::Always)
         return "It pays whatever its utility bill is, up to " + *bill.To + " a year.";
     std::string sentence = "Its utility bill may be as high as " + *bill.To + " a year";
-    if (breakeven.SavingsShare)
-        sentence += ": " + ShareText(*breakeven.SavingsShare) + " of the expected savings are enough";
+    if (breakeven.SavingsShare) {
+        const std::string share = ShareText(*breakeven.SavingsShare);
+        sentence += share == "0%" ? ": it pays even if none of the expected savings come true"
+                                  : ": " + share + " of the expected savings are enough";
+    }
     return sentence + ".";
 }
 

@@ -26,7 +26,9 @@ public:
         constexpr SearchDirections upThenDown{Direction::Up, Direction::Down};
         HomeQualification result;
         result.Qualifies = m_condition.Holds(m_insight.Record());
-        result.Margin = MarginOf(m_insight.Record().Home(m_home));
+        const HomeCase& home = m_insight.Record().Home(m_home);
+        result.Loan = static_cast<double>(home.LoanAmount);
+        result.Margin = MarginOf(home);
         result.Income = Limit(m_insight.Steps(Varied::Income), downThenUp);
         result.Debt = Limit(m_insight.Steps(Varied::Debt), upThenDown);
         result.Down = Limit(m_insight.DownSteps(m_home), downThenUp);

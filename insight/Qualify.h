@@ -23,6 +23,7 @@ struct OtherOption {
 /// An answer is empty if its input does not count for the home's loan, or if it is not certain.
 struct HomeQualification {
     bool Qualifies = false;
+    double Loan = 0;   ///< LoanAmount, in dollars; below 0 where the down payment is more than the price
     double Margin = 0; ///< MaxLoan less LoanAmount, in dollars
     std::optional<Answer> Income, Debt, Down, Price;
     std::optional<Answer> Bill; ///< of the labelled home only

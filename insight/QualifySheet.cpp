@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "insight/AnswerWords.h"
-#include "insight/Qualify.h"
+#include "insight/QualifyWords.h"
 
 namespace Ledgrove {
 
@@ -42,16 +42,12 @@ SheetCell QuestionCell(const std::optional<Answer>& answer) {
 }
 
 std::string RoomSentence(const char* home, const HomeQualification& own) {
-    std::string sentence = std::string("The buyer ");
     if (own.Qualifies)
-        return sentence + "qualifies for the " + home + ", with room for " + DollarText(own.Margin) +
-               " more loan.";
-    sentence += std::string("does not qualify for the ") + home;
-    if (own.Margin < 0)
-        sentence += ": the loan is " + DollarText(-own.Margin) + " too large";
+        return std::string("The buyer qualifies for the ") + home + RoomPhrase(own) + ".";
+    std::string sentence = std::string("The buyer does not qualify for the ") + home + ": " +
+                           (AllowsNoMortgage(own) ? NoMortgageWords : "the loan is " + ExcessPhrase(own));
     if (own.Income && own.Income->To)
-        sentence += (own.Margin < 0 ? "; an" : ": an") + std::string(" income of ") + *own.Income->To +
-                    " a year would do";
+        sentence += "; an income of " + *own.Income->To + " a year would do";
     return sentence + ".";
 }
 

@@ -23,6 +23,25 @@ std::size_t RowsWith(const Range& range, Condition condition) {
                       [&](const RangeRow& row) { return row.Missing.empty() && condition(row); }));
 }
 
+/// For how many rows the buyer qualifies, and how many pay.
+std::string CountsSentence(const Range& range, std::size_t known, const std::string& what) {
+    const std::size_t qualify = RowsWith(range, [](const RangeRow& row) { return row.GMH.Qualifies; });
+    const std::size_t pay = RowsWith(range, [](const RangeRow& row) { return row.ShownNet >= 0; });
+    if (known == 1)
+        return std::string("The buyer ") + (qualify == 1 ? "qualifies" : "does not qualify") +
+               " for the GREENMARK home, which " + (pay == 1 ? "pays" : "does not pay") +
+               " for itself each month.";
+    const std::string all = Number(known) + " " + what;
+    const std::string first = qualify == 0       ? "none of the " + all
+                              : qualify == known ? "all " + all
+                                                 : Number(qualify) + " of the " + all;
+    const std::string second = pay == 0       ? "none of them pays for itself"
+                               : pay == 1     ? "one of them pays for itself"
+                               : pay == known ? "all of them pay for themselves"
+                                              : Number(pay) + " of them pay for themselves";
+    return "The buyer qualifies for " + first + "; " + second + " each month.";
+}
+
 std::string SentenceOf(const Range& range) {
     if (range.Houses == 0)
         return "No houses are saved. Add some in the window (\"House Scenarios\").";
@@ -31,10 +50,9 @@ std::string SentenceOf(const Range& range) {
     std::string sentence = Count(range.Houses, "saved house", "saved houses");
     if (rows > range.Houses)
         sentence += ", each with " + std::to_string(rows / range.Houses) + " pairs of mortgage options";
-    sentence += ". Of " + Count(known, "row", "rows") + ", the buyer qualifies for the GREENMARK home in " +
-                Number(RowsWith(range, [](const RangeRow& row) { return row.GMH.Qualifies; })) +
-                ", and it pays for itself each month in " +
-                Number(RowsWith(range, [](const RangeRow& row) { return row.ShownNet >= 0; })) + ".";
+    sentence += ".";
+    if (known > 0)
+        sentence += " " + CountsSentence(range, known, rows > range.Houses ? "rows" : "GREENMARK homes");
     if (known < rows)
         sentence += " " + Count(rows - known, "row has", "rows have") + " no figures.";
     return sentence;

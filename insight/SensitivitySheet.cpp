@@ -40,9 +40,20 @@ std::string NumberText(std::string_view input, double number) {
     return Module1::FormatPicture(input == "pmi" ? number * 100 : number, "#0.0##") + "%";
 }
 
-std::string ValueText(std::string_view input, const std::optional<SensitivitySide>& side) {
+/// A price or a bill as its distance from the base home's, which is what the row is about.
+std::string DistanceText(const Insight& insight, std::string_view input, const std::string& text) {
+    const double put = Module1::ReadNumber(text).value_or(0);
+    if (input == "upgrade")
+        return DollarText(put - insight.Steps(Varied::StdPrice).Now());
+    return DollarText(insight.Steps(Varied::StdBill).Now() - put);
+}
+
+std::string ValueText(const Insight& insight, std::string_view input,
+                      const std::optional<SensitivitySide>& side) {
     if (!side)
         return "none";
+    if (input == "upgrade" || input == "savings")
+        return DistanceText(insight, input, side->Values.front().Text);
     std::string text;
     for (const PutValue& value : side->Values)
         text += (text.empty() ? "" : ", ") + (value.IsText ? value.Text : NumberText(input, value.Number));
@@ -57,21 +68,45 @@ SheetCell MarginCell(const std::optional<SensitivitySide>& side) {
     return side ? DollarCell(side->GMHMargin) : SheetCell();
 }
 
-/// "The income and the debt do not move it.", also with three or more; empty if every input moves it.
-std::string IdleSentence(const Sensitivity& sensitivity) {
+/// Whether the step is smaller than what the field can show, so that nothing was changed.
+bool IsStepTooSmall(const SensitivityRow& row) {
+    const auto sameTexts = [](const std::vector<PutValue>& low, const std::vector<PutValue>& high) {
+        return std::equal(low.begin(), low.end(), high.begin(), high.end(), [](const auto& a, const auto& b) {
+            return a.IsText && b.IsText && a.Text == b.Text;
+        });
+    };
+    return row.Low && row.High && sameTexts(row.Low->Values, row.High->Values);
+}
+
+/// "the income, the debt and the term" of the inputs that do not move the net, and are or are not too small.
+std::vector<std::string> IdleInputs(const Sensitivity& sensitivity, bool tooSmall) {
     std::vector<std::string> idle;
     for (const SensitivityRow& row : sensitivity.Rows) {
-        if (row.NetMove == 0)
+        if (row.NetMove == 0 && IsStepTooSmall(row) == tooSmall)
             idle.emplace_back(NameOfInput(row.Input).InSentence);
     }
-    if (idle.empty())
-        return {};
-    std::string sentence;
-    for (std::size_t i = 0; i < idle.size(); ++i)
-        sentence += (i == 0 ? "" : (i + 1 == idle.size() ? " and " : ", ")) + idle[i];
-    sentence.front() = 'T';
-    return " " + sentence + (idle.size() > 1 || idle.front().ends_with('s') ? " do" : " does") +
-           " not move it.";
+    return idle;
+}
+
+std::string Listed(const std::vector<std::string>& names) {
+    std::string list;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        list += (i == 0 ? "" : (i + 1 == names.size() ? " and " : ", ")) + names[i];
+    return list;
+}
+
+/// "The income and the debt do not move it.", also with three or more; empty if every input moves it.
+std::string IdleSentence(const Sensitivity& sensitivity) {
+    std::string text;
+    if (const auto idle = IdleInputs(sensitivity, false); !idle.empty()) {
+        std::string names = Listed(idle);
+        names.front() = 'T';
+        text = " " + names + (idle.size() > 1 || idle.front().ends_with('s') ? " do" : " does") +
+               " not move it.";
+    }
+    if (const auto small = IdleInputs(sensitivity, true); !small.empty())
+        text += " For " + Listed(small) + ", the step is too small to show.";
+    return text;
 }
 
 std::string SentenceOf(const Insight& insight, const Sensitivity& sensitivity) {
@@ -81,9 +116,13 @@ std::string SentenceOf(const Insight& insight, const Sensitivity& sensitivity) {
     const auto netOf = [&](const std::optional<SensitivitySide>& side) {
         return DollarText(static_cast<double>(side ? side->ShownNet : insight.ShownNet(insight.Record())));
     };
-    return std::string("The result depends most on ") + NameOfInput(first.Input).InSentence +
-           ": the monthly net goes from " + netOf(first.Low) + " to " + netOf(first.High) + "." +
-           IdleSentence(sensitivity);
+    const std::string name = NameOfInput(first.Input).InSentence;
+    const std::string moves = netOf(first.Low) == netOf(first.High)
+                                  ? "No input moves the monthly net by a dollar; " + name +
+                                        (name.ends_with('s') ? " move" : " moves") + " it most."
+                                  : "The result depends most on " + name + ": the monthly net goes from " +
+                                        netOf(first.Low) + " to " + netOf(first.High) + ".";
+    return moves + IdleSentence(sensitivity);
 }
 
 } // namespace
@@ -96,8 +135,8 @@ Sheet SensitivitySheet(const Insight& insight, const Sensitivity& sensitivity) {
     for (const SensitivityRow& row : sensitivity.Rows) {
         const CellMark mark = row.NetMove == 0 ? CellMark::Idle : CellMark::None;
         sheet.Rows.push_back({TextCell(NameOfInput(row.Input).Caption, mark),
-                              TextCell(ValueText(row.Input, row.Low)), NetCell(row.Low),
-                              TextCell(ValueText(row.Input, row.High)), NetCell(row.High),
+                              TextCell(ValueText(insight, row.Input, row.Low)), NetCell(row.Low),
+                              TextCell(ValueText(insight, row.Input, row.High)), NetCell(row.High),
                               MarginCell(row.Low), MarginCell(row.High)});
     }
     return sheet;

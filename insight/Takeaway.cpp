@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "insight/AnswerWords.h"
+#include "insight/QualifyWords.h"
 
 namespace Ledgrove {
 
@@ -129,7 +130,12 @@ bool IsDoubtful(const Insight& insight, const TaxCheck& tax) {
 /// The end of the sentence about the net.
 std::string RealWords(const Insight& insight, const TaxCheck& tax) {
     const auto real = RealNet(insight, tax);
-    return real ? "; with the tax line as it would really be, " + DollarText(*real) + "." : ".";
+    if (!real)
+        return ".";
+    // A plain amount after "nothing is left" would contradict it.
+    const bool isLeftReally = *real >= leastShown && insight.ShownNet(insight.Record()) < 0;
+    return "; with the tax line as it would really be, " + DollarText(*real) +
+           (isLeftReally ? " would be left." : ".");
 }
 
 std::string TaxWords(const Insight& insight, const TaxCheck& tax) {
@@ -139,7 +145,7 @@ std::string TaxWords(const Insight& insight, const TaxCheck& tax) {
 
 /// The same for a loss. Its sign stands before the one with the real tax line, which has a sign too.
 std::string LossWords(const Insight& insight, const TaxCheck& tax, double net) {
-    if (!RealNet(insight, tax))
+    if (!RealNet(insight, tax) || net > -leastShown)
         return TaxWords(insight, tax);
     return ", with income tax included, a net of " + DollarText(net) + RealWords(insight, tax);
 }
@@ -175,6 +181,11 @@ std::string NetSentence(const Insight& insight, const YearByYear& years, const T
     return "Nothing is left each month: both homes cost the same a month" + taxes;
 }
 
+/// By how much the buyer is ahead after the years in the home.
+double InHomeEnd(const YearByYear& years) {
+    return years.Years[static_cast<std::size_t>(years.InHome) - 1].Cumulative;
+}
+
 /// "3 years and 2 months"
 std::string MonthsWords(int months) {
     const int years = months / 12;
@@ -185,6 +196,14 @@ std::string MonthsWords(int months) {
     return YearsWords(years) + (rest == 0 ? "" : " and " + inMonths);
 }
 
+/// Whether the buyer would not be ahead with the tax line as it would really be.
+bool IsAheadByTaxOnly(const Insight& insight, const YearByYear& years, const TaxCheck& tax) {
+    if (!RealNet(insight, tax))
+        return false;
+    const double perMonth = tax.Real - static_cast<double>(tax.Shown);
+    return InHomeEnd(years) + perMonth * 12 * years.InHome < 0;
+}
+
 /// When the buyer is ahead; empty if that is never, or if only the shown tax line makes it so.
 std::string AheadSentence(const Insight& insight, const YearByYear& years, const TaxCheck& tax) {
     if (!years.Ahead || IsDoubtful(insight, tax))
@@ -192,8 +211,8 @@ std::string AheadSentence(const Insight& insight, const YearByYear& years, const
     if (years.ExtraCash > leastShown)
         return "The extra down payment of " + DollarText(years.ExtraCash) + " is earned back after " +
                MonthsWords(*years.Ahead) + ".";
-    const double amount = years.Years[static_cast<std::size_t>(years.InHome) - 1].Cumulative;
-    if (amount < leastShown)
+    const double amount = InHomeEnd(years);
+    if (amount < leastShown || IsAheadByTaxOnly(insight, years, tax))
         return {};
     const std::string end = "by " + DollarText(amount) + " after " + YearsWords(years.InHome) + ".";
     // Each month may cost more: then the cash that is not paid down makes up for it.
@@ -258,34 +277,53 @@ std::string BreakevenSentence(const Insight& insight, const Breakeven& breakeven
                                                    : NearestSentence(breakeven);
 }
 
-/// "$7,102"
-std::string RoomAmount(const HomeQualification& home) {
-    return home.Margin < leastShown ? "less than a dollar" : DollarText(home.Margin);
+std::string BothSentence(const HomeQualification& base, const HomeQualification& labelled) {
+    const auto clause = [](const char* name, const HomeQualification& home) {
+        return std::string(name) + (NeedsNoMortgage(home)
+                                        ? " " + NoMortgagePhrase(home)
+                                        : " has room for " + RoomAmount(home) + " more loan");
+    };
+    const std::string both = "The buyer qualifies for both homes";
+    if (NeedsNoMortgage(base) || NeedsNoMortgage(labelled))
+        return both + ": " + clause("the base home", base) + ", and " +
+               clause("the GREENMARK home", labelled) + ".";
+    return both + RoomPhrase(base) + " for the base home and " + RoomAmount(labelled) +
+           " for the GREENMARK home.";
 }
 
-std::string RoomText(const HomeQualification& home) {
-    return "room for " + RoomAmount(home) + " more loan";
+std::string OneSentence(const std::string& name, const HomeQualification& home, const std::string& otherName,
+                        const HomeQualification& other) {
+    const std::string why =
+        AllowsNoMortgage(other) ? NoMortgageWords : "its mortgage is " + ExcessPhrase(other);
+    return "The buyer qualifies for the " + name + RoomPhrase(home) + ", but not for the " + otherName +
+           ": " + why + ".";
 }
 
-std::string ExcessText(const HomeQualification& home) {
-    return home.Margin > -leastShown ? "not less than the largest loan"
-                                     : DollarText(-home.Margin) + " too large";
+std::string NeitherSentence(const HomeQualification& base, const HomeQualification& labelled) {
+    const std::string neither = "The buyer qualifies for neither home: ";
+    const std::string mortgage = "the mortgage of the ";
+    if (AllowsNoMortgage(base) && AllowsNoMortgage(labelled))
+        return neither + NoMortgageWords + ".";
+    if (AllowsNoMortgage(base))
+        return neither + mortgage + "GREENMARK home is " + ExcessPhrase(labelled) + "; for the base home, " +
+               NoMortgageWords + ".";
+    if (AllowsNoMortgage(labelled))
+        return neither + mortgage + "base home is " + ExcessPhrase(base) + "; for the GREENMARK home, " +
+               NoMortgageWords + ".";
+    return neither + mortgage + "base home is " + ExcessPhrase(base) + ", that of the GREENMARK home " +
+           ExcessPhrase(labelled) + ".";
 }
 
 std::string QualifySentence(const Qualification& qualification) {
     const HomeQualification& base = qualification.Std;
     const HomeQualification& labelled = qualification.GMH;
     if (base.Qualifies && labelled.Qualifies)
-        return "The buyer qualifies for both homes, with " + RoomText(base) + " for the base home and " +
-               RoomAmount(labelled) + " for the GREENMARK home.";
+        return BothSentence(base, labelled);
     if (base.Qualifies)
-        return "The buyer qualifies for the base home, with " + RoomText(base) +
-               ", but not for the GREENMARK home: its mortgage is " + ExcessText(labelled) + ".";
+        return OneSentence("base home", base, "GREENMARK home", labelled);
     if (labelled.Qualifies)
-        return "The buyer qualifies for the GREENMARK home, with " + RoomText(labelled) +
-               ", but not for the base home: its mortgage is " + ExcessText(base) + ".";
-    return "The buyer qualifies for neither home: the mortgage of the base home is " + ExcessText(base) +
-           ", that of the GREENMARK home " + ExcessText(labelled) + ".";
+        return OneSentence("GREENMARK home", labelled, "base home", base);
+    return NeitherSentence(base, labelled);
 }
 
 /// What would help a buyer who does not qualify for the home.

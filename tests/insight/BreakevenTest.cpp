@@ -135,6 +135,15 @@ TEST(Breakeven, SaysHowFarItPays) {
         "bill may be as high as $1,800 a year: 50% of the expected savings are enough.");
 }
 
+TEST(Breakeven, SaysThatNoSavingIsNeeded) {
+    Session session = Testing::SimpleSession();
+    session.Screen.ecGMHHome.Text = "$120,000";
+    EXPECT_TRUE(
+        SentenceOf(session).ends_with("Its utility bill may be as high as $2,400 a year: it pays even "
+                                      "if none of the expected savings come true."))
+        << SentenceOf(session);
+}
+
 TEST(Breakeven, IsMissingWithoutPricesOrOptions) {
     Session session = Testing::SimpleSession();
     session.Screen.ecStdHome.Text = "";

@@ -150,10 +150,34 @@ TEST(RangeSheet, SaysInWordsWhoQualifies) {
                 ElementsAre("both homes", "the base home only", "Enter the price of the GREENMARK home."));
     EXPECT_THAT(
         sheet.Sentence,
-        testing::StartsWith("3 saved houses. Of 2 rows, the buyer qualifies for the GREENMARK home in 1, "
-                            "and it pays for itself each month in 1. 1 row has no figures."));
+        testing::StartsWith("3 saved houses. The buyer qualifies for 1 of the 2 GREENMARK homes; one of "
+                            "them pays for itself each month. 1 row has no figures."));
     for (const auto& row : sheet.Rows)
         EXPECT_EQ(row.size(), sheet.Heads.size());
+}
+
+TEST(RangeSheet, CountsInWords) {
+    const auto counts = [](std::initializer_list<std::pair<bool, float>> rows) {
+        Range range;
+        range.Houses = rows.size();
+        for (const auto& [qualifies, net] : rows) {
+            RangeRow row;
+            row.GMH.Qualifies = qualifies;
+            row.ShownNet = net;
+            range.Rows.push_back(row);
+        }
+        const std::string sentence = RangeSheet(range).Sentence;
+        return sentence.substr(sentence.find(". ") + 2);
+    };
+    EXPECT_EQ(counts({{false, 1}, {false, 2}, {false, 3}}),
+              "The buyer qualifies for none of the 3 GREENMARK homes; all of them pay for themselves each "
+              "month.");
+    EXPECT_EQ(counts({{true, -1}, {true, -2}}),
+              "The buyer qualifies for all 2 GREENMARK homes; none of them pays for itself each month.");
+    EXPECT_EQ(counts({{true, 1}, {true, 2}, {false, -2}}),
+              "The buyer qualifies for 2 of the 3 GREENMARK homes; 2 of them pay for themselves each month.");
+    EXPECT_EQ(counts({{false, 1}}),
+              "The buyer does not qualify for the GREENMARK home, which pays for itself each month.");
 }
 
 TEST(RangeSheet, ARowProposesItsHouseAndOptions) {

@@ -133,5 +133,35 @@ TEST(Sensitivity, SaysWhatMattersMost) {
     EXPECT_EQ(sheet.Rows.back().front().Mark, CellMark::Idle);
 }
 
+/// The row is about the difference, not about the price or bill that brings it.
+TEST(Sensitivity, ShowsDifferencesUnderTheirName) {
+    Session session = Testing::SimpleSession();
+    const auto valuesOf = [&session](const std::string& caption) {
+        const Insight insight(session.Screen, session);
+        for (const auto& row : SensitivitySheet(insight, ComputeSensitivity(insight, 10)).Rows)
+            if (row.front().Text == caption)
+                return row[1].Text + " " + row[3].Text;
+        return std::string();
+    };
+    EXPECT_EQ(valuesOf("Price difference"), "$5,400 $6,600");
+    EXPECT_EQ(valuesOf("Yearly energy savings"), "$1,080 $1,320");
+    session.Screen.ecGMHUtil.Text = "$3,000"; // $600 more
+    EXPECT_EQ(valuesOf("Yearly energy savings"), "-$540 -$660");
+}
+
+TEST(Sensitivity, AStepThatIsTooSmallIsNotCalledIdle) {
+    Session session = Testing::SimpleSession();
+    session.Screen.ecGMHHome.Text = "$120,001";
+    session.Screen.ecGMHUtil.Text = "$2,399";
+    const Insight insight(session.Screen, session);
+    const std::string sentence = SensitivitySheet(insight, ComputeSensitivity(insight, 10)).Sentence;
+    // 10 % of $1 is less than the step of $1. Nothing else moves $0.08 a month by as much as a dollar.
+    EXPECT_TRUE(sentence.starts_with("No input moves the monthly net by a dollar; ")) << sentence;
+    EXPECT_TRUE(sentence.ends_with(
+        " For the yearly energy savings and the price difference, the step is too small to show."))
+        << sentence;
+    EXPECT_EQ(sentence.find("energy savings"), sentence.rfind("energy savings")) << sentence;
+}
+
 } // namespace
 } // namespace Ledgrove

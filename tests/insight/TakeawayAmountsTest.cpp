@@ -103,9 +103,16 @@ private:
         if (!isNamed)
             return;
         const double real = static_cast<double>(m_insight.Record().Scenario.NetBeforeTax) + tax.Real;
-        EXPECT_TRUE(sentence.ends_with("really be, " + DollarText(real) + ".")) << sentence;
+        const std::string end = net < 0 && real >= 0.5 ? " would be left." : ".";
+        EXPECT_TRUE(sentence.ends_with("really be, " + DollarText(real) + end)) << sentence;
         if ((real >= 0) != (net >= 0)) {
             EXPECT_EQ(m_all.find("pays each month"), std::string::npos);
+        }
+        const std::string ahead = Found(m_all, "The buyer is ahead [^.]*, by (\\$[0-9,]+) after");
+        if (!ahead.empty()) {
+            const double perYear = 12 * (tax.Real - static_cast<double>(tax.Shown));
+            EXPECT_GE(AmountOf(ahead) + 0.5 + perYear * InsightViews(m_insight, 10).YearsView().InHome, 0)
+                << m_all;
         }
     }
 
@@ -154,14 +161,15 @@ private:
                   !record.StdQualifies && !record.GMHQualifies);
         EXPECT_EQ(m_all.find("qualifies for the base home") != std::string::npos,
                   record.StdQualifies && !record.GMHQualifies);
-        const HomeCase& home = record.StdQualifies ? record.StdCase : record.GMHCase;
-        const double margin = static_cast<double>(home.MaxLoan) - static_cast<double>(home.LoanAmount);
-        const std::string room = Found(m_all, "room for (\\$[0-9,]+) more loan");
-        if (record.StdQualifies || record.GMHQualifies) {
-            EXPECT_EQ(room, margin < 0.5 ? "" : Testing::Dollars(margin));
-        } else {
-            EXPECT_EQ(room, "");
+        // The first home that the buyer qualifies for and that needs a mortgage.
+        std::string room;
+        for (const auto& [qualifies, home] : {std::pair{record.StdQualifies, &record.StdCase},
+                                              std::pair{record.GMHQualifies, &record.GMHCase}}) {
+            const double margin = static_cast<double>(home->MaxLoan) - static_cast<double>(home->LoanAmount);
+            if (room.empty() && qualifies && home->LoanAmount >= 0.5F && margin >= 0.5)
+                room = Testing::Dollars(margin);
         }
+        EXPECT_EQ(Found(m_all, "room for (\\$[0-9,]+) more loan"), room);
     }
 
     static bool Qualifies(const Results& results, HomeCode home) {

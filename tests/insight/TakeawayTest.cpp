@@ -85,6 +85,31 @@ TEST(Takeaway, SaysWhichHomeTheBuyerQualifiesFor) {
               "for the base home: its mortgage is $2,800 too large.");
 }
 
+/// $150 of taxes and insurance or of debts a month may be more than the ratios allow.
+TEST(Takeaway, SaysThatNoMortgageWouldDo) {
+    Session session = Testing::SimpleSession();
+    session.Screen.ecMonthlyDebt.Text = "$3,000"; // 36 % of $60,000 are $1,800 a month
+    const Texts sentences = SentencesOf(session);
+    EXPECT_EQ(sentences[4], "The buyer qualifies for neither home: with this income and debt, no mortgage of "
+                            "any size would do.");
+}
+
+TEST(Takeaway, SaysThatNoMortgageIsNeeded) {
+    Session session = Testing::SimpleSession();
+    session.Screen.optDownPayment = 1;
+    session.Screen.ecFixedDown.Text = "$123,000";
+    // The prices are $120,000 and $126,000; the largest loan is $168,000.
+    EXPECT_THAT(SentencesOf(session),
+                testing::Contains("The buyer qualifies for both homes: the base home needs no mortgage (the "
+                                  "down payment is $3,000 more than the price), and the GREENMARK home has "
+                                  "room for $165,000 more loan."));
+    session.Screen.ecFixedDown.Text = "$126,000";
+    EXPECT_THAT(SentencesOf(session),
+                testing::Contains("The buyer qualifies for both homes: the base home needs no mortgage (the "
+                                  "down payment is $6,000 more than the price), and the GREENMARK home needs "
+                                  "no mortgage."));
+}
+
 TEST(Takeaway, EqualAmountsHaveWordsOfTheirOwn) {
     Session session = Testing::SimpleSession();
     session.Screen.ecGMHHome.Text = "$120,000";
