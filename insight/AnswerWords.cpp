@@ -96,6 +96,16 @@ std::string EdgePhrase(const Answer& answer) {
            ", where mortgage insurance costs more.";
 }
 
+std::string Joined(const std::vector<std::string>& texts, std::string_view last) {
+    std::string result;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i > 0)
+            result += i + 1 < texts.size() ? ", " : last;
+        result += texts[i];
+    }
+    return result;
+}
+
 std::string ShareText(double share) {
     constexpr double wholeError = 1e-9;
     return Module1::FormatPicture(std::ceil(share * 100 - wholeError), "#0") + "%";

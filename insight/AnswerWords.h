@@ -2,6 +2,8 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "insight/Answer.h"
 #include "insight/Sheet.h"
@@ -27,6 +29,9 @@ SheetCell ChangeCell(const std::optional<Answer>& answer);
 
 /// Why a limit stops at an edge: "one step further puts ..."; empty if it does not.
 std::string EdgePhrase(const Answer& answer);
+
+/// "a, b and c"; `last` stands before the last one.
+std::string Joined(const std::vector<std::string>& texts, std::string_view last = " and ");
 
 /// 54% for 0.5335: a share is rounded up, because less is not enough.
 std::string ShareText(double share);

@@ -3,6 +3,7 @@
 #include <iterator>
 #include <utility>
 
+#include "insight/AnswerWords.h"
 #include "insight/Options.h"
 
 namespace Ledgrove {
@@ -39,19 +40,35 @@ std::string PairOf(const OptionAnswer& row) {
     return std::string(row.Base) + " / " + std::string(row.Labelled);
 }
 
-/// "FHA / FHA EEM has the least cash down and the least income needed."; empty if no row is the best of a
-/// column.
+/// What the row is the best of. Where nobody qualifies, the most room is what is missing least.
+std::string WordsOfBest(const OptionAnswer& row) {
+    std::vector<std::string> words;
+    for (const BestIn column : row.Best)
+        words.emplace_back(column == BestIn::Room && row.GMH.Margin < 0
+                               ? "the smallest shortfall"
+                               : bestWords[static_cast<std::size_t>(column)]);
+    return Joined(words);
+}
+
+/// "FHA / FHA EEM has the least cash down and the least income needed."; rows that are the best of the same
+/// columns share a sentence. Empty if no row is the best of a column.
 std::string BestSentences(const OptionTable& options) {
-    std::string text;
+    std::vector<std::pair<std::string, std::vector<std::string>>>
+        sentences; ///< what, and the pairs that have it
     for (const OptionAnswer& row : options.Rows) {
         if (row.Best.empty())
             continue;
-        text += PairOf(row);
-        for (std::size_t i = 0; i < row.Best.size(); ++i)
-            text += (i == 0 ? " has " : (i + 1 == row.Best.size() ? " and " : ", ")) +
-                    std::string(bestWords[static_cast<std::size_t>(row.Best[i])]);
-        text += ". ";
+        const std::string words = WordsOfBest(row);
+        const auto same = std::find_if(sentences.begin(), sentences.end(),
+                                       [&words](const auto& sentence) { return sentence.first == words; });
+        if (same == sentences.end())
+            sentences.push_back({words, {PairOf(row)}});
+        else
+            same->second.push_back(PairOf(row));
     }
+    std::string text;
+    for (const auto& [words, pairs] : sentences)
+        text += Joined(pairs) + (pairs.size() == 1 ? " has " : " have ") + words + ". ";
     return text;
 }
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "engine/NumberText.h"
+#include "insight/AnswerWords.h"
 #include "insight/Sensitivity.h"
 
 namespace Ledgrove {
@@ -88,24 +89,17 @@ std::vector<std::string> IdleInputs(const Sensitivity& sensitivity, bool tooSmal
     return idle;
 }
 
-std::string Listed(const std::vector<std::string>& names) {
-    std::string list;
-    for (std::size_t i = 0; i < names.size(); ++i)
-        list += (i == 0 ? "" : (i + 1 == names.size() ? " and " : ", ")) + names[i];
-    return list;
-}
-
 /// "The income and the debt do not move it.", also with three or more; empty if every input moves it.
 std::string IdleSentence(const Sensitivity& sensitivity) {
     std::string text;
     if (const auto idle = IdleInputs(sensitivity, false); !idle.empty()) {
-        std::string names = Listed(idle);
+        std::string names = Joined(idle);
         names.front() = 'T';
         text = " " + names + (idle.size() > 1 || idle.front().ends_with('s') ? " do" : " does") +
                " not move it.";
     }
     if (const auto small = IdleInputs(sensitivity, true); !small.empty())
-        text += " For " + Listed(small) + ", the step is too small to show.";
+        text += " For " + Joined(small) + ", the step is too small to show.";
     return text;
 }
 

@@ -23,17 +23,6 @@ constexpr double downPoints = 10;
 constexpr double priceShare = 0.10;
 constexpr double buyerShare = 0.20; ///< of the income and of the debt
 
-/// "a, b and c"
-std::string Joined(const Texts& texts, std::string_view last) {
-    std::string result;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        if (i > 0)
-            result += i + 1 < texts.size() ? ", " : last;
-        result += texts[i];
-    }
-    return result;
-}
-
 /// Whether the change is at most this part of the value now, or this many points.
 bool IsWithin(const Answer& answer, double most, bool isShare) {
     constexpr double error = 1e-9; // 0.3 points may be a little more in binary numbers
@@ -110,7 +99,7 @@ std::string CostSentence(const Results& record) {
         parts.push_back("needs " + DollarText(std::fabs(cash)) + (cash > 0 ? " more" : " less") +
                         " down payment");
     parts.push_back(BillText(record));
-    return "The GREENMARK home " + Joined(parts, " and ") + ".";
+    return "The GREENMARK home " + Joined(parts) + ".";
 }
 
 /// The monthly net with the tax line as it would really be; empty where the shown line is as good as right.

@@ -93,6 +93,25 @@ TEST(Options, APairThatFaultsIsMissingAndDoesNotCompete) {
                                                        BestIn::Net, BestIn::Income}));
 }
 
+TEST(Options, NobodyQualifiesWithTheMostRoom) {
+    Session session = OptionsSession();
+    session.Screen.ecIncome.Text = "$1,000";
+    const std::string sentence = OptionsSheet(OptionsOf(session)).Sentence;
+    EXPECT_EQ(sentence.find("the most room"), std::string::npos) << sentence;
+    EXPECT_NE(sentence.find("the smallest shortfall"), std::string::npos) << sentence;
+}
+
+/// VA and VA EEM differ in nothing if the savings do not raise the loan.
+TEST(Options, EqualRowsShareASentence) {
+    Session session = OptionsSession();
+    session.Screen.ecGMHUtil.Text = session.Screen.ecStdUtil.Text;
+    const OptionTable table = OptionsOf(session);
+    ASSERT_EQ(table.Rows[5].Best, table.Rows[6].Best);
+    ASSERT_FALSE(table.Rows[5].Best.empty());
+    const std::string sentence = OptionsSheet(table).Sentence;
+    EXPECT_NE(sentence.find("VA / VA and VA / VA EEM have "), std::string::npos) << sentence;
+}
+
 TEST(Options, SaysWhatThePaymentLeavesOut) {
     const OptionTable table = OptionsOf(OptionsSession());
     EXPECT_EQ(table.Sentence,
