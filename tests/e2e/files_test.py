@@ -80,6 +80,7 @@ class FilesTest(unittest.TestCase):
         self.program.wait_focus("File name:")
         self.desktop.key("ctrl+a")
         self.desktop.type(str(file))
+        self.program.wait_text("File name:", str(file))  # on a busy machine the last letters come late
         self.desktop.key("Return")
         self.program.window()
 
