@@ -111,7 +111,7 @@ class Range(CliTest):
 
     def test_the_text_is_a_sentence_and_an_aligned_table(self):
         shown = self.range("text", BUYER, "--options", "VA").stdout.decode()
-        self.assertTrue(shown.startswith("3 saved houses. Of 3 rows, the buyer qualifies"), shown)
+        self.assertTrue(shown.startswith("3 saved houses. The buyer qualifies for none of the 3 GREENMARK homes;"), shown)
         self.assertIn("Qualifies For", shown)
         table = shown.split("\n\n")[1].splitlines()
         self.assertIn("those of the base home", shown.split("\n\n")[2])

@@ -80,7 +80,7 @@ frmMain::frmMain(Session& session, Host& outside, MainActions actions, QWidget* 
     new MainKeys(*this, m_focus, [this] { OpenHelp(); });
     m_binding = std::make_unique<MainBinding>(m_session.Screen, *this);
     m_downPayment = new DownPaymentKeys(m_session.Screen, *this);
-    Refresh();
+    ShowAnew();
     // The menu bar's actions come after the window is shown.
     CentreOnScreen(*this, fontMetrics().height() + 8);
 }
