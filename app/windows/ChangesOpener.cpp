@@ -3,6 +3,7 @@
 #include <QPluginLoader>
 #include <utility>
 
+#include "ui/windows/BringToFront.h"
 #include "ui/windows/InsightWindow.h"
 #include "ui/windows/SafeFile.h"
 
@@ -84,9 +85,7 @@ bool ChangesOpener::Load() {
 void ChangesOpener::Open() {
     if (!Load())
         return;
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    BringToFront(*m_window);
     m_window->Begin();
 }
 

@@ -7,6 +7,7 @@
 #include "app/windows/InsightAnswering.h"
 #include "app/windows/ModelsAnswering.h"
 #include "app/windows/TaxLineTip.h"
+#include "ui/windows/BringToFront.h"
 #include "ui/windows/SafeFile.h"
 
 namespace Ledgrove {
@@ -73,17 +74,12 @@ bool InsightOpener::Open() {
     return factory;
 }
 
-void InsightOpener::Raise() {
-    m_window->raise();
-    m_window->activateWindow();
-}
-
 void InsightOpener::Ask(InsightQuestion question) {
     if (!Open())
         return;
     m_window->show();
     m_window->Ask(question);
-    Raise();
+    BringToFront(*m_window);
 }
 
 void InsightOpener::Explain(const std::string& label) {
@@ -91,7 +87,7 @@ void InsightOpener::Explain(const std::string& label) {
         return;
     m_window->show();
     m_window->Explain(label);
-    Raise();
+    BringToFront(*m_window);
 }
 
 } // namespace Ledgrove

@@ -39,7 +39,6 @@ public:
 private:
     InsightContext Context();
     bool Open();
-    void Raise();
 
     Session& m_session;
     Host& m_outside;

@@ -1,0 +1,85 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QListWidget>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "DesktopDesk.h"
+#include "app/windows/ChangesOpener.h"
+#include "app/windows/InsightOpener.h"
+
+using namespace Ledgrove;
+
+namespace {
+
+QWidget* WindowNamed(const QString& name) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == name)
+            return window;
+    return nullptr;
+}
+
+/// The main window with a comparison, connected to the windows that its commands open.
+struct Openers {
+    Openers()
+        : Open(Actions())
+        , Insight(Open.State, Open.Outside, Open.Questions, {}, LEDGROVE_PROGRAM_FOLDER)
+        , Changes(Open.State, Open.Outside, Open.Questions, {}, LEDGROVE_PROGRAM_FOLDER) {
+        PutBytes(Open.PathOf("a.ledgrove.json"), R"({"ecStdHome": 200000, "ecGMHHome": 206000})");
+        Open.File->OpenNamed(Open.PathOf("a.ledgrove.json"));
+        Insight.Follow(*Open.Window);
+        Changes.Follow(*Open.Window, *Open.File);
+    }
+
+    MainActions Actions() {
+        MainActions actions;
+        actions.Ask = [this](InsightQuestion question) { Insight.Ask(question); };
+        actions.Explain = [this](const std::string& label) { Insight.Explain(label); };
+        return actions;
+    }
+
+    OpenDesktop Open;
+    InsightOpener Insight;
+    ChangesOpener Changes;
+};
+
+} // namespace
+
+class WindowOpenersTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aMinimisedWindowComesBack();
+    void aMaximisedWindowStaysMaximised();
+};
+
+void WindowOpenersTest::aMinimisedWindowComesBack() {
+    Openers desk;
+    desk.Insight.Ask(InsightQuestion::HowFar);
+    QWidget& insight = *WindowNamed("frmInsight");
+    insight.showMinimized();
+    desk.Insight.Ask(InsightQuestion::HowFar);
+    QVERIFY(!insight.isMinimized());
+    insight.showMinimized();
+    desk.Insight.Explain("lblGMHPITI");
+    QVERIFY(!insight.isMinimized());
+    desk.Open.VersionNames = {"First"};
+    QVERIFY(desk.Open.File->KeepVersion());
+    desk.Changes.Open();
+    QWidget& changes = *WindowNamed("frmChanges");
+    changes.showMinimized();
+    desk.Changes.Open();
+    QVERIFY(!changes.isMinimized());
+}
+
+void WindowOpenersTest::aMaximisedWindowStaysMaximised() {
+    Openers desk;
+    desk.Insight.Ask(InsightQuestion::HowFar);
+    QWidget& insight = *WindowNamed("frmInsight");
+    insight.setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    desk.Insight.Ask(InsightQuestion::WhichLoan);
+    QCOMPARE(insight.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized), Qt::WindowMaximized);
+}
+
+QTEST_MAIN(WindowOpenersTest)
+#include "WindowOpenersTest.moc"
