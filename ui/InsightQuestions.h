@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -44,5 +45,12 @@ inline constexpr std::array InsightQuestions{
     QuestionRow{InsightQuestion::Assumed, "What is assumed", 0, ""},
     QuestionRow{InsightQuestion::WhereFrom, "Where does this number come from?", 0, "explain"},
 };
+
+/// The question of a tab of the main window; null if it has none.
+constexpr const QuestionRow* QuestionOfTab(int tab) {
+    const auto found = std::ranges::find_if(
+        InsightQuestions, [tab](const QuestionRow& row) { return tab != 0 && row.Tab == tab; });
+    return found == InsightQuestions.end() ? nullptr : &*found;
+}
 
 } // namespace Ledgrove

@@ -22,9 +22,7 @@ QuestionLink::QuestionLink(QWidget* parent)
 }
 
 void QuestionLink::ShowTab(int tab) {
-    const auto found = std::find_if(InsightQuestions.begin(), InsightQuestions.end(),
-                                    [tab](const QuestionRow& row) { return tab != 0 && row.Tab == tab; });
-    m_row = found == InsightQuestions.end() ? nullptr : &*found;
+    m_row = QuestionOfTab(tab);
     setEnabled(m_row);
     if (m_row)
         setText(QString::fromUtf8(m_row->Words.data(), static_cast<qsizetype>(m_row->Words.size())));

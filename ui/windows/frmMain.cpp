@@ -268,13 +268,9 @@ void frmMain::GoToSource(const QString& control, const QString& key) {
 }
 
 void frmMain::AskInsight() {
-    const int tab = m_session.Screen.SSTab1;
-    InsightQuestion question = InsightQuestions.front().Id;
-    for (const QuestionRow& row : InsightQuestions)
-        if (row.Tab == tab)
-            question = row.Id;
+    const QuestionRow* const row = QuestionOfTab(m_session.Screen.SSTab1);
     if (CommitEntry() && m_actions.Ask)
-        m_actions.Ask(question);
+        m_actions.Ask(row ? row->Id : InsightQuestion::InShort);
 }
 
 void frmMain::GoTo(const QString& control) {

@@ -76,7 +76,7 @@ public:
     /// Goes to where an input is typed, or to the dialog that holds an assumption.
     void GoToSource(const QString& control, const QString& key);
 
-    /// Asks the question of the shown tab, or the first one.
+    /// Asks the question of the shown tab, or "In short" if it has none.
     void AskInsight();
     bool HasInsight() const { return static_cast<bool>(m_actions.Ask); }
 

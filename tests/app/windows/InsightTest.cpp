@@ -27,6 +27,7 @@ class InsightTest : public QObject {
 private slots:
     void aLinkAsksTheTabsQuestion();
     void aLinkHasRoomForEachQuestionInAnyFont();
+    void theCommandAsksTheTabsQuestion();
     void nothingIsComputedWhileItIsClosed();
     void itFollowsEachEntry();
     void whatChangedIsMarkedForAMoment();
@@ -80,6 +81,17 @@ void InsightTest::aLinkHasRoomForEachQuestionInAnyFont() {
             QCOMPARE(link.sizeHint(), room);
         }
         QVERIFY(room.height() >= link.fontMetrics().height());
+    }
+}
+
+void InsightTest::theCommandAsksTheTabsQuestion() {
+    InsightDesk desk;
+    const std::pair<int, InsightQuestion> tabs[] = {{0, InsightQuestion::InShort},
+                                                    {3, InsightQuestion::WhoQualifies}};
+    for (const auto& [tab, question] : tabs) {
+        desk.Open.Find<QTabWidget>("SSTab1").setCurrentIndex(tab);
+        desk.Open.Window->AskInsight();
+        QCOMPARE(desk.Asked.last(), question);
     }
 }
 
