@@ -108,6 +108,7 @@ int ShowWindow(const std::filesystem::path& folder, const StartFile& file) {
                                      Ledgrove::RangePrintAction(session, host, printers)},
                                     QCoreApplication::applicationDirPath());
     actions.Ask = [&insight](Ledgrove::InsightQuestion question) { insight.Ask(question); };
+    actions.ShowInsight = [&insight](Ledgrove::InsightQuestion question) { insight.Show(question); };
     actions.Explain = [&insight](const std::string& label) { insight.Explain(label); };
     Ledgrove::ChangesOpener changes(session, host, questions,
                                     Ledgrove::ChangesPrintAction(session, host, printers),

@@ -74,6 +74,13 @@ bool InsightOpener::Open() {
     return factory;
 }
 
+void InsightOpener::Show(InsightQuestion question) {
+    if (m_window && m_window->isVisible())
+        BringToFront(*m_window);
+    else
+        Ask(question);
+}
+
 void InsightOpener::Ask(InsightQuestion question) {
     if (!Open())
         return;

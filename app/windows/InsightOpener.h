@@ -30,7 +30,10 @@ public:
     /// Connects the main window, whose entries the Insight window follows. It must outlive the object.
     void Follow(frmMain& window);
 
-    /// Opens the window with this question, or brings it to the front. Reports a missing library.
+    /// Brings the open window to the front as it is, or opens it with this question.
+    void Show(InsightQuestion question);
+
+    /// Shows this question in the window, which it opens or brings to the front. Reports a missing library.
     void Ask(InsightQuestion question);
 
     /// Opens the window with the explanation of a label's figure; an empty label gives a usual figure.

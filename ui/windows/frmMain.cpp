@@ -269,8 +269,8 @@ void frmMain::GoToSource(const QString& control, const QString& key) {
 
 void frmMain::AskInsight() {
     const QuestionRow* const row = QuestionOfTab(m_session.Screen.SSTab1);
-    if (CommitEntry() && m_actions.Ask)
-        m_actions.Ask(row ? row->Id : InsightQuestion::InShort);
+    if (CommitEntry() && m_actions.ShowInsight)
+        m_actions.ShowInsight(row ? row->Id : InsightQuestion::InShort);
 }
 
 void frmMain::GoTo(const QString& control) {

@@ -34,6 +34,8 @@ struct MainActions {
     std::function<ChartSource()> Charts; ///< empty: the tabs have no charts
     /// Opens the Insight window with this question; empty: there is none.
     std::function<void(InsightQuestion)> Ask;
+    /// Brings an open Insight window to the front as it is, or opens it with this question.
+    std::function<void(InsightQuestion)> ShowInsight;
     /// Explains the figure of a label there; empty label: a usual figure.
     std::function<void(const std::string& label)> Explain;
     FileQuestions Questions; ///< asks where to save a chart
@@ -76,9 +78,9 @@ public:
     /// Goes to where an input is typed, or to the dialog that holds an assumption.
     void GoToSource(const QString& control, const QString& key);
 
-    /// Asks the question of the shown tab, or "In short" if it has none.
+    /// Shows the Insight window. One that is not open asks the question of the shown tab, or "In short".
     void AskInsight();
-    bool HasInsight() const { return static_cast<bool>(m_actions.Ask); }
+    bool HasInsight() const { return static_cast<bool>(m_actions.ShowInsight); }
 
 public slots:
     /// Takes back the last entry, or brings it again.

@@ -44,6 +44,7 @@ struct InsightDesk {
     MainActions Actions() {
         MainActions actions;
         actions.Ask = [this](InsightQuestion question) { Asked.append(question); };
+        actions.ShowInsight = [this](InsightQuestion question) { Opened.append(question); };
         actions.Explain = [this](const std::string& label) { Explained.append(label); };
         return actions;
     }
@@ -77,6 +78,7 @@ struct InsightDesk {
     QList<std::string> Explained;
     QByteArray Written;
     QList<InsightQuestion> Asked;
+    QList<InsightQuestion> Opened;
     InsightRequest Printed;
     OpenDesktop Open;
     TriedSettings Settings{Open.State};

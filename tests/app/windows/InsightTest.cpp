@@ -91,7 +91,7 @@ void InsightTest::theCommandAsksTheTabsQuestion() {
     for (const auto& [tab, question] : tabs) {
         desk.Open.Find<QTabWidget>("SSTab1").setCurrentIndex(tab);
         desk.Open.Window->AskInsight();
-        QCOMPARE(desk.Asked.last(), question);
+        QCOMPARE(desk.Opened.last(), question);
     }
 }
 

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QComboBox>
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -34,6 +33,7 @@ struct Openers {
     MainActions Actions() {
         MainActions actions;
         actions.Ask = [this](InsightQuestion question) { Insight.Ask(question); };
+        actions.ShowInsight = [this](InsightQuestion question) { Insight.Show(question); };
         actions.Explain = [this](const std::string& label) { Insight.Explain(label); };
         return actions;
     }
@@ -51,6 +51,8 @@ class WindowOpenersTest : public QObject {
 private slots:
     void aMinimisedWindowComesBack();
     void aMaximisedWindowStaysMaximised();
+    void theCommandLeavesAnOpenAnswer();
+    void theCommandAsksAClosedWindow();
 };
 
 void WindowOpenersTest::aMinimisedWindowComesBack() {
@@ -79,6 +81,34 @@ void WindowOpenersTest::aMaximisedWindowStaysMaximised() {
     insight.setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
     desk.Insight.Ask(InsightQuestion::WhichLoan);
     QCOMPARE(insight.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized), Qt::WindowMaximized);
+}
+
+void WindowOpenersTest::theCommandLeavesAnOpenAnswer() {
+    Openers desk;
+    desk.Open.Find<QTabWidget>("SSTab1").setCurrentIndex(4);
+    desk.Insight.Explain("lblGMHPITI");
+    QWidget& insight = *WindowNamed("frmInsight");
+    auto& chain = *insight.findChild<QTreeWidget*>("Chain");
+    chain.topLevelItem(0)->child(0)->setExpanded(true);
+    insight.showMinimized();
+    desk.Open.Window->AskInsight();
+    QVERIFY(!insight.isMinimized());
+    const auto& questions = *insight.findChild<QListWidget*>("Questions");
+    QCOMPARE(questions.currentItem()->text(), "Where does this number come from?");
+    QVERIFY(chain.topLevelItem(0)->child(0)->isExpanded());
+}
+
+void WindowOpenersTest::theCommandAsksAClosedWindow() {
+    Openers desk;
+    desk.Open.Window->AskInsight();
+    QWidget& insight = *WindowNamed("frmInsight");
+    const auto& questions = *insight.findChild<QListWidget*>("Questions");
+    QCOMPARE(questions.currentItem()->text(), "In short");
+    insight.close();
+    desk.Open.Find<QTabWidget>("SSTab1").setCurrentIndex(2);
+    desk.Open.Window->AskInsight();
+    QVERIFY(insight.isVisible());
+    QCOMPARE(questions.currentItem()->text(), "Which loan is best?");
 }
 
 QTEST_MAIN(WindowOpenersTest)
