@@ -24,13 +24,19 @@ EditMenu::EditMenu(frmMain& window)
     RememberField(QApplication::focusWidget());
 }
 
+void EditMenu::Undo() {
+    m_field && m_field->isUndoAvailable() ? m_field->undo() : m_window.Undo();
+}
+
+void EditMenu::Redo() {
+    m_field && m_field->isRedoAvailable() ? m_field->redo() : m_window.Redo();
+}
+
 /// The keys reach the window when the focused field has no typing of its own to undo.
 void EditMenu::AddHistory() {
-    QAction* undo = addAction(
-        "&Undo", this, [this] { m_field && m_field->isUndoAvailable() ? m_field->undo() : m_window.Undo(); });
+    QAction* undo = addAction("&Undo", this, &EditMenu::Undo);
     undo->setShortcut(QKeySequence("Ctrl+Z"));
-    QAction* redo = addAction(
-        "&Redo", this, [this] { m_field && m_field->isRedoAvailable() ? m_field->redo() : m_window.Redo(); });
+    QAction* redo = addAction("&Redo", this, &EditMenu::Redo);
     redo->setShortcut(QKeySequence("Ctrl+Shift+Z"));
     connect(this, &QMenu::aboutToShow, this, [this, undo, redo] {
         undo->setEnabled((m_field && m_field->isUndoAvailable()) || m_window.CanUndo());

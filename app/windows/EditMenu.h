@@ -18,6 +18,10 @@ public:
     /// The menu works on the fields of `window`.
     explicit EditMenu(frmMain& window);
 
+    /// Takes back what was typed in the field, or else the last entry; brings it again.
+    void Undo();
+    void Redo();
+
 private:
     struct Command {
         QString Text;

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <utility>
 
+#include "app/windows/EditMenu.h"
 #include "app/windows/InsightAnswering.h"
 #include "app/windows/ModelsAnswering.h"
 #include "app/windows/TaxLineTip.h"
@@ -50,6 +51,10 @@ InsightContext InsightOpener::Context() {
     };
     context.GoTo = [this](const QString& control, const QString& key) { m_main->GoToSource(control, key); };
     context.Enter = [this](const std::vector<EntryText>& texts) { m_main->Enter(texts); };
+    if (auto* edit = m_main->findChild<EditMenu*>()) {
+        context.Undo = [edit] { edit->Undo(); };
+        context.Redo = [edit] { edit->Redo(); };
+    }
     context.Help = [this] { m_main->OpenHelpAt("ctxInsight"); };
     context.Questions = m_questions;
     context.Write = [this](const QString& file, const QByteArray& content) {

@@ -30,6 +30,9 @@ struct InsightContext {
     std::function<std::vector<EntryText>(const ChartGrid&, std::size_t column, std::size_t row)> CellEntries;
     /// Enters texts into the main window as if they were typed there.
     std::function<void(const std::vector<EntryText>&)> Enter;
+    /// Takes back the last entry of the main window, or brings it again.
+    std::function<void()> Undo;
+    std::function<void()> Redo;
     /// Previews the answers to these questions for printing, with the figure and the year of `ask`.
     std::function<void(const std::vector<InsightQuestion>&, const InsightAsk& ask)> Print;
     ModelsContext Models;

@@ -32,6 +32,8 @@ struct InsightDesk {
         };
         context.GoTo = [this](const QString& control, const QString& key) { WentTo = control + '/' + key; };
         context.Enter = [this](const std::vector<EntryText>& texts) { Open.Window->Enter(texts); };
+        context.Undo = [this] { Open.Window->Undo(); };
+        context.Redo = [this] { Open.Window->Redo(); };
         context.Help = [this] { ++Helps; };
         context.Models =
             MakeModelsContext(committed, [this](const Range& range) { PrintedHouses = range.Rows.size(); });

@@ -53,6 +53,7 @@ private slots:
     void aMaximisedWindowStaysMaximised();
     void theCommandLeavesAnOpenAnswer();
     void theCommandAsksAClosedWindow();
+    void theUndoKeyTakesBackAnEntry();
 };
 
 void WindowOpenersTest::aMinimisedWindowComesBack() {
@@ -109,6 +110,18 @@ void WindowOpenersTest::theCommandAsksAClosedWindow() {
     desk.Open.Window->AskInsight();
     QVERIFY(insight.isVisible());
     QCOMPARE(questions.currentItem()->text(), "Which loan is best?");
+}
+
+void WindowOpenersTest::theUndoKeyTakesBackAnEntry() {
+    Openers desk;
+    desk.Open.Enter("ecStdHome", "205000");
+    desk.Insight.Ask(InsightQuestion::HowFar);
+    QWidget& insight = *WindowNamed("frmInsight");
+    QVERIFY(QTest::qWaitForWindowActive(&insight));
+    QTest::keyClick(insight.focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.Open.FieldText("ecStdHome"), "$200,000");
+    QTest::keyClick(insight.focusWidget(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(desk.Open.FieldText("ecStdHome"), "$205,000");
 }
 
 QTEST_MAIN(WindowOpenersTest)

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -61,6 +62,14 @@ frmInsight::frmInsight(InsightContext context)
     m_highlight.setInterval(highlightMilliseconds);
     new FormGuard(*this, WheelChanges::Focused);
     connect(&m_highlight, &QTimer::timeout, this, [this] { m_sentence->setAutoFillBackground(false); });
+    AddKeys("Ctrl+Z", m_context.Undo);
+    AddKeys("Ctrl+Shift+Z", m_context.Redo);
+}
+
+/// A field that has typing to undo takes the keys first.
+void frmInsight::AddKeys(const char* keys, const std::function<void()>& act) {
+    if (act)
+        connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this, act);
 }
 
 QWidget* frmInsight::MakeQuestions() {

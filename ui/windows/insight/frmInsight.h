@@ -46,6 +46,7 @@ private:
     QWidget* MakeSettings();
     void ChooseYear(int year);
     QWidget* MakeButtons();
+    void AddKeys(const char* keys, const std::function<void()>& act);
     QPushButton* AddButton(QLayout& row, const char* control, const QString& caption);
     void ShowAnswer();
     void MarkSentence();
