@@ -6,17 +6,10 @@
 #include <optional>
 
 #include "ui/ChartFigures.h"
+#include "ui/windows/insight/MapPainter.h"
 
 // Paints the pictures of the Insight window as vectors: on the screen, into a file and on paper.
 namespace Ledgrove {
-
-/// A cell of the map: the index of its price difference and that of its saving.
-struct MapCell {
-    int Column = 0;
-    int Row = 0;
-
-    bool operator==(const MapCell&) const = default;
-};
 
 /// Paints the chart into the rectangle, with the painter's font and the palette's text colour, on its window
 /// colour. The chart is a

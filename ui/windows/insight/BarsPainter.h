@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QPainter>
+#include <QPalette>
+#include <QRectF>
+
+#include "ui/ChartFigures.h"
+
+namespace Ledgrove {
+
+/// Paints the bars of what moves the result into the rectangle, with the painter's font and the palette's
+/// text colour.
+void PaintBars(QPainter& painter, const QRectF& place, const ChartFigures& chart, const QPalette& palette);
+
+} // namespace Ledgrove
