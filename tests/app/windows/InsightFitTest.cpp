@@ -8,6 +8,7 @@
 
 #include "InsightDesk.h"
 #include "tests/ui/windows/FitTest.h"
+#include "tests/ui/windows/PaintedTexts.h"
 #include "ui/windows/insight/AnswerPicture.h"
 
 using namespace Ledgrove;
@@ -63,6 +64,8 @@ private slots:
     void theListOfHousesFits();
     void theButtonsStayInView();
     void aQuestionStartsAtItsTop();
+    void eachBarHasALineForItsName();
+    void aTableShowsAFewRows();
     void noWordIsCut();
     void aComplaintFits();
     void everyAnswerIsReachedByTab();
@@ -125,6 +128,39 @@ void InsightFitTest::aQuestionStartsAtItsTop() {
     desk.Window->Ask(InsightQuestion::Sale);
     Settle();
     QCOMPARE(bar.value(), 0);
+}
+
+void InsightFitTest::eachBarHasALineForItsName() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::WhatMatters);
+    Settle();
+    const auto& picture = desk.Find<AnswerPicture>("AnswerPicture");
+    const auto texts = PaintedTexts(picture.Shown(), picture.size(), picture.font());
+    QList<double> lines;
+    for (const std::string& name : picture.Shown().Categories)
+        for (const PaintedText& text : texts)
+            if (text.Words == QString::fromStdString(name))
+                lines.append(text.At.y());
+    QCOMPARE(lines.size(), static_cast<qsizetype>(picture.Shown().Categories.size()));
+    // A coordinate may be rounded to the next pixel.
+    for (qsizetype row = 1; row < lines.size(); ++row)
+        QVERIFY2(lines[row] - lines[row - 1] >= picture.fontMetrics().height() - 1,
+                 qPrintable(QString::number(lines[row] - lines[row - 1])));
+}
+
+void InsightFitTest::aTableShowsAFewRows() {
+    InsightDesk desk;
+    constexpr int few = 5;
+    for (const InsightQuestion question :
+         {InsightQuestion::WhatMatters, InsightQuestion::PriceAndSavings, InsightQuestion::HowFar}) {
+        desk.Show(question);
+        Settle();
+        const auto& table = desk.Find<SheetView>("AnswerTable");
+        const int last = std::min(few, table.model()->rowCount()) - 1;
+        const QRect row = table.visualRect(table.model()->index(last, 0));
+        QVERIFY2(row.bottom() < table.viewport()->height(),
+                 qPrintable(QString("%1 of %2").arg(row.bottom()).arg(table.viewport()->height())));
+    }
 }
 
 void InsightFitTest::noWordIsCut() {

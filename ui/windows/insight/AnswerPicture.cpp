@@ -10,6 +10,7 @@
 #include <QSvgGenerator>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "ui/windows/Identify.h"
@@ -106,8 +107,8 @@ QSize AnswerPicture::sizeHint() const {
 }
 
 QSize AnswerPicture::minimumSizeHint() const {
-    const bool isMap = m_chart.Kind == ChartKind::NetMap;
-    return {fontMetrics().averageCharWidth() * 36, fontMetrics().height() * (isMap ? 14 : 11)};
+    const double height = LeastPictureHeight(m_chart, QFontMetricsF(font()));
+    return {fontMetrics().averageCharWidth() * 36, static_cast<int>(std::ceil(height))};
 }
 
 bool AnswerPicture::event(QEvent* event) {

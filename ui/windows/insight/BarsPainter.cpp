@@ -14,6 +14,10 @@ namespace {
 const QColor lowFill(0x2f, 0x6f, 0x83);
 const QColor highFill(0xff, 0xc8, 0x57);
 
+// In lines of text.
+constexpr double legendHeight = 1.6;
+constexpr double scaleHeight = 2.6;
+
 QString Words(const std::string& text) {
     return QString::fromStdString(text);
 }
@@ -31,7 +35,7 @@ public:
             captions = std::max(captions, m_metrics.horizontalAdvance(Words(caption)));
         captions = std::min(captions, place.width() * 0.4);
         const double line = m_metrics.height();
-        m_plot = place.adjusted(captions + line, line * 1.6, -line, -line * 2.6);
+        m_plot = place.adjusted(captions + line, line * legendHeight, -line, -line * scaleHeight);
         m_place = place;
     }
 
@@ -131,6 +135,10 @@ private:
 
 void PaintBars(QPainter& painter, const QRectF& place, const ChartFigures& chart, const QPalette& palette) {
     BarsPainter(painter, place, chart, palette).Paint();
+}
+
+double LeastBarsHeight(const ChartFigures& chart, const QFontMetricsF& metrics) {
+    return metrics.height() * (static_cast<double>(chart.Categories.size()) + legendHeight + scaleHeight);
 }
 
 } // namespace Ledgrove

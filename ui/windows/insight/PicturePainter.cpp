@@ -49,6 +49,16 @@ void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& ch
         PaintBars(painter, below, chart, palette);
 }
 
+double LeastPictureHeight(const ChartFigures& chart, const QFontMetricsF& metrics) {
+    constexpr double mapLines = 14, otherLines = 11;
+    if (chart.Kind == ChartKind::NetMap)
+        return metrics.height() * mapLines;
+    const double least = metrics.height() * otherLines;
+    if (chart.Kind != ChartKind::Sensitivity)
+        return least;
+    return std::max(least, TitleHeight(metrics) + LeastBarsHeight(chart, metrics));
+}
+
 std::optional<MapCell> MapCellAt(const QRectF& place, const QFontMetricsF& metrics, const ChartFigures& chart,
                                  const QPointF& point) {
     const QRectF plot = MapPlot(place.adjusted(0, TitleHeight(metrics), 0, 0), metrics);

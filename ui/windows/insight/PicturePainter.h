@@ -17,6 +17,9 @@ namespace Ledgrove {
 void PaintPicture(QPainter& painter, const QRectF& place, const ChartFigures& chart, const QPalette& palette,
                   const std::optional<MapCell>& cursor = {});
 
+/// The least height with which the chart can be read.
+double LeastPictureHeight(const ChartFigures& chart, const QFontMetricsF& metrics);
+
 /// The cell of a map painted into this rectangle at this point; empty beside the cells.
 std::optional<MapCell> MapCellAt(const QRectF& place, const QFontMetricsF& metrics, const ChartFigures& chart,
                                  const QPointF& point);

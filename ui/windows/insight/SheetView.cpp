@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QSortFilterProxyModel>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -84,11 +85,12 @@ void SheetView::FitColumns() {
     const bool isLong = m_sorted->rowCount() > mostMeasured;
     setWordWrap(!isLong);
     if (isLong) {
-        verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
-        return;
+        verticalHeader()->setDefaultSectionSize(LineHeight());
+    } else {
+        BreakWords();
+        resizeRowsToContents();
     }
-    BreakWords();
-    resizeRowsToContents();
+    updateGeometry();
 }
 
 /// The columns of words share the room that the others leave.
@@ -163,8 +165,18 @@ QSize SheetView::sizeHint() const {
     return {horizontalHeader()->length() + 2 * frameWidth(), rows};
 }
 
+int SheetView::LineHeight() const {
+    return fontMetrics().height() + 4;
+}
+
+/// Room for a few rows, or for all if there are fewer.
 QSize SheetView::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 7};
+    constexpr int leastRows = 5;
+    const int rows = std::min(verticalHeader()->length(), leastRows * LineHeight());
+    const bool scrolls = horizontalHeader()->length() > viewport()->width();
+    const int bar = scrolls ? horizontalScrollBar()->sizeHint().height() : 0;
+    return {fontMetrics().averageCharWidth() * 30,
+            horizontalHeader()->sizeHint().height() + rows + bar + 2 * frameWidth()};
 }
 
 void SheetView::keyPressEvent(QKeyEvent* event) {

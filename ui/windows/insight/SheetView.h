@@ -42,6 +42,7 @@ protected:
 
 private:
     void BreakWords();
+    int LineHeight() const; ///< of a row of one line
     int WidestWord(int column) const;
 
     SheetModel& m_model;
