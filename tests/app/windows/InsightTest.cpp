@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <memory>
 
 #include "InsightDesk.h"
@@ -46,6 +47,7 @@ private slots:
     void aCellOfTheMapIsEntered();
     void picturesAreSaved();
     void aFigureLeadsToWhatWasTyped();
+    void theChainCutsNoText();
     void aLeafLeadsToItsField();
     void figuresAreAskedFromTheTabs();
     void keysCloseAndHelp();
@@ -348,6 +350,35 @@ void InsightTest::aFigureLeadsToWhatWasTyped() {
     QVERIFY(tree.topLevelItem(0)->child(0)->isExpanded() ||
             tree.topLevelItem(0)->child(0)->childCount() == 0);
     QVERIFY(tree.topLevelItem(0)->text(1) != value);
+}
+
+void InsightTest::theChainCutsNoText() {
+    InsightDesk desk;
+    desk.Window->show();
+    desk.Window->Explain("lblGMHPITI");
+    auto& tree = desk.Find<QTreeWidget>("Chain");
+    const auto cut = [&tree] {
+        for (QTreeWidgetItemIterator line(&tree); *line; ++line)
+            for (int column = 1; column < tree.columnCount(); ++column)
+                if (tree.fontMetrics().horizontalAdvance((*line)->text(column)) > tree.columnWidth(column))
+                    return (*line)->text(column);
+        return QString();
+    };
+    QCOMPARE(cut(), "");
+    for (QTreeWidgetItemIterator line(&tree); *line; ++line)
+        (*line)->setExpanded(true);
+    // The texts say why a rule holds only where one decides.
+    int reasons = 0;
+    for (QTreeWidgetItemIterator line(&tree); *line; ++line)
+        reasons += (*line)->text(4).isEmpty() ? 0 : 1;
+    QVERIFY(reasons > 0);
+    QCOMPARE(cut(), "");
+    desk.Window->resize(desk.Window->minimumSizeHint());
+    QCOMPARE(cut(), "");
+    // In a wide window the last column reaches the edge.
+    desk.Window->resize(4000, 600);
+    QCOMPARE(cut(), "");
+    QCOMPARE(tree.header()->length(), tree.viewport()->width());
 }
 
 void InsightTest::aLeafLeadsToItsField() {

@@ -54,7 +54,6 @@ ChainView::ChainView(QWidget* parent)
             [this](int row) { emit FigureChosen(m_list->itemData(row).toString()); });
     Identify(*m_tree, "Chain", "How the figure is calculated");
     m_tree->setHeaderLabels({"Figure", "Value", "Formula", "With Numbers", "Why"});
-    m_tree->header()->setStretchLastSection(true);
     m_tree->setAlternatingRowColors(true);
     m_tree->setExpandsOnDoubleClick(false);
     connect(m_tree, &QTreeWidget::itemExpanded, this, &ChainView::Expand);
@@ -101,8 +100,20 @@ void ChainView::Show(const Explanation& chain, const std::string& figure) {
     for (QTreeWidgetItemIterator line(m_tree); *line; ++line)
         if (open.contains(PathOf(*line)))
             (*line)->setExpanded(true);
-    for (int at : {Caption, Value, Formula, Numbers})
+    FitColumns();
+}
+
+/// The tree scrolls sideways rather than cut a text. The last column takes the room that is left.
+void ChainView::FitColumns() {
+    m_tree->header()->setStretchLastSection(false);
+    for (int at = Caption; at <= Why; ++at)
         m_tree->resizeColumnToContents(at);
+    m_tree->header()->setStretchLastSection(m_tree->header()->length() < m_tree->viewport()->width());
+}
+
+void ChainView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    FitColumns();
 }
 
 QTreeWidgetItem* ChainView::MakeLine(const ExplainedFigure& figure) const {
@@ -123,15 +134,14 @@ QTreeWidgetItem* ChainView::MakeLine(const ExplainedFigure& figure) const {
 }
 
 /// Lines come when their branch is opened: the same figure stands in many branches.
-void ChainView::Expand(QTreeWidgetItem* line) const {
+void ChainView::Expand(QTreeWidgetItem* line) {
     const ExplainedFigure* const figure = Find(line->data(Caption, nameRole).toString());
     if (!figure || line->childCount() > 0)
         return;
     for (const std::string& name : figure->Values)
         if (const ExplainedFigure* const part = Find(Words(name)))
             line->addChild(MakeLine(*part));
-    for (int at : {Caption, Value})
-        m_tree->resizeColumnToContents(at);
+    FitColumns();
 }
 
 void ChainView::Activate(QTreeWidgetItem* line) {

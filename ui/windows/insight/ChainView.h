@@ -28,11 +28,15 @@ signals:
     /// A double click on what was typed or assumed.
     void LeafChosen(const QString& control, const QString& key);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     const ExplainedFigure* Find(const QString& figure) const;
     void FillList(const std::string& chosen);
     QTreeWidgetItem* MakeLine(const ExplainedFigure& figure) const;
-    void Expand(QTreeWidgetItem* line) const;
+    void Expand(QTreeWidgetItem* line);
+    void FitColumns();
     void Activate(QTreeWidgetItem* line);
 
     Explanation m_chain;
