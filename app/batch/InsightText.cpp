@@ -123,4 +123,10 @@ void AppendSheetText(std::string& out, const Sheet& sheet) {
         AppendWrapped(out += '\n', sheet.Note);
 }
 
+std::string SheetText(const Sheet& sheet) {
+    std::string text;
+    AppendSheetText(text, sheet);
+    return text;
+}
+
 } // namespace Ledgrove

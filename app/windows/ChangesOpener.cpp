@@ -3,6 +3,7 @@
 #include <QPluginLoader>
 #include <utility>
 
+#include "app/batch/InsightText.h"
 #include "ui/windows/BringToFront.h"
 #include "ui/windows/InsightWindow.h"
 #include "ui/windows/SafeFile.h"
@@ -36,6 +37,7 @@ ChangesContext MakeChangesContext(const ChangesSource& source, ChangesPrinter pr
     context.Print = [source, print = std::move(print)](const ChangesAsk& ask) {
         print(source.List.Answer(ask));
     };
+    context.Text = &SheetText;
     context.Questions = source.Questions;
     context.Write = [source](const QString& file, const QByteArray& content) {
         Report(source.Outside, WriteWholeFile(file, content).toStdString());

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/batch/InsightText.h"
 #include "app/files/SheetCsv.h"
 #include "ui/InsightCharts.h"
 
@@ -31,6 +32,7 @@ void ConnectAnswers(InsightContext& context, const AnswerSource& source, Insight
         request.Year = ask.Year;
         print(request);
     };
+    context.Text = &SheetText;
     context.Csv = &SheetCsv;
 }
 

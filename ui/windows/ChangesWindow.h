@@ -41,6 +41,8 @@ struct ChangesContext {
     /// Previews the answer for printing.
     std::function<void(const ChangesAsk&)> Print;
     std::function<void()> Help;
+    /// A part of the answer as lines of text: its sentence, then its table in aligned columns.
+    std::function<std::string(const Sheet&)> Text;
     FileQuestions Questions; ///< asks where to save the picture
     /// Replaces a whole file; reports a fault to the user.
     std::function<void(const QString& file, const QByteArray& content)> Write;

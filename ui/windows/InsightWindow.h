@@ -38,6 +38,8 @@ struct InsightContext {
     ModelsContext Models;
     std::function<void()> Help;
     FileQuestions Questions; ///< asks where to save a picture or a table
+    /// The answer as lines of text: its sentence, then its table in aligned columns.
+    std::function<std::string(const Sheet&)> Text;
     /// The table as a CSV file.
     std::function<std::string(const Sheet&)> Csv;
     /// Replaces a whole file; reports a fault to the user.

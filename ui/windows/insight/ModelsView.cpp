@@ -1,7 +1,5 @@
 #include "ui/windows/insight/ModelsView.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QProgressBar>
@@ -102,8 +100,8 @@ QWidget* ModelsView::MakeButtons() {
     QPushButton* help = add("bHelpModels", "&Help");
     m_needsList = {print, copy, save};
     auto* menu = new QMenu(copy);
-    menu->addAction("As &Text", this, [this] { Copy(&SheetAsText); });
-    menu->addAction("As &Spreadsheet Range", this, [this] { Copy(&SheetAsRange); });
+    menu->addAction("As &Text", this, &ModelsView::CopyTextAsked);
+    menu->addAction("As &Spreadsheet Range", this, &ModelsView::CopyRangeAsked);
     copy->setMenu(menu);
     connect(m_use, &QPushButton::clicked, this, &ModelsView::EnterHouse);
     connect(print, &QPushButton::clicked, this, [this] { m_context.Print(); });
@@ -178,10 +176,6 @@ void ModelsView::EnterHouse() {
     const std::vector<EntryText> entries = m_model.EntriesAt(m_table->CurrentCell());
     if (!entries.empty())
         m_enter(entries);
-}
-
-void ModelsView::Copy(QString (*form)(const Sheet&)) {
-    QGuiApplication::clipboard()->setText(form(m_sheet));
 }
 
 } // namespace Ledgrove

@@ -38,6 +38,8 @@ public:
 signals:
     void HelpAsked();
     void ExportAsked();
+    void CopyTextAsked();
+    void CopyRangeAsked();
 
 private:
     QLayout* MakeHead();
@@ -48,7 +50,6 @@ private:
     void Stop();
     void OfferHouse();
     void EnterHouse();
-    void Copy(QString (*form)(const Sheet&));
 
     ModelsContext m_context;
     std::function<void(const std::vector<EntryText>&)> m_enter;

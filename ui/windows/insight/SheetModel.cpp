@@ -39,19 +39,6 @@ QString NumberText(double number) {
     return QString::number(number, 'f', QLocale::FloatingPointShortest);
 }
 
-QList<QStringList> LinesOf(const Sheet& sheet) {
-    QList<QStringList> lines;
-    QStringList& heads = lines.emplaceBack();
-    for (const std::string& head : sheet.Heads)
-        heads += Words(head);
-    for (const auto& row : sheet.Rows) {
-        QStringList& line = lines.emplaceBack();
-        for (const SheetCell& cell : row)
-            line += MarkedText(cell);
-    }
-    return lines;
-}
-
 } // namespace
 
 QString MarkedText(const SheetCell& cell) {
@@ -81,27 +68,6 @@ QString LegendOf(const Sheet& sheet) {
 QColor ChangedColour(const QPalette& palette) {
     const bool isDark = palette.color(QPalette::Base).lightness() < 128;
     return isDark ? QColor(0x5c, 0x4d, 0x14) : QColor(0xff, 0xf2, 0xb8);
-}
-
-QString SheetAsText(const Sheet& sheet) {
-    const QList<QStringList> lines = LinesOf(sheet);
-    QList<qsizetype> widths(lines.front().size(), 0);
-    for (const QStringList& line : lines) {
-        for (qsizetype i = 0; i < line.size(); ++i)
-            widths[i] = std::max(widths[i], line[i].size());
-    }
-    QString text = Words(sheet.Sentence) + "\n\n";
-    for (const QStringList& line : lines) {
-        QString shown;
-        for (qsizetype i = 0; i < line.size(); ++i)
-            shown += i == 0 ? line[i].leftJustified(widths[i]) : "  " + line[i].rightJustified(widths[i]);
-        while (shown.endsWith(' '))
-            shown.chop(1);
-        text += shown + '\n';
-    }
-    if (const QString legend = LegendOf(sheet); !legend.isEmpty())
-        text += legend + '\n';
-    return sheet.Note.empty() ? text : text + '\n' + Words(sheet.Note) + '\n';
 }
 
 QString SheetAsRange(const Sheet& sheet) {

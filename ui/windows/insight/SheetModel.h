@@ -20,9 +20,6 @@ QString LegendOf(const Sheet& sheet);
 /// The ground of what has just changed, with this palette.
 QColor ChangedColour(const QPalette& palette);
 
-/// The whole sheet as aligned lines of text, with its sentence.
-QString SheetAsText(const Sheet& sheet);
-
 /// The table as a spreadsheet takes it from the clipboard: tabs between the cells, numbers without signs.
 QString SheetAsRange(const Sheet& sheet);
 

@@ -214,8 +214,9 @@ QWidget* frmChanges::MakeButtons() {
     m_print = AddButton(*row, "bPrint", "&Print…");
     m_copy = AddButton(*row, "bCopy", "&Copy");
     auto* menu = new QMenu(m_copy);
-    menu->addAction("As &Text", this, [this] { Copy(&SheetAsText); });
-    menu->addAction("As &Spreadsheet Range", this, [this] { Copy(&SheetAsRange); });
+    menu->addAction("As &Text", this, [this] { Copy(m_context.Text); });
+    menu->addAction("As &Spreadsheet Range", this,
+                    [this] { Copy([](const Sheet& sheet) { return SheetAsRange(sheet).toStdString(); }); });
     m_copy->setMenu(menu);
     m_save = AddButton(*row, "bSavePicture", "&Save Picture…");
     QPushButton* help = AddButton(*row, "bHelp", "&Help");
@@ -315,11 +316,11 @@ void frmChanges::OfferCommands(const ChangesAnswer& answer) {
     m_save->setEnabled(answer.Picture.has_value());
 }
 
-void frmChanges::Copy(QString (*form)(const Sheet&)) {
+void frmChanges::Copy(const std::function<std::string(const Sheet&)>& form) {
     QString text = Words(m_answer.Sentence) + '\n';
     for (const Sheet* sheet : {&m_answer.Inputs, &m_answer.Figures, &m_answer.Parts}) {
         if (!sheet->Rows.empty())
-            text += '\n' + Words(sheet->Title) + '\n' + form(*sheet);
+            text += '\n' + Words(sheet->Title) + '\n' + Words(form(*sheet));
     }
     QGuiApplication::clipboard()->setText(text);
 }

@@ -43,7 +43,7 @@ private:
     void ShowParts(const ChangesAnswer& answer);
     void ChooseFigure();
     void OfferCommands(const ChangesAnswer& answer);
-    void Copy(QString (*form)(const Sheet&));
+    void Copy(const std::function<std::string(const Sheet&)>& form);
     void SavePicture();
     void GiveNaturalSize();
     void FitTables();

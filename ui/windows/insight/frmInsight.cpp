@@ -112,6 +112,8 @@ QWidget* frmInsight::MakeModels() {
     m_models = new ModelsView(m_context.Models,
                               [this](const std::vector<EntryText>& texts) { m_context.Enter(texts); });
     connect(m_models, &ModelsView::HelpAsked, this, [this] { m_context.Help(); });
+    connect(m_models, &ModelsView::CopyTextAsked, this, [this] { CopyText(m_models->Shown()); });
+    connect(m_models, &ModelsView::CopyRangeAsked, this, [this] { CopyRange(m_models->Shown()); });
     connect(m_models, &ModelsView::ExportAsked, this, [this] { ExportTable(m_models->Shown()); });
     return m_models;
 }
@@ -212,8 +214,8 @@ QWidget* frmInsight::MakeButtons() {
     m_print->setMenu(pages);
     m_copy = AddButton(*row, "bCopy", "&Copy");
     auto* menu = new QMenu(m_copy);
-    menu->addAction("As &Text", this, [this] { Copy(&SheetAsText); });
-    menu->addAction("As &Spreadsheet Range", this, [this] { Copy(&SheetAsRange); });
+    menu->addAction("As &Text", this, [this] { CopyText(m_sheet); });
+    menu->addAction("As &Spreadsheet Range", this, [this] { CopyRange(m_sheet); });
     m_copy->setMenu(menu);
     m_export = AddButton(*row, "bExport", "&Export CSV…");
     m_save = AddButton(*row, "bSavePicture", "&Save Picture…");
@@ -322,8 +324,12 @@ void frmInsight::ChooseMapCell(std::size_t column, std::size_t row) {
         m_context.Enter(entries);
 }
 
-void frmInsight::Copy(QString (*form)(const Sheet&)) {
-    QGuiApplication::clipboard()->setText(form(m_sheet));
+void frmInsight::CopyText(const Sheet& sheet) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(m_context.Text(sheet)));
+}
+
+void frmInsight::CopyRange(const Sheet& sheet) {
+    QGuiApplication::clipboard()->setText(SheetAsRange(sheet));
 }
 
 void frmInsight::Print(const std::vector<InsightQuestion>& questions) {

@@ -53,7 +53,8 @@ private:
     void OfferEntry();
     void EnterCell();
     void ChooseMapCell(std::size_t column, std::size_t row);
-    void Copy(QString (*form)(const Sheet&));
+    void CopyText(const Sheet& sheet);
+    void CopyRange(const Sheet& sheet);
     void Print(const std::vector<InsightQuestion>& questions);
     void ExportTable(const Sheet& sheet);
     void SavePicture();
