@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "InsightDesk.h"
+#include "ui/windows/insight/SheetRange.h"
 
 using namespace Ledgrove;
 
@@ -18,6 +19,7 @@ QStringList Copied(InsightDesk& desk, const char* button, int command) {
 }
 
 constexpr int asText = 0;
+constexpr int asRange = 1;
 
 void ShowModels(InsightDesk& desk) {
     desk.Window->show();
@@ -44,6 +46,12 @@ private slots:
     void aTextBeginsWithTheSentence();
     void wordsAreWrappedAndOnTheLeft();
     void theHousesWordsAreOnTheLeft();
+    void aRangeHasNumbersOfOneUnit();
+    void aRangeHasNoDigitsOfSinglePrecision();
+    void numbersOfTextsLoseTheirSigns_data();
+    void numbersOfTextsLoseTheirSigns();
+    void numbersKeepTheirDigits_data();
+    void numbersKeepTheirDigits();
 };
 
 void InsightCopyTest::aTextBeginsWithTheSentence() {
@@ -82,6 +90,92 @@ void InsightCopyTest::theHousesWordsAreOnTheLeft() {
     const QString house = LineWith(lines, houses.index(0, 0).data().toString());
     QVERIFY2(house.mid(options).startsWith(houses.index(0, 1).data().toString()), qPrintable(house));
     QVERIFY2(house.mid(qualifies).startsWith(houses.index(0, 2).data().toString()), qPrintable(house));
+}
+
+void InsightCopyTest::aRangeHasNumbersOfOneUnit() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::HowFar);
+    const QStringList lines = Copied(desk, "bCopy", asRange);
+    QCOMPARE(lines.first(), "GREENMARK Home\tNow\tPays Up To\tChange");
+    const QStringList price = lines[1].split('\t');
+    QCOMPARE(price[1], "206000");
+    QCOMPARE(price[2].toInt() - price[1].toInt(), price[3].toInt());
+    const QStringList rate = LineWith(lines, "Interest rate").split('\t');
+    QCOMPARE(rate[1], "6.5");
+    // The steps of the rate are eighths, which have no rounding.
+    QCOMPARE(rate[2].toDouble() - rate[1].toDouble(), rate[3].toDouble());
+    QCOMPARE(LineWith(lines, "Share of the savings").section('\t', 1, 1), "100");
+}
+
+void InsightCopyTest::aRangeHasNoDigitsOfSinglePrecision() {
+    InsightDesk desk;
+    desk.Window->show();
+    desk.Window->Explain("lblGMHPITI");
+    const QStringList lines = Copied(desk, "bCopy", asRange);
+    constexpr int value = 4;
+    QCOMPARE(LineWith(lines, "Interest Rate, GREENMARK Home").section('\t', value, value), "6.5");
+}
+
+void InsightCopyTest::numbersOfTextsLoseTheirSigns_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("number");
+    for (const auto& [text, number] :
+         std::initializer_list<std::pair<const char*, const char*>>{{"$206,000", "206000"},
+                                                                    {"-$12", "-12"},
+                                                                    {"+$1,234.50", "1234.5"},
+                                                                    {"6.500%", "6.5"},
+                                                                    {"10.00%", "10"},
+                                                                    {"30 years", "30"},
+                                                                    {"0", "0"},
+                                                                    {"6.500%, 6.500%", "6.500%, 6.500%"},
+                                                                    {"none", "none"},
+                                                                    {"$1,23", "$1,23"},
+                                                                    {"", ""}})
+        QTest::newRow(text) << text << number;
+}
+
+void InsightCopyTest::numbersOfTextsLoseTheirSigns() {
+    QFETCH(QString, text);
+    QFETCH(QString, number);
+    Sheet sheet;
+    sheet.Heads = {"What", "Now", "In Words"};
+    sheet.Words = {2};
+    const std::string cell = text.toStdString();
+    sheet.Rows = {{TextCell(cell), TextCell(cell), TextCell(cell)}};
+    const QString row = QStringList({text, number, text}).join('\t');
+    QCOMPARE(SheetAsRange(sheet), "What\tNow\tIn Words\n" + row + '\n');
+}
+
+void InsightCopyTest::numbersKeepTheirDigits_data() {
+    QTest::addColumn<double>("number");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QString>("text");
+    constexpr int dollars = static_cast<int>(CellUnit::Dollars);
+    constexpr int percent = static_cast<int>(CellUnit::Percent);
+    // Fractions that were stored in single precision.
+    QTest::newRow("6.5 %") << static_cast<double>(0.065F) * 100 << percent << "6.5";
+    QTest::newRow("7 %") << static_cast<double>(0.07F) * 100 << percent << "7";
+    QTest::newRow("0.46 %") << static_cast<double>(0.0046F) * 100 << percent << "0.46";
+    QTest::newRow("-28 %") << static_cast<double>(-0.28F) * 100 << percent << "-28";
+    QTest::newRow("amount") << static_cast<double>(1175.65F) << dollars << "1175.65";
+    // A product of one with a whole number.
+    QTest::newRow("insurance") << static_cast<double>(0.0065F) * 200000 << dollars << "1300";
+    QTest::newRow("share") << 77.5 << percent << "77.5";
+    // Single precision would hold neither the cents nor the last dollars.
+    QTest::newRow("cents") << 250000.37 << dollars << "250000.37";
+    QTest::newRow("large") << 123456789.0 << dollars << "123456789";
+    QTest::newRow("small") << static_cast<double>(0.0000125F) << dollars << "0.0000125";
+    QTest::newRow("nothing") << -0.0 << dollars << "0";
+}
+
+void InsightCopyTest::numbersKeepTheirDigits() {
+    QFETCH(double, number);
+    QFETCH(int, unit);
+    QFETCH(QString, text);
+    Sheet sheet;
+    sheet.Heads = {"What", "Number"};
+    sheet.Rows = {{TextCell("a"), {"shown", number, static_cast<CellUnit>(unit)}}};
+    QCOMPARE(SheetAsRange(sheet), "What\tNumber\na\t" + text + '\n');
 }
 
 QTEST_MAIN(InsightCopyTest)

@@ -42,7 +42,7 @@ private slots:
     void aRefusedTextIsNoStepOfUndo();
     void tablesAreSortedAndRestored();
     void tablesAreSpokenWithRowAndColumn();
-    void tablesAreCopied();
+    void cellsAreCopied();
     void theMapsCellsAreReachedByKeys();
     void aCellOfTheMapIsEntered();
     void picturesAreSaved();
@@ -259,14 +259,9 @@ void InsightTest::tablesAreSpokenWithRowAndColumn() {
     QCOMPARE(bill.data(Qt::AccessibleTextRole).toString(), "Annual utility cost, Now: $1,700");
 }
 
-void InsightTest::tablesAreCopied() {
+void InsightTest::cellsAreCopied() {
     InsightDesk desk;
     desk.Show(InsightQuestion::HowFar);
-    const Sheet sheet = AnswerOf({InsightQuestion::HowFar}, desk.Open.State).Table;
-    const QStringList lines = SheetAsRange(sheet).split('\n');
-    QCOMPARE(lines.first(), "GREENMARK Home\tNow\tPays Up To\tChange");
-    // Numbers without signs, so that a spreadsheet can calculate with them.
-    QVERIFY2(lines[1].section('\t', 2, 2).toInt() > 206000, qPrintable(lines[1]));
     auto& view = desk.Find<SheetView>("AnswerTable");
     view.setCurrentIndex(desk.Table().index(0, 1));
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);

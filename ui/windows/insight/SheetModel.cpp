@@ -35,10 +35,6 @@ QString MarkInWords(CellMark mark) {
     return {};
 }
 
-QString NumberText(double number) {
-    return QString::number(number, 'f', QLocale::FloatingPointShortest);
-}
-
 } // namespace
 
 QString MarkedText(const SheetCell& cell) {
@@ -68,21 +64,6 @@ QString LegendOf(const Sheet& sheet) {
 QColor ChangedColour(const QPalette& palette) {
     const bool isDark = palette.color(QPalette::Base).lightness() < 128;
     return isDark ? QColor(0x5c, 0x4d, 0x14) : QColor(0xff, 0xf2, 0xb8);
-}
-
-QString SheetAsRange(const Sheet& sheet) {
-    QString text;
-    QStringList heads;
-    for (const std::string& head : sheet.Heads)
-        heads += Words(head);
-    text += heads.join('\t') + '\n';
-    for (const auto& row : sheet.Rows) {
-        QStringList cells;
-        for (const SheetCell& cell : row)
-            cells += cell.Number ? NumberText(*cell.Number) : Words(cell.Text);
-        text += cells.join('\t') + '\n';
-    }
-    return text;
 }
 
 SheetModel::SheetModel(QObject* parent)

@@ -20,9 +20,6 @@ QString LegendOf(const Sheet& sheet);
 /// The ground of what has just changed, with this palette.
 QColor ChangedColour(const QPalette& palette);
 
-/// The table as a spreadsheet takes it from the clipboard: tabs between the cells, numbers without signs.
-QString SheetAsRange(const Sheet& sheet);
-
 /// A sheet as a table for views and screen readers. Cells that a new sheet changes are marked for a moment.
 class SheetModel : public QAbstractTableModel {
     Q_OBJECT

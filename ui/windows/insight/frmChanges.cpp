@@ -20,6 +20,7 @@
 #include "ui/windows/insight/AnswerPicture.h"
 #include "ui/windows/insight/ChangesSides.h"
 #include "ui/windows/insight/FlowLayout.h"
+#include "ui/windows/insight/SheetRange.h"
 #include "ui/windows/insight/SheetView.h"
 
 namespace Ledgrove {

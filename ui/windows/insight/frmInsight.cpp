@@ -26,6 +26,7 @@
 #include "ui/windows/insight/FlowLayout.h"
 #include "ui/windows/insight/ModelsView.h"
 #include "ui/windows/insight/SettingsPanel.h"
+#include "ui/windows/insight/SheetRange.h"
 #include "ui/windows/insight/SheetView.h"
 #include "ui/windows/insight/YearSwitch.h"
 
