@@ -46,6 +46,7 @@ private slots:
     void aTextBeginsWithTheSentence();
     void wordsAreWrappedAndOnTheLeft();
     void theHousesWordsAreOnTheLeft();
+    void copiesHaveTheOrderOnTheScreen();
     void aRangeHasNumbersOfOneUnit();
     void aRangeHasNoDigitsOfSinglePrecision();
     void numbersOfTextsLoseTheirSigns_data();
@@ -90,6 +91,30 @@ void InsightCopyTest::theHousesWordsAreOnTheLeft() {
     const QString house = LineWith(lines, houses.index(0, 0).data().toString());
     QVERIFY2(house.mid(options).startsWith(houses.index(0, 1).data().toString()), qPrintable(house));
     QVERIFY2(house.mid(qualifies).startsWith(houses.index(0, 2).data().toString()), qPrintable(house));
+}
+
+void InsightCopyTest::copiesHaveTheOrderOnTheScreen() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::WhichLoan);
+    constexpr int income = 2;
+    desk.Find<SheetView>("AnswerTable").sortByColumn(income, Qt::DescendingOrder);
+    const QStringList range = Copied(desk, "bCopy", asRange);
+    QCOMPARE(range.size(), desk.Table().rowCount() + 2); // the heads, and the end of the last line
+    for (int row = 1; row < desk.Table().rowCount(); ++row)
+        QCOMPARE(range[row + 1].section('\t', 0, 0), desk.Cell(row, 0).remove("> "));
+    const QStringList text = Copied(desk, "bCopy", asText);
+    const qsizetype first = text.indexOf(LineWith(text, "Base / GREENMARK")) + 1;
+    for (int row = 0; row < desk.Table().rowCount(); ++row)
+        QVERIFY2(text[first + row].mid(2).startsWith(desk.Cell(row, 0).remove("> ") + ' '),
+                 qPrintable(text[first + row]));
+    ShowModels(desk);
+    auto& houses = desk.Find<SheetView>("ModelsTable");
+    constexpr int price = 3;
+    for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+        houses.sortByColumn(price, order);
+        QCOMPARE(Copied(desk, "bCopyModels", asRange)[1].section('\t', 0, 0),
+                 houses.model()->index(0, 0).data().toString());
+    }
 }
 
 void InsightCopyTest::aRangeHasNumbersOfOneUnit() {

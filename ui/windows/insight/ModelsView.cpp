@@ -165,6 +165,10 @@ void ModelsView::Show(const ModelsState& state) {
     OfferHouse();
 }
 
+Sheet ModelsView::InShownOrder() const {
+    return m_table->InShownOrder(m_sheet);
+}
+
 void ModelsView::OfferHouse() {
     const bool hasHouse = !m_model.EntriesAt(m_table->CurrentCell()).empty();
     m_use->setEnabled(hasHouse);

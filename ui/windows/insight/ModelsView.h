@@ -34,6 +34,7 @@ public:
     void GiveUp();
 
     const Sheet& Shown() const { return m_sheet; }
+    Sheet InShownOrder() const;
 
 signals:
     void HelpAsked();

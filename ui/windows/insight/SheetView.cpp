@@ -72,6 +72,18 @@ void SheetView::GoToRow(int row) {
         setCurrentIndex(m_sorted->mapFromSource(m_model.index(row, 0)));
 }
 
+Sheet SheetView::InShownOrder(const Sheet& sheet) const {
+    const int count = m_sorted->rowCount();
+    Sheet shown = sheet;
+    if (static_cast<int>(sheet.Rows.size()) != count)
+        return shown;
+    for (int row = 0; row < count; ++row) {
+        const int own = m_sorted->mapToSource(m_sorted->index(row, 0)).row();
+        shown.Rows[static_cast<std::size_t>(row)] = sheet.Rows[static_cast<std::size_t>(own)];
+    }
+    return shown;
+}
+
 void SheetView::Settle() {
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_sorted->sort(-1);

@@ -2,6 +2,8 @@
 
 #include <QTableView>
 
+#include "insight/Sheet.h"
+
 class QSortFilterProxyModel;
 
 namespace Ledgrove {
@@ -20,6 +22,10 @@ public:
 
     /// Makes the first cell of this row of the model the current one, unless the current one is in the row.
     void GoToRow(int row);
+
+    /// The sheet that the model shows, with its rows in the order on the screen. Another sheet and that of an
+    /// empty table stay as they are.
+    Sheet InShownOrder(const Sheet& sheet) const;
 
     /// Gives each column the width of its contents. Long words break, so that the table fits if it can.
     void FitColumns();

@@ -319,9 +319,11 @@ void frmChanges::OfferCommands(const ChangesAnswer& answer) {
 
 void frmChanges::Copy(const std::function<std::string(const Sheet&)>& form) {
     QString text = Words(m_answer.Sentence) + '\n';
-    for (const Sheet* sheet : {&m_answer.Inputs, &m_answer.Figures, &m_answer.Parts}) {
-        if (!sheet->Rows.empty())
-            text += '\n' + Words(sheet->Title) + '\n' + Words(form(*sheet));
+    for (const Sheet& sheet :
+         {m_inputs->InShownOrder(m_answer.Inputs), m_figures->InShownOrder(m_answer.Figures),
+          m_parts->InShownOrder(m_answer.Parts)}) {
+        if (!sheet.Rows.empty())
+            text += '\n' + Words(sheet.Title) + '\n' + Words(form(sheet));
     }
     QGuiApplication::clipboard()->setText(text);
 }

@@ -113,8 +113,8 @@ QWidget* frmInsight::MakeModels() {
     m_models = new ModelsView(m_context.Models,
                               [this](const std::vector<EntryText>& texts) { m_context.Enter(texts); });
     connect(m_models, &ModelsView::HelpAsked, this, [this] { m_context.Help(); });
-    connect(m_models, &ModelsView::CopyTextAsked, this, [this] { CopyText(m_models->Shown()); });
-    connect(m_models, &ModelsView::CopyRangeAsked, this, [this] { CopyRange(m_models->Shown()); });
+    connect(m_models, &ModelsView::CopyTextAsked, this, [this] { CopyText(m_models->InShownOrder()); });
+    connect(m_models, &ModelsView::CopyRangeAsked, this, [this] { CopyRange(m_models->InShownOrder()); });
     connect(m_models, &ModelsView::ExportAsked, this, [this] { ExportTable(m_models->Shown()); });
     return m_models;
 }
@@ -215,8 +215,8 @@ QWidget* frmInsight::MakeButtons() {
     m_print->setMenu(pages);
     m_copy = AddButton(*row, "bCopy", "&Copy");
     auto* menu = new QMenu(m_copy);
-    menu->addAction("As &Text", this, [this] { CopyText(m_sheet); });
-    menu->addAction("As &Spreadsheet Range", this, [this] { CopyRange(m_sheet); });
+    menu->addAction("As &Text", this, [this] { CopyText(m_table->InShownOrder(m_sheet)); });
+    menu->addAction("As &Spreadsheet Range", this, [this] { CopyRange(m_table->InShownOrder(m_sheet)); });
     m_copy->setMenu(menu);
     m_export = AddButton(*row, "bExport", "&Export CSV…");
     m_save = AddButton(*row, "bSavePicture", "&Save Picture…");
