@@ -22,6 +22,11 @@ QColor Between(const QColor& near, const QColor& far, double share) {
     return {mix(near.red(), far.red()), mix(near.green(), far.green()), mix(near.blue(), far.blue())};
 }
 
+/// The width of the amounts on the left.
+double ScaleWidth(const QFontMetricsF& metrics) {
+    return metrics.horizontalAdvance("$000,000") + metrics.height() / 2;
+}
+
 /// The map's cells, its scales, the zero line and the point of now.
 class MapPainter {
 public:
@@ -130,17 +135,25 @@ private:
             }
         }
         if (!label.isNull())
-            Label(label, "$0 a month");
+            LabelZeroLine(label, "$0 a month");
+    }
+
+    void LabelZeroLine(const QPointF& at, const QString& words) {
+        QRectF box({at.x() - LabelSize(words).width() - 4, at.y() + 4}, LabelSize(words));
+        if (box.left() < m_plot.left())
+            box.moveLeft(std::min(at.x() + 8, m_plot.right() - box.width()));
+        if (box.bottom() > m_plot.bottom())
+            box.moveBottom(at.y() - 4);
+        m_zeroLabel = box;
+        PaintLabel(box, words);
+    }
+
+    QSizeF LabelSize(const QString& words) const {
+        return {m_metrics.horizontalAdvance(words) + 8, m_metrics.height()};
     }
 
     /// A text on the cells, on a ground of its own.
-    void Label(const QPointF& at, const QString& words) {
-        const double width = m_metrics.horizontalAdvance(words) + 8;
-        QRectF box(at.x() - width - 4, at.y() + 4, width, m_metrics.height());
-        if (box.left() < m_plot.left())
-            box.moveLeft(std::min(at.x() + 8, m_plot.right() - width));
-        if (box.bottom() > m_plot.bottom())
-            box.moveBottom(at.y() - 4);
+    void PaintLabel(const QRectF& box, const QString& words) {
         m_painter.fillRect(box, QColor(255, 255, 255, 220));
         m_painter.setPen(Qt::black);
         m_painter.drawText(box, Qt::AlignCenter, words);
@@ -166,10 +179,9 @@ private:
         }
         m_painter.drawText(QRectF(m_plot.left(), m_plot.bottom() + line * 1.2, m_plot.width(), line * 1.3),
                            Qt::AlignCenter, "Price difference");
-        m_painter.drawText(
-            QPointF(m_plot.left() - m_metrics.horizontalAdvance("Saving") - 5, m_plot.top() - line * 0.5),
-            "Saving");
-        m_painter.drawText(QPointF(m_plot.left() + 3, m_plot.top() - line * 0.5), "a year");
+        // A line above the highest amount.
+        m_painter.drawText(QPointF(m_plot.left() - ScaleWidth(m_metrics), m_plot.top() - line),
+                           "Saving a year");
     }
 
     void PaintNow() {
@@ -188,7 +200,54 @@ private:
             m_painter.drawLine(now - QPointF(radius * 1.6, 0), now + QPointF(radius * 1.6, 0));
             m_painter.drawLine(now - QPointF(0, radius * 1.6), now + QPointF(0, radius * 1.6));
         }
-        Label(now + QPointF(radius, radius), "now");
+        LabelNow(now, radius);
+    }
+
+    /// Beside the cross, where the words hide neither the zero line nor its label. Without such a place,
+    /// where they are on the map.
+    void LabelNow(const QPointF& now, double radius) {
+        const QString words = "now";
+        const QSizeF size = LabelSize(words);
+        const double right = radius;
+        const double left = -radius - size.width();
+        const double below = radius;
+        const double above = -radius - size.height();
+        const double beyond = radius; // the arms of the cross
+        const double middle = -size.height() / 2;
+        std::optional<QRectF> place;
+        for (const QPointF& corner :
+             {QPointF(left, below), QPointF(right, below), QPointF(left, above), QPointF(right, above),
+              QPointF(right + beyond, middle), QPointF(left - beyond, middle)}) {
+            const QRectF box(now + corner, size);
+            if (!m_plot.contains(box))
+                continue;
+            if (!place)
+                place = box;
+            if (IsFree(box)) {
+                place = box;
+                break;
+            }
+        }
+        if (place)
+            PaintLabel(*place, words);
+    }
+
+    /// Whether the box hides neither the zero line nor its label.
+    bool IsFree(const QRectF& box) const {
+        constexpr double lineWidth = 2;
+        const QRectF around = box.adjusted(-lineWidth, -lineWidth, lineWidth, lineWidth);
+        const auto cell = [](double distance, double size, int count) {
+            return std::clamp(static_cast<int>(distance / size), 0, count - 1);
+        };
+        const int first = cell(around.left() - m_plot.left(), m_width, ColumnCount());
+        const int last = cell(around.right() - m_plot.left(), m_width, ColumnCount());
+        const int lowest = cell(m_plot.bottom() - around.bottom(), m_height, RowCount());
+        const int highest = cell(m_plot.bottom() - around.top(), m_height, RowCount());
+        for (int row = lowest; row <= highest; ++row)
+            for (int column = first; column <= last; ++column)
+                if (Pays(column, row) != Pays(first, lowest))
+                    return false;
+        return !around.intersects(m_zeroLabel);
     }
 
     QPainter& m_painter;
@@ -197,6 +256,7 @@ private:
     QColor m_text;
     QFontMetricsF m_metrics;
     QRectF m_plot;
+    QRectF m_zeroLabel; ///< empty if there is no zero line
     double m_width;
     double m_height;
 };
@@ -205,7 +265,7 @@ private:
 
 QRectF MapPlot(const QRectF& place, const QFontMetricsF& metrics) {
     const double line = metrics.height();
-    const double labels = metrics.horizontalAdvance("$000,000") + line / 2;
+    const double labels = ScaleWidth(metrics);
     return place.adjusted(labels, line * 2.8, -labels / 2, -line * 2.6);
 }
 
