@@ -60,8 +60,8 @@ class Insight(unittest.TestCase):
         self.desktop.key("ctrl+i")
         self.wait_front("Insight")
         self.assertIn("does not qualify for the base home", self.sentence())
-        # The question of the Affordability tab is asked; Tab leads to the table, Enter tries the current cell.
-        self.desktop.key("Tab", "ctrl+Home", "Down", "Down", "Right", "Right", "Return")
+        # The question of the Affordability tab is asked; Tab leads to the sentence and the table, Enter tries the current cell.
+        self.desktop.key("Tab", "Tab", "ctrl+Home", "Down", "Down", "Right", "Right", "Return")
         needed = wait_for(lambda: self.income() if self.income() != "$50,000" else None, "another income")
         self.assertGreater(int(needed.strip("$").replace(",", "")), 50000)
         wait_for(lambda: "qualifies for the GREENMARK home" in self.sentence(), "the buyer qualifies")
@@ -99,7 +99,7 @@ class Insight(unittest.TestCase):
 
     def open_more(self):
         """Opens the branch of the current line."""
-        self.desktop.key("Tab", "Tab", "asterisk")
+        self.desktop.key("Tab", "Tab", "Tab", "asterisk")
 
 
 if __name__ == "__main__":

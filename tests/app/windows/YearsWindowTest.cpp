@@ -326,12 +326,12 @@ void YearsWindowTest::theFieldsComeBetweenTheQuestionsAndTheAnswer() {
     desk.Window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(desk.Window.get()));
     QStringList stops;
-    for (int stop = 0; stop < 4; ++stop) {
+    for (int stop = 0; stop < 5; ++stop) {
         stops += desk.Window->focusWidget()->objectName();
         QTest::keyClick(desk.Window->focusWidget(), Qt::Key_Tab);
     }
-    QCOMPARE(stops,
-             (QStringList{"Questions", "GROWTH_UTILITIES", "GROWTH_UTILITIESSlider", "AnswerPicture"}));
+    QCOMPARE(stops, (QStringList{"Questions", "Sentence", "GROWTH_UTILITIES", "GROWTH_UTILITIESSlider",
+                                 "AnswerPicture"}));
 }
 
 void YearsWindowTest::theTaxLineIsPointedOut() {

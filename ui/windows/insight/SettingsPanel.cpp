@@ -46,7 +46,7 @@ QLabel* MakeMark() {
 
 /// Keeps the room of a line also while it is empty. A long word does not widen the window.
 QLabel* MakeComplaint() {
-    QLabel* complaint = MakeAnswerText("Complaint");
+    QLabel* complaint = MakeWrappedText("Complaint");
     complaint->setMinimumHeight(complaint->fontMetrics().height());
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);

@@ -134,7 +134,7 @@ QWidget* frmInsight::MakeAnswer() {
         return Words(m_context.CellText(grid, at, row));
     });
     column.addWidget(m_picture, 3);
-    m_cell = MakeAnswerText("CellText");
+    m_cell = MakeWrappedText("CellText");
     column.addWidget(m_cell);
     m_years = new YearSwitch;
     column.addWidget(m_years);
@@ -142,7 +142,7 @@ QWidget* frmInsight::MakeAnswer() {
     column.addWidget(m_table, 2);
     m_chain = new ChainView;
     column.addWidget(m_chain, 5);
-    m_legend = MakeAnswerText("Legend");
+    m_legend = MakeWrappedText("Legend");
     column.addWidget(m_legend);
     m_note = MakeAnswerText("Note");
     column.addWidget(m_note);
@@ -269,7 +269,7 @@ void frmInsight::ShowAnswer() {
     // A table of one column repeats the sentences.
     m_table->setVisible(hasAnswer && !answer.Chain && answer.Table.Heads.size() > 1);
     m_settings->Show(answer.Fields);
-    m_settings->FollowInTabOrder(*m_questions);
+    m_settings->FollowInTabOrder(*m_sentence);
     if (answer.Years > 0)
         m_year = answer.Year;
     m_years->Show(answer.Years, m_year);
