@@ -44,6 +44,7 @@ class InsightCopyTest : public QObject {
 
 private slots:
     void aTextBeginsWithTheSentence();
+    void theListOfQuestionsCopiesTheAnswer();
     void wordsAreWrappedAndOnTheLeft();
     void theHousesWordsAreOnTheLeft();
     void copiesHaveTheOrderOnTheScreen();
@@ -60,6 +61,18 @@ void InsightCopyTest::aTextBeginsWithTheSentence() {
     desk.Show(InsightQuestion::HowFar);
     const QString text = Copied(desk, "bCopy", asText).join(' ');
     QVERIFY2(text.startsWith(desk.Sentence()), qPrintable(text));
+}
+
+void InsightCopyTest::theListOfQuestionsCopiesTheAnswer() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::InShort);
+    desk.Window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(desk.Window.get()));
+    const QStringList answer = Copied(desk, "bCopy", asText);
+    QGuiApplication::clipboard()->clear();
+    QTest::keyClick(&desk.Find<QListWidget>("Questions"), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text().split('\n'), answer);
+    QVERIFY(answer.size() > 1);
 }
 
 void InsightCopyTest::wordsAreWrappedAndOnTheLeft() {

@@ -85,6 +85,9 @@ QWidget* frmInsight::MakeQuestions() {
     m_questions->setFixedWidth(fontMetrics().averageCharWidth() * 26);
     m_questions->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_questions, &QListWidget::currentRowChanged, this, &frmInsight::Choose);
+    auto* copy = new QShortcut(QKeySequence::Copy, m_questions);
+    copy->setContext(Qt::WidgetShortcut);
+    connect(copy, &QShortcut::activated, this, &frmInsight::CopyAnswer);
     return m_questions;
 }
 
@@ -215,7 +218,7 @@ QWidget* frmInsight::MakeButtons() {
     m_print->setMenu(pages);
     m_copy = AddButton(*row, "bCopy", "&Copy");
     auto* menu = new QMenu(m_copy);
-    menu->addAction("As &Text", this, [this] { CopyText(m_table->InShownOrder(m_sheet)); });
+    menu->addAction("As &Text", this, &frmInsight::CopyAnswer);
     menu->addAction("As &Spreadsheet Range", this, [this] { CopyRange(m_table->InShownOrder(m_sheet)); });
     m_copy->setMenu(menu);
     m_export = AddButton(*row, "bExport", "&Export CSV…");
@@ -323,6 +326,14 @@ void frmInsight::ChooseMapCell(std::size_t column, std::size_t row) {
     const auto entries = m_context.CellEntries(m_picture->Shown().Grid, column, row);
     if (!entries.empty())
         m_context.Enter(entries);
+}
+
+/// The list's own command would copy the question.
+void frmInsight::CopyAnswer() {
+    if (m_pages->currentWidget() == m_models)
+        CopyText(m_models->InShownOrder());
+    else if (m_copy->isEnabled())
+        CopyText(m_table->InShownOrder(m_sheet));
 }
 
 void frmInsight::CopyText(const Sheet& sheet) {

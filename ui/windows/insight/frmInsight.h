@@ -53,6 +53,7 @@ private:
     void OfferEntry();
     void EnterCell();
     void ChooseMapCell(std::size_t column, std::size_t row);
+    void CopyAnswer();
     void CopyText(const Sheet& sheet);
     void CopyRange(const Sheet& sheet);
     void Print(const std::vector<InsightQuestion>& questions);
