@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -20,6 +19,7 @@
 #include "ui/windows/insight/AnswerPicture.h"
 #include "ui/windows/insight/ChangesSides.h"
 #include "ui/windows/insight/FlowLayout.h"
+#include "ui/windows/insight/NaturalSize.h"
 #include "ui/windows/insight/SheetRange.h"
 #include "ui/windows/insight/SheetView.h"
 
@@ -338,14 +338,6 @@ void frmChanges::SavePicture() {
                         file.endsWith(".svg", Qt::CaseInsensitive) ? m_picture->AsSvg() : m_picture->AsPng());
 }
 
-void frmChanges::GiveNaturalSize() {
-    const QRect room = screen()->availableGeometry();
-    const int letter = fontMetrics().averageCharWidth();
-    const int line = fontMetrics().height();
-    // The window manager adds a frame.
-    resize(std::min(letter * 175, room.width() - 2 * line), std::min(line * 44, room.height() - 3 * line));
-}
-
 /// In a narrow window the parts stand below the figures. Short tables leave their room to the others.
 void frmChanges::FitTables() {
     constexpr int letters = 150;
@@ -366,7 +358,7 @@ void frmChanges::resizeEvent(QResizeEvent* event) {
 
 void frmChanges::showEvent(QShowEvent* event) {
     if (!std::exchange(m_isSized, true))
-        GiveNaturalSize();
+        GiveNaturalSize(*this, 44);
     ChangesWindow::showEvent(event);
     m_sides->Show(m_context.Choices());
     ShowAnswer();

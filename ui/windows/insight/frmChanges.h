@@ -45,7 +45,6 @@ private:
     void OfferCommands(const ChangesAnswer& answer);
     void Copy(const std::function<std::string(const Sheet&)>& form);
     void SavePicture();
-    void GiveNaturalSize();
     void FitTables();
 
     ChangesContext m_context;

@@ -8,7 +8,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedWidget>
@@ -25,6 +24,7 @@
 #include "ui/windows/insight/ChainView.h"
 #include "ui/windows/insight/FlowLayout.h"
 #include "ui/windows/insight/ModelsView.h"
+#include "ui/windows/insight/NaturalSize.h"
 #include "ui/windows/insight/SettingsPanel.h"
 #include "ui/windows/insight/SheetRange.h"
 #include "ui/windows/insight/SheetView.h"
@@ -369,17 +369,9 @@ void frmInsight::SavePicture() {
                         file.endsWith(".svg", Qt::CaseInsensitive) ? m_picture->AsSvg() : m_picture->AsPng());
 }
 
-void frmInsight::GiveNaturalSize() {
-    const QRect room = screen()->availableGeometry();
-    const int letter = fontMetrics().averageCharWidth();
-    const int line = fontMetrics().height();
-    // The window manager adds a frame.
-    resize(std::min(letter * 175, room.width() - 2 * line), std::min(line * 52, room.height() - 3 * line));
-}
-
 void frmInsight::showEvent(QShowEvent* event) {
     if (!std::exchange(m_isSized, true))
-        GiveNaturalSize();
+        GiveNaturalSize(*this, 52);
     InsightWindow::showEvent(event);
     if (m_pages->currentWidget() == m_models)
         m_models->Restart();

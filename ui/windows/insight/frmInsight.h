@@ -59,7 +59,6 @@ private:
     void Print(const std::vector<InsightQuestion>& questions);
     void ExportTable(const Sheet& sheet);
     void SavePicture();
-    void GiveNaturalSize();
 
     InsightContext m_context;
     InsightQuestion m_question = InsightQuestion::HowFar;
