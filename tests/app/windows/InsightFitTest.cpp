@@ -66,6 +66,7 @@ private slots:
     void aQuestionStartsAtItsTop();
     void eachBarHasALineForItsName();
     void aTableShowsAFewRows();
+    void aTableWithTheFocusIsInView();
     void noWordIsCut();
     void aComplaintFits();
     void everyAnswerIsReachedByTab();
@@ -161,6 +162,19 @@ void InsightFitTest::aTableShowsAFewRows() {
         QVERIFY2(row.bottom() < table.viewport()->height(),
                  qPrintable(QString("%1 of %2").arg(row.bottom()).arg(table.viewport()->height())));
     }
+}
+
+void InsightFitTest::aTableWithTheFocusIsInView() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::WhatMatters);
+    Settle();
+    desk.Window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(desk.Window.get()));
+    auto& table = desk.Find<SheetView>("AnswerTable");
+    for (int stop = 0; stop < 5 && !table.hasFocus(); ++stop)
+        QTest::keyClick(desk.Window->focusWidget(), Qt::Key_Tab);
+    QVERIFY(table.hasFocus());
+    QCOMPARE(table.visibleRegion().boundingRect().height(), table.height());
 }
 
 void InsightFitTest::noWordIsCut() {

@@ -16,15 +16,11 @@ public:
 } // namespace
 
 AnswerPage::AnswerPage(QWidget* parent)
-    : QScrollArea(parent) {
-    setObjectName("Scrolled");
+    : ScrolledAnswer(parent) {
     auto* content = new LeastHigh;
     m_column = new QVBoxLayout(content);
     m_column->setContentsMargins(8, 0, 0, 0);
     setWidget(content);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
 }
 
 void AnswerPage::ShowTop() {

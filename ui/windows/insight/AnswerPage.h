@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QScrollArea>
+#include "ui/windows/insight/ScrolledAnswer.h"
 
 class QVBoxLayout;
 
 namespace Ledgrove {
 
 /// A column of controls that has the height of the view. It scrolls only if not even their least heights fit.
-class AnswerPage : public QScrollArea {
+class AnswerPage : public ScrolledAnswer {
     Q_OBJECT
 
 public:

@@ -1,13 +1,12 @@
 #include "ui/windows/insight/frmChanges.h"
 
-#include <QApplication>
 #include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -20,6 +19,7 @@
 #include "ui/windows/insight/ChangesSides.h"
 #include "ui/windows/insight/FlowLayout.h"
 #include "ui/windows/insight/NaturalSize.h"
+#include "ui/windows/insight/ScrolledAnswer.h"
 #include "ui/windows/insight/SheetRange.h"
 #include "ui/windows/insight/SheetView.h"
 
@@ -86,40 +86,6 @@ public:
     QSize sizeHint() const override { return {minimumSizeHint().width(), minimumHeight()}; }
 };
 
-/// Scrolls what has no room. A control that gets the focus comes into view whole, or its top left part if it
-/// is larger than the view; Qt's own area stops at the current cell of a table.
-class ScrolledAnswer : public QScrollArea {
-public:
-    explicit ScrolledAnswer(QWidget* content) {
-        setObjectName("Scrolled");
-        setWidget(content);
-        setWidgetResizable(true);
-        setFrameShape(NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        m_focusChanges = connect(qApp, &QApplication::focusChanged, this,
-                                 [this](QWidget* /*old*/, QWidget* now) { BringIntoView(now); });
-    }
-
-    ~ScrolledAnswer() override {
-        // The focus moves among the controls while they are deleted.
-        disconnect(m_focusChanges);
-    }
-
-protected:
-    bool focusNextPrevChild(bool next) override { return QAbstractScrollArea::focusNextPrevChild(next); }
-
-private:
-    void BringIntoView(const QWidget* control) {
-        // If the controls moved under a pressed mouse button, the release would miss this one.
-        if (!control || !widget()->isAncestorOf(control) || QGuiApplication::mouseButtons() != Qt::NoButton)
-            return;
-        const QRect part(control->mapTo(widget(), QPoint()), control->size().boundedTo(viewport()->size()));
-        ensureVisible(part.center().x(), part.center().y(), part.width() / 2 + 1, part.height() / 2 + 1);
-    }
-
-    QMetaObject::Connection m_focusChanges;
-};
-
 } // namespace
 
 frmChanges::frmChanges(ChangesContext context)
@@ -129,7 +95,9 @@ frmChanges::frmChanges(ChangesContext context)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(8, 8, 8, 8);
     // On a small screen everything but the buttons scrolls.
-    column->addWidget(new ScrolledAnswer(MakeAnswer()), 1);
+    auto* page = new ScrolledAnswer;
+    page->setWidget(MakeAnswer());
+    column->addWidget(page, 1);
     column->addWidget(MakeButtons());
     m_sides->Show(m_context.Choices());
 }
