@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ui/windows/BringToFront.h"
 #include "ui/windows/FormParts.h"
 #include "ui/windows/HelpBrowser.h"
 #include "ui/windows/HelpPrinter.h"
@@ -56,9 +57,7 @@ void HelpWindow::ShowTopic(const QString& path, const QString& anchor) {
     const bool printable = Printer() != nullptr;
     m_print->setEnabled(printable);
     m_print->setToolTip(printable ? QString() : "Printing is not available here");
-    show();
-    raise();
-    activateWindow();
+    BringToFront(*this);
     m_browser->setFocus();
 }
 

@@ -18,6 +18,7 @@
 #include "ui/MainScreenRules.h"
 #include "ui/TextEntry.h"
 #include "ui/windows/Binding.h"
+#include "ui/windows/BringToFront.h"
 #include "ui/windows/DownPaymentKeys.h"
 #include "ui/windows/EntryField.h"
 #include "ui/windows/FigureMark.h"
@@ -256,8 +257,7 @@ void frmMain::ConnectInsight() {
 }
 
 void frmMain::GoToSource(const QString& control, const QString& key) {
-    raise();
-    activateWindow();
+    BringToFront(*this);
     if (auto* input = findChild<QWidget*>(control); input && !control.isEmpty())
         return input->setFocus(Qt::OtherFocusReason);
     if (key.isEmpty() || !CommitEntry())

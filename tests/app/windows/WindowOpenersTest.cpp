@@ -50,6 +50,7 @@ class WindowOpenersTest : public QObject {
 
 private slots:
     void aMinimisedWindowComesBack();
+    void aLeafBringsTheMainWindowBack();
     void aMaximisedWindowStaysMaximised();
     void theCommandLeavesAnOpenAnswer();
     void theCommandAsksAClosedWindow();
@@ -73,6 +74,14 @@ void WindowOpenersTest::aMinimisedWindowComesBack() {
     changes.showMinimized();
     desk.Changes.Open();
     QVERIFY(!changes.isMinimized());
+}
+
+void WindowOpenersTest::aLeafBringsTheMainWindowBack() {
+    Openers desk;
+    frmMain& main = *desk.Open.Window;
+    main.showMinimized();
+    main.GoToSource("ecIncome", "");
+    QVERIFY(!main.isMinimized());
 }
 
 void WindowOpenersTest::aMaximisedWindowStaysMaximised() {

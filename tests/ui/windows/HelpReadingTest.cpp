@@ -14,6 +14,7 @@ class HelpReadingTest : public QObject {
 private slots:
     void topicIsScrolledTo();
     void caretIsAtWhatIsShown();
+    void aMinimisedHelpComesBack();
     void unknownTopicIsReportedAndShowsTheStart();
     void backForwardAndContents();
     void linksWithinTheHelpAreFollowed();
@@ -124,6 +125,13 @@ void HelpReadingTest::otherFilesAreNotRead() {
     QVERIFY(open.Text().toPlainText().contains("Behind"));
     const QUrl other = QUrl::fromLocalFile(open.Folder.filePath("other.txt"));
     QVERIFY(!open.Text().loadResource(QTextDocument::HtmlResource, other).isValid());
+}
+
+void HelpReadingTest::aMinimisedHelpComesBack() {
+    OpenHelp<> open("top");
+    open.Window->showMinimized();
+    open.Window->ShowTopic(open.Folder.filePath("LEDGROVE.HLP"), "top");
+    QVERIFY(!open.Window->isMinimized());
 }
 
 void HelpReadingTest::escapeLeavesTheSearchThenTheWindow() {
