@@ -35,11 +35,6 @@ private slots:
     void aMissingPriceIsSaid();
     void aFoundValueIsEntered();
     void optionsAreChosen();
-    void anEntryIsOneStepOfUndo();
-    void aRefusedFieldIsNotOverwritten();
-    void whatIsBeingTypedDoesNotCount();
-    void textsThatAreEnteredTogetherWarnTogether();
-    void aRefusedTextIsNoStepOfUndo();
     void tablesAreSortedAndRestored();
     void tablesAreSpokenWithRowAndColumn();
     void cellsAreCopied();
@@ -170,68 +165,6 @@ void InsightTest::optionsAreChosen() {
     QCOMPARE(desk.Open.Find<QComboBox>("cboStdMortOption").currentText(), "VA");
     QCOMPARE(desk.Open.Find<QComboBox>("cboGMHMortOption").currentText(), "VA EEM");
     QVERIFY(desk.RowOf("> VA / VA EEM") >= 0);
-}
-
-void InsightTest::anEntryIsOneStepOfUndo() {
-    InsightDesk desk;
-    desk.Open.Window->Enter({{"ecGMHHome", "$210,000"}, {"ecGMHUtil", "$1,000"}});
-    QCOMPARE(desk.Open.FieldText("ecGMHUtil"), "$1,000");
-    desk.Open.Window->Undo();
-    QCOMPARE(desk.Open.FieldText("ecGMHHome"), "$206,000");
-    QCOMPARE(desk.Open.FieldText("ecGMHUtil"), "$1,700");
-}
-
-void InsightTest::aRefusedFieldIsNotOverwritten() {
-    InsightDesk desk;
-    desk.Open.Type("ecGMHHome", "abc");
-    desk.Open.Window->Enter({{"ecGMHHome", "$210,000"}});
-    QCOMPARE(desk.Open.FieldText("ecGMHHome"), "abc");
-}
-
-void InsightTest::whatIsBeingTypedDoesNotCount() {
-    InsightDesk desk;
-    desk.Show(InsightQuestion::InShort);
-    const QString inShort = desk.Sentence();
-    desk.Show(InsightQuestion::HowFar);
-    const QString howFar = desk.Sentence();
-    for (const QString& typed : {QString("8"), QString("abc")}) {
-        desk.Open.Type("ecIncome", typed);
-        desk.Show(InsightQuestion::InShort);
-        QCOMPARE(desk.Sentence(), inShort);
-        desk.Show(InsightQuestion::HowFar);
-        QCOMPARE(desk.Sentence(), howFar);
-    }
-    desk.Open.Enter("ecIncome", "8");
-    desk.Show(InsightQuestion::InShort);
-    QVERIFY(desk.Sentence() != inShort);
-}
-
-void InsightTest::textsThatAreEnteredTogetherWarnTogether() {
-    InsightDesk desk;
-    desk.Open.Window->Enter({{"cboGMHMortOption", "Fannie Mae EEM"}});
-    desk.Open.Outside.Messages.clear();
-    // Saving $1,365 a year is worth more than $14,345, but saving $700 is not.
-    desk.Open.Window->Enter({{"ecGMHHome", "$214,345"}, {"ecGMHUtil", "$1,035"}});
-    QVERIFY(desk.Open.State.GMHCase.PVSavings > 14345);
-    QCOMPARE(desk.Open.Outside.Messages.size(), 0U);
-    desk.Open.Window->Undo();
-    QCOMPARE(desk.Open.FieldText("ecGMHHome"), "$206,000");
-    QCOMPARE(desk.Open.FieldText("ecGMHUtil"), "$1,700");
-    // Now the notice is due: one notice, and one step although it interrupts the entry.
-    desk.Open.Window->Enter({{"ecGMHHome", "$214,345"}, {"ecGMHUtil", "$1,600"}});
-    QCOMPARE(desk.Open.Outside.Messages.size(), 1U);
-    desk.Open.Window->Undo();
-    QCOMPARE(desk.Open.FieldText("ecGMHHome"), "$206,000");
-    QCOMPARE(desk.Open.FieldText("ecGMHUtil"), "$1,700");
-}
-
-void InsightTest::aRefusedTextIsNoStepOfUndo() {
-    InsightDesk desk;
-    desk.Open.Enter("ecIncome", "abc");
-    desk.Open.Enter("ecIncome", "80000");
-    QCOMPARE(desk.Open.FieldText("ecIncome"), "$80,000");
-    desk.Open.Window->Undo();
-    QCOMPARE(desk.Open.FieldText("ecIncome"), "$72,000");
 }
 
 void InsightTest::tablesAreSortedAndRestored() {
