@@ -1,11 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/Text.h"
 
 // A view's answers as a table with sentences, once for every output: the window, the command line's text, the
 // clipboard, CSV and the report.
@@ -48,6 +51,18 @@ struct Sheet {
     std::vector<std::size_t> Words = {};
     std::string Note = {}; ///< stands below the table: what the answer assumes, and what it is not
 };
+
+/// Whether the column holds words, which begin on the left: the first column and those of `Words`.
+inline bool IsWords(const Sheet& sheet, std::size_t column) {
+    return column == 0 || std::find(sheet.Words.begin(), sheet.Words.end(), column) != sheet.Words.end();
+}
+
+/// Whether the cell may break into lines: it holds words, or it is too long for a figure and so lists
+/// several.
+inline bool MayBreak(const Sheet& sheet, std::size_t column, const SheetCell& cell) {
+    constexpr std::size_t longestFigure = 24; // letters
+    return IsWords(sheet, column) || CharacterCount(cell.Text) > longestFigure;
+}
 
 /// Whether a cell of the table has this mark.
 bool HasMark(const Sheet& sheet, CellMark mark);

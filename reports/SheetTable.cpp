@@ -1,6 +1,5 @@
 #include "reports/SheetTable.h"
 
-#include "base/Text.h"
 #include "reports/SectionParts.h"
 #include "reports/TableLayout.h"
 
@@ -23,10 +22,6 @@ struct FittedTable {
     std::vector<Columns> Parts;
     std::vector<std::vector<Twips>> Widths; ///< of the columns of each part
 };
-
-bool IsWords(const Sheet& sheet, std::size_t column) {
-    return column == 0 || std::find(sheet.Words.begin(), sheet.Words.end(), column) != sheet.Words.end();
-}
 
 /// The cell with the sign of its mark in front.
 std::string SignedText(const SheetCell& cell) {
@@ -60,12 +55,6 @@ Twips WidestWord(const PrintDocument& document, std::string_view text) {
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return widest;
-}
-
-/// A text without a number may be a sentence: it breaks into lines like words.
-bool MayBreak(const Sheet& sheet, std::size_t column, const SheetCell& cell) {
-    constexpr std::size_t longestFigure = 24;
-    return IsWords(sheet, column) || CharacterCount(cell.Text) > longestFigure;
 }
 
 ColumnNeed NeedOf(PrintDocument& document, const Sheet& sheet, std::size_t column) {

@@ -68,6 +68,7 @@ private slots:
     void aTableShowsAFewRows();
     void aTableWithTheFocusIsInView();
     void noWordIsCut();
+    void aLaptopShowsEveryColumn();
     void aComplaintFits();
     void everyAnswerIsReachedByTab();
 };
@@ -187,6 +188,23 @@ void InsightFitTest::noWordIsCut() {
             for (const QString& word : desk.Cell(row, column).split(' '))
                 QVERIFY2(table.fontMetrics().horizontalAdvance(word) <= table.columnWidth(column),
                          qPrintable(word));
+}
+
+void InsightFitTest::aLaptopShowsEveryColumn() {
+    if (!HasRoom({1366, 768}))
+        return;
+    InsightDesk desk;
+    for (const QuestionRow& row : InsightQuestions) {
+        // Its columns are the years of the loan.
+        if (row.Id == InsightQuestion::YearByYear)
+            continue;
+        desk.Show(row.Id);
+        Settle();
+        const int rest = desk.Find<SheetView>("AnswerTable").horizontalScrollBar()->maximum();
+        const QString question =
+            QString::fromUtf8(row.Words.data(), static_cast<qsizetype>(row.Words.size()));
+        QVERIFY2(rest == 0, qPrintable(QString("%1: %2").arg(question).arg(rest)));
+    }
 }
 
 void InsightFitTest::aComplaintFits() {

@@ -8,7 +8,7 @@ namespace Ledgrove {
 
 /// Gives a window of answers its first size: so many lines of its text high, or less on a small screen.
 inline void GiveNaturalSize(QWidget& window, int lines) {
-    constexpr int letters = 175;
+    constexpr int letters = 190;
     const QRect room = window.screen()->availableGeometry();
     const QFontMetrics metrics = window.fontMetrics();
     const int line = metrics.height();

@@ -119,8 +119,14 @@ const std::vector<EntryText>& SheetModel::EntriesAt(const QModelIndex& index) co
 }
 
 bool SheetModel::IsWords(int column) const {
-    return column == 0 || std::find(m_sheet.Words.begin(), m_sheet.Words.end(),
-                                    static_cast<std::size_t>(column)) != m_sheet.Words.end();
+    return Ledgrove::IsWords(m_sheet, static_cast<std::size_t>(column));
+}
+
+bool SheetModel::MayBreak(int column) const {
+    const auto at = static_cast<std::size_t>(column);
+    return IsWords(column) || std::ranges::any_of(m_sheet.Rows, [&](const auto& row) {
+               return at < row.size() && Ledgrove::MayBreak(m_sheet, at, row[at]);
+           });
 }
 
 int SheetModel::rowCount(const QModelIndex& parent) const {

@@ -35,8 +35,8 @@ public:
     /// What the cell proposes to enter: its own entries, or those of its row's first cell.
     const std::vector<EntryText>& EntriesAt(const QModelIndex& index) const;
 
-    /// Whether the column holds words, which may be long.
-    bool IsWords(int column) const;
+    /// Whether a cell of the column may break into lines.
+    bool MayBreak(int column) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -44,6 +44,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    bool IsWords(int column) const;
     QString Spoken(const QModelIndex& index) const;
     void MarkChanges(const Sheet& before);
     void ForgetChanges();

@@ -105,13 +105,18 @@ void SheetView::FitColumns() {
     updateGeometry();
 }
 
-/// The columns of words share the room that the others leave.
+/// The columns that may break share the room that the others leave.
 void SheetView::BreakWords() {
     QHeaderView& heads = *horizontalHeader();
     constexpr int narrow = 14, readable = 24; // letters, unless a word is longer
+    m_breaking.clear();
     int figures = 0;
-    for (int column = 0; column < heads.count(); ++column)
-        figures += m_model.IsWords(column) ? 0 : heads.sectionSize(column);
+    for (int column = 0; column < heads.count(); ++column) {
+        if (m_model.MayBreak(column))
+            m_breaking += column;
+        else
+            figures += heads.sectionSize(column);
+    }
     // A table that is too wide without its words does not fit anyway.
     const int letters = figures > viewport()->width() ? readable : narrow;
     const auto least = [&](int column) {
@@ -121,7 +126,7 @@ void SheetView::BreakWords() {
     int others = 0;
     QList<int> wide;
     for (int column = 0; column < heads.count(); ++column) {
-        if (m_model.IsWords(column) && heads.sectionSize(column) > least(column))
+        if (m_breaking.contains(column) && heads.sectionSize(column) > least(column))
             wide += column;
         else
             others += heads.sectionSize(column);
@@ -156,9 +161,7 @@ int SheetView::sizeHintForRow(int row) const {
     initViewItemOption(&option);
     option.features |= QStyleOptionViewItem::WrapText;
     int height = 0;
-    for (int column = 0; column < m_sorted->columnCount(); ++column) {
-        if (!m_model.IsWords(column))
-            continue;
+    for (const int column : m_breaking) {
         option.rect = QRect(0, 0, columnWidth(column), 1); // an empty one would not break the text
         const QModelIndex cell = m_sorted->index(row, column);
         height = std::max(height, itemDelegateForIndex(cell)->sizeHint(option, cell).height());
@@ -181,10 +184,12 @@ int SheetView::LineHeight() const {
     return fontMetrics().height() + 4;
 }
 
-/// Room for a few rows, or for all if there are fewer.
+/// Room for a few rows, or for all if there are fewer. A row of sentences counts as two lines.
 QSize SheetView::minimumSizeHint() const {
     constexpr int leastRows = 5;
-    const int rows = std::min(verticalHeader()->length(), leastRows * LineHeight());
+    int rows = 0;
+    for (int row = 0; row < std::min(leastRows, verticalHeader()->count()); ++row)
+        rows += std::min(verticalHeader()->sectionSize(row), 2 * LineHeight());
     const bool scrolls = horizontalHeader()->length() > viewport()->width();
     const int bar = scrolls ? horizontalScrollBar()->sizeHint().height() : 0;
     return {fontMetrics().averageCharWidth() * 30,

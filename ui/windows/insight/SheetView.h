@@ -41,7 +41,7 @@ signals:
     void CellActivated();
 
 protected:
-    /// Only columns of words can need several lines, and measuring a text is slow.
+    /// Only columns that may break can need several lines, and measuring a text is slow.
     int sizeHintForRow(int row) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -53,6 +53,7 @@ private:
 
     SheetModel& m_model;
     QSortFilterProxyModel* m_sorted;
+    QList<int> m_breaking; ///< the columns that may break into lines
 };
 
 } // namespace Ledgrove
