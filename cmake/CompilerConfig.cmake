@@ -21,6 +21,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 # Keeps the build machine's paths out of released programs.
 target_compile_options(ledgrove_compiler INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
+# A module that lacks a function does not link. Without this, the program would end when it loads the module.
+target_link_options(ledgrove_compiler INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,MODULE_LIBRARY>:LINKER:-z,defs>)
 if(LEDGROVE_WERROR)
     target_compile_options(ledgrove_compiler INTERFACE -Werror)
 endif()
