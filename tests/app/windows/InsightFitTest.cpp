@@ -69,6 +69,7 @@ private slots:
     void aTableWithTheFocusIsInView();
     void noWordIsCut();
     void aLaptopShowsEveryColumn();
+    void rowsOfSeveralLinesStandApart();
     void aComplaintFits();
     void everyAnswerIsReachedByTab();
 };
@@ -205,6 +206,26 @@ void InsightFitTest::aLaptopShowsEveryColumn() {
             QString::fromUtf8(row.Words.data(), static_cast<qsizetype>(row.Words.size()));
         QVERIFY2(rest == 0, qPrintable(QString("%1: %2").arg(question).arg(rest)));
     }
+}
+
+void InsightFitTest::rowsOfSeveralLinesStandApart() {
+    InsightDesk desk;
+    desk.Show(InsightQuestion::Assumed);
+    Settle();
+    const auto& table = desk.Find<SheetView>("AnswerTable");
+    const QFontMetrics metrics = table.fontMetrics();
+    bool hasSeveral = false;
+    for (int row = 0; row < desk.Table().rowCount(); ++row) {
+        int lines = 0;
+        for (int column = 0; column < desk.Table().columnCount(); ++column) {
+            const QRect room(0, 0, table.columnWidth(column), 1000);
+            lines = std::max(lines,
+                             metrics.boundingRect(room, Qt::TextWordWrap, desk.Cell(row, column)).height());
+        }
+        hasSeveral = hasSeveral || lines > metrics.height();
+        QVERIFY2(table.rowHeight(row) > lines, qPrintable(desk.Cell(row, 0)));
+    }
+    QVERIFY(hasSeveral);
 }
 
 void InsightFitTest::aComplaintFits() {

@@ -16,6 +16,8 @@ namespace Ledgrove {
 
 namespace {
 
+constexpr int rowMargin = 4; ///< sets rows of several lines apart
+
 /// Sorts numbers before words, because a column may hold both.
 class SheetOrder : public QSortFilterProxyModel {
 public:
@@ -166,7 +168,7 @@ int SheetView::sizeHintForRow(int row) const {
         const QModelIndex cell = m_sorted->index(row, column);
         height = std::max(height, itemDelegateForIndex(cell)->sizeHint(option, cell).height());
     }
-    return height;
+    return height + rowMargin;
 }
 
 void SheetView::resizeEvent(QResizeEvent* event) {
@@ -181,7 +183,7 @@ QSize SheetView::sizeHint() const {
 }
 
 int SheetView::LineHeight() const {
-    return fontMetrics().height() + 4;
+    return fontMetrics().height() + rowMargin;
 }
 
 /// Room for a few rows, or for all if there are fewer. A row of sentences counts as two lines.
