@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -68,6 +69,7 @@ private slots:
     void aTableShowsAFewRows();
     void aTableWithTheFocusIsInView();
     void noWordIsCut();
+    void noHeadIsCut();
     void aLaptopShowsEveryColumn();
     void rowsOfSeveralLinesStandApart();
     void aComplaintFits();
@@ -191,8 +193,25 @@ void InsightFitTest::noWordIsCut() {
                          qPrintable(word));
 }
 
+void InsightFitTest::noHeadIsCut() {
+    InsightDesk desk;
+    for (const InsightQuestion question : {InsightQuestion::WhichLoan, InsightQuestion::YearByYear}) {
+        desk.Show(question);
+        Settle();
+        const auto& table = desk.Find<SheetView>("AnswerTable");
+        const QHeaderView& heads = *table.horizontalHeader();
+        constexpr int margin = 2; // at each edge, on all screens
+        for (int column = 0; column < heads.count(); ++column) {
+            const QRect room(0, 0, heads.sectionSize(column) - 2 * margin, heads.height() - 2 * margin);
+            const QString head = desk.Table().headerData(column, Qt::Horizontal).toString();
+            const QRect text = heads.fontMetrics().boundingRect(room, Qt::TextWordWrap, head);
+            QVERIFY2(room.size().expandedTo(text.size()) == room.size(), qPrintable(head));
+        }
+    }
+}
+
 void InsightFitTest::aLaptopShowsEveryColumn() {
-    if (!HasRoom({1366, 768}))
+    if (!HasRoom({1024, 600}))
         return;
     InsightDesk desk;
     for (const QuestionRow& row : InsightQuestions) {

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "ui/windows/insight/SheetModel.h"
+#include "ui/windows/insight/TableHeads.h"
 
 namespace Ledgrove {
 
@@ -42,15 +43,17 @@ private:
 SheetView::SheetView(SheetModel& model, QWidget* parent)
     : QTableView(parent)
     , m_model(model)
-    , m_sorted(new SheetOrder(this)) {
+    , m_sorted(new SheetOrder(this))
+    , m_heads(new TableHeads(this)) {
     m_sorted->setSourceModel(&model);
     m_sorted->setSortRole(SheetModel::SortRole);
     setModel(m_sorted);
+    setHorizontalHeader(m_heads);
     setObjectName("AnswerTable");
     setAccessibleName("Answer");
-    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    horizontalHeader()->setSortIndicatorClearable(true);
-    horizontalHeader()->setHighlightSections(false);
+    m_heads->setSortIndicator(-1, Qt::AscendingOrder);
+    m_heads->setSortIndicatorClearable(true);
+    m_heads->setHighlightSections(false);
     setSortingEnabled(true);
     verticalHeader()->hide();
     setShowGrid(false);
@@ -87,29 +90,41 @@ Sheet SheetView::InShownOrder(const Sheet& sheet) const {
 }
 
 void SheetView::Settle() {
-    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_heads->setSortIndicator(-1, Qt::AscendingOrder);
     m_sorted->sort(-1);
     FitColumns();
 }
 
 void SheetView::FitColumns() {
-    resizeColumnsToContents();
     // Measuring every row of a long list would take seconds.
     constexpr int mostMeasured = 1000;
     const bool isLong = m_sorted->rowCount() > mostMeasured;
     setWordWrap(!isLong);
-    if (isLong) {
-        verticalHeader()->setDefaultSectionSize(LineHeight());
-    } else {
-        BreakWords();
-        resizeRowsToContents();
+    for (const bool breaksHeads : {false, true}) {
+        m_heads->SetBreaking(breaksHeads);
+        resizeColumnsToContents();
+        if (!isLong)
+            BreakWords();
+        if (m_heads->length() <= Room())
+            break;
     }
+    if (isLong)
+        verticalHeader()->setDefaultSectionSize(LineHeight());
+    else
+        resizeRowsToContents();
+    updateGeometries();
     updateGeometry();
+}
+
+/// The width for all columns. It leaves a bar its place, because the columns decide how high the rows are,
+/// these whether there is a bar, and so it would come and go.
+int SheetView::Room() const {
+    return contentsRect().width() - verticalScrollBar()->sizeHint().width();
 }
 
 /// The columns that may break share the room that the others leave.
 void SheetView::BreakWords() {
-    QHeaderView& heads = *horizontalHeader();
+    QHeaderView& heads = *m_heads;
     constexpr int narrow = 14, readable = 24; // letters, unless a word is longer
     m_breaking.clear();
     int figures = 0;
@@ -120,7 +135,7 @@ void SheetView::BreakWords() {
             figures += heads.sectionSize(column);
     }
     // A table that is too wide without its words does not fit anyway.
-    const int letters = figures > viewport()->width() ? readable : narrow;
+    const int letters = figures > Room() ? readable : narrow;
     const auto least = [&](int column) {
         return std::max(
             {fontMetrics().averageCharWidth() * letters, heads.sectionSizeHint(column), WidestWord(column)});
@@ -133,7 +148,7 @@ void SheetView::BreakWords() {
         else
             others += heads.sectionSize(column);
     }
-    int room = viewport()->width() - others;
+    int room = Room() - others;
     std::sort(wide.begin(), wide.end(),
               [&heads](int a, int b) { return heads.sectionSize(a) < heads.sectionSize(b); });
     for (qsizetype i = 0; i < wide.size(); ++i) {
@@ -178,8 +193,8 @@ void SheetView::resizeEvent(QResizeEvent* event) {
 }
 
 QSize SheetView::sizeHint() const {
-    const int rows = verticalHeader()->length() + horizontalHeader()->sizeHint().height() + 2 * frameWidth();
-    return {horizontalHeader()->length() + 2 * frameWidth(), rows};
+    const int rows = verticalHeader()->length() + m_heads->sizeHint().height() + 2 * frameWidth();
+    return {m_heads->length() + 2 * frameWidth(), rows};
 }
 
 int SheetView::LineHeight() const {
@@ -192,10 +207,10 @@ QSize SheetView::minimumSizeHint() const {
     int rows = 0;
     for (int row = 0; row < std::min(leastRows, verticalHeader()->count()); ++row)
         rows += std::min(verticalHeader()->sectionSize(row), 2 * LineHeight());
-    const bool scrolls = horizontalHeader()->length() > viewport()->width();
+    const bool scrolls = m_heads->length() > viewport()->width();
     const int bar = scrolls ? horizontalScrollBar()->sizeHint().height() : 0;
     return {fontMetrics().averageCharWidth() * 30,
-            horizontalHeader()->sizeHint().height() + rows + bar + 2 * frameWidth()};
+            m_heads->sizeHint().height() + rows + bar + 2 * frameWidth()};
 }
 
 void SheetView::keyPressEvent(QKeyEvent* event) {

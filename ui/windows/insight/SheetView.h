@@ -9,6 +9,7 @@ class QSortFilterProxyModel;
 namespace Ledgrove {
 
 class SheetModel;
+class TableHeads;
 
 /// The table of an answer: sorted by a click on a head, a third click restores its own order.
 class SheetView : public QTableView {
@@ -27,7 +28,8 @@ public:
     /// empty table stay as they are.
     Sheet InShownOrder(const Sheet& sheet) const;
 
-    /// Gives each column the width of its contents. Long words break, so that the table fits if it can.
+    /// Gives each column the width of its contents. Long texts break, and then the heads, so that the table
+    /// fits if it can.
     void FitColumns();
 
     /// The same, and restores the sheet's own order.
@@ -47,12 +49,14 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int Room() const;
     void BreakWords();
     int LineHeight() const; ///< of a row of one line
     int WidestWord(int column) const;
 
     SheetModel& m_model;
     QSortFilterProxyModel* m_sorted;
+    TableHeads* m_heads;
     QList<int> m_breaking; ///< the columns that may break into lines
 };
 
