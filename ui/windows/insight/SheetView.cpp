@@ -100,9 +100,14 @@ void SheetView::FitColumns() {
     constexpr int mostMeasured = 1000;
     const bool isLong = m_sorted->rowCount() > mostMeasured;
     setWordWrap(!isLong);
+    // Measuring the cells takes longer than all the rest.
+    QList<int> cells;
+    for (int column = 0; column < m_heads->count(); ++column)
+        cells += sizeHintForColumn(column);
     for (const bool breaksHeads : {false, true}) {
         m_heads->SetBreaking(breaksHeads);
-        resizeColumnsToContents();
+        for (int column = 0; column < m_heads->count(); ++column)
+            m_heads->resizeSection(column, std::max(cells[column], m_heads->sectionSizeHint(column)));
         if (!isLong)
             BreakWords();
         if (m_heads->length() <= Room())
