@@ -48,8 +48,9 @@ float LimitedPayment(QualifyingSteps& steps, PaymentRule rule, double front, dou
     const float byFront = steps.Faults.Single(front);
     const float byBack = steps.Faults.Single(back);
     steps.Decided.MaxPayment = rule;
-    steps.Decided.MaxPaymentRatio = byFront < byBack ? QualifyingRatio::FrontEnd : QualifyingRatio::BackEnd;
-    return MinOf(byFront, byBack);
+    const float payment = MinOf(byFront, byBack);
+    steps.Decided.MaxPaymentRatio = DecidingRatio(payment, byFront, byBack);
+    return payment;
 }
 
 float OrdinaryPayment(QualifyingSteps& steps, PaymentRule rule, float frontRatio, float backRatio) {

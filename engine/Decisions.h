@@ -27,7 +27,7 @@ enum class DownPaymentBase : std::uint8_t {
 /// The band of the down payment as a fraction of the price. A value on an edge belongs to the higher band.
 enum class PMIBand : std::uint8_t { None, Below5, Below10, Below15, Below20, NoPMI };
 
-enum class QualifyingRatio : std::uint8_t { None, FrontEnd, BackEnd };
+enum class QualifyingRatio : std::uint8_t { None, FrontEnd, BackEnd, Both };
 
 enum class PaymentRule : std::uint8_t {
     None,
@@ -59,9 +59,9 @@ enum class SavingsTerms : std::uint8_t {
 struct HomeDecisions {
     DownPaymentBase DownPayment = DownPaymentBase::None;
     PMIBand PMI = PMIBand::None;
-    QualifyingRatio IncomeNeeded = QualifyingRatio::None; ///< the ratio that requires more income
+    QualifyingRatio IncomeNeeded = QualifyingRatio::None; ///< requires more income, in whole dollars
     PaymentRule MaxPayment = PaymentRule::None;
-    QualifyingRatio MaxPaymentRatio = QualifyingRatio::None; ///< the ratio that allows the smaller payment
+    QualifyingRatio MaxPaymentRatio = QualifyingRatio::None; ///< allows the smaller payment
     LoanRule MaxLoan = LoanRule::None;
     bool PaymentCarriesLoan = false;        ///< MaxPayment was recomputed from MaxLoan
     Fault CaseFault = Fault::None;          ///< set the home's monthly cost to 0

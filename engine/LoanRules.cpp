@@ -146,7 +146,7 @@ void ComputeIncomeNeeded(CaseSteps& steps, HomeCode code) {
     const float byFront = steps.Faults.Single(WholeDollarsFromCents(front));
     const float byBack = steps.Faults.Single(WholeDollarsFromCents(back));
     home.IncomeNeeded = MaxOf(byFront, byBack);
-    steps.Decided.IncomeNeeded = byFront > byBack ? QualifyingRatio::FrontEnd : QualifyingRatio::BackEnd;
+    steps.Decided.IncomeNeeded = DecidingRatio(home.IncomeNeeded, byFront, byBack);
 }
 
 void ComputeCase(CaseSteps& steps, HomeCode code) {

@@ -16,6 +16,13 @@ inline float MaxOf(float a, float b) {
     return a > b ? a : b;
 }
 
+/// The ratio whose amount decides: `decisive` is the larger or the smaller of the two.
+inline QualifyingRatio DecidingRatio(float decisive, float byFront, float byBack) {
+    if (byFront == byBack)
+        return QualifyingRatio::Both;
+    return byFront == decisive ? QualifyingRatio::FrontEnd : QualifyingRatio::BackEnd;
+}
+
 /// Computes one home's housing cost from its price, rate and utility bill in `results` and the buyer's down
 /// payment: down payment and loan in dollars; principal and interest, insurance, taxes, PMI and PITI in
 /// dollars per month; the income needed in dollars per year. For the labelled home it also computes the

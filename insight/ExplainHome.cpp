@@ -72,6 +72,14 @@ std::string UpgradeWords(const Results& record, bool savingsPay) {
            " for the price difference of " + cost;
 }
 
+/// "The front-end ratio allows less", or what is said where both decide.
+std::string RatioWords(QualifyingRatio ratio, const char* does, const char* both) {
+    if (ratio == QualifyingRatio::Both)
+        return both;
+    return std::string(ratio == QualifyingRatio::FrontEnd ? "The front-end ratio" : "The back-end ratio") +
+           does;
+}
+
 /// A figure that a fault, or a home without a price, sets to 0.
 void HomeSteps::Case(Figure figure, std::string_view expression, std::string because, Labels labels) {
     if (m_decided.CaseFault != Fault::None)
@@ -166,9 +174,8 @@ void HomeSteps::IncomeNeeded() {
               "Scenario.UtilitySavings) / @BackRatio * 12)"
             : "max(@PITI / @FrontRatio * 12, (Scenario.MonthlyDebt + @PITI) / @BackRatio * 12)";
     m_writer.AddOwn("@IncomeByRatios", byRatios,
-                    m_decided.IncomeNeeded == QualifyingRatio::FrontEnd
-                        ? "The front-end ratio requires more income"
-                        : "The back-end ratio requires more income");
+                    RatioWords(m_decided.IncomeNeeded, " requires more income",
+                               "Both ratios require the same income in whole dollars"));
     m_writer.AddRounding("@IncomeRounding",
                          static_cast<double>(m_home.IncomeNeeded) - m_writer.ValueOf("@IncomeByRatios"));
     m_writer.Add(Figure::StdIncomeNeeded, "@IncomeByRatios + @IncomeRounding",
@@ -235,9 +242,8 @@ std::string HomeSteps::PaymentExpression() const {
 }
 
 std::string HomeSteps::RatioBecause() const {
-    std::string because = m_decided.MaxPaymentRatio == QualifyingRatio::FrontEnd
-                              ? "The front-end ratio allows less"
-                              : "The back-end ratio allows less";
+    const std::string because =
+        RatioWords(m_decided.MaxPaymentRatio, " allows less", "Both ratios allow the same");
     switch (m_decided.MaxPayment) {
     case PaymentRule::Stretched:
         return UpgradeWords(m_record, true) + ", so the savings count as income. " + because;

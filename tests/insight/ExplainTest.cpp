@@ -267,6 +267,17 @@ TEST(Explain, SaysWhetherTheSavingsCountAsIncome) {
               "back-end ratio allows less");
 }
 
+/// Both ratios of VA are 41 %, so without debts they decide the same.
+TEST(Explain, SaysThatBothRatiosDecide) {
+    Session session = ExplainSession();
+    Testing::ChooseOptions(session, "VA", "VA");
+    session.Screen.ecMonthlyDebt.Text = "$0";
+    const Explanation explanation = ExplanationOf(session);
+    EXPECT_EQ(FigureIn(explanation, "StdCase.MaxPayment").Because, "Both ratios allow the same");
+    EXPECT_EQ(FigureIn(explanation, "StdCase.IncomeByRatios").Because,
+              "Both ratios require the same income in whole dollars");
+}
+
 TEST(Explain, TheAllowanceStopsAtItsLimits) {
     Session session = ExplainSession();
     Testing::ChooseOptions(session, "FHA", "FHA EEM");
