@@ -63,7 +63,7 @@ SheetCell AnswerCell(const std::optional<Answer>& answer, std::string_view whenN
     if (!answer)
         return TextCell(std::string(whenNone));
     if (!answer->To)
-        return TextCell(answer->Input.ends_with("Util") ? "not even $0 would do" : "does not help");
+        return TextCell(answer->Input.ends_with("Util") ? "not even a bill of $0 would do" : "does not help");
     SheetCell cell{*answer->To, answer->ToValue, UnitOf(*answer), CellMark::None};
     if (answer->State == AnswerState::Found && answer->Change.value_or(0) != 0)
         cell.Entries = {{answer->Input, *answer->To}};

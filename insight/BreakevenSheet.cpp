@@ -28,7 +28,7 @@ std::string PriceSentence(const Answer& price) {
 std::string BillSentence(const Breakeven& breakeven) {
     const Answer& bill = *breakeven.Bill;
     if (bill.State == AnswerState::Never)
-        return "Not even a utility bill of $0 would do.";
+        return "Not even a bill of $0 would do.";
     if (bill.Kind == AnswerKind::Nearest)
         return "It would also pay with a utility bill of " + *bill.To + " a year, " + ChangeSize(bill) +
                " less than expected.";

@@ -5,13 +5,14 @@
 #include "insight/Qualify.h"
 
 // Room and shortfall in the words of a buyer. "The loan is $287,161 too large" would be odd for a mortgage of
-// $180,000: where the largest loan is below 0, no loan at all would do.
+// $180,000: where the largest loan is below 0, the option allows none.
 namespace Ledgrove {
 
 /// Whether the down payment covers the price, so that there is no mortgage.
 bool NeedsNoMortgage(const HomeQualification& home);
 
-/// Whether the taxes, insurance and debts alone are too much, whatever the loan.
+/// Whether the largest loan is $0 or less. Another option, price or down payment may allow one: the largest
+/// loan is what is left after the taxes and insurance of this price and the PMI of this loan.
 bool AllowsNoMortgage(const HomeQualification& home);
 
 /// "$7,102", "less than a dollar"
@@ -29,6 +30,7 @@ std::string RoomPhrase(const HomeQualification& home);
 std::string ExcessPhrase(const HomeQualification& home);
 
 /// Why the buyer does not qualify where AllowsNoMortgage.
-inline constexpr const char* NoMortgageWords = "with this income and debt, no mortgage of any size would do";
+inline constexpr const char* NoMortgageWords =
+    "with this income, debt, price and down payment, the mortgage option allows no loan";
 
 } // namespace Ledgrove

@@ -77,7 +77,7 @@ TEST(Breakeven, NotEvenABillOfZeroWouldDo) {
     const Breakeven result = BreakevenOf(session);
     ExpectAnswer(result.Bill, AnswerKind::Nearest, AnswerState::Never, "none", 0);
     EXPECT_EQ(result.SavingsShare, std::nullopt);
-    EXPECT_TRUE(SentenceOf(session).ends_with("Not even a utility bill of $0 would do."));
+    EXPECT_TRUE(SentenceOf(session).ends_with("Not even a bill of $0 would do."));
 }
 
 TEST(Breakeven, WithoutALoanThePriceDoesNotMatter) {

@@ -85,13 +85,26 @@ TEST(Takeaway, SaysWhichHomeTheBuyerQualifiesFor) {
               "for the base home: its mortgage is $2,800 too large.");
 }
 
-/// $150 of taxes and insurance or of debts a month may be more than the ratios allow.
-TEST(Takeaway, SaysThatNoMortgageWouldDo) {
+/// Taxes, insurance, PMI or debts may be more than the ratios allow.
+TEST(Takeaway, SaysThatTheOptionAllowsNoLoan) {
     Session session = Testing::SimpleSession();
     session.Screen.ecMonthlyDebt.Text = "$3,000"; // 36 % of $60,000 are $1,800 a month
     const Texts sentences = SentencesOf(session);
-    EXPECT_EQ(sentences[4], "The buyer qualifies for neither home: with this income and debt, no mortgage of "
-                            "any size would do.");
+    EXPECT_EQ(sentences[4], "The buyer qualifies for neither home: with this income, debt, price and down "
+                            "payment, the mortgage option allows no loan.");
+}
+
+/// Of $5,000 a month, 36 % less $1,810 leave nothing, while 43 % leave $340, enough for $24,000 over 10 years
+/// at no interest.
+TEST(Takeaway, AnOptionThatAllowsNoLoanIsNoReasonAgainstAnother) {
+    Session session = Testing::SimpleSession();
+    session.Screen.ecMonthlyDebt.Text = "$1,810";
+    session.Screen.ecStdHome.Text = "$24,000";
+    session.Screen.ecGMHHome.Text = "$25,000";
+    const Texts sentences = SentencesOf(session);
+    EXPECT_THAT(sentences, testing::Contains("The buyer qualifies for neither home: with this income, debt, "
+                                             "price and down payment, the mortgage option allows no loan."));
+    EXPECT_THAT(sentences, testing::Contains(testing::HasSubstr(" or the mortgage option FHA")));
 }
 
 TEST(Takeaway, SaysThatNoMortgageIsNeeded) {
