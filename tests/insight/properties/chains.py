@@ -1,5 +1,6 @@
 """Checks of explain: every expression gives its value, every name is a figure, and every shown amount has one."""
 import re
+from itertools import accumulate
 
 TOKEN = re.compile(r"\s*(?:(\d+(?:\.\d+)?(?:[eE][-+]?\d+)?)|([A-Za-z_][\w.]*)|([-+*/(),]))")
 WITHIN = 6e-7
@@ -125,6 +126,22 @@ def chain(case, figure, known):
     case.close(f"{where}: {figure['expression']}", value, figure["value"], WITHIN * largest)
     if figure["expression"] == "0":
         case.true(where, figure["because"] != "", "0 without a reason")
+    deciding_ratio(case, figure, where)
+
+
+def deciding_ratio(case, figure, where):
+    """The reason names the ratio whose amount is the figure. Incomes that agree in whole dollars are the same."""
+    claim = re.search(r"(The front-end ratio|The back-end ratio|Both ratios) (allows? less|allow the same|require)", figure["because"])
+    if not claim:
+        return
+    depths = list(accumulate((char == "(") - (char == ")") for char in figure["expression"]))
+    comma = next(at for at, char in enumerate(figure["expression"]) if char == "," and depths[at] == 1)
+    front, back = (Reader(part, figure["values"]).whole()
+                   for part in (figure["expression"][4:comma], figure["expression"][comma + 1:-1]))
+    more, error = (front - back) * (1 if figure["expression"].startswith("max") else -1), WITHIN * max(abs(front), abs(back))
+    same = error + (1.01 if claim[2] == "require" else 0)
+    said = {"The front-end ratio": more > -error, "The back-end ratio": more < error, "Both ratios": abs(more) <= same}
+    case.true(where, said[claim[1]], f"{figure['because']}: {front}, {back}")
 
 
 def shown_labels(case, figures):

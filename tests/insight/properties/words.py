@@ -66,6 +66,7 @@ def statements(case, text):
                           ("would qualify for the base home", not yes["std"]),
                           ("would qualify for the GREENMARK home", not yes["gmh"]),
                           ("Nothing is left each month", net < 0.005), ("more is left", net >= 0),
+                          ("allows no loan", any(not yes[home] and case.now.home(home)["MaxLoan"] < 0.5 for home in yes)),
                           ("It still pays", net >= 0), ("It would pay", net < 0)):
         if words in text and not wanted:
             case.fault("takeaway: statement", f"{words!r} is not so; net {net}, qualifies {yes}: {text}")
