@@ -209,13 +209,15 @@ ChartFigures SavingsChart(const Session& session) {
     return chart;
 }
 
-/// The smallest step of 1, 2, 2.5 or 5 times a power of ten that covers `range` in at most `mostSteps`.
+/// The smallest step of 1, 2, 2.5 or 5 times a power of ten that covers `range` in at most `mostSteps`. It is
+/// whole, because the ticks are written in whole dollars.
 double RoundStep(double range, int mostSteps) {
     const double power = std::pow(10, std::floor(std::log10(range / mostSteps)));
     for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
         // The tolerance keeps a range of exactly `mostSteps` steps from failing because of rounding.
-        if (range <= factor * power * mostSteps * (1 + 1e-9))
-            return factor * power;
+        const double step = factor * power;
+        if (step == std::floor(step) && range <= step * mostSteps * (1 + 1e-9))
+            return step;
     }
     return 10 * power;
 }
@@ -236,7 +238,7 @@ std::optional<ChartKind> ChartOfTab(int tab) {
 }
 
 void SetScale(ChartFigures& chart, double lowest, double highest, int mostSteps) {
-    // Ticks are whole dollars, so a range below 5 is too small to divide.
+    // A range below 5 is too small to divide into whole dollars.
     const double step = RoundStep(std::max(highest - lowest, 5.0), mostSteps);
     constexpr double belowLowest = 1.05;
     chart.Lowest = lowest * belowLowest;

@@ -243,6 +243,9 @@ TEST(ChartScaleTest, StepsAreRound) {
     EXPECT_THAT(TickTexts(0, 100, 5), ElementsAre("$0", "$20", "$40", "$60", "$80", "$100"));
     EXPECT_THAT(TickTexts(0, 16790, 3), ElementsAre("$0", "$10,000", "$20,000"));
     EXPECT_THAT(TickTexts(0, 0, 5), ElementsAre("$0", "$1"));
+    // Steps of $2.50 would be written as $3 and $5.
+    EXPECT_THAT(TickTexts(0, 10, 4), ElementsAre("$0", "$5", "$10"));
+    EXPECT_THAT(TickTexts(0, 100, 4), ElementsAre("$0", "$25", "$50", "$75", "$100"));
 }
 
 TEST(ChartScaleTest, ValuesBelowZeroGetOnlyTheSpaceTheyNeed) {
