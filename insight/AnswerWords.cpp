@@ -68,7 +68,7 @@ SheetCell AnswerCell(const std::optional<Answer>& answer, std::string_view whenN
     if (answer->State == AnswerState::Found && answer->Change.value_or(0) != 0)
         cell.Entries = {{answer->Input, *answer->To}};
     if (cell.Text.empty())
-        cell.Text = "$0";
+        cell.Text = EmptyFieldText;
     if (answer->State == AnswerState::Always)
         cell.Text.insert(0, "any, to ");
     return cell;
@@ -107,8 +107,16 @@ std::string Joined(const std::vector<std::string>& texts, std::string_view last)
 }
 
 std::string ShareText(double share) {
-    constexpr double wholeError = 1e-9;
-    return Module1::FormatPicture(std::ceil(share * 100 - wholeError), "#0") + "%";
+    constexpr double error = 1e-9;
+    const auto text = [share](double parts, const char* picture) {
+        return Module1::FormatPicture(std::ceil(share * 100 * parts - error) / parts, picture) + "%";
+    };
+    const std::string whole = text(1, "#0");
+    // What is less than all must not read as all.
+    if (whole != "100%" || share >= 1 - error)
+        return whole;
+    const std::string tenths = text(10, "#0.0");
+    return tenths == "100.0%" ? "nearly 100%" : tenths;
 }
 
 } // namespace Ledgrove

@@ -33,7 +33,10 @@ std::string EdgePhrase(const Answer& answer);
 /// "a, b and c"; `last` stands before the last one.
 std::string Joined(const std::vector<std::string>& texts, std::string_view last = " and ");
 
-/// 54% for 0.5335: a share is rounded up, because less is not enough.
+/// What an empty field of dollars counts as.
+inline constexpr const char* EmptyFieldText = "$0";
+
+/// 54% for 0.5335: a share is rounded up, because less is not enough. 99.1% for 0.9904.
 std::string ShareText(double share);
 
 } // namespace Ledgrove

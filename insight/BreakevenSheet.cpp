@@ -27,11 +27,12 @@ std::string PriceSentence(const Answer& price) {
 
 std::string BillSentence(const Breakeven& breakeven) {
     const Answer& bill = *breakeven.Bill;
+    const bool priceHelps = breakeven.Price && breakeven.Price->State == AnswerState::Found;
     if (bill.State == AnswerState::Never)
         return "Not even a bill of $0 would do.";
     if (bill.Kind == AnswerKind::Nearest)
-        return "It would also pay with a utility bill of " + *bill.To + " a year, " + ChangeSize(bill) +
-               " less than expected.";
+        return std::string(priceHelps ? "It would also" : "It would") + " pay with a utility bill of " +
+               *bill.To + " a year, " + ChangeSize(bill) + " less than expected.";
     if (bill.State == AnswerState::Always)
         return "It pays whatever its utility bill is, up to " + *bill.To + " a year.";
     std::string sentence = "Its utility bill may be as high as " + *bill.To + " a year";
@@ -55,7 +56,8 @@ Sheet BreakevenSheet(const Insight& insight, const Breakeven& breakeven) {
         sheet.Sentence += " " + BillSentence(breakeven);
     sheet.Heads = {"GREENMARK Home", "Now", "Pays Up To", "Change"};
     const auto add = [&](const char* what, const std::optional<Answer>& answer) {
-        sheet.Rows.push_back({TextCell(what), TextCell(answer ? answer->From : ""),
+        const std::string now = answer ? answer->From : "";
+        sheet.Rows.push_back({TextCell(what), TextCell(answer && now.empty() ? EmptyFieldText : now),
                               AnswerCell(answer, "unknown"), ChangeCell(answer)});
     };
     add(insight.Now().IncludeTaxes ? "Price, with tax savings" : "Price", breakeven.Price);

@@ -44,6 +44,12 @@ bool SavingsPay(const Results& results) {
     return results.GMHCase.PVSavings >= results.Scenario.CostDifference;
 }
 
+/// PMI a month for a dollar of the loan.
+double PMIRate(const HomeCase& home) {
+    return home.LoanAmount > 0 ? static_cast<double>(home.PMIMonthly) / static_cast<double>(home.LoanAmount)
+                               : 0;
+}
+
 /// How far the loan may stand from where it would only rise or only fall with the price. A down payment of
 /// more than the price is the only one that is rounded more coarsely than the price.
 double LoanError(const HomeCase& a, const HomeCase& b) {
@@ -147,7 +153,9 @@ std::optional<bool> QualifiesCondition::Throughout(const Results& a, const Resul
 }
 
 AnswerEdge QualifiesCondition::EdgeBetween(const Results& inside, const Results& outside) const {
-    if (Decided(inside).PMI != Decided(outside).PMI)
+    constexpr double rounding = 1 + 1e-5; // of two amounts in single precision
+    const bool costsMore = PMIRate(outside.Home(m_home)) > PMIRate(inside.Home(m_home)) * rounding;
+    if (Decided(inside).PMI != Decided(outside).PMI && costsMore)
         return AnswerEdge::PMIBand;
     const bool losesSavings = m_home == HomeCode::GMH &&
                               Decided(inside).MaxPayment != Decided(outside).MaxPayment &&

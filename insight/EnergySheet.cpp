@@ -28,10 +28,8 @@ std::string OwnSentence(const EnergyGrowth& energy) {
     if (!energy.Own)
         return {};
     const double ahead = (*energy.Own)[static_cast<std::size_t>(energy.InHome) - 1];
-    const bool isBehind = ahead < EvenFrom;
     return " At " + RateText(energy.By.UtilityGrowth) + " a year, as assumed now, the buyer is " +
-           (isBehind ? "behind by " : "ahead by ") + DollarText(isBehind ? -ahead : ahead) + " after " +
-           YearsText(energy.InHome) + ".";
+           AheadText(ahead) + " after " + YearsText(energy.InHome) + ".";
 }
 
 /// The years in the home, and every fifth year.

@@ -23,8 +23,8 @@ std::string ShareSentence(const SaleByYear& exit) {
 
 SheetCell ProceedsCell(double amount) {
     SheetCell cell = DollarCell(amount);
-    if (cell.Mark == CellMark::Bad)
-        cell.Text = "would have to bring " + DollarText(-amount);
+    if (const std::string missing = DollarText(-amount); cell.Mark == CellMark::Bad && missing != "$0")
+        cell.Text = "would have to bring " + missing;
     return cell;
 }
 

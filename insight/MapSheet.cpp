@@ -18,6 +18,9 @@ Sheet MapSheet(const NetMap& map) {
                      "difference is " +
                      DollarText(map.PriceNow) + " and the saving " + DollarText(map.SavingsNow) +
                      " a year, which leaves " + DollarText(static_cast<double>(map.NetNow)) + " a month.";
+    // The largest saving has the lowest bill.
+    if (!map.Net.back().front())
+        sheet.Sentence += " What stays empty would need a utility bill below $0.";
     sheet.Heads.emplace_back("Saving");
     for (std::size_t column = 0; column < MapSize; column += shownStep)
         sheet.Heads.push_back(DollarText(map.Price[column]));

@@ -40,13 +40,18 @@ std::string PairOf(const OptionAnswer& row) {
     return std::string(row.Base) + " / " + std::string(row.Labelled);
 }
 
-/// What the row is the best of. Where nobody qualifies, the most room is what is missing least.
+/// What the row is the best of. Where nobody qualifies, the most room is what is missing least,
+/// and where nothing is left, the best net is the smallest loss.
 std::string WordsOfBest(const OptionAnswer& row) {
     std::vector<std::string> words;
-    for (const BestIn column : row.Best)
-        words.emplace_back(column == BestIn::Room && row.GMH.Margin < 0
-                               ? "the smallest shortfall"
-                               : bestWords[static_cast<std::size_t>(column)]);
+    for (const BestIn column : row.Best) {
+        if (column == BestIn::Room && row.GMH.Margin < 0)
+            words.emplace_back("the smallest shortfall");
+        else if (column == BestIn::Net && row.ShownNet < 0)
+            words.emplace_back("the smallest monthly loss");
+        else
+            words.emplace_back(bestWords[static_cast<std::size_t>(column)]);
+    }
     return Joined(words);
 }
 

@@ -5,6 +5,7 @@
 #include "engine/NumberText.h"
 #include "insight/AnswerWords.h"
 #include "insight/Sensitivity.h"
+#include "insight/YearsWords.h"
 
 namespace Ledgrove {
 
@@ -37,7 +38,7 @@ const InputName& NameOfInput(std::string_view input) {
 /// An assumption as a percentage, or as years.
 std::string NumberText(std::string_view input, double number) {
     if (input == "yearsInHome")
-        return Module1::FormatPicture(number, "#0") + " years";
+        return YearsText(static_cast<int>(number));
     return Module1::FormatPicture(input == "pmi" ? number * 100 : number, "#0.0##") + "%";
 }
 
@@ -49,6 +50,13 @@ std::string DistanceText(const Insight& insight, std::string_view input, const s
     return DollarText(insight.Steps(Varied::StdBill).Now() - put);
 }
 
+/// What an empty field counts as.
+std::string EmptyText(const Insight& insight, std::string_view input) {
+    if (input == "rates")
+        return "0.000%";
+    return input == "down" && insight.Now().DownAsPercent ? "0.00%" : EmptyFieldText;
+}
+
 std::string ValueText(const Insight& insight, std::string_view input,
                       const std::optional<SensitivitySide>& side) {
     if (!side)
@@ -56,8 +64,10 @@ std::string ValueText(const Insight& insight, std::string_view input,
     if (input == "upgrade" || input == "savings")
         return DistanceText(insight, input, side->Values.front().Text);
     std::string text;
-    for (const PutValue& value : side->Values)
-        text += (text.empty() ? "" : ", ") + (value.IsText ? value.Text : NumberText(input, value.Number));
+    for (const PutValue& value : side->Values) {
+        const std::string one = value.IsText ? value.Text : NumberText(input, value.Number);
+        text += (text.empty() ? "" : ", ") + (one.empty() ? EmptyText(insight, input) : one);
+    }
     return text;
 }
 
@@ -124,6 +134,7 @@ std::string SentenceOf(const Insight& insight, const Sensitivity& sensitivity) {
 Sheet SensitivitySheet(const Insight& insight, const Sensitivity& sensitivity) {
     Sheet sheet;
     sheet.Title = "What moves the result";
+    sheet.IdleWords = "does not move the monthly net";
     sheet.Sentence = SentenceOf(insight, sensitivity);
     sheet.Heads = {"Input", "Lower", "Monthly Net", "Higher", "Monthly Net", "Room, Lower", "Room, Higher"};
     for (const SensitivityRow& row : sensitivity.Rows) {

@@ -23,7 +23,7 @@ enum class CellMark : std::uint8_t {
     Current, ///< what is chosen now
     Bad,     ///< below 0, or does not qualify
     Turn,    ///< something changes here for good
-    Idle     ///< does not move the result
+    Idle     ///< moves nothing; see Sheet::IdleWords
 };
 
 /// A text to enter into a control of the main window, or to choose there.
@@ -49,6 +49,8 @@ struct Sheet {
     std::vector<std::vector<SheetCell>> Rows;
     /// The columns after the first that hold sentences: they begin on the left.
     std::vector<std::size_t> Words = {};
+    /// What the mark Idle means in this table.
+    std::string_view IdleWords = "does not move the result";
     std::string Note = {}; ///< stands below the table: what the answer assumes, and what it is not
 };
 

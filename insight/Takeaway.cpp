@@ -104,8 +104,7 @@ std::string CostSentence(const Results& record) {
 
 /// The monthly net with the tax line as it would really be; empty where the shown line is as good as right.
 std::optional<double> RealNet(const Insight& insight, const TaxCheck& tax) {
-    const bool isRight = std::fabs(tax.Real - static_cast<double>(tax.Shown)) <= leastShown;
-    if (!insight.Now().IncludeTaxes || isRight)
+    if (!insight.Now().IncludeTaxes || !DiffersFromShown(tax))
         return std::nullopt;
     return static_cast<double>(insight.Record().Scenario.NetBeforeTax) + tax.Real;
 }
@@ -122,9 +121,18 @@ std::string RealWords(const Insight& insight, const TaxCheck& tax) {
     if (!real)
         return ".";
     // A plain amount after "nothing is left" would contradict it.
-    const bool isLeftReally = *real >= leastShown && insight.ShownNet(insight.Record()) < 0;
-    return "; with the tax line as it would really be, " + DollarText(*real) +
-           (isLeftReally ? " would be left." : ".");
+    const auto net = static_cast<double>(insight.ShownNet(insight.Record()));
+    const bool isLeftReally = *real >= leastShown && net < 0;
+    const std::string amount = "; with the tax line as it would really be, " + DollarText(*real);
+    if (isLeftReally)
+        return amount + " would be left.";
+    return amount + (DollarText(*real) == DollarText(net) ? " as well." : ".");
+}
+
+/// The same after a sentence that ends with another amount.
+std::string MonthlyRealWords(const Insight& insight, const TaxCheck& tax) {
+    const auto real = RealNet(insight, tax);
+    return real ? "; with the tax line as it would really be, " + DollarText(*real) + " a month." : ".";
 }
 
 std::string TaxWords(const Insight& insight, const TaxCheck& tax) {
@@ -160,7 +168,7 @@ std::string NetSentence(const Insight& insight, const YearByYear& years, const T
             first.front() = 'L';
         return first + " more is left each month, but the extra down payment of " +
                DollarText(years.ExtraCash) + " is not earned back in " + YearsWords(years.InHome) +
-               RealWords(insight, tax);
+               MonthlyRealWords(insight, tax);
     }
     if (net > 0)
         return "Each month " + amount + " more is left than with the base home" + taxes;
@@ -193,21 +201,33 @@ bool IsAheadByTaxOnly(const Insight& insight, const YearByYear& years, const Tax
     return InHomeEnd(years) + perMonth * 12 * years.InHome < 0;
 }
 
-/// When the buyer is ahead; empty if that is never, or if only the shown tax line makes it so.
+/// A loss is that of a month in the middle of the loan, so that the buyer may be ahead all the same.
+std::string EarnedBackSentence(const YearByYear& years, bool isLoss, bool isByTaxOnly) {
+    const std::string earned = "he extra down payment of " + DollarText(years.ExtraCash) +
+                               " is earned back after " + MonthsWords(*years.Ahead) + ".";
+    if (isByTaxOnly)
+        return "With the tax line as shown, t" + earned;
+    return (isLoss ? "Counted month by month, t" : "T") + earned;
+}
+
+/// When the buyer is ahead; empty if that is never. What only the shown tax line makes so is said with it,
+/// or, without an extra down payment, not at all.
 std::string AheadSentence(const Insight& insight, const YearByYear& years, const TaxCheck& tax) {
     if (!years.Ahead || IsDoubtful(insight, tax))
         return {};
+    const bool isLoss = insight.ShownNet(insight.Record()) < 0;
     if (years.ExtraCash > leastShown)
-        return "The extra down payment of " + DollarText(years.ExtraCash) + " is earned back after " +
-               MonthsWords(*years.Ahead) + ".";
+        return EarnedBackSentence(years, isLoss, IsAheadByTaxOnly(insight, years, tax));
     const double amount = InHomeEnd(years);
     if (amount < leastShown || IsAheadByTaxOnly(insight, years, tax))
         return {};
     const std::string end = "by " + DollarText(amount) + " after " + YearsWords(years.InHome) + ".";
     // Each month may cost more: then the cash that is not paid down makes up for it.
-    if (insight.ShownNet(insight.Record()) < 0 && years.ExtraCash < -leastShown)
+    if (isLoss && years.ExtraCash < -leastShown)
         return "With " + DollarText(-years.ExtraCash) + " less down payment, the buyer is still ahead, " +
                end;
+    if (isLoss)
+        return "Counted month by month, the buyer is still ahead, " + end;
     return *years.Ahead == 0 ? "The buyer is ahead from the first day, " + end
                              : "The buyer is ahead after " + MonthsWords(*years.Ahead) + ", " + end;
 }

@@ -1,10 +1,16 @@
 #include "insight/TaxCheck.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "insight/YearsWords.h"
 
 namespace Ledgrove {
+
+bool DiffersFromShown(const TaxCheck& tax) {
+    constexpr double rightWithin = 0.5;
+    return std::fabs(tax.Real - static_cast<double>(tax.Shown)) > rightWithin;
+}
 
 namespace {
 
@@ -66,7 +72,9 @@ std::string SentenceOf(const TaxCheck& tax) {
     const std::string line = ReasonText(tax) + ": the tax line would really be " + real + " a month";
     if (!tax.IsIncluded)
         return line + "; the tabs leave it out, because income tax is not included.";
-    return line + (real == shown ? ", as shown." : ", not the " + shown + " shown.");
+    if (real != shown)
+        return line + ", not the " + shown + " shown.";
+    return line + (DiffersFromShown(tax) ? ", nearly as shown." : ", as shown.");
 }
 
 } // namespace

@@ -43,6 +43,9 @@ inline constexpr std::array<FilingStatus, 3> FilingStatuses{
      {"Joint", "a couple filing jointly", 32'200},
      {"Head of household", "a head of household", 24'150}}};
 
+/// Whether the shown line is off by more than $0.50 a month.
+bool DiffersFromShown(const TaxCheck& tax);
+
 /// Checks the line of a comparison; the plans are those of its homes. The insight must not be missing.
 TaxCheck CheckTaxLine(const Insight& insight, const HomePlan& std, const HomePlan& gmh);
 

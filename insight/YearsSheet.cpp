@@ -12,9 +12,8 @@ std::string AheadSentence(const YearByYear& years) {
     const std::string stay = YearsText(years.InHome);
     if (!years.Ahead)
         return "With the GREENMARK home, the buyer is not ahead within " + stay + ".";
-    const std::string by = "ahead by " +
-                           DollarText(years.Years[static_cast<std::size_t>(years.InHome) - 1].Cumulative) +
-                           " after " + stay + ".";
+    const double amount = years.Years[static_cast<std::size_t>(years.InHome) - 1].Cumulative;
+    const std::string by = AheadText(amount) + " after " + stay + ".";
     if (*years.Ahead == 0)
         return "With the GREENMARK home, the buyer is never behind, and " + by;
     return "With the GREENMARK home, the buyer is ahead " + FromMonthText(*years.Ahead) + " on, and " + by;
@@ -31,14 +30,19 @@ std::string ReturnSentence(const YearByYear& years) {
 }
 
 std::string WorthSentence(const YearByYear& years) {
-    if (!years.NPV)
+    // Nothing is worth nothing.
+    if (!years.NPV || IsEven(*years.NPV))
         return {};
     const bool isPaid = years.ExtraCash > 0;
-    if (*years.NPV < EvenFrom)
-        return " In today's money, the buyer loses " + DollarText(-*years.NPV) + " in " +
+    if (*years.NPV < 0)
+        return " In today's money, the buyer loses " + AmountText(-*years.NPV) + " in " +
                YearsText(years.InHome) + (isPaid ? ", with the extra down payment." : ".");
+    if (years.ExtraCash < 0)
+        return " With " + AmountText(-years.ExtraCash) +
+               " less down payment, what the GREENMARK home costs and saves in " + YearsText(years.InHome) +
+               " is worth " + AmountText(*years.NPV) + " today.";
     return " The savings of " + YearsText(years.InHome) + (isPaid ? ", less the extra down payment," : "") +
-           " are worth " + DollarText(*years.NPV) + " today.";
+           " are worth " + AmountText(*years.NPV) + " today.";
 }
 
 /// Whether PMI runs before this month and not in it, although the loan still runs.

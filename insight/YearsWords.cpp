@@ -1,6 +1,10 @@
 #include "insight/YearsWords.h"
 
+#include <cmath>
+
 #include "engine/NumberText.h"
+#include "insight/Sheet.h"
+#include "insight/Years.h"
 
 namespace Ledgrove {
 
@@ -13,10 +17,31 @@ std::string FromMonthText(int month) {
 }
 
 std::string RateText(double rate) {
-    std::string text = Module1::FormatPicture(rate * 100, "##0.##");
-    if (text.ends_with('.'))
-        text.pop_back();
+    std::string text;
+    // A rate above 0 must not read as 0.
+    for (const char* picture : {"##0.##", "##0.####", "##0.########"}) {
+        text = Module1::FormatPicture(rate * 100, picture);
+        if (text.ends_with('.'))
+            text.pop_back();
+        if (rate == 0 || text != "0")
+            break;
+    }
     return text + "%";
+}
+
+bool IsEven(double dollars) {
+    return std::fabs(dollars) <= -EvenFrom;
+}
+
+std::string AmountText(double dollars) {
+    constexpr double leastShown = 0.5;
+    return dollars < leastShown ? "less than a dollar" : DollarText(dollars);
+}
+
+std::string AheadText(double dollars) {
+    if (IsEven(dollars))
+        return "as well off as with the base home";
+    return (dollars < 0 ? "behind by " : "ahead by ") + AmountText(std::fabs(dollars));
 }
 
 namespace {

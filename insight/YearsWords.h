@@ -16,6 +16,16 @@ std::string FromMonthText(int month);
 /// A fraction: "4.25%", "22%".
 std::string RateText(double rate);
 
+/// Whether the amount is neither gained nor lost, to the cent.
+bool IsEven(double dollars);
+
+/// "$1,234", "less than a dollar"; the amount is above 0.
+std::string AmountText(double dollars);
+
+/// After "the buyer is": "ahead by $843", "behind by less than a dollar", "as well off as with the base
+/// home".
+std::string AheadText(double dollars);
+
 /// What the years assume about bills and taxes, as a sentence.
 std::string GrowthText(const YearSettings& settings);
 

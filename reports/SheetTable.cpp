@@ -43,7 +43,7 @@ std::string Legend(const Sheet& sheet) {
     };
     add(CellMark::Best, "* the best of its column");
     add(CellMark::Current, "> chosen now");
-    add(CellMark::Idle, "in italics: does not move the result");
+    add(CellMark::Idle, "in italics: " + std::string(sheet.IdleWords));
     return legend;
 }
 

@@ -54,6 +54,9 @@ TEST(Map, ABillBelowZeroHasNoNet) {
     EXPECT_TRUE(map.Net[34][0]);
     EXPECT_FALSE(map.Net[35][0]);
     EXPECT_FALSE(map.Net[40][40]);
+    EXPECT_TRUE(MapSheet(map).Sentence.ends_with(" What stays empty would need a utility bill below $0."));
+    session.Screen.ecGMHUtil.Text = "$1,200"; // up to $2,400
+    EXPECT_TRUE(MapSheet(MapOf(session)).Sentence.ends_with(" a month."));
 }
 
 TEST(Map, HasScalesOfItsOwnWhereThereIsNoDifference) {

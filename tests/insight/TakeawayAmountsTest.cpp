@@ -103,7 +103,11 @@ private:
         if (!isNamed)
             return;
         const double real = static_cast<double>(m_insight.Record().Scenario.NetBeforeTax) + tax.Real;
-        const std::string end = net < 0 && real >= 0.5 ? " would be left." : ".";
+        std::string end = DollarText(real) == DollarText(net) ? " as well." : ".";
+        if (net < 0 && real >= 0.5)
+            end = " would be left.";
+        if (sentence.find("is not earned back") != std::string::npos)
+            end = " a month.";
         EXPECT_TRUE(sentence.ends_with("really be, " + DollarText(real) + end)) << sentence;
         if ((real >= 0) != (net >= 0)) {
             EXPECT_EQ(m_all.find("pays each month"), std::string::npos);
@@ -137,7 +141,7 @@ private:
     }
 
     void CheckShare() {
-        const std::string share = Found(m_all, "with ([0-9]+%) of the expected savings");
+        const std::string share = Found(m_all, "with ([0-9.]+%) of the expected savings");
         if (share.empty())
             return;
         ++Shares;

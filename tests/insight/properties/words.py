@@ -78,8 +78,8 @@ def shares(case, text):
     share = even["savingsShare"]
     for price in re.findall(r"(?:still pays each month up to|would pay each month with) a price of (-?\$[\d,]+)", text):
         case.same("takeaway: price", price, even["price"]["to"])
-    for percent in re.findall(r"with (\d+)% of the expected savings", text):
-        enough = share is not None and share - 1e-9 <= int(percent) / 100 < share + 0.01 + 1e-9
+    for percent in re.findall(r"with ([\d.]+)% of the expected savings", text):
+        enough = share is not None and share - 1e-9 <= float(percent) / 100 < share + 0.01 + 1e-9
         case.true("takeaway: share", enough, f"{percent} % for {share}: {text}")
     if "none of the expected savings" in text:
         case.true("takeaway: share", share == 0 or even["bill"]["state"] == "always", f"share {share}: {text}")

@@ -19,14 +19,14 @@ const SheetCell& CellAt(const Sheet& sheet, const QModelIndex& index) {
     return sheet.Rows[static_cast<std::size_t>(index.row())][static_cast<std::size_t>(index.column())];
 }
 
-QString MarkInWords(CellMark mark) {
+QString MarkInWords(const Sheet& sheet, CellMark mark) {
     switch (mark) {
     case CellMark::Best:
         return ", the best of its column";
     case CellMark::Current:
         return ", chosen now";
     case CellMark::Idle:
-        return ", does not move the result";
+        return ", " + Words(sheet.IdleWords);
     case CellMark::Bad:
     case CellMark::Turn: // the cell's text says what changes
     case CellMark::None:
@@ -57,7 +57,7 @@ QString LegendOf(const Sheet& sheet) {
     if (has(CellMark::Current))
         parts += "> chosen now";
     if (has(CellMark::Idle))
-        parts += "in italics: does not move the result";
+        parts += "in italics: " + Words(sheet.IdleWords);
     return parts.join("     ");
 }
 
@@ -143,9 +143,9 @@ QString SheetModel::Spoken(const QModelIndex& index) const {
     const auto& row = m_sheet.Rows[static_cast<std::size_t>(index.row())];
     const QString text = cell.Text.empty() ? "empty" : Words(cell.Text);
     if (index.column() == 0)
-        return text + MarkInWords(cell.Mark);
+        return text + MarkInWords(m_sheet, cell.Mark);
     return Words(row.front().Text) + ", " + Words(m_sheet.Heads[static_cast<std::size_t>(index.column())]) +
-           ": " + text + MarkInWords(cell.Mark);
+           ": " + text + MarkInWords(m_sheet, cell.Mark);
 }
 
 QVariant SheetModel::data(const QModelIndex& index, int role) const {
