@@ -83,6 +83,14 @@ class Pages(InsightPdf):
             for amount in amounts:
                 self.assertIn(amount, printed, view)
 
+    def test_a_bar_of_no_length_is_not_drawn(self):
+        # No term is longer than 40 years.
+        given = json.dumps({"ecStdHome": "250000", "ecGMHHome": "260000", "ecStdUtil": "2400", "ecGMHUtil": "1700", "ecIncome": "60000",
+                            "cboMortTerm": "40 years"}).encode()
+        self.insight("--output", self.pdf, "--view", "sensitivity", given=given)
+        run = subprocess.run(["pdftoppm", "-r", "20", self.pdf, self.folder / "page"], capture_output=True, check=True)
+        self.assertEqual(run.stderr.decode(), "")
+
     def test_the_explanation_has_every_figure(self):
         self.write("--view", "explain")
         figures = json.loads(self.insight("--view", "explain", "--format", "json", SAMPLE).stdout)["explain"]["figures"]

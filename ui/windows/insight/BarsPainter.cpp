@@ -88,6 +88,9 @@ private:
     }
 
     void Fill(const QRectF& box, bool isLow) {
+        // A rectangle of no width makes a path that PDF readers complain about.
+        if (box.width() == 0)
+            return;
         m_painter.setPen(QPen(m_text, 0.6));
         m_painter.setBrush(isLow ? lowFill : highFill);
         m_painter.drawRect(box);
