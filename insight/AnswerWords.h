@@ -36,7 +36,8 @@ std::string Joined(const std::vector<std::string>& texts, std::string_view last 
 /// What an empty field of dollars counts as.
 inline constexpr const char* EmptyFieldText = "$0";
 
-/// 54% for 0.5335: a share is rounded up, because less is not enough. 99.1% for 0.9904.
+/// A fraction: 54% for 0.5335. It is rounded up, because less is not enough, but never to all: 99.1% for
+/// 0.9904, "nearly 100%" for 0.9999.
 std::string ShareText(double share);
 
 } // namespace Ledgrove

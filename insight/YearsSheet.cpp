@@ -30,7 +30,7 @@ std::string ReturnSentence(const YearByYear& years) {
 }
 
 std::string WorthSentence(const YearByYear& years) {
-    // Nothing is worth nothing.
+    // Worth $0: the buyer neither gains nor loses, which needs no sentence.
     if (!years.NPV || IsEven(*years.NPV))
         return {};
     const bool isPaid = years.ExtraCash > 0;

@@ -121,8 +121,8 @@ void SheetView::FitColumns() {
     updateGeometry();
 }
 
-/// The width for all columns. It leaves a bar its place, because the columns decide how high the rows are,
-/// these whether there is a bar, and so it would come and go.
+/// The width for all columns, without that of the vertical scroll bar even while it is hidden: narrower
+/// columns make taller rows, and these may need the bar, so it would come and go.
 int SheetView::Room() const {
     return contentsRect().width() - verticalScrollBar()->sizeHint().width();
 }

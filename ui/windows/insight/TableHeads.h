@@ -11,8 +11,6 @@ class TableHeads : public QHeaderView {
 public:
     explicit TableHeads(QWidget* parent = nullptr);
 
-    bool IsBreaking() const { return m_isBreaking; }
-
     /// Whoever changes this has to fit the columns anew.
     void SetBreaking(bool isBreaking);
 
