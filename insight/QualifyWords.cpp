@@ -4,27 +4,20 @@
 
 namespace Ledgrove {
 
-namespace {
-
-/// Amounts below it show as $0.
-constexpr double leastShown = 0.5;
-
-} // namespace
-
 bool NeedsNoMortgage(const HomeQualification& home) {
-    return home.Loan < leastShown;
+    return home.Loan < LeastShown;
 }
 
 bool AllowsNoMortgage(const HomeQualification& home) {
-    return home.Loan + home.Margin < leastShown;
+    return home.Loan + home.Margin < LeastShown;
 }
 
 std::string RoomAmount(const HomeQualification& home) {
-    return home.Margin < leastShown ? "less than a dollar" : DollarText(home.Margin);
+    return AmountText(home.Margin);
 }
 
 std::string NoMortgagePhrase(const HomeQualification& home) {
-    return home.Loan > -leastShown
+    return home.Loan > -LeastShown
                ? "needs no mortgage"
                : "needs no mortgage (the down payment is " + DollarText(-home.Loan) + " more than the price)";
 }
@@ -35,7 +28,7 @@ std::string RoomPhrase(const HomeQualification& home) {
 }
 
 std::string ExcessPhrase(const HomeQualification& home) {
-    return home.Margin > -leastShown ? "not less than the largest loan"
+    return home.Margin > -LeastShown ? "not less than the largest loan"
                                      : DollarText(-home.Margin) + " too large";
 }
 

@@ -66,16 +66,19 @@ inline bool MayBreak(const Sheet& sheet, std::size_t column, const SheetCell& ce
     return IsWords(sheet, column) || CharacterCount(cell.Text) > longestFigure;
 }
 
-/// Whether a cell of the table has this mark.
-bool HasMark(const Sheet& sheet, CellMark mark);
-
 /// A text cell.
 SheetCell TextCell(std::string text, CellMark mark = CellMark::None);
 
 /// An amount in whole dollars, marked Bad below 0: "$1,234", "-$12".
 SheetCell DollarCell(double amount, CellUnit unit = CellUnit::Dollars);
 
+/// Smaller amounts read as $0.
+inline constexpr double LeastShown = 0.5;
+
 /// "$1,234" as in a field.
 std::string DollarText(double amount);
+
+/// An amount above 0: "$1,234", "less than a dollar".
+std::string AmountText(double amount);
 
 } // namespace Ledgrove

@@ -7,15 +7,13 @@
 
 #include "insight/AnswerWords.h"
 #include "insight/QualifyWords.h"
+#include "insight/YearsWords.h"
 
 namespace Ledgrove {
 
 namespace {
 
 using Texts = std::vector<std::string>;
-
-/// Amounts below it show as $0.
-constexpr double leastShown = 0.5;
 
 /// How far a person can go to make a condition hold.
 constexpr double ratePoints = 1;
@@ -76,7 +74,7 @@ private:
 std::string PriceText(const Results& record) {
     const double difference =
         static_cast<double>(record.GMHCase.Cost) - static_cast<double>(record.StdCase.Cost);
-    if (std::fabs(difference) < leastShown)
+    if (std::fabs(difference) < LeastShown)
         return "costs the same as the base home";
     return "costs " + DollarText(std::fabs(difference)) + (difference > 0 ? " more" : " less");
 }
@@ -85,7 +83,7 @@ std::string BillText(const Results& record) {
     const double saving =
         static_cast<double>(record.StdCase.UtilAnnual) - static_cast<double>(record.GMHCase.UtilAnnual);
     const std::string amount = DollarText(std::fabs(saving)) + " a year";
-    if (std::fabs(saving) < leastShown)
+    if (std::fabs(saving) < LeastShown)
         return "has the same utility bills";
     return saving > 0 ? "saves " + amount + " in utility bills"
                       : "costs " + amount + " more in utility bills";
@@ -95,7 +93,7 @@ std::string BillText(const Results& record) {
 std::string CostSentence(const Results& record) {
     Texts parts{PriceText(record)};
     const auto cash = static_cast<double>(record.Scenario.ExtraCashToday);
-    if (std::fabs(cash) >= leastShown)
+    if (std::fabs(cash) >= LeastShown)
         parts.push_back("needs " + DollarText(std::fabs(cash)) + (cash > 0 ? " more" : " less") +
                         " down payment");
     parts.push_back(BillText(record));
@@ -122,7 +120,7 @@ std::string RealWords(const Insight& insight, const TaxCheck& tax) {
         return ".";
     // A plain amount after "nothing is left" would contradict it.
     const auto net = static_cast<double>(insight.ShownNet(insight.Record()));
-    const bool isLeftReally = *real >= leastShown && net < 0;
+    const bool isLeftReally = *real >= LeastShown && net < 0;
     const std::string amount = "; with the tax line as it would really be, " + DollarText(*real);
     if (isLeftReally)
         return amount + " would be left.";
@@ -142,32 +140,27 @@ std::string TaxWords(const Insight& insight, const TaxCheck& tax) {
 
 /// The same for a loss. Its sign stands before the one with the real tax line, which has a sign too.
 std::string LossWords(const Insight& insight, const TaxCheck& tax, double net) {
-    if (!RealNet(insight, tax) || net > -leastShown)
+    if (!RealNet(insight, tax) || net > -LeastShown)
         return TaxWords(insight, tax);
     return ", with income tax included, a net of " + DollarText(net) + RealWords(insight, tax);
 }
 
-std::string YearsWords(int years) {
-    return std::to_string(years) + (years == 1 ? " year" : " years");
-}
-
 /// Whether more is left each month without ever making up for the extra down payment.
 bool IsNeverEarnedBack(const Insight& insight, const YearByYear& years) {
-    return insight.ShownNet(insight.Record()) >= 0 && !years.Ahead && years.ExtraCash > leastShown;
+    return insight.ShownNet(insight.Record()) >= 0 && !years.Ahead && years.ExtraCash > LeastShown;
 }
 
 /// What is left each month.
 std::string NetSentence(const Insight& insight, const YearByYear& years, const TaxCheck& tax) {
     const auto net = static_cast<double>(insight.ShownNet(insight.Record()));
-    const std::string amount =
-        std::fabs(net) < leastShown ? "less than a dollar" : DollarText(std::fabs(net));
+    const std::string amount = AmountText(std::fabs(net));
     const std::string taxes = TaxWords(insight, tax);
     if (net > 0 && IsNeverEarnedBack(insight, years)) {
         std::string first = amount;
         if (first.front() == 'l')
             first.front() = 'L';
         return first + " more is left each month, but the extra down payment of " +
-               DollarText(years.ExtraCash) + " is not earned back in " + YearsWords(years.InHome) +
+               DollarText(years.ExtraCash) + " is not earned back in " + YearsText(years.InHome) +
                MonthlyRealWords(insight, tax);
     }
     if (net > 0)
@@ -190,7 +183,7 @@ std::string MonthsWords(int months) {
     const std::string inMonths = std::to_string(rest) + (rest == 1 ? " month" : " months");
     if (years == 0)
         return inMonths;
-    return YearsWords(years) + (rest == 0 ? "" : " and " + inMonths);
+    return YearsText(years) + (rest == 0 ? "" : " and " + inMonths);
 }
 
 /// Whether the buyer would not be ahead with the tax line as it would really be.
@@ -203,11 +196,13 @@ bool IsAheadByTaxOnly(const Insight& insight, const YearByYear& years, const Tax
 
 /// A loss is that of a month in the middle of the loan, so that the buyer may be ahead all the same.
 std::string EarnedBackSentence(const YearByYear& years, bool isLoss, bool isByTaxOnly) {
-    const std::string earned = "he extra down payment of " + DollarText(years.ExtraCash) +
-                               " is earned back after " + MonthsWords(*years.Ahead) + ".";
+    std::string start = "The";
     if (isByTaxOnly)
-        return "With the tax line as shown, t" + earned;
-    return (isLoss ? "Counted month by month, t" : "T") + earned;
+        start = "With the tax line as shown, the";
+    else if (isLoss)
+        start = "Counted month by month, the";
+    return start + " extra down payment of " + DollarText(years.ExtraCash) + " is earned back after " +
+           MonthsWords(*years.Ahead) + ".";
 }
 
 /// When the buyer is ahead; empty if that is never. What only the shown tax line makes so is said with it,
@@ -216,14 +211,14 @@ std::string AheadSentence(const Insight& insight, const YearByYear& years, const
     if (!years.Ahead || IsDoubtful(insight, tax))
         return {};
     const bool isLoss = insight.ShownNet(insight.Record()) < 0;
-    if (years.ExtraCash > leastShown)
+    if (years.ExtraCash > LeastShown)
         return EarnedBackSentence(years, isLoss, IsAheadByTaxOnly(insight, years, tax));
     const double amount = InHomeEnd(years);
-    if (amount < leastShown || IsAheadByTaxOnly(insight, years, tax))
+    if (amount < LeastShown || IsAheadByTaxOnly(insight, years, tax))
         return {};
-    const std::string end = "by " + DollarText(amount) + " after " + YearsWords(years.InHome) + ".";
+    const std::string end = "by " + DollarText(amount) + " after " + YearsText(years.InHome) + ".";
     // Each month may cost more: then the cash that is not paid down makes up for it.
-    if (isLoss && years.ExtraCash < -leastShown)
+    if (isLoss && years.ExtraCash < -LeastShown)
         return "With " + DollarText(-years.ExtraCash) + " less down payment, the buyer is still ahead, " +
                end;
     if (isLoss)
@@ -266,7 +261,7 @@ std::string LimitSentence(const Insight& insight, const Breakeven& breakeven) {
     if (text.empty())
         return {};
     // Without anything left, it does no more than pay for itself.
-    const bool isEven = insight.ShownNet(insight.Record()) < static_cast<float>(leastShown);
+    const bool isEven = insight.ShownNet(insight.Record()) < static_cast<float>(LeastShown);
     return (isEven ? "It pays for itself " : "It still pays each month ") + text + ".";
 }
 

@@ -18,7 +18,7 @@ std::string FromMonthText(int month) {
 
 std::string RateText(double rate) {
     std::string text;
-    // A rate above 0 must not read as 0.
+    // A rate that is not 0 must not read as 0.
     for (const char* picture : {"##0.##", "##0.####", "##0.########"}) {
         text = Module1::FormatPicture(rate * 100, picture);
         if (text.ends_with('.'))
@@ -31,11 +31,6 @@ std::string RateText(double rate) {
 
 bool IsEven(double dollars) {
     return std::fabs(dollars) <= -EvenFrom;
-}
-
-std::string AmountText(double dollars) {
-    constexpr double leastShown = 0.5;
-    return dollars < leastShown ? "less than a dollar" : DollarText(dollars);
 }
 
 std::string AheadText(double dollars) {

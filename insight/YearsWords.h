@@ -19,9 +19,6 @@ std::string RateText(double rate);
 /// Whether the amount is neither gained nor lost, to the cent.
 bool IsEven(double dollars);
 
-/// "$1,234", "less than a dollar"; the amount is above 0.
-std::string AmountText(double dollars);
-
 /// After "the buyer is": "ahead by $843", "behind by less than a dollar", "as well off as with the base
 /// home".
 std::string AheadText(double dollars);

@@ -2,6 +2,7 @@
 
 #include "engine/NumberText.h"
 #include "insight/Views.h"
+#include "insight/YearsWords.h"
 #include "reports/modPrint.h"
 #include "ui/AssumptionList.h"
 #include "ui/InsightAnswers.h"
@@ -16,10 +17,6 @@
 namespace Ledgrove {
 
 namespace {
-
-std::string YearsText(int years) {
-    return std::to_string(years) + (years == 1 ? " year" : " years");
-}
 
 std::shared_ptr<const ChartFigures> CostChart(const Session& session) {
     auto chart = std::make_shared<ChartFigures>(MakeChart(ChartKind::MonthlyCost, session));

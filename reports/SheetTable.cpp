@@ -1,5 +1,6 @@
 #include "reports/SheetTable.h"
 
+#include "insight/SheetMarks.h"
 #include "reports/SectionParts.h"
 #include "reports/TableLayout.h"
 
@@ -23,30 +24,6 @@ struct FittedTable {
     std::vector<std::vector<Twips>> Widths; ///< of the columns of each part
 };
 
-/// The cell with the sign of its mark in front.
-std::string SignedText(const SheetCell& cell) {
-    switch (cell.Mark) {
-    case CellMark::Best:
-        return "* " + cell.Text;
-    case CellMark::Current:
-        return "> " + cell.Text;
-    default:
-        return cell.Text;
-    }
-}
-
-std::string Legend(const Sheet& sheet) {
-    std::string legend;
-    const auto add = [&](CellMark mark, std::string_view meaning) {
-        if (HasMark(sheet, mark))
-            legend.append(legend.empty() ? "" : "     ").append(meaning);
-    };
-    add(CellMark::Best, "* the best of its column");
-    add(CellMark::Current, "> chosen now");
-    add(CellMark::Idle, "in italics: " + std::string(sheet.IdleWords));
-    return legend;
-}
-
 Twips WidestWord(const PrintDocument& document, std::string_view text) {
     Twips widest = 0;
     while (!text.empty()) {
@@ -64,7 +41,7 @@ ColumnNeed NeedOf(PrintDocument& document, const Sheet& sheet, std::size_t colum
     for (const auto& row : sheet.Rows) {
         if (column >= row.size())
             continue;
-        const std::string text = SignedText(row[column]);
+        const std::string text = MarkedText(row[column]);
         const Twips width = document.WidthOf(text);
         need.Natural = std::max(need.Natural, width);
         need.Least =
@@ -143,7 +120,7 @@ void WriteRows(PrintDocument& document, const Sheet& sheet, const Columns& colum
         for (; first < sheet.Rows.size() && IsIdle(sheet.Rows[first]) == idle; ++first) {
             const auto& row = sheet.Rows[first];
             rows += RowOf(columns, [&row](std::size_t column) {
-                return column < row.size() ? SignedText(row[column]) : std::string();
+                return column < row.size() ? MarkedText(row[column]) : std::string();
             });
         }
         document.FontItalic = idle;
@@ -162,7 +139,7 @@ void WritePart(PrintDocument& document, const Sheet& sheet, const Columns& colum
     document.AddTable(format, RowOf(columns, [&](std::size_t column) { return sheet.Heads[column]; }), "");
     document.FontBold = false;
     WriteRows(document, sheet, columns, format);
-    if (const std::string legend = Legend(sheet); !legend.empty())
+    if (const std::string legend = LegendOf(sheet); !legend.empty())
         modPrint::WriteNote(document, legend);
     document.EndTable();
     document.Paragraph("");

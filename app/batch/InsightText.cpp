@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/Text.h"
+#include "insight/SheetMarks.h"
 
 namespace Ledgrove {
 
@@ -40,7 +41,8 @@ void AppendWrapped(std::string& out, std::string_view sentence) {
         out.append(line).append("\n");
 }
 
-std::string MarkedText(const SheetCell& cell, bool hasBest, bool hasCurrent, bool isFirst) {
+/// The cell with its sign, or with blanks in its place if the table has such signs.
+std::string PaddedText(const SheetCell& cell, bool hasBest, bool hasCurrent, bool isFirst) {
     if (isFirst)
         return (hasCurrent ? (cell.Mark == CellMark::Current ? "> " : "  ") : "") + cell.Text;
     return cell.Text + (hasBest ? (cell.Mark == CellMark::Best ? "*" : " ") : "");
@@ -55,7 +57,7 @@ Lines LinesOf(const Sheet& sheet) {
     for (const auto& row : sheet.Rows) {
         auto& line = lines.emplace_back();
         for (const SheetCell& cell : row)
-            line.push_back(MarkedText(cell, hasBest, hasCurrent, line.empty()));
+            line.push_back(PaddedText(cell, hasBest, hasCurrent, line.empty()));
     }
     return lines;
 }

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "insight/SheetMarks.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/insight/AnswerText.h"
 #include "ui/windows/insight/FlowLayout.h"
@@ -158,7 +159,7 @@ void ModelsView::Show(const ModelsState& state) {
     m_model.Show(m_sheet);
     m_table->FitColumns();
     m_table->setVisible(!m_sheet.Rows.empty());
-    m_legend->setText(QString(LegendOf(m_sheet) + ' ' + QString::fromStdString(m_sheet.Note)).trimmed());
+    m_legend->setText(QString::fromStdString(LegendOf(m_sheet) + ' ' + m_sheet.Note).trimmed());
     m_legend->setVisible(!m_legend->text().isEmpty());
     for (QPushButton* button : m_needsList)
         button->setEnabled(!m_sheet.Rows.empty());

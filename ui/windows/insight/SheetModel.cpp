@@ -5,6 +5,8 @@
 #include <QPalette>
 #include <algorithm>
 
+#include "insight/SheetMarks.h"
+
 namespace Ledgrove {
 
 namespace {
@@ -36,30 +38,6 @@ QString MarkInWords(const Sheet& sheet, CellMark mark) {
 }
 
 } // namespace
-
-QString MarkedText(const SheetCell& cell) {
-    const QString text = Words(cell.Text);
-    if (cell.Mark == CellMark::Best)
-        return "* " + text;
-    return cell.Mark == CellMark::Current ? "> " + text : text;
-}
-
-QString LegendOf(const Sheet& sheet) {
-    const auto has = [&sheet](CellMark mark) {
-        return std::any_of(sheet.Rows.begin(), sheet.Rows.end(), [mark](const auto& row) {
-            return std::any_of(row.begin(), row.end(),
-                               [mark](const SheetCell& cell) { return cell.Mark == mark; });
-        });
-    };
-    QStringList parts;
-    if (has(CellMark::Best))
-        parts += "* the best of its column";
-    if (has(CellMark::Current))
-        parts += "> chosen now";
-    if (has(CellMark::Idle))
-        parts += "in italics: " + Words(sheet.IdleWords);
-    return parts.join("     ");
-}
 
 QColor ChangedColour(const QPalette& palette) {
     const bool isDark = palette.color(QPalette::Base).lightness() < 128;
@@ -152,7 +130,7 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
     const SheetCell& cell = CellAt(m_sheet, index);
     switch (role) {
     case Qt::DisplayRole:
-        return MarkedText(cell);
+        return Words(MarkedText(cell));
     case Qt::AccessibleTextRole:
         return Spoken(index);
     case Qt::TextAlignmentRole:

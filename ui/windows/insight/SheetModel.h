@@ -10,13 +10,6 @@
 
 namespace Ledgrove {
 
-/// The text of a sheet's cell with the sign of its mark: "* " for the best of a column, "> " for what is
-/// chosen now. Colour is never the only sign.
-QString MarkedText(const SheetCell& cell);
-
-/// What the signs of the sheet's cells mean; empty without signs.
-QString LegendOf(const Sheet& sheet);
-
 /// The ground of what has just changed, with this palette.
 QColor ChangedColour(const QPalette& palette);
 

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "insight/SheetMarks.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/UsersFolder.h"
 #include "ui/windows/insight/AnswerPicture.h"
@@ -253,7 +254,7 @@ void frmChanges::ShowParts(const ChangesAnswer& answer) {
     m_partsCaption->setText("P&arts of the change: " + Words(answer.Caption));
     SetSpokenName(*m_parts, "Parts of the change: " + Words(answer.Caption));
     ShowSheet(m_partModel, *m_parts, answer.Parts);
-    m_legend->setText(LegendOf(answer.Parts));
+    m_legend->setText(Words(LegendOf(answer.Parts)));
     m_legend->setVisible(!m_legend->text().isEmpty());
     m_picture->setVisible(answer.Picture.has_value());
     if (!answer.Picture)

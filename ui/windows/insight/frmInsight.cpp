@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "insight/SheetMarks.h"
 #include "ui/windows/FormGuard.h"
 #include "ui/windows/Identify.h"
 #include "ui/windows/UsersFolder.h"
@@ -289,7 +290,7 @@ void frmInsight::ShowAnswer() {
     m_model.Show(m_table->isHidden() ? Sheet() : m_sheet);
     m_table->FitColumns();
     m_space->setVisible(m_table->isHidden() && m_chain->isHidden());
-    m_legend->setText(LegendOf(answer.Table));
+    m_legend->setText(QString::fromStdString(LegendOf(answer.Table)));
     m_legend->setVisible(!m_legend->text().isEmpty());
     m_note->setText(Words(answer.Table.Note));
     m_note->setVisible(!m_note->text().isEmpty());
